@@ -1,0 +1,160 @@
+#include "options/SectionFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace kartella {
+
+namespace {
+
+    QString escape(const QString& value)
+    {
+        QString out;
+        out.reserve(value.size());
+        for (QChar c : value) {
+            if (c == u'\\')
+                out += QStringLiteral("\\\\");
+            else if (c == u'\n')
+                out += QStringLiteral("\\n");
+            else if (c == u'\r')
+                out += QStringLiteral("\\r");
+            else
+                out += c;
+        }
+        return out;
+    }
+
+    QString unescape(QStringView text)
+    {
+        QString out;
+        out.reserve(text.size());
+        for (qsizetype i = 0; i < text.size(); ++i) {
+            const QChar c = text[i];
+            if (c == u'\\' && i + 1 < text.size()) {
+                const QChar next = text[++i];
+                out += next == u'n' ? QChar(u'\n') : next == u'r' ? QChar(u'\r') : next;
+            } else {
+                out += c;
+            }
+        }
+        return out;
+    }
+
+    std::optional<QString> sectionName(QStringView line)
+    {
+        const QStringView trimmed = line.trimmed();
+        if (trimmed.size() >= 2 && trimmed.startsWith(u'[') && trimmed.endsWith(u']'))
+            return trimmed.mid(1, trimmed.size() - 2).trimmed().toString();
+        return std::nullopt;
+    }
+
+    bool isComment(QStringView line)
+    {
+        const QStringView trimmed = line.trimmed();
+        return trimmed.isEmpty() || trimmed.startsWith(u';') || trimmed.startsWith(u'#');
+    }
+
+    // The name of a "name=value" line, or nothing for other lines.
+    std::optional<QStringView> entryName(QStringView line)
+    {
+        if (isComment(line))
+            return std::nullopt;
+        const qsizetype eq = line.indexOf(u'=');
+        if (eq < 0)
+            return std::nullopt;
+        return line.left(eq).trimmed();
+    }
+
+} // namespace
+
+SectionFile::Status SectionFile::load(const QString& path)
+{
+    m_lines.clear();
+    QFile file(path);
+    if (!file.exists())
+        return Status::Missing;
+    if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly))
+        return Status::Unreadable;
+    const QString text = QString::fromUtf8(file.readAll());
+    if (file.error() != QFileDevice::NoError)
+        return Status::Unreadable;
+    m_lines = text.split(u'\n');
+    for (QString& line : m_lines) {
+        if (line.endsWith(u'\r'))
+            line.chop(1);
+    }
+    while (!m_lines.isEmpty() && m_lines.last().isEmpty())
+        m_lines.removeLast();
+    return Status::Ok;
+}
+
+bool SectionFile::save(const QString& path) const
+{
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QSaveFile file(path);
+    file.setDirectWriteFallback(true);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    QByteArray data;
+    for (const QString& line : m_lines) {
+        data += line.toUtf8();
+        data += '\n';
+    }
+    if (file.write(data) != data.size())
+        return false;
+    return file.commit();
+}
+
+std::optional<QString> SectionFile::value(const QString& section, const QString& name) const
+{
+    bool inSection = false;
+    for (const QString& line : m_lines) {
+        if (const auto header = sectionName(line)) {
+            inSection = header->compare(section, Qt::CaseInsensitive) == 0;
+            continue;
+        }
+        if (!inSection)
+            continue;
+        const auto entry = entryName(line);
+        if (entry && entry->compare(name, Qt::CaseInsensitive) == 0)
+            return unescape(QStringView(line).mid(line.indexOf(u'=') + 1));
+    }
+    return std::nullopt;
+}
+
+void SectionFile::setValue(const QString& section, const QString& name, const QString& value)
+{
+    bool inSection = false;
+    qsizetype sectionEnd = -1; // index after the last entry line of the section
+    for (qsizetype i = 0; i < m_lines.size(); ++i) {
+        const QString& line = m_lines[i];
+        if (const auto header = sectionName(line)) {
+            inSection = header->compare(section, Qt::CaseInsensitive) == 0;
+            if (inSection)
+                sectionEnd = i + 1;
+            continue;
+        }
+        if (!inSection)
+            continue;
+        const auto entry = entryName(line);
+        if (entry && entry->compare(name, Qt::CaseInsensitive) == 0) {
+            // The stored name keeps its spelling; one option, whatever case it is written in.
+            m_lines[i] = entry->toString() + u'=' + escape(value);
+            return;
+        }
+        if (!isComment(line))
+            sectionEnd = i + 1;
+    }
+    const QString entry = name + u'=' + escape(value);
+    if (sectionEnd < 0) {
+        if (!m_lines.isEmpty() && !m_lines.last().isEmpty())
+            m_lines << QString();
+        m_lines << u'[' + section + u']' << entry;
+    } else {
+        m_lines.insert(sectionEnd, entry);
+    }
+}
+
+} // namespace kartella

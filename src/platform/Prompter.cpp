@@ -1,0 +1,96 @@
+#include "platform/Prompter.h"
+
+#include <QList>
+#include <QTextStream>
+
+namespace kartella {
+
+namespace {
+
+    // Used where no window is around (the command-line tool): prints the message and
+    // takes the default button, and never offers a file.
+    class ConsolePrompter final : public Prompter
+    {
+    public:
+        int MsgBox(const QString& prompt, int style, const QString& title) override
+        {
+            QTextStream err(stderr);
+            err << (title.isEmpty() ? ProgramTitle() : title) << ": " << QString(prompt).replace(u'\r', u'\n')
+                << Qt::endl;
+            return DefaultResult(style);
+        }
+        QString OpenFile(const OpenFileRequest&) override { return {}; }
+        QString ChooseFolder(const QString&) override { return {}; }
+    };
+
+    Prompter*& installed()
+    {
+        static Prompter* current = nullptr;
+        return current;
+    }
+
+} // namespace
+
+QString ProgramTitle()
+{
+    return QStringLiteral("Kartella");
+}
+
+QList<int> ButtonResults(int style)
+{
+    using namespace MsgBoxResult;
+    switch (style & MsgBoxStyle::ButtonMask) {
+    case MsgBoxStyle::OkCancel:
+        return {Ok, Cancel};
+    case MsgBoxStyle::AbortRetryIgnore:
+        return {Abort, Retry, Ignore};
+    case MsgBoxStyle::YesNoCancel:
+        return {Yes, No, Cancel};
+    case MsgBoxStyle::YesNo:
+        return {Yes, No};
+    case MsgBoxStyle::RetryCancel:
+        return {Retry, Cancel};
+    default:
+        return {Ok};
+    }
+}
+
+int DefaultResult(int style)
+{
+    const QList<int> buttons = ButtonResults(style);
+    qsizetype index = 0;
+    if ((style & MsgBoxStyle::DefaultMask) == MsgBoxStyle::DefaultButton2)
+        index = 1;
+    else if ((style & MsgBoxStyle::DefaultMask) == MsgBoxStyle::DefaultButton3)
+        index = 2;
+    return buttons.value(index < buttons.size() ? index : 0);
+}
+
+int EscapeResult(int style)
+{
+    const QList<int> buttons = ButtonResults(style);
+    if (buttons.contains(MsgBoxResult::Cancel))
+        return MsgBoxResult::Cancel;
+    return buttons.size() == 1 ? buttons.first() : 0;
+}
+
+Prompter::~Prompter() = default;
+
+Prompter& Prompter::instance()
+{
+    static ConsolePrompter fallback;
+    Prompter* current = installed();
+    return current ? *current : fallback;
+}
+
+void Prompter::setInstance(Prompter* prompter)
+{
+    installed() = prompter;
+}
+
+int MsgBox(const QString& prompt, int style, const QString& title)
+{
+    return Prompter::instance().MsgBox(prompt, style, title);
+}
+
+} // namespace kartella

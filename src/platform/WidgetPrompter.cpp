@@ -1,0 +1,133 @@
+#include "platform/WidgetPrompter.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFileDialog>
+#include <QPushButton>
+
+namespace kartella {
+
+namespace {
+
+    QMessageBox::StandardButton standardButton(int result)
+    {
+        switch (result) {
+        case MsgBoxResult::Ok:
+            return QMessageBox::Ok;
+        case MsgBoxResult::Cancel:
+            return QMessageBox::Cancel;
+        case MsgBoxResult::Abort:
+            return QMessageBox::Abort;
+        case MsgBoxResult::Retry:
+            return QMessageBox::Retry;
+        case MsgBoxResult::Ignore:
+            return QMessageBox::Ignore;
+        case MsgBoxResult::Yes:
+            return QMessageBox::Yes;
+        case MsgBoxResult::No:
+            return QMessageBox::No;
+        default:
+            return QMessageBox::NoButton;
+        }
+    }
+
+    QMessageBox::Icon icon(int style)
+    {
+        switch (style & MsgBoxStyle::IconMask) {
+        case MsgBoxStyle::Critical:
+            return QMessageBox::Critical;
+        case MsgBoxStyle::Question:
+            return QMessageBox::Question;
+        case MsgBoxStyle::Exclamation:
+            return QMessageBox::Warning;
+        case MsgBoxStyle::Information:
+            return QMessageBox::Information;
+        default:
+            return QMessageBox::NoIcon;
+        }
+    }
+
+    QWidget* ownerWindow()
+    {
+        if (QWidget* modal = QApplication::activeModalWidget())
+            return modal;
+        return QApplication::activeWindow();
+    }
+
+    const char* const ResultProperty = "msgBoxResult";
+
+} // namespace
+
+std::unique_ptr<QMessageBox> BuildMessageBox(const QString& prompt, int style, const QString& title,
+                                             QWidget* parent)
+{
+    auto box = std::make_unique<QMessageBox>(parent);
+    box->setWindowTitle(title.isEmpty() ? ProgramTitle() : title);
+    // Messages separate their lines with a carriage return alone.
+    QString text = prompt;
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+    box->setText(text);
+    box->setTextFormat(Qt::PlainText);
+    box->setIcon(icon(style));
+
+    const QList<int> results = ButtonResults(style);
+    for (int result : results) {
+        QPushButton* button = box->addButton(standardButton(result));
+        button->setProperty(ResultProperty, result);
+        if (result == DefaultResult(style))
+            box->setDefaultButton(button);
+        if (result == EscapeResult(style))
+            box->setEscapeButton(button);
+    }
+    return box;
+}
+
+int MessageBoxResult(const QMessageBox& box, int style)
+{
+    if (const QAbstractButton* clicked = box.clickedButton()) {
+        const QVariant result = clicked->property(ResultProperty);
+        if (result.isValid())
+            return result.toInt();
+    }
+    return EscapeResult(style) ? EscapeResult(style) : DefaultResult(style);
+}
+
+int WidgetPrompter::MsgBox(const QString& prompt, int style, const QString& title)
+{
+    const std::unique_ptr<QMessageBox> box = BuildMessageBox(prompt, style, title, ownerWindow());
+    box->exec();
+    return MessageBoxResult(*box, style);
+}
+
+QString FileDialogFilter(const QString& label, const QString& pattern)
+{
+    QString name = label.trimmed();
+    if (name.endsWith(u')') && name.contains(u'('))
+        name = name.left(name.lastIndexOf(u'(')).trimmed();
+    QStringList patterns = pattern.trimmed().split(u';', Qt::SkipEmptyParts);
+    for (QString& p : patterns) {
+        p = p.trimmed();
+#ifndef Q_OS_WIN
+        // "*.*" means every file; elsewhere it would want a dot in the name.
+        if (p == QLatin1String("*.*"))
+            p = QStringLiteral("*");
+#endif
+    }
+    if (patterns.isEmpty())
+        patterns << QStringLiteral("*");
+    return QStringLiteral("%1 (%2)").arg(name, patterns.join(u' '));
+}
+
+QString WidgetPrompter::OpenFile(const OpenFileRequest& request)
+{
+    const QString filter = FileDialogFilter(request.filterLabel, request.pattern);
+    return QFileDialog::getOpenFileName(ownerWindow(), request.title.trimmed(), request.startFolder.trimmed(),
+                                        filter);
+}
+
+QString WidgetPrompter::ChooseFolder(const QString& prompt)
+{
+    return QFileDialog::getExistingDirectory(ownerWindow(), prompt, QString(), QFileDialog::ShowDirsOnly);
+}
+
+} // namespace kartella

@@ -1,0 +1,87 @@
+#include "support/ScriptedPrompter.h"
+
+#include <QTest>
+
+namespace kartella::test {
+
+namespace {
+    Prompter* currentInstance()
+    {
+        return &Prompter::instance();
+    }
+} // namespace
+
+ScriptedPrompter::ScriptedPrompter()
+    : m_previous(currentInstance())
+{
+    Prompter::setInstance(this);
+}
+
+ScriptedPrompter::~ScriptedPrompter()
+{
+    Prompter::setInstance(m_previous);
+}
+
+ScriptedPrompter& ScriptedPrompter::answer(int result)
+{
+    m_answers.enqueue(result);
+    return *this;
+}
+
+ScriptedPrompter& ScriptedPrompter::answerFile(const QString& path)
+{
+    m_files.enqueue(path);
+    return *this;
+}
+
+ScriptedPrompter& ScriptedPrompter::answerFolder(const QString& path)
+{
+    m_folders.enqueue(path);
+    return *this;
+}
+
+QStringList ScriptedPrompter::texts() const
+{
+    QStringList out;
+    for (const Prompt& p : m_prompts)
+        out << p.text;
+    return out;
+}
+
+QList<ScriptedPrompter::Prompt> ScriptedPrompter::take()
+{
+    return std::exchange(m_prompts, {});
+}
+
+int ScriptedPrompter::MsgBox(const QString& prompt, int style, const QString& title)
+{
+    m_prompts.append({prompt, title.isEmpty() ? ProgramTitle() : title, style});
+    if (m_answers.isEmpty()) {
+        QTest::qFail(qPrintable(QStringLiteral("Unexpected message box: \"%1\"").arg(prompt)), __FILE__, __LINE__);
+        return EscapeResult(style) ? EscapeResult(style) : DefaultResult(style);
+    }
+    return m_answers.dequeue();
+}
+
+QString ScriptedPrompter::OpenFile(const OpenFileRequest& request)
+{
+    fileRequests.append(request);
+    if (m_files.isEmpty()) {
+        QTest::qFail(qPrintable(QStringLiteral("Unexpected file dialog: \"%1\"").arg(request.title)), __FILE__,
+                     __LINE__);
+        return {};
+    }
+    return m_files.dequeue();
+}
+
+QString ScriptedPrompter::ChooseFolder(const QString& prompt)
+{
+    folderPrompts.append(prompt);
+    if (m_folders.isEmpty()) {
+        QTest::qFail(qPrintable(QStringLiteral("Unexpected folder chooser: \"%1\"").arg(prompt)), __FILE__, __LINE__);
+        return {};
+    }
+    return m_folders.dequeue();
+}
+
+} // namespace kartella::test

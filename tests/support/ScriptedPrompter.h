@@ -1,0 +1,54 @@
+#pragma once
+
+#include "platform/Prompter.h"
+
+#include <QList>
+#include <QQueue>
+
+namespace kartella::test {
+
+// A prompter for tests. It installs itself while it lives, records every prompt and
+// answers from queues. A prompt that nobody scripted fails the running test with its text.
+class ScriptedPrompter final : public Prompter
+{
+public:
+    struct Prompt
+    {
+        QString text;
+        QString title; // as shown: the program's title when the caller gave none
+        int style = 0;
+    };
+
+    ScriptedPrompter();
+    ~ScriptedPrompter() override;
+    ScriptedPrompter(const ScriptedPrompter&) = delete;
+    ScriptedPrompter& operator=(const ScriptedPrompter&) = delete;
+
+    // Queues the answer of the next message box (a MsgBoxResult code).
+    ScriptedPrompter& answer(int result);
+    // Queues the answer of the next file or folder chooser (empty text = Cancel).
+    ScriptedPrompter& answerFile(const QString& path);
+    ScriptedPrompter& answerFolder(const QString& path);
+
+    const QList<Prompt>& prompts() const { return m_prompts; }
+    QStringList texts() const;
+    // Prompts recorded since the last call, then forgets them.
+    QList<Prompt> take();
+    bool allAnswered() const { return m_answers.isEmpty() && m_files.isEmpty() && m_folders.isEmpty(); }
+
+    int MsgBox(const QString& prompt, int style, const QString& title) override;
+    QString OpenFile(const OpenFileRequest& request) override;
+    QString ChooseFolder(const QString& prompt) override;
+
+    QList<OpenFileRequest> fileRequests;
+    QStringList folderPrompts;
+
+private:
+    Prompter* m_previous = nullptr;
+    QList<Prompt> m_prompts;
+    QQueue<int> m_answers;
+    QQueue<QString> m_files;
+    QQueue<QString> m_folders;
+};
+
+} // namespace kartella::test
