@@ -1,6 +1,6 @@
 #include "options/FirstRun.h"
 #include "options/OptionStore.h"
-#include "support/ScriptedPrompter.h"
+#include "harness/ScriptedPrompter.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,5 +1,5 @@
 #include "platform/WidgetPrompter.h"
-#include "support/ScriptedPrompter.h"
+#include "harness/ScriptedPrompter.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -1,4 +1,4 @@
-#include "support/ScriptedPrompter.h"
+#include "harness/ScriptedPrompter.h"
 
 #include <QTest>
 
