@@ -1,0 +1,89 @@
+#include "registration/RegIndex.h"
+
+#include "options/OptionStore.h"
+#include "registration/CategoryFields.h"
+#include "registration/ValueConversions.h"
+#include "store/Store.h"
+
+namespace kartella {
+
+namespace {
+
+QString option(const char* name)
+{
+    return GetRegValue(QLatin1String(name));
+}
+
+// Mnemonic (when there is one to use) and Separator1, date text, Separator2, number.
+QString compose(const QString& mnemonic, const QDate& date, const QString& number)
+{
+    const QString separator1 = option("Separator1");
+    const QString separator2 = option("Separator2");
+    const bool useMnemonic = ToTruthValue(option("UseMnemonic"));
+    const QString dateText = FormatIndexDate(date, ToLong(option("IndexStyle")));
+    if (useMnemonic && !mnemonic.isEmpty())
+        return mnemonic % separator1 % dateText % separator2 % number;
+    return dateText % separator2 % number;
+}
+
+} // namespace
+
+QString FormatIndexDate(const QDate& date, int style)
+{
+    const QString yyyy = date.toString(QStringLiteral("yyyy"));
+    const QString yy = date.toString(QStringLiteral("yy"));
+    const QString mm = date.toString(QStringLiteral("MM"));
+    const QString dd = date.toString(QStringLiteral("dd"));
+    switch (style) {
+    case 1:
+        return yyyy % mm % dd;
+    case 2:
+        return mm % dd % yyyy;
+    case 3:
+        return dd % mm % yyyy;
+    case 4:
+        return yy % mm % dd;
+    case 5:
+        return mm % dd % yy;
+    case 6:
+        return dd % mm % yy;
+    default:
+        return {};
+    }
+}
+
+void ResetTodayNumber(const QDate& today)
+{
+    SetRegValue(QStringLiteral("Date"), StoredDateText(today));
+    SetRegValue(QStringLiteral("TodayNumber"), QStringLiteral("1"));
+}
+
+QString MakeRegIndex(const QVariant& category, const QDate& today)
+{
+    const QDate stored = ToStoredDate(option("Date"));
+    const bool automatic = ToTruthValue(option("AutoRegIndex"));
+    if (!automatic)
+        return {};
+
+    QDate date = stored;
+    qint16 number = 1;
+    if (today != stored) {
+        ResetTodayNumber(today);
+        date = today;
+    } else {
+        number = LeadingInteger16(option("TodayNumber"));
+    }
+
+    const QVariant mnemonic = CategoryField(ToLong(category), QStringLiteral("Mnemonic"));
+    return compose(NullToDefault(mnemonic, QString()).toString(), date, QString::number(number));
+}
+
+QString RegIndexSample(const QDate& today)
+{
+    const QDate stored = ToStoredDate(option("Date"));
+    if (today != stored)
+        ResetTodayNumber(today);
+    return compose(QStringLiteral("AGR"), today, QStringLiteral("1"));
+}
+
+} // namespace kartella

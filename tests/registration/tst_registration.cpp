@@ -1,0 +1,390 @@
+#include "harness/ScriptedPrompter.h"
+#include "harness/TestRegister.h"
+#include "options/OptionStore.h"
+#include "registration/FileNaming.h"
+#include "registration/RegIndex.h"
+#include "store/engine/Value.h"
+#include "support/Error.h"
+
+#include <QDir>
+#include <QRegularExpression>
+#include <QTest>
+
+#include <functional>
+
+using namespace kartella;
+using kartella::test::ScriptedPrompter;
+using kartella::test::TestRegister;
+
+namespace kartella {
+
+struct DocFileNameProbe
+{
+    static QString clean(const QString& text) { return CDocFileName::CleanFileName(text); }
+};
+
+} // namespace kartella
+
+namespace {
+
+const QDate Today(2024, 3, 5);
+const QString Folder = QStringLiteral("/srv/Docs");
+
+// The number of the kartella::Error that call throws; 0 when none.
+long errorOf(const std::function<void()>& call)
+{
+    try {
+        call();
+    } catch (const Error& e) {
+        return e.number();
+    }
+    return 0;
+}
+
+qint32 addCategory(
+    const TestRegister& reg, const QVariant& title, const QVariant& mnemonic, const QVariant& folder = {})
+{
+    return reg.insert("tbl_Document_Categories",
+        {{"DokKategorija", title}, {"Mnemonic", mnemonic}, {"DokKategDaug", folder}});
+}
+
+// The settings of the examples: Date 2024 03 05, TodayNumber 7, AutoRegIndex on, IndexStyle 1,
+// Separator1 "-", Separator2 "/", UseMnemonic on; FileNumber 12.
+void setExampleOptions()
+{
+    const QList<QPair<QString, QString>> options
+        = {{"Date", "2024 03 05"}, {"TodayNumber", "7"}, {"AutoRegIndex", "1"}, {"IndexStyle", "1"},
+            {"Separator1", "-"}, {"Separator2", "/"}, {"UseMnemonic", "1"}, {"FileNumber", " 12"}};
+    for (const auto& [name, value] : options)
+        SetRegValue(name, value);
+}
+
+// "known" in a test row stands for the category of the test's register.
+QVariant categoryArgument(const QVariant& category, qint32 known)
+{
+    return category == QVariant(QString("known")) ? QVariant(known) : category;
+}
+
+} // namespace
+
+class RegistrationTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void formatIndexDate()
+    {
+        QLocale::setDefault(QLocale(QLocale::Lithuanian, QLocale::Lithuania));
+        const QStringList expected
+            = {"", "20240305", "03052024", "05032024", "240305", "030524", "050324", ""};
+        for (int style = 0; style < expected.size(); ++style)
+            QCOMPARE(FormatIndexDate(Today, style), expected.at(style));
+        QLocale::setDefault(QLocale::c());
+    }
+
+    // Each row changes one option (or the mnemonic) from the example settings.
+    void regIndex_data()
+    {
+        QTest::addColumn<QString>("option");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QVariant>("mnemonic");
+        QTest::addColumn<QString>("index");
+        QTest::addColumn<QString>("numberAfter"); // "1" also means Date was set to today
+        auto row = [](const char* tag, const char* option, const char* value, const QVariant& mnemonic,
+                       const char* index, const char* numberAfter) {
+            QTest::newRow(tag) << QString(option) << QString(value) << mnemonic << QString(index)
+                               << QString(numberAfter);
+        };
+        const QVariant agr = QString("AGR");
+        row("as given", "", "", agr, "AGR-20240305/7", "7");
+        row("UseMnemonic off", "UseMnemonic", "0", agr, "20240305/7", "7");
+        row("no mnemonic", "", "", QVariant(), "20240305/7", "7");
+        row("empty mnemonic", "", "", QString(""), "20240305/7", "7");
+        row("IndexStyle 6", "IndexStyle", "6", agr, "AGR-050324/7", "7");
+        row("IndexStyle 9", "IndexStyle", "9", agr, "AGR-/7", "7");
+        row("separators empty", "Separators", "", agr, "AGR202403057", "7");
+        row("long separators", "Separators", " - ", agr, "AGR - 20240305 - 7", "7");
+        row("AutoRegIndex off", "AutoRegIndex", "0", agr, "", "7");
+        row("day before", "Date", "2024 03 04", agr, "AGR-20240305/1", "1");
+        row("clock set back", "Date", "2024 03 06", agr, "AGR-20240305/1", "1");
+        row("numeric prefix", "TodayNumber", " 12.9abc", agr, "AGR-20240305/12", " 12.9abc");
+        row("no number", "TodayNumber", "Not Found", agr, "AGR-20240305/0", "Not Found");
+        row("largest number", "TodayNumber", "32767", agr, "AGR-20240305/32767", "32767");
+    }
+
+    void regIndex()
+    {
+        QFETCH(QString, option);
+        QFETCH(QString, value);
+        QFETCH(QVariant, mnemonic);
+        QFETCH(QString, index);
+        QFETCH(QString, numberAfter);
+        TestRegister reg;
+        const qint32 category = addCategory(reg, QString("Sutartys"), mnemonic);
+        setExampleOptions();
+        if (option == "Separators") {
+            SetRegValue("Separator1", value);
+            SetRegValue("Separator2", value);
+        } else if (!option.isEmpty()) {
+            SetRegValue(option, value);
+        }
+        QCOMPARE(MakeRegIndex(QString::number(category), Today), index);
+        QCOMPARE(GetRegValue("TodayNumber"), numberAfter);
+        QCOMPARE(GetRegValue("Date"), numberAfter == "1" || option != "Date" ? QString("2024 03 05") : value);
+        // A proposal reserves nothing: the next one is the same.
+        QCOMPARE(MakeRegIndex(category, Today), index);
+    }
+
+    void regIndexFailures_data()
+    {
+        QTest::addColumn<QString>("option");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QVariant>("category");
+        QTest::addColumn<long>("error");
+        auto row = [](const char* tag, const char* option, const char* value, const QVariant& category,
+                       long error) {
+            QTest::newRow(tag) << QString(option) << QString(value) << category << error;
+        };
+        const QVariant known = QString("known");
+        row("empty category", "", "", QString(""), 13);
+        row("Null category", "", "", QVariant(), 13);
+        row("category not a number", "", "", QString("Sutartys"), 13);
+        row("category out of range", "", "", QString("3000000000"), 6);
+        row("no such category", "", "", 999, 3021);
+        row("Date not a date", "Date", "5 March", known, 13);
+        row("Date impossible", "Date", "2024 02 30", known, 13);
+        row("AutoRegIndex not a flag", "AutoRegIndex", "Not Found", known, 13);
+        row("UseMnemonic not a flag", "UseMnemonic", "", known, 13);
+        row("IndexStyle not a number", "IndexStyle", "first", known, 13);
+        row("TodayNumber above 32767", "TodayNumber", "32768", known, 6);
+        row("TodayNumber far above", "TodayNumber", "99999999999999999999", known, 6);
+    }
+
+    void regIndexFailures()
+    {
+        QFETCH(QString, option);
+        QFETCH(QString, value);
+        QFETCH(QVariant, category);
+        QFETCH(long, error);
+        TestRegister reg;
+        const qint32 known = addCategory(reg, QString("Sutartys"), QString("AGR"));
+        setExampleOptions();
+        if (!option.isEmpty())
+            SetRegValue(option, value);
+        QCOMPARE(errorOf([&] { MakeRegIndex(categoryArgument(category, known), Today); }), error);
+        QCOMPARE(GetRegValue("TodayNumber"), option == "TodayNumber" ? value : QString("7"));
+        QCOMPARE(GetRegValue("Date"), option == "Date" ? value : QString("2024 03 05"));
+    }
+
+    void regIndexOffLooksAtNothingElse()
+    {
+        TestRegister reg;
+        setExampleOptions();
+        SetRegValue("AutoRegIndex", QString("0"));
+        SetRegValue("Date", QString("2024 01 02"));
+        QCOMPARE(MakeRegIndex(QString(), Today), QString());
+        QCOMPARE(GetRegValue("Date"), QString("2024 01 02"));
+        // Without a register the lookup's own error comes through.
+        SetRegValue("AutoRegIndex", QString("1"));
+        SetRegValue("DbLocation", reg.dir() + "/none.mdb");
+        const long error = errorOf([] { MakeRegIndex(1, Today); });
+        QVERIFY(error != 0 && error != 3021);
+    }
+
+    void sampleAndReset()
+    {
+        TestRegister reg;
+        setExampleOptions();
+        QCOMPARE(RegIndexSample(Today), QString("AGR-20240305/1"));
+        SetRegValue("UseMnemonic", QString("0"));
+        SetRegValue("IndexStyle", QString("3"));
+        QCOMPARE(RegIndexSample(Today), QString("05032024/1"));
+        QCOMPARE(GetRegValue("TodayNumber"), QString("7"));
+        // A new day restarts the count even with AutoRegIndex off.
+        SetRegValue("AutoRegIndex", QString("0"));
+        SetRegValue("Date", QString("2024 02 28"));
+        QCOMPARE(RegIndexSample(Today), QString("05032024/1"));
+        QCOMPARE(GetRegValue("Date"), QString("2024 03 05"));
+        QCOMPARE(GetRegValue("TodayNumber"), QString("1"));
+        SetRegValue("Date", QString("yesterday"));
+        QCOMPARE(errorOf([] { RegIndexSample(Today); }), 13L);
+        QLocale::setDefault(QLocale(QLocale::Lithuanian, QLocale::Lithuania));
+        ResetTodayNumber(QDate(2025, 1, 9));
+        QLocale::setDefault(QLocale::c());
+        QCOMPARE(GetRegValue("Date"), QString("2025 01 09"));
+    }
+
+    void fileNames_data()
+    {
+        QTest::addColumn<QString>("system");
+        QTest::addColumn<QString>("pattern"); // of the name behind the folder
+        QTest::newRow("0 Mnemonic+Number") << "0"
+                                           << "AGR00012\\.doc";
+        QTest::newRow("1 Description+Number") << "1"
+                                              << "Sutartis ([1-9]|[1-9][0-9]|[1-9][0-9][0-9])\\.doc";
+        QTest::newRow("2 Like Registration Index") << "2"
+                                                   << "AGR-20240305p7\\.doc";
+    }
+
+    void fileNames()
+    {
+        QFETCH(QString, system);
+        QFETCH(QString, pattern);
+        TestRegister reg;
+        const qint32 category = addCategory(reg, QString("Sutartys"), QString("AGR"));
+        setExampleOptions();
+        SetRegValue("FileName", system);
+        const QString path
+            = MakeNewFileName("Sutartis", ".doc", Folder, QString::number(category), "AGR-20240305/7");
+        const QRegularExpression expected(QRegularExpression::anchoredPattern(
+            QRegularExpression::escape(Folder + QDir::separator()) + pattern));
+        QVERIFY2(expected.match(path).hasMatch(), qPrintable(path));
+        QCOMPARE(GetRegValue("FileNumber"), QString(" 13"));
+    }
+
+    void numberNames_data()
+    {
+        QTest::addColumn<QVariant>("title");
+        QTest::addColumn<QVariant>("mnemonic");
+        QTest::addColumn<QString>("fileNumber");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("fileNumberAfter");
+        auto row = [](const char* tag, const QVariant& title, const QVariant& mnemonic,
+                       const char* fileNumber, const char* name, const char* after) {
+            QTest::newRow(tag) << title << mnemonic << QString(fileNumber) << QString(name) << QString(after);
+        };
+        const QVariant title = QString("Sutartys");
+        const QVariant agr = QString("AGR");
+        row("mnemonic", title, agr, " 12", "AGR00012", " 13");
+        row("not padded", title, QString("AB"), " 12", "AB00012", " 13");
+        row("no mnemonic", title, QVariant(), " 12", "Sut00012", " 13");
+        row("empty mnemonic", QString("Įsakymai"), QString(""), " 1", "Įsa00001", " 2");
+        row("short title", QString("Ak"), QVariant(), " 12", "Ak00012", " 13");
+        row("no title", QVariant(), QVariant(), " 12", "WMN00012", " 13");
+        row("zero, no blank", title, agr, "0", "AGR00000", " 1");
+        row("largest", title, agr, " 32766", "AGR32766", " 32767");
+        row("negative", title, agr, "-3", "AGR-00003", "-2");
+    }
+
+    void numberNames()
+    {
+        QFETCH(QVariant, title);
+        QFETCH(QVariant, mnemonic);
+        QFETCH(QString, fileNumber);
+        QFETCH(QString, name);
+        QFETCH(QString, fileNumberAfter);
+        TestRegister reg;
+        const qint32 category = addCategory(reg, title, mnemonic);
+        SetRegValue("FileNumber", fileNumber);
+        QCOMPARE(MakeFileNumberName(category), name);
+        QCOMPARE(GetRegValue("FileNumber"), fileNumberAfter);
+    }
+
+    void fileNameFailures_data()
+    {
+        QTest::addColumn<QString>("fileNumber");
+        QTest::addColumn<QVariant>("category");
+        QTest::addColumn<long>("error");
+        auto row = [](const char* tag, const char* fileNumber, const QVariant& category, long error) {
+            QTest::newRow(tag) << QString(fileNumber) << category << error;
+        };
+        const QVariant known = QString("known");
+        row("would pass 32767", " 32767", known, 6);
+        row("above 16 bits", " 40000", known, 6);
+        row("not a number", "twelve", known, 13);
+        row("empty", "", known, 13);
+        row("empty category", " 12", QString(""), 13);
+        row("Null category", " 12", QVariant(), 13);
+        row("no such category", " 12", 999, 3021);
+    }
+
+    void fileNameFailures()
+    {
+        QFETCH(QString, fileNumber);
+        QFETCH(QVariant, category);
+        QFETCH(long, error);
+        TestRegister reg;
+        const qint32 known = addCategory(reg, QString("Sutartys"), QString("AGR"));
+        SetRegValue("FileNumber", fileNumber);
+        const QVariant argument = categoryArgument(category, known);
+        QCOMPARE(errorOf([&] { MakeNewFileName("Sutartis", ".doc", Folder, argument, "A/1"); }), error);
+        QCOMPARE(GetRegValue("FileNumber"), fileNumber);
+    }
+
+    void descriptionsAndCleaning()
+    {
+        const QString letters25 = "Nuomos sutartis su UAB Ab";
+        const QStringList descriptions = {letters25, letters25 + "c", "Akt", "A.B, C/D"};
+        const QStringList kept = {letters25, letters25, "Akt", "A.B, C/D"};
+        for (int i = 0; i < descriptions.size(); ++i) {
+            const QString name = CDocFileName().DocFileName("1", descriptions.at(i), "AGR00012", "AGR-1");
+            QVERIFY2(QRegularExpression(QRegularExpression::anchoredPattern(
+                                            QRegularExpression::escape(kept.at(i)) + " [1-9][0-9]{0,2}"))
+                         .match(name)
+                         .hasMatch(),
+                qPrintable(name));
+        }
+        QCOMPARE(DocFileNameProbe::clean("'!~@#$%^&/\\()<>.,:;"), QString(19, 'p'));
+        QCOMPARE(DocFileNameProbe::clean("A.B,C"), QString("ApBpC"));
+        QCOMPARE(DocFileNameProbe::clean("a*b?c\"d|e f_g-Šč"), QString("a*b?c\"d|e f_g-Šč"));
+    }
+
+    void emptyIndexAndUnknownSystem()
+    {
+        TestRegister reg;
+        const qint32 category = addCategory(reg, QString("Sutartys"), QString("AGR"));
+        setExampleOptions();
+        SetRegValue("FileName", QString("2"));
+        ScriptedPrompter prompter;
+        prompter.answer(MsgBoxResult::Ok);
+        QCOMPARE(MakeNewFileName("Sutartis", ".doc", Folder, category, ""), QString());
+        QCOMPARE(prompter.prompts().size(), 1);
+        QCOMPARE(prompter.prompts().first().title, QString("The file name must be like Registration Index"));
+        QCOMPARE(prompter.prompts().first().text,
+            QString("Can't create a file, because the Registration Index is "
+                    "empty. Enter valid Registration Index, please."));
+        QCOMPARE(prompter.prompts().first().style, 16);
+        QCOMPARE(GetRegValue("FileNumber"), QString(" 13"));
+        SetRegValue("FileName", QString("Not Found"));
+        QCOMPARE(MakeNewFileName("Sutartis", ".doc", Folder, category, "A/1"), QString());
+        QCOMPARE(GetRegValue("FileNumber"), QString(" 14"));
+    }
+
+    void folders()
+    {
+        TestRegister reg;
+        const qint32 cat = addCategory(reg, QString("Sutartys"), QString("AGR"), QString("/srv/cat"));
+        const qint32 bare = addCategory(reg, QString("Raštai"), QVariant());
+        auto sub = [&](qint32 category, const QVariant& path) {
+            return reg.insert("tbl_Sub_Categories",
+                {{"KategID", category}, {"DokSubKategorija", "N"}, {"SubPathToFiles", path}});
+        };
+        const qint32 subPath = sub(cat, QString("/srv/sub")), subEmpty = sub(cat, QString("")),
+                     subNull = sub(cat, {});
+        const qint32 subOfBare = sub(bare, {});
+        QCOMPARE(GetDocumentFolder(cat, subPath), QVariant(QString("/srv/sub")));
+        QCOMPARE(GetDocumentFolder(cat, QString::number(subEmpty)), QVariant(QString("")));
+        QCOMPARE(GetDocumentFolder(cat, subNull), QVariant(QString("/srv/cat")));
+        QCOMPARE(GetDocumentFolder(QString::number(cat), QString()), QVariant(QString("/srv/cat")));
+        QVERIFY(IsNull(GetDocumentFolder(bare, subOfBare)));
+        QCOMPARE(errorOf([] { GetDocumentFolder(QString(), QVariant()); }), 13L);
+
+        // A Null folder: the ini key "AllDocs", else the default folder, its separator kept.
+        SetRegValue("FileName", QString("0"));
+        SetRegValue("FileNumber", QString(" 1"));
+        QCOMPARE(MakeNewFileName("S", ".xls", QVariant(), bare, ""),
+            QString(QDir::homePath() + "/" + QDir::separator() + "Raš00001.xls"));
+        QVERIFY(WriteIniValue("AllDocs", QDir::toNativeSeparators("/srv/all")));
+        QCOMPARE(MakeNewFileName("S", ".ppt", GetDocumentFolder(bare, subOfBare), bare, ""),
+            QDir::toNativeSeparators("/srv/all/Raš00002.ppt"));
+        QCOMPARE(MakeNewFileName("S", ".doc", QString(Folder + QDir::separator()), cat, ""),
+            QString(Folder + QDir::separator() + QDir::separator() + "AGR00003.doc"));
+        QCOMPARE(FileExistsMessage("/d/A.doc"),
+            QString("The File with name /d/A.doc exist. Depending on the File "
+                    "Name style, check Doc. Description, Registration Index or "
+                    "other parameters."));
+    }
+};
+
+QTEST_GUILESS_MAIN(RegistrationTest)
+#include "tst_registration.moc"

@@ -1,0 +1,281 @@
+#include "harness/ScriptedPrompter.h"
+#include "support/Error.h"
+#include "support/FileInfo.h"
+#include "support/PathUtils.h"
+#include "support/ShellDialogs.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImageReader>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace kartella;
+using kartella::test::ScriptedPrompter;
+
+namespace {
+
+// Paths are written with "/" here; on Windows they take the platform's separator.
+QString native(const QString& path)
+{
+    return QDir::toNativeSeparators(path);
+}
+
+QString writeFile(const QString& path, const QByteArray& content = {})
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(content) >= 0 ? path : QString();
+}
+
+} // namespace
+
+class SupportTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_dir;
+    const QString m_home = QDir::currentPath();
+
+    QString path(const QString& name) const { return m_dir.filePath(name); }
+
+private Q_SLOTS:
+    void initTestCase() { UseIconThemeFallback(); }
+    void cleanup() { QDir::setCurrent(m_home); }
+
+    void separators_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("normalized");
+        QTest::addColumn<QString>("denormalized");
+        auto row = [](const char* path, const char* normalized, const char* denormalized) {
+            QTest::newRow(path) << QString(path) << QString(normalized) << QString(denormalized);
+        };
+        row("", "/", "");
+        row("/srv/docs", "/srv/docs/", "/srv/docs");
+        row("/srv/docs/", "/srv/docs/", "/srv/docs");
+        row("/srv/docs//", "/srv/docs//", "/srv/docs/");
+        row("/", "/", "");
+    }
+
+    void separators()
+    {
+        QFETCH(QString, path);
+        QFETCH(QString, normalized);
+        QFETCH(QString, denormalized);
+        QCOMPARE(NormalizePath(native(path)), native(normalized));
+        QString changed = native(path);
+        DenormalizePath(changed);
+        QCOMPARE(changed, native(denormalized));
+    }
+
+    void fullPath_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("full");
+        QTest::addColumn<int>("name");
+        QTest::addColumn<int>("extension");
+        QTest::addColumn<QString>("baseExt");
+        auto row = [](const char* path, const char* full, int name, int extension, const char* baseExt) {
+            QTest::newRow(path) << QString(path) << QString(full) << name << extension << QString(baseExt);
+        };
+        row("/srv/docs/Sutartis 417.doc", "/srv/docs/Sutartis 417.doc", 10, 22, "Sutartis 417.doc");
+        row("/srv/x.tar.gz", "/srv/x.tar.gz", 5, 10, "x.tar.gz");
+        row("/srv/v1.2/README", "/srv/v1.2/README", 10, 16, "README");
+        row("/srv/.profile", "/srv/.profile", 5, 5, ".profile");
+        row("/srv/docs/", "/srv/docs/", 10, 10, "");
+        row("/srv/docs", "/srv/docs", 5, 9, "docs");
+        row("/srv/./docs/../Ąžuolas.odt", "/srv/Ąžuolas.odt", 5, 12, "Ąžuolas.odt");
+        row("/", "/", 1, 1, "");
+    }
+
+    void fullPath()
+    {
+        QFETCH(QString, path);
+        QFETCH(QString, full);
+        QFETCH(int, name);
+        QFETCH(int, extension);
+        QFETCH(QString, baseExt);
+        int namePosition = -1, extensionPosition = -1, rootEnd = -1;
+        QCOMPARE(GetFullPath(native(path), namePosition, extensionPosition, rootEnd), native(full));
+        QCOMPARE(namePosition, name);
+        QCOMPARE(extensionPosition, extension);
+        QCOMPARE(rootEnd, 0);
+        QCOMPARE(GetFileBaseExt(native(path)), baseExt);
+    }
+
+    void relativeAndEmptyPaths()
+    {
+        QVERIFY(QDir::setCurrent(m_dir.path()));
+        const QString current = native(QDir::currentPath());
+        FullPathParts parts {7, 8, 9};
+        QCOMPARE(GetFullPath(QString(), parts), QString());
+        QCOMPARE(parts.name, 7); // left alone
+        QCOMPARE(GetFullPath("sub/", parts), QString(current + native("/sub/")));
+        QCOMPARE(parts.name, int(current.size()) + 5);
+        QCOMPARE(GetFileBaseExt("AGR00012.doc"), QString("AGR00012.doc"));
+        QCOMPARE(GetFileBaseExt("sub/AGR00012.doc"), QString("AGR00012.doc"));
+        QCOMPARE(GetFileBaseExt(QString()), QString());
+    }
+
+    void unreachableCurrentFolderIsAnError()
+    {
+        {
+            QTemporaryDir gone;
+            QVERIFY(QDir::setCurrent(gone.path()));
+        }
+        if (!QDir::currentPath().isEmpty())
+            QSKIP("This system still names a removed current folder");
+        try {
+            GetFileBaseExt("a.txt");
+            QFAIL("no error");
+        } catch (const Error& e) {
+            QCOMPARE(e.number(), -2147192501L); // 3 + 0x80047148
+            QCOMPARE(e.description(), QString("The system cannot find the path specified."));
+            QCOMPARE(e.source(), QString("Kartella.Windows"));
+        }
+        QCOMPARE(GetFileBaseExt(native("/srv/a.txt")), QString("a.txt"));
+    }
+
+    void trimAtNull()
+    {
+        QCOMPARE(TrimAtNull("abc"), QString("abc"));
+        QCOMPARE(TrimAtNull(QChar(0) + QString("abc")), QString());
+        QCOMPARE(TrimAtNull(QString("ab") + QChar(0) + "cd" + QChar(0)), QString("ab"));
+    }
+
+    void shellDialogs()
+    {
+        ScriptedPrompter prompter;
+        prompter.answerFile("/srv/docs/Sutartis.doc")
+            .answerFile(QString())
+            .answerFolder("/srv/S")
+            .answerFolder("");
+        QCOMPARE(ShowOpenDialog({"Select Document   ", " /srv/docs  ", "All files (*.*) ", "*.*\t "}),
+            QString("/srv/docs/Sutartis.doc"));
+        const auto& request = prompter.fileRequests.first();
+        QCOMPARE(request.title, QString("Select Document"));
+        QCOMPARE(request.startFolder, QString(" /srv/docs"));
+        QCOMPARE(request.filterLabel, QString("All files (*.*)"));
+        QCOMPARE(request.pattern, QString("*.*\t"));
+        QCOMPARE(
+            ShowOpenDialog({"Select the Database File", "", "Access databases (*.mdb)", "*.mdb"}), QString());
+        const QString prompt = "Select a folder in which to place the new files of - Sutartys - category:";
+        QCOMPARE(ChooseFolder(prompt), QString("/srv/S"));
+        QCOMPARE(ChooseFolder(prompt), QString());
+        QCOMPARE(prompter.folderPrompts.first(), prompt);
+    }
+
+    void namesAndTypes_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("displayName");
+        QTest::addColumn<QString>("typeName");
+        auto row = [](const char* name, const QByteArray& content, const char* displayName,
+                       const char* typeName) {
+            QTest::newRow(name) << QString(name) << content << QString(displayName) << QString(typeName);
+        };
+        row("Sutartis 417.txt", "x", "Sutartis 417.txt", "plain text document");
+        row("Ataskaita.pdf", {}, "Ataskaita.pdf", "PDF document");
+        row("AGR00012.doc", {}, "AGR00012.doc", "Microsoft Word Document");
+        row("Ąžuolas.odt", {}, "Ąžuolas.odt", "OpenDocument Text");
+        row("scan", "%PDF-1.4\n", "scan", "PDF document"); // the name tells nothing, the content does
+        row("Reg.desktop", "[Desktop Entry]\nName=Register\n[X]\nName=No\n", "Register", "Shortcut");
+        row("Sutartys", {}, "Sutartys", "folder");
+    }
+
+    void namesAndTypes()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, content);
+        QFETCH(QString, displayName);
+        QFETCH(QString, typeName);
+        const QString file
+            = name.contains('.') || !content.isEmpty() ? writeFile(path(name), content) : path(name);
+        QDir().mkpath(path("Sutartys"));
+
+        CFileInfo* info = GetFileInfoObject(file);
+        QVERIFY(info);
+        QCOMPARE(info->ItemType(), 1);
+        QCOMPARE(info->Item(), file);
+        QCOMPARE(info->DisplayName(), displayName);
+        QCOMPARE(info->TypeName(), typeName);
+
+        // Described by name, a trailing separator ignored, and no message.
+        ScriptedPrompter prompter;
+        CFileInfo byName;
+        byName.SetItem(name == "Sutartys" ? file + QDir::separator() : file);
+        QCOMPARE(byName.DisplayName(), displayName);
+        QCOMPARE(byName.TypeName(), typeName);
+        if (QIcon::fromTheme("text-x-generic").isNull())
+            QSKIP("No icon theme is installed");
+        QCOMPARE(info->SmallIcon().availableSizes().value(0), QSize(16, 16));
+        QCOMPARE(info->LargeIcon().availableSizes().value(0), QSize(32, 32));
+        QVERIFY(!byName.ShellIcon().isNull());
+    }
+
+    void emptyAndMissing()
+    {
+        CFileInfo info;
+        QCOMPARE(info.DisplayName(), QString("Unknown"));
+        QCOMPARE(info.TypeName(), QString("None"));
+        QVERIFY(info.SmallIcon().isNull() && info.LargeIcon().isNull() && info.ShellIcon().isNull());
+
+        const QString missing = path("gone.doc");
+        QCOMPARE(GetFileInfoObject(missing), nullptr);
+        QCOMPARE(GetFileInfoObject(QString()), nullptr);
+        info.CreateFromFile(writeFile(path("here.txt")));
+        info.CreateFromFile(missing); // forgets the file before
+        QCOMPARE(info.ItemType(), 0);
+        QCOMPARE(info.DisplayName(), QString("Unknown"));
+
+        ScriptedPrompter prompter;
+        prompter.answer(MsgBoxResult::Ok);
+        info.SetItem(missing);
+        QCOMPARE(prompter.prompts().size(), 1);
+        QCOMPARE(prompter.prompts().first().text, QString("API Error"));
+        QCOMPARE(prompter.prompts().first().title, QString("Operating System Error"));
+        QCOMPARE(prompter.prompts().first().style, 16);
+        QCOMPARE(info.DisplayName(), QString("gone.doc"));
+        QCOMPARE(info.TypeName(), QString("Microsoft Word Document"));
+
+        info.SetItem(QDir::rootPath()); // a drive root isn't searched for
+        QCOMPARE(info.ItemType(), 1);
+        QCOMPARE(GetFileInfoObject(path("here.txt")), GetFileInfoObject(m_dir.path())); // one shared object
+    }
+
+    void launcherHasItsOwnIcon()
+    {
+        if (QIcon::fromTheme("text-x-generic").isNull())
+            QSKIP("No icon theme is installed");
+        QImage red(32, 32, QImage::Format_ARGB32);
+        red.fill(Qt::red);
+        QVERIFY(red.save(path("red.png")));
+        const QString file
+            = writeFile(path("Red.desktop"), "[Desktop Entry]\nName=Red\nIcon=" + path("red.png").toUtf8());
+        auto centre = [](const QIcon& icon) { return icon.pixmap(32, 32).toImage().pixelColor(16, 16); };
+        QCOMPARE(centre(GetFileInfoObject(file)->LargeIcon()), QColor(Qt::red));
+        CFileInfo byName; // described by name: the icon of its type
+        byName.SetItem(file);
+        QVERIFY(!byName.LargeIcon().isNull());
+        QVERIFY(centre(byName.LargeIcon()) != QColor(Qt::red));
+        const QString lost = writeFile(path("Lost.desktop"), "[Desktop Entry]\nIcon=no-such-icon\n");
+        QVERIFY(!GetFileInfoObject(lost)->SmallIcon().isNull());
+    }
+
+    void noFileIcon()
+    {
+        QCOMPARE(NoFileIconPath(), QString(QCoreApplication::applicationDirPath() + "/snow.ico"));
+        QVERIFY(!QIcon(KARTELLA_SNOW_ICON).isNull());
+        QImageReader reader(KARTELLA_SNOW_ICON);
+        const QImage image = reader.read();
+        QVERIFY2(!image.isNull(), qPrintable(reader.errorString()));
+        QCOMPARE(image.size(), QSize(32, 32));
+        QCOMPARE(image.pixelColor(0, 0).alpha(), 0);
+        QCOMPARE(image.pixelColor(16, 16).alpha(), 255);
+    }
+};
+
+QTEST_MAIN(SupportTest)
+#include "tst_support.moc"
