@@ -1,0 +1,53 @@
+#pragma once
+
+#include "explorer/ListModel.h"
+
+#include <QString>
+
+#include <functional>
+
+namespace kartella {
+
+class Recordset;
+struct SelectionState;
+
+// Turns a document query into the rows, columns, icons and count of the document list,
+// in its three modes: by the query alone (category tree), by letter and by contact.
+// Each fill rebuilds the list from nothing; an empty query result gives the empty state.
+class DocumentFills
+{
+public:
+    DocumentFills(ListModel& model, SelectionState& selection);
+
+    // Called with the text of the count panel ("12 object(s)").
+    std::function<void(const QString&)> setCount;
+    // Called by the empty state: no document is selected any more.
+    std::function<void()> disableDocumentCommands;
+
+    // The fills throw kartella::Error when the query fails; the list then stays as it was.
+    void FillDocumentList(const QString& sql);
+    void FillLetterList(const QString& sql, qint16 letterCode);
+    void FillContactDocumentList(const QString& sql);
+    void ShowEmptyList();
+
+    void SetDocumentColumns();
+    void SetContactColumns();
+
+    static const QString EmptyKey; // "Empty"
+    static const QString EmptyText; // "There aren't any data to display!"
+    // The key of a list item: "a" and the id with one leading blank.
+    static QString ItemKey(qint32 id);
+    // The id in an item key, read from its second character on; 0 when there is none.
+    static qint32 IdOfKey(const QString& key);
+
+private:
+    enum class Mode { Category, Letter, Contact };
+    void fill(const QString& sql, Mode mode, qint16 letterCode);
+    std::vector<ListItem> documentRows(Recordset& rs, Mode mode, qint16 letterCode);
+    void finish(std::vector<ListItem> rows);
+
+    ListModel& m_model;
+    SelectionState& m_selection;
+};
+
+} // namespace kartella

@@ -1,0 +1,223 @@
+#include "explorer/ExplorerList.h"
+
+#include "explorer/ListModel.h"
+
+#include <QDragEnterEvent>
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QListView>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QStackedLayout>
+#include <QTreeView>
+#include <QUrl>
+
+namespace kartella {
+
+namespace {
+constexpr int SmallIconSize = 16;
+constexpr int LargeIconSize = 32;
+} // namespace
+
+ExplorerList::ExplorerList(ListModel* model, QWidget* parent)
+    : QWidget(parent)
+    , m_model(model)
+    , m_stack(new QStackedLayout(this))
+    , m_details(new QTreeView(this))
+    , m_icons(new QListView(this))
+    , m_selection(new QItemSelectionModel(model, this))
+{
+    m_stack->setContentsMargins(0, 0, 0, 0);
+
+    m_details->setModel(model);
+    m_details->setSelectionModel(m_selection);
+    m_details->setRootIsDecorated(false);
+    m_details->setItemsExpandable(false);
+    m_details->setUniformRowHeights(true);
+    m_details->setAllColumnsShowFocus(true);
+    m_details->setSortingEnabled(false);
+    m_details->setIconSize(QSize(SmallIconSize, SmallIconSize));
+    m_details->header()->setSectionsClickable(true);
+    m_details->header()->setSectionsMovable(false);
+    m_details->header()->setStretchLastSection(false);
+    connect(m_details->header(), &QHeaderView::sectionClicked, this, &ExplorerList::ColumnClick);
+
+    m_icons->setModel(model);
+    m_icons->setSelectionModel(m_selection);
+    m_icons->setUniformItemSizes(true);
+    m_icons->setMovement(QListView::Static);
+    m_icons->setResizeMode(QListView::Adjust);
+    m_icons->setWrapping(true);
+
+    for (QAbstractItemView* view :
+        {static_cast<QAbstractItemView*>(m_details), static_cast<QAbstractItemView*>(m_icons)}) {
+        view->setSelectionMode(QAbstractItemView::SingleSelection);
+        view->setSelectionBehavior(QAbstractItemView::SelectRows);
+        view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+        view->setDragDropMode(QAbstractItemView::NoDragDrop);
+        view->viewport()->installEventFilter(this);
+        view->installEventFilter(this);
+        connect(view, &QAbstractItemView::clicked, this, &ExplorerList::onClicked);
+        connect(view, &QAbstractItemView::doubleClicked, this,
+            [this](const QModelIndex& index) { Q_EMIT DblClick(index.row()); });
+        m_stack->addWidget(view);
+    }
+    connect(m_selection, &QItemSelectionModel::currentRowChanged, this, &ExplorerList::onCurrentChanged);
+    connect(model, &QAbstractItemModel::modelReset, this, &ExplorerList::applyColumnWidths);
+    m_stack->setCurrentWidget(m_details);
+    setFocusProxy(m_details);
+}
+
+QAbstractItemView* ExplorerList::currentView() const
+{
+    return m_view == Report ? static_cast<QAbstractItemView*>(m_details) : m_icons;
+}
+
+void ExplorerList::SetView(int view)
+{
+    m_view = qBound(int(LargeIcons), view, int(Report));
+    m_model->setLargeIcons(m_view == LargeIcons);
+    switch (m_view) {
+    case LargeIcons:
+        m_icons->setViewMode(QListView::IconMode);
+        m_icons->setFlow(QListView::LeftToRight);
+        m_icons->setIconSize(QSize(LargeIconSize, LargeIconSize));
+        m_icons->setGridSize(QSize(LargeIconSize * 4, LargeIconSize * 2 + fontMetrics().height() * 2));
+        m_icons->setWordWrap(true);
+        break;
+    case SmallIcons:
+        m_icons->setViewMode(QListView::ListMode);
+        m_icons->setFlow(QListView::LeftToRight);
+        m_icons->setIconSize(QSize(SmallIconSize, SmallIconSize));
+        m_icons->setGridSize(QSize(twipsToPixels(2000, this), fontMetrics().height() + 6));
+        m_icons->setWordWrap(false);
+        break;
+    case List:
+        m_icons->setViewMode(QListView::ListMode);
+        m_icons->setFlow(QListView::TopToBottom);
+        m_icons->setIconSize(QSize(SmallIconSize, SmallIconSize));
+        m_icons->setGridSize(QSize());
+        m_icons->setWordWrap(false);
+        break;
+    default:
+        break;
+    }
+    m_icons->setWrapping(true);
+    m_stack->setCurrentWidget(currentView());
+    setFocusProxy(currentView());
+    scrollToSelected();
+}
+
+int ExplorerList::selectedRow() const
+{
+    const QModelIndexList rows = m_selection->selectedRows();
+    return rows.isEmpty() ? -1 : rows.first().row();
+}
+
+void ExplorerList::selectRow(int row)
+{
+    if (row < 0 || row >= m_model->rowCount()) {
+        m_selection->clearSelection();
+        return;
+    }
+    m_selection->setCurrentIndex(
+        m_model->index(row, 0), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+void ExplorerList::scrollToSelected()
+{
+    const int row = selectedRow();
+    if (row >= 0)
+        currentView()->scrollTo(m_model->index(row, 0));
+}
+
+int ExplorerList::twipsToPixels(int twips, const QWidget* widget)
+{
+    const int dpi = widget ? widget->logicalDpiX() : 96;
+    return twips * dpi / 1440;
+}
+
+void ExplorerList::applyColumnWidths()
+{
+    const QList<ListColumn>& columns = m_model->columns();
+    for (int i = 0; i < columns.size(); ++i)
+        m_details->setColumnWidth(i, twipsToPixels(columns[i].widthTwips, this));
+}
+
+void ExplorerList::setAcceptFileDrops(bool accept)
+{
+    m_acceptDrops = accept;
+    for (QAbstractItemView* view :
+        {static_cast<QAbstractItemView*>(m_details), static_cast<QAbstractItemView*>(m_icons)})
+        view->viewport()->setAcceptDrops(accept);
+}
+
+void ExplorerList::setDragFilesOut(bool enabled)
+{
+    for (QAbstractItemView* view :
+        {static_cast<QAbstractItemView*>(m_details), static_cast<QAbstractItemView*>(m_icons)}) {
+        view->setDragEnabled(enabled);
+        view->setDefaultDropAction(Qt::CopyAction);
+    }
+}
+
+void ExplorerList::onCurrentChanged(const QModelIndex& current, const QModelIndex&)
+{
+    // A mouse press is answered by the click; here only moves by the keyboard count.
+    if (current.isValid() && !m_mousePressed && currentView()->hasFocus())
+        Q_EMIT ItemClick(current.row());
+}
+
+void ExplorerList::onClicked(const QModelIndex& index)
+{
+    if (index.isValid())
+        Q_EMIT ItemClick(index.row());
+}
+
+bool ExplorerList::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress: {
+        auto* mouse = static_cast<QMouseEvent*>(event);
+        Q_EMIT MouseDown(mouse->button(), mouse->globalPosition().toPoint());
+        // The right button selects nothing: the menu acts on the item last clicked.
+        if (mouse->button() == Qt::RightButton)
+            return true;
+        m_mousePressed = true;
+        break;
+    }
+    case QEvent::MouseButtonRelease:
+        m_mousePressed = false;
+        break;
+    case QEvent::DragEnter:
+    case QEvent::DragMove: {
+        auto* drag = static_cast<QDropEvent*>(event);
+        if (m_acceptDrops && drag->mimeData()->hasUrls() && drag->source() == nullptr) {
+            drag->setDropAction(Qt::CopyAction);
+            drag->accept();
+            return true;
+        }
+        break;
+    }
+    case QEvent::Drop: {
+        auto* drop = static_cast<QDropEvent*>(event);
+        if (!m_acceptDrops || !drop->mimeData()->hasUrls())
+            break;
+        QStringList paths;
+        for (const QUrl& url : drop->mimeData()->urls()) {
+            if (url.isLocalFile())
+                paths << url.toLocalFile();
+        }
+        drop->setDropAction(Qt::CopyAction);
+        drop->accept();
+        if (!paths.isEmpty())
+            Q_EMIT filesDropped(paths);
+        return true;
+    }
+    default:
+        break;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+} // namespace kartella

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QWidget>
+
+class QListView;
+class QStackedLayout;
+class QTreeView;
+class QAbstractItemView;
+class QItemSelectionModel;
+class QModelIndex;
+
+namespace kartella {
+
+class ListModel;
+
+// A list view in the manner of a file explorer: one model shown in one of four views
+// (large icons, small icons, list, details with columns), with keyed rows, a sort by
+// column, and the mouse and drag-and-drop events the main window acts on.
+class ExplorerList : public QWidget
+{
+    Q_OBJECT
+
+public:
+    enum ViewMode { LargeIcons = 0, SmallIcons = 1, List = 2, Report = 3 };
+
+    ExplorerList(ListModel* model, QWidget* parent = nullptr);
+
+    ListModel* model() const { return m_model; }
+    int View() const { return m_view; }
+    void SetView(int view);
+    // Row of the selected item, -1 when none.
+    int selectedRow() const;
+    void selectRow(int row);
+    void scrollToSelected();
+    // Applies the model's column widths (twips) to the details view.
+    void applyColumnWidths();
+    // Whether files dropped on the list are taken (emitted as filesDropped).
+    void setAcceptFileDrops(bool accept);
+    // Whether an item's file can be dragged out of the list.
+    void setDragFilesOut(bool enabled);
+    // The view showing now, and the two views.
+    QAbstractItemView* currentView() const;
+    QTreeView* detailsView() const { return m_details; }
+    QListView* iconView() const { return m_icons; }
+
+    static int twipsToPixels(int twips, const QWidget* widget);
+
+Q_SIGNALS:
+    // An item was clicked or reached with the keyboard.
+    void ItemClick(int row);
+    void DblClick(int row);
+    // A column header was clicked (0-based position).
+    void ColumnClick(int column);
+    // A mouse button went down over the list (Qt button, position on screen).
+    void MouseDown(Qt::MouseButton button, const QPoint& globalPos);
+    void filesDropped(const QStringList& paths);
+    // A drag of the selected item's file is starting: the receiver gives the file to offer.
+    void dragRequested();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void onCurrentChanged(const QModelIndex& current, const QModelIndex& previous);
+    void onClicked(const QModelIndex& index);
+
+    ListModel* m_model;
+    QStackedLayout* m_stack;
+    QTreeView* m_details;
+    QListView* m_icons;
+    QItemSelectionModel* m_selection;
+    int m_view = Report;
+    bool m_acceptDrops = false;
+    bool m_mousePressed = false;
+};
+
+} // namespace kartella

@@ -1,0 +1,171 @@
+#include "explorer/ListModel.h"
+
+#include "explorer/IconCache.h"
+
+#include <QMimeData>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace kartella {
+
+ListModel::ListModel(IconCache* icons, QObject* parent)
+    : QAbstractTableModel(parent)
+    , m_icons(icons)
+{ }
+
+void ListModel::setColumns(const QList<ListColumn>& columns)
+{
+    beginResetModel();
+    m_items.clear();
+    m_columns = columns;
+    endResetModel();
+}
+
+void ListModel::clear()
+{
+    setColumns({});
+}
+
+void ListModel::clearItems()
+{
+    beginResetModel();
+    m_items.clear();
+    endResetModel();
+}
+
+void ListModel::setItems(std::vector<ListItem> items)
+{
+    beginResetModel();
+    m_items = std::move(items);
+    applySort();
+    endResetModel();
+}
+
+void ListModel::appendItem(ListItem item)
+{
+    const int row = int(m_items.size());
+    beginInsertRows({}, row, row);
+    m_items.push_back(std::move(item));
+    endInsertRows();
+}
+
+int ListModel::rowOfKey(const QString& key) const
+{
+    for (size_t i = 0; i < m_items.size(); ++i) {
+        if (m_items[i].key == key)
+            return int(i);
+    }
+    return -1;
+}
+
+void ListModel::setLargeIcons(bool large)
+{
+    if (m_largeIcons == large)
+        return;
+    m_largeIcons = large;
+    if (!m_items.empty())
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, 0), {Qt::DecorationRole});
+}
+
+void ListModel::setSort(int column, Qt::SortOrder order)
+{
+    beginResetModel();
+    m_sortKey = column;
+    m_sortOrder = order;
+    m_sorted = true;
+    applySort();
+    endResetModel();
+}
+
+const QString& ListModel::columnText(const ListItem& item, int column)
+{
+    static const QString none;
+    if (column == 0)
+        return item.text;
+    if (column >= 1 && column <= int(item.subItems.size()))
+        return item.subItems[size_t(column - 1)];
+    return none;
+}
+
+void ListModel::applySort()
+{
+    if (!m_sorted || m_sortKey < 0 || m_sortKey >= m_columns.size())
+        return;
+    const int column = m_sortKey;
+    const bool ascending = m_sortOrder == Qt::AscendingOrder;
+    std::stable_sort(
+        m_items.begin(), m_items.end(), [column, ascending](const ListItem& a, const ListItem& b) {
+            const int c = columnText(a, column).compare(columnText(b, column), Qt::CaseInsensitive);
+            return ascending ? c < 0 : c > 0;
+        });
+}
+
+int ListModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : int(m_items.size());
+}
+
+int ListModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : int(m_columns.size());
+}
+
+QVariant ListModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid() || index.row() >= int(m_items.size()))
+        return {};
+    const ListItem& item = m_items[size_t(index.row())];
+    switch (role) {
+    case Qt::DisplayRole:
+        return columnText(item, index.column());
+    case Qt::DecorationRole:
+        if (index.column() == 0 && !item.iconKey.isEmpty() && m_icons)
+            return m_largeIcons ? m_icons->large(item.iconKey) : m_icons->small(item.iconKey);
+        return {};
+    default:
+        return {};
+    }
+}
+
+QVariant ListModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation == Qt::Horizontal && role == Qt::DisplayRole && section >= 0
+        && section < m_columns.size())
+        return m_columns[section].caption;
+    return {};
+}
+
+Qt::ItemFlags ListModel::flags(const QModelIndex& index) const
+{
+    if (!index.isValid())
+        return Qt::NoItemFlags;
+    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled;
+}
+
+QStringList ListModel::mimeTypes() const
+{
+    return {QStringLiteral("text/uri-list")};
+}
+
+QMimeData* ListModel::mimeData(const QModelIndexList& indexes) const
+{
+    auto* data = new QMimeData;
+    QList<QUrl> urls;
+    for (const QModelIndex& index : indexes) {
+        if (index.column() != 0 || index.row() >= int(m_items.size()))
+            continue;
+        const ListItem& item = m_items[size_t(index.row())];
+        if (!item.tagIsNull && !item.tag.isEmpty())
+            urls << QUrl::fromLocalFile(item.tag);
+    }
+    data->setUrls(urls);
+    return data;
+}
+
+Qt::DropActions ListModel::supportedDragActions() const
+{
+    return Qt::CopyAction;
+}
+
+} // namespace kartella

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QIcon>
+
+#include <array>
+#include <vector>
+
+namespace kartella {
+
+class IconCache;
+
+struct ListColumn
+{
+    QString caption;
+    int widthTwips = 1500;
+};
+
+// One row of a list view: its text (first column), the texts of the other columns,
+// a key, a tag (the file's path; null when the row has none) and the key of its icon.
+struct ListItem
+{
+    QString text;
+    std::array<QString, 4> subItems;
+    QString key;
+    QString tag;
+    bool tagIsNull = true;
+    QString iconKey;
+};
+
+// The rows and columns of one explorer list. The sort (key, order, whether sorted) is
+// the list's own and stays in force across refills; sorting compares the columns' text.
+class ListModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    explicit ListModel(IconCache* icons, QObject* parent = nullptr);
+
+    // Columns: replacing them clears the items.
+    void setColumns(const QList<ListColumn>& columns);
+    const QList<ListColumn>& columns() const { return m_columns; }
+    void clear();
+    void clearItems();
+    // Replaces all items at once (sorted if the list is sorted).
+    void setItems(std::vector<ListItem> items);
+    void appendItem(ListItem item);
+    int itemCount() const { return int(m_items.size()); }
+    const ListItem& item(int row) const { return m_items[size_t(row)]; }
+    int rowOfKey(const QString& key) const;
+
+    // Large or small pictures for the items (large icons view, or the others).
+    void setLargeIcons(bool large);
+
+    int sortKey() const { return m_sortKey; }
+    Qt::SortOrder sortOrder() const { return m_sortOrder; }
+    bool isSorted() const { return m_sorted; }
+    void setSort(int column, Qt::SortOrder order);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    QStringList mimeTypes() const override;
+    QMimeData* mimeData(const QModelIndexList& indexes) const override;
+    Qt::DropActions supportedDragActions() const override;
+
+    // The text an item shows in a column.
+    static const QString& columnText(const ListItem& item, int column);
+
+private:
+    void applySort();
+
+    IconCache* m_icons;
+    QList<ListColumn> m_columns;
+    std::vector<ListItem> m_items;
+    bool m_largeIcons = false;
+    int m_sortKey = 0;
+    Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
+    bool m_sorted = false;
+};
+
+} // namespace kartella
