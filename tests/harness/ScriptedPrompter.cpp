@@ -5,10 +5,10 @@
 namespace kartella::test {
 
 namespace {
-    Prompter* currentInstance()
-    {
-        return &Prompter::instance();
-    }
+Prompter* currentInstance()
+{
+    return &Prompter::instance();
+}
 } // namespace
 
 ScriptedPrompter::ScriptedPrompter()
@@ -57,7 +57,8 @@ int ScriptedPrompter::MsgBox(const QString& prompt, int style, const QString& ti
 {
     m_prompts.append({prompt, title.isEmpty() ? ProgramTitle() : title, style});
     if (m_answers.isEmpty()) {
-        QTest::qFail(qPrintable(QStringLiteral("Unexpected message box: \"%1\"").arg(prompt)), __FILE__, __LINE__);
+        QTest::qFail(
+            qPrintable(QStringLiteral("Unexpected message box: \"%1\"").arg(prompt)), __FILE__, __LINE__);
         return EscapeResult(style) ? EscapeResult(style) : DefaultResult(style);
     }
     return m_answers.dequeue();
@@ -67,8 +68,8 @@ QString ScriptedPrompter::OpenFile(const OpenFileRequest& request)
 {
     fileRequests.append(request);
     if (m_files.isEmpty()) {
-        QTest::qFail(qPrintable(QStringLiteral("Unexpected file dialog: \"%1\"").arg(request.title)), __FILE__,
-                     __LINE__);
+        QTest::qFail(qPrintable(QStringLiteral("Unexpected file dialog: \"%1\"").arg(request.title)),
+            __FILE__, __LINE__);
         return {};
     }
     return m_files.dequeue();
@@ -78,7 +79,8 @@ QString ScriptedPrompter::ChooseFolder(const QString& prompt)
 {
     folderPrompts.append(prompt);
     if (m_folders.isEmpty()) {
-        QTest::qFail(qPrintable(QStringLiteral("Unexpected folder chooser: \"%1\"").arg(prompt)), __FILE__, __LINE__);
+        QTest::qFail(
+            qPrintable(QStringLiteral("Unexpected folder chooser: \"%1\"").arg(prompt)), __FILE__, __LINE__);
         return {};
     }
     return m_folders.dequeue();

@@ -142,6 +142,7 @@ Q_SIGNALS:
 
 private:
     friend class Field;
+    friend struct RecordsetData;
     std::unique_ptr<RecordsetData> d;
 };
 

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "store/engine/RowStore.h"
+
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+#include <vector>
+
+namespace kartella {
+
+namespace engine {
+
+// A result column and where it comes from.
+struct ColumnInfo
+{
+    QString name;
+    QString table; // the table it was read from; empty for an expression
+    QString origin; // the column of that table
+    ValueKind declared = ValueKind::Null; // Null when nothing is declared
+};
+
+// All rows of a query. Columns past visibleColumns are hidden: the row key that the
+// back end added for writing.
+struct QueryResult
+{
+    std::vector<ColumnInfo> columns;
+    int visibleColumns = 0;
+    int keyColumn = -1; // the column holding the row key of the one source table, or -1
+    QString keyName; // the name that selects that key in a WHERE clause
+    RowStore rows;
+};
+
+struct TableColumn
+{
+    QString name;
+    ValueKind declared = ValueKind::Null;
+};
+
+struct TableSchema
+{
+    QString name;
+    QString key; // primary key column, or "rowid"
+    bool keyGenerated = false; // the database makes the key of a new row
+    std::vector<TableColumn> columns;
+
+    const TableColumn* column(const QString& columnName) const
+    {
+        for (const TableColumn& c : columns) {
+            if (c.name.compare(columnName, Qt::CaseInsensitive) == 0)
+                return &c;
+        }
+        return nullptr;
+    }
+};
+
+} // namespace engine
+
+// The database behind a Connection. Statements come in Jet's dialect; each back end
+// translates them for its database. Failures throw kartella::Error with
+// ErrorNumber::CommandFailed.
+class Backend
+{
+public:
+    virtual ~Backend() = default;
+
+    // Runs statements that return no rows.
+    virtual void execute(const QString& sql) = 0;
+
+    // Runs a SELECT and reads all its rows. When all columns come from one table and its
+    // key isn't among them, the key is read as a hidden column.
+    virtual engine::QueryResult query(const QString& sql) = 0;
+
+    // Columns and key of a table; throws when there is no such table.
+    virtual const engine::TableSchema& tableSchema(const QString& table) = 0;
+
+    // Writes one new row and gives its key.
+    virtual QVariant insertRow(
+        const engine::TableSchema& table, const QStringList& columns, const QVariantList& values)
+        = 0;
+    // Changes the columns of the row whose keyName column holds key; throws when no row does.
+    virtual void updateRow(const engine::TableSchema& table, const QString& keyName, const QVariant& key,
+        const QStringList& columns, const QVariantList& values)
+        = 0;
+    virtual void deleteRow(const engine::TableSchema& table, const QString& keyName, const QVariant& key) = 0;
+
+    // Transactions nest: the outermost one is the database's, inner ones are save points.
+    virtual void beginTransaction() = 0;
+    virtual void commitTransaction() = 0;
+    virtual void rollbackTransaction() = 0;
+};
+
+} // namespace kartella

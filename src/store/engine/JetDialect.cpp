@@ -1,0 +1,254 @@
+#include "store/engine/JetDialect.h"
+
+#include "store/engine/DateText.h"
+#include "store/engine/SqlLexer.h"
+
+#include <optional>
+#include <vector>
+
+namespace kartella::engine {
+
+namespace {
+
+class Rewriter
+{
+public:
+    explicit Rewriter(const QString& sql)
+        : m_text(sql)
+        , m_tokens(TokenizeSql(m_text))
+        , m_drop(m_tokens.size(), false)
+        , m_replace(m_tokens.size())
+    { }
+
+    QString run()
+    {
+        literals();
+        trailingSemicolons();
+        const qsizetype first = nextSolid(0);
+        if (first < size()) {
+            if (IsKeyword(m_text, m_tokens[first], u"DELETE"))
+                deleteFieldList(first);
+            else if (IsKeyword(m_text, m_tokens[first], u"UPDATE"))
+                updateSetList(first);
+            else if (IsKeyword(m_text, m_tokens[first], u"SELECT"))
+                rightJoin(first);
+        }
+        return assemble(0, size());
+    }
+
+private:
+    qsizetype size() const { return qsizetype(m_tokens.size()); }
+
+    // The first token from i on that isn't blank.
+    qsizetype nextSolid(qsizetype i) const
+    {
+        while (i < size() && m_tokens[i].kind == SqlToken::Space)
+            ++i;
+        return i;
+    }
+
+    bool isWord(qsizetype i, QStringView keyword) const
+    {
+        return i < size() && IsKeyword(m_text, m_tokens[i], keyword);
+    }
+    bool isPunct(qsizetype i, QChar c) const { return i < size() && IsPunct(m_text, m_tokens[i], c); }
+    bool isName(qsizetype i) const
+    {
+        return i < size() && (m_tokens[i].kind == SqlToken::Word || m_tokens[i].kind == SqlToken::Quoted);
+    }
+
+    void literals()
+    {
+        for (qsizetype i = 0; i < size(); ++i) {
+            const SqlToken& token = m_tokens[i];
+            const QStringView raw = TokenText(m_text, token);
+            if (token.kind == SqlToken::Date) {
+                const QVariant value = ParseJetDate(raw.mid(1, raw.size() - 2));
+                if (value.typeId() == QMetaType::QDate)
+                    m_replace[i] = u'\'' + IsoText(value.toDate()) + u'\'';
+                else if (value.typeId() == QMetaType::QDateTime)
+                    m_replace[i] = u'\'' + IsoText(value.toDateTime()) + u'\'';
+            } else if (token.kind == SqlToken::Quoted && raw.startsWith(u'`')) {
+                QString name = UnquotedText(m_text, token);
+                name.replace(u'"', QLatin1String("\"\""));
+                m_replace[i] = u'"' + name + u'"';
+            }
+        }
+    }
+
+    void trailingSemicolons()
+    {
+        for (qsizetype i = size() - 1; i >= 0; --i) {
+            if (m_tokens[i].kind == SqlToken::Space || isPunct(i, u';'))
+                m_drop[i] = true;
+            else
+                break;
+        }
+    }
+
+    // DELETE t.*, t.f FROM t -> DELETE FROM t: everything between DELETE and FROM goes.
+    void deleteFieldList(qsizetype deleteAt)
+    {
+        const qsizetype start = nextSolid(deleteAt + 1);
+        if (start >= size() || isWord(start, u"FROM"))
+            return;
+        qsizetype from = start;
+        int depth = 0;
+        for (; from < size(); ++from) {
+            if (isPunct(from, u'('))
+                ++depth;
+            else if (isPunct(from, u')'))
+                --depth;
+            else if (depth == 0 && isWord(from, u"FROM"))
+                break;
+        }
+        if (from >= size())
+            return;
+        for (qsizetype i = start; i < from; ++i)
+            m_drop[i] = true;
+    }
+
+    // UPDATE t SET t.f = v, t.g = w WHERE ... -> UPDATE t SET f = v, g = w WHERE ...
+    void updateSetList(qsizetype updateAt)
+    {
+        qsizetype i = updateAt + 1;
+        int depth = 0;
+        for (; i < size(); ++i) {
+            if (isPunct(i, u'('))
+                ++depth;
+            else if (isPunct(i, u')'))
+                --depth;
+            else if (depth == 0 && isWord(i, u"SET"))
+                break;
+        }
+        bool assignmentStart = true;
+        for (++i; i < size(); ++i) {
+            if (m_tokens[i].kind == SqlToken::Space)
+                continue;
+            if (isPunct(i, u'('))
+                ++depth;
+            else if (isPunct(i, u')'))
+                --depth;
+            if (depth == 0
+                && (isWord(i, u"WHERE") || isWord(i, u"FROM") || isWord(i, u"RETURNING")
+                    || isWord(i, u"ORDER") || isWord(i, u"LIMIT")))
+                return;
+            if (assignmentStart) {
+                unqualify(i);
+                assignmentStart = false;
+            }
+            if (depth == 0 && isPunct(i, u','))
+                assignmentStart = true;
+        }
+    }
+
+    // name . name = : drops the first name and the dot.
+    void unqualify(qsizetype i)
+    {
+        const qsizetype dot = nextSolid(i + 1);
+        const qsizetype field = nextSolid(dot + 1);
+        const qsizetype equals = nextSolid(field + 1);
+        if (isName(i) && isPunct(dot, u'.') && isName(field) && isPunct(equals, u'=')) {
+            for (qsizetype k = i; k < field; ++k)
+                m_drop[k] = true;
+        }
+    }
+
+    // SELECT <named columns> FROM A RIGHT JOIN B ON c [WHERE ...] -> ... FROM B LEFT JOIN A ON c:
+    // the same rows, but SQLite can then read B in the order of an index and look A up
+    // by its key, where the right join scans A and sorts. A is a table; B a table or a
+    // parenthesised join. Any other FROM clause, or a * in the column list (whose order
+    // would change), stays as it is.
+    void rightJoin(qsizetype selectAt)
+    {
+        int depth = 0;
+        qsizetype from = -1;
+        for (qsizetype i = selectAt + 1; i < size() && from < 0; ++i) {
+            if (isPunct(i, u'('))
+                ++depth;
+            else if (isPunct(i, u')'))
+                --depth;
+            else if (depth == 0 && isPunct(i, u'*'))
+                return;
+            else if (depth == 0 && isWord(i, u"FROM"))
+                from = i;
+        }
+        const qsizetype left = nextSolid(from + 1);
+        qsizetype right = nextSolid(left + 1);
+        if (from < 0 || !isName(left) || !isWord(right, u"RIGHT"))
+            return;
+        qsizetype join = nextSolid(right + 1);
+        if (isWord(join, u"OUTER"))
+            join = nextSolid(join + 1);
+        if (!isWord(join, u"JOIN"))
+            return;
+        const qsizetype otherStart = nextSolid(join + 1);
+        qsizetype otherEnd = otherStart;
+        if (isPunct(otherStart, u'(')) {
+            for (depth = 0; otherEnd < size(); ++otherEnd) {
+                if (isPunct(otherEnd, u'('))
+                    ++depth;
+                else if (isPunct(otherEnd, u')') && --depth == 0)
+                    break;
+            }
+        } else if (!isName(otherStart)) {
+            return;
+        }
+        if (otherEnd >= size() || !isWord(nextSolid(otherEnd + 1), u"ON"))
+            return;
+        // The ON condition must run to the end of the FROM clause: no further join.
+        depth = 0;
+        for (qsizetype i = nextSolid(otherEnd + 1) + 1; i < size(); ++i) {
+            if (isPunct(i, u'('))
+                ++depth;
+            else if (isPunct(i, u')'))
+                --depth;
+            else if (depth < 0)
+                return;
+            else if (depth == 0
+                && (isWord(i, u"WHERE") || isWord(i, u"GROUP") || isWord(i, u"ORDER") || isWord(i, u"HAVING")
+                    || isWord(i, u"LIMIT") || isWord(i, u"UNION")))
+                break;
+            else if (depth == 0 && (isWord(i, u"JOIN") || isPunct(i, u',')))
+                return;
+        }
+        m_replace[left]
+            = assemble(otherStart, otherEnd + 1) + QStringLiteral(" LEFT JOIN ") + assemble(left, left + 1);
+        for (qsizetype i = left + 1; i <= otherEnd; ++i)
+            m_drop[i] = true;
+    }
+
+    QString assemble(qsizetype from, qsizetype to) const
+    {
+        QString out;
+        out.reserve(m_text.size() + 16);
+        for (qsizetype i = from; i < to; ++i) {
+            if (m_drop[i]) {
+                // A dropped run between two solid tokens leaves one blank.
+                if (!out.isEmpty() && !out.back().isSpace() && i + 1 < to && !m_drop[i + 1]
+                    && m_tokens[i + 1].kind != SqlToken::Space && m_tokens[i].kind == SqlToken::Space)
+                    out += u' ';
+                continue;
+            }
+            if (m_replace[i])
+                out += *m_replace[i];
+            else
+                out += TokenText(m_text, m_tokens[i]);
+        }
+        return out;
+    }
+
+    QString m_text;
+    std::vector<SqlToken> m_tokens;
+    std::vector<bool> m_drop;
+    std::vector<std::optional<QString>> m_replace;
+};
+
+} // namespace
+
+QString TranslateJetToSqlite(const QString& sql)
+{
+    return Rewriter(sql).run();
+}
+
+} // namespace kartella::engine

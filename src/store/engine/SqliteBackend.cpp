@@ -1,0 +1,564 @@
+#include "store/engine/SqliteBackend.h"
+
+#include "store/engine/DateText.h"
+#include "store/engine/EngineErrors.h"
+#include "store/engine/JetDialect.h"
+#include "store/engine/SqlLexer.h"
+
+#include <QDate>
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cstring>
+#include <sqlite3.h>
+
+namespace kartella::engine {
+
+namespace {
+
+[[noreturn]] void failToOpen(const QString& description)
+{
+    ThrowError(ErrorNumber::ConnectionFailed, description, ConnectionSource);
+}
+
+QString quoted(const QString& name)
+{
+    QString escaped = name;
+    escaped.replace(u'"', QLatin1String("\"\""));
+    return u'"' + escaped + u'"';
+}
+
+ValueKind declaredKind(const char* declared)
+{
+    if (declared == nullptr || *declared == 0)
+        return ValueKind::Null;
+    const QByteArray type = QByteArray(declared).toUpper();
+    if (type.contains("DATETIME") || type.contains("TIMESTAMP"))
+        return ValueKind::DateTime;
+    if (type.contains("DATE"))
+        return ValueKind::Date;
+    if (type.contains("INT") || type.contains("BOOL") || type.contains("BIT"))
+        return ValueKind::Integer;
+    if (type.contains("CHAR") || type.contains("CLOB") || type.contains("TEXT") || type.contains("MEMO"))
+        return ValueKind::Text;
+    if (type.contains("BLOB") || type.contains("BINARY"))
+        return ValueKind::Blob;
+    if (type.contains("REAL") || type.contains("FLOA") || type.contains("DOUB") || type.contains("NUM")
+        || type.contains("DEC") || type.contains("CURRENCY") || type.contains("MONEY"))
+        return ValueKind::Real;
+    return ValueKind::Text;
+}
+
+// What the first 100 bytes of a file say about it.
+enum class FileKind { Empty, Sqlite, Access, Other };
+
+FileKind fileKind(const QString& path, QString& error)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        error = file.errorString();
+        return FileKind::Other;
+    }
+    const QByteArray head = file.read(100);
+    if (head.isEmpty() && file.size() == 0)
+        return FileKind::Empty;
+    if (head.startsWith(QByteArray("SQLite format 3\0", 16)))
+        return FileKind::Sqlite;
+    const QByteArray jetName = head.mid(4, 15);
+    if (jetName == "Standard Jet DB" || jetName == "Standard ACE DB")
+        return FileKind::Access;
+    return FileKind::Other;
+}
+
+// Whether a SELECT may have the row key added to its columns: a plain one, with no
+// grouping, DISTINCT or compound part.
+bool acceptsHiddenKey(const QString& sql)
+{
+    const std::vector<SqlToken> tokens = TokenizeSql(sql);
+    bool first = true;
+    for (const SqlToken& token : tokens) {
+        if (token.kind == SqlToken::Space)
+            continue;
+        if (first) {
+            if (!IsKeyword(sql, token, u"SELECT"))
+                return false;
+            first = false;
+            continue;
+        }
+        for (const char16_t* word : {u"DISTINCT", u"GROUP", u"UNION", u"INTERSECT", u"EXCEPT", u"VALUES"}) {
+            if (IsKeyword(sql, token, word))
+                return false;
+        }
+    }
+    return !first;
+}
+
+// The SELECT with the source table's rowid as its first column.
+QString withRowid(const QString& sql, const QString& qualifier)
+{
+    const qsizetype select = sql.indexOf(QLatin1String("select"), 0, Qt::CaseInsensitive);
+    const qsizetype after = select + 6;
+    return sql.left(after) + u' ' + qualifier + QStringLiteral("rowid,") + sql.mid(after);
+}
+
+} // namespace
+
+void SqliteBackend::StatementDeleter::operator()(sqlite3_stmt* statement) const
+{
+    sqlite3_finalize(statement);
+}
+
+std::unique_ptr<SqliteBackend> SqliteBackend::open(const QString& path)
+{
+    if (path.isEmpty())
+        failToOpen(QStringLiteral("No register file is named: the connection string has no Data Source."));
+    const QFileInfo info(path);
+    if (!info.exists())
+        failToOpen(QStringLiteral("Could not find file '") + path + QStringLiteral("'."));
+    if (info.isDir())
+        failToOpen(QStringLiteral("'") + path
+            + QStringLiteral("' is a folder, not a register file. Choose the register file itself."));
+    QString readError;
+    const FileKind kind = fileKind(path, readError);
+    if (!readError.isEmpty())
+        failToOpen(QStringLiteral("Could not read file '") + path + QStringLiteral("': ") + readError);
+    if (kind == FileKind::Access)
+        failToOpen(QStringLiteral("'") + path
+            + QStringLiteral("' is a Microsoft Access database, not a register. Convert it into a "
+                             "register with \"kartella-db migrate\" and open the new register."));
+    if (kind == FileKind::Other)
+        failToOpen(QStringLiteral("'") + path
+            + QStringLiteral("' is not a register: it isn't a database file that Kartella can read, "
+                             "or it is damaged."));
+
+    sqlite3* db = nullptr;
+    const int code
+        = sqlite3_open_v2(QFile::encodeName(path).constData(), &db, SQLITE_OPEN_READWRITE, nullptr);
+    if (code != SQLITE_OK) {
+        const QString message
+            = db ? QString::fromUtf8(sqlite3_errmsg(db)) : QString::fromUtf8(sqlite3_errstr(code));
+        sqlite3_close_v2(db);
+        failToOpen(QStringLiteral("Could not open the register '") + path + QStringLiteral("': ") + message);
+    }
+    std::unique_ptr<SqliteBackend> backend(new SqliteBackend(db));
+    if (!RegisterTextFunctions(db))
+        failToOpen(QStringLiteral("Could not prepare the register '") + path + QStringLiteral("': ")
+            + QString::fromUtf8(sqlite3_errmsg(db)));
+    sqlite3_busy_timeout(db, BusyTimeoutMs);
+    // The register relies on no cascade but its own trigger.
+    sqlite3_exec(db, "PRAGMA foreign_keys = OFF", nullptr, nullptr, nullptr);
+    if (kind == FileKind::Empty)
+        return backend;
+
+    // Reading the table list finds a damaged file and tells a register from other databases.
+    sqlite3_stmt* check = nullptr;
+    int status = sqlite3_prepare_v2(db,
+        "SELECT count(*) FROM sqlite_master WHERE type = 'table' AND name = 'tbl_Documents' COLLATE NOCASE",
+        -1, &check, nullptr);
+    if (status == SQLITE_OK)
+        status = sqlite3_step(check);
+    const bool isRegister = status == SQLITE_ROW && sqlite3_column_int(check, 0) > 0;
+    const QString message = QString::fromUtf8(sqlite3_errmsg(db));
+    sqlite3_finalize(check);
+    if (status != SQLITE_ROW)
+        failToOpen(QStringLiteral("The register '") + path + QStringLiteral("' can't be read: ") + message
+            + QStringLiteral(". The file may be damaged, or locked by another program."));
+    if (!isRegister)
+        failToOpen(QStringLiteral("'") + path
+            + QStringLiteral("' is a database but not a register: it has no table tbl_Documents."));
+    return backend;
+}
+
+SqliteBackend::SqliteBackend(sqlite3* db)
+    : m_db(db)
+{ }
+
+SqliteBackend::~SqliteBackend()
+{
+    for (sqlite3_stmt* statement : std::as_const(m_writeStatements))
+        sqlite3_finalize(statement);
+    if (m_depth > 0)
+        sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
+    sqlite3_close_v2(m_db);
+}
+
+void SqliteBackend::fail(int code, const QString& shownSql) const
+{
+    const int primary = code & 0xFF;
+    QString message;
+    if (primary == SQLITE_BUSY || primary == SQLITE_LOCKED)
+        message
+            = QStringLiteral("The register is in use by another program and stayed locked for %1 seconds; "
+                             "try again.")
+                  .arg(BusyTimeoutMs / 1000);
+    else
+        message = QString::fromUtf8(sqlite3_errmsg(m_db));
+    ThrowError(
+        ErrorNumber::CommandFailed, message + QStringLiteral("\nStatement: ") + shownSql, ConnectionSource);
+}
+
+SqliteBackend::Statement SqliteBackend::prepare(
+    const QByteArray& sql, const QString& shownSql, const char** tail)
+{
+    sqlite3_stmt* statement = nullptr;
+    const int code = sqlite3_prepare_v2(m_db, sql.constData(), int(sql.size()), &statement, tail);
+    if (code != SQLITE_OK)
+        fail(code, shownSql);
+    return Statement(statement);
+}
+
+int SqliteBackend::run(sqlite3_stmt* statement, const QString& shownSql)
+{
+    int code = SQLITE_ROW;
+    while (code == SQLITE_ROW)
+        code = sqlite3_step(statement);
+    if (code != SQLITE_DONE) {
+        sqlite3_reset(statement);
+        fail(code, shownSql);
+    }
+    return sqlite3_changes(m_db);
+}
+
+void SqliteBackend::execute(const QString& sql)
+{
+    const QString translated = TranslateJetToSqlite(sql);
+    const QStringView head = QStringView(translated).trimmed().left(6);
+    if (head.compare(u"CREATE", Qt::CaseInsensitive) == 0 || head.startsWith(u"ALTER", Qt::CaseInsensitive)
+        || head.startsWith(u"DROP", Qt::CaseInsensitive))
+        m_schemas.clear();
+    const QByteArray text = translated.toUtf8();
+    const char* start = text.constData();
+    const char* end = start + text.size();
+    while (start < end) {
+        const char* tail = nullptr;
+        Statement statement = prepare(QByteArray::fromRawData(start, end - start), sql, &tail);
+        if (statement)
+            run(statement.get(), sql);
+        if (tail == nullptr || tail <= start)
+            break;
+        start = tail;
+    }
+}
+
+QueryResult SqliteBackend::query(const QString& sql)
+{
+    const QString translated = TranslateJetToSqlite(sql);
+    Statement statement = prepare(translated.toUtf8(), sql);
+    QueryResult result;
+    if (!statement)
+        return result;
+
+    auto describe = [&result](sqlite3_stmt* s, int first) {
+        result.columns.clear();
+        const int count = sqlite3_column_count(s);
+        for (int c = first; c < count; ++c) {
+            ColumnInfo column;
+            column.name = QString::fromUtf8(sqlite3_column_name(s, c));
+            column.table = QString::fromUtf8(sqlite3_column_table_name(s, c));
+            column.origin = QString::fromUtf8(sqlite3_column_origin_name(s, c));
+            column.declared = declaredKind(sqlite3_column_decltype(s, c));
+            result.columns.push_back(column);
+        }
+    };
+    describe(statement.get(), 0);
+    result.visibleColumns = int(result.columns.size());
+
+    // The one table that every column comes from, if there is one.
+    QString table;
+    for (const ColumnInfo& column : result.columns) {
+        if (column.table.isEmpty()
+            || (!table.isEmpty() && column.table.compare(table, Qt::CaseInsensitive) != 0)) {
+            table.clear();
+            break;
+        }
+        table = column.table;
+    }
+    if (!table.isEmpty()) {
+        const TableSchema& schema = tableSchema(table);
+        for (int c = 0; c < result.visibleColumns; ++c) {
+            if (result.columns[std::size_t(c)].origin.compare(schema.key, Qt::CaseInsensitive) == 0) {
+                result.keyColumn = c;
+                result.keyName = schema.key;
+                break;
+            }
+        }
+        if (result.keyColumn < 0 && acceptsHiddenKey(translated)) {
+            // Read the rowid too, first, and keep it behind the visible columns.
+            for (const QString& qualifier : QStringList {quoted(table) + u'.', QString()}) {
+                sqlite3_stmt* keyed = nullptr;
+                const QByteArray keyedSql = withRowid(translated, qualifier).toUtf8();
+                if (sqlite3_prepare_v2(m_db, keyedSql.constData(), int(keyedSql.size()), &keyed, nullptr)
+                    == SQLITE_OK) {
+                    statement.reset(keyed);
+                    describe(statement.get(), 1);
+                    ColumnInfo key;
+                    key.name = QStringLiteral("rowid");
+                    key.table = table;
+                    key.origin = QStringLiteral("rowid");
+                    key.declared = ValueKind::Integer;
+                    result.columns.push_back(key);
+                    result.keyColumn = result.visibleColumns;
+                    result.keyName = QStringLiteral("rowid");
+                    break;
+                }
+                sqlite3_finalize(keyed);
+            }
+        }
+    }
+
+    const int count = int(result.columns.size());
+    std::vector<int> order(static_cast<std::size_t>(count));
+    const bool keyFirst = count > result.visibleColumns;
+    for (int c = 0; c < count; ++c)
+        order[std::size_t(c)] = keyFirst ? (c + 1) % count : c;
+    result.rows = RowStore(count);
+    readRows(statement.get(), result, order, sql);
+    return result;
+}
+
+void SqliteBackend::readRows(
+    sqlite3_stmt* statement, QueryResult& result, const std::vector<int>& order, const QString& shownSql)
+{
+    RowStore& rows = result.rows;
+    const int count = int(order.size());
+    std::vector<bool> dates(static_cast<std::size_t>(count));
+    for (int c = 0; c < count; ++c) {
+        const ValueKind declared = result.columns[std::size_t(c)].declared;
+        dates[std::size_t(c)] = declared == ValueKind::Date || declared == ValueKind::DateTime;
+    }
+    int code;
+    while ((code = sqlite3_step(statement)) == SQLITE_ROW) {
+        for (int c = 0; c < count; ++c) {
+            const int source = order[std::size_t(c)];
+            switch (sqlite3_column_type(statement, source)) {
+            case SQLITE_INTEGER:
+                rows.addInteger(sqlite3_column_int64(statement, source));
+                break;
+            case SQLITE_FLOAT:
+                rows.addReal(sqlite3_column_double(statement, source));
+                break;
+            case SQLITE_TEXT: {
+                const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, source));
+                const auto size = std::size_t(sqlite3_column_bytes(statement, source));
+                qint64 julianDay = 0;
+                int msecs = 0;
+                bool hasTime = false;
+                if (dates[std::size_t(c)] && ParseIsoBytes(text, size, julianDay, msecs, hasTime)) {
+                    if (hasTime)
+                        rows.addDateTime(julianDay, msecs);
+                    else
+                        rows.addDate(julianDay);
+                } else {
+                    rows.addText(text, size);
+                }
+                break;
+            }
+            case SQLITE_BLOB:
+                rows.addBlob(sqlite3_column_blob(statement, source),
+                    std::size_t(sqlite3_column_bytes(statement, source)));
+                break;
+            default:
+                rows.addNull();
+                break;
+            }
+        }
+    }
+    if (code != SQLITE_DONE)
+        fail(code, shownSql);
+}
+
+const TableSchema& SqliteBackend::tableSchema(const QString& table)
+{
+    const QString lookup = table.toLower();
+    const auto found = m_schemas.find(lookup);
+    if (found != m_schemas.end())
+        return found->second;
+
+    const QString sql = QStringLiteral("PRAGMA table_info(") + quoted(table) + u')';
+    Statement statement = prepare(sql.toUtf8(), sql);
+    TableSchema schema;
+    schema.name = table;
+    QStringList keys;
+    bool integerKey = false;
+    int code;
+    while ((code = sqlite3_step(statement.get())) == SQLITE_ROW) {
+        TableColumn column;
+        column.name
+            = QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(statement.get(), 1)));
+        const auto* type = reinterpret_cast<const char*>(sqlite3_column_text(statement.get(), 2));
+        column.declared = declaredKind(type);
+        if (sqlite3_column_int(statement.get(), 5) > 0) {
+            keys << column.name;
+            integerKey = type != nullptr && qstricmp(type, "INTEGER") == 0;
+        }
+        schema.columns.push_back(column);
+    }
+    if (code != SQLITE_DONE)
+        fail(code, sql);
+    if (schema.columns.empty())
+        ThrowError(ErrorNumber::CommandFailed, QStringLiteral("The register has no table '") + table + u'\'',
+            ConnectionSource);
+    if (keys.size() == 1) {
+        schema.key = keys.front();
+        schema.keyGenerated = integerKey;
+    } else {
+        schema.key = QStringLiteral("rowid");
+        schema.keyGenerated = true;
+    }
+    return m_schemas.emplace(lookup, std::move(schema)).first->second;
+}
+
+sqlite3_stmt* SqliteBackend::cachedStatement(const QString& sql)
+{
+    const auto found = m_writeStatements.constFind(sql);
+    if (found != m_writeStatements.constEnd()) {
+        sqlite3_reset(*found);
+        sqlite3_clear_bindings(*found);
+        return *found;
+    }
+    sqlite3_stmt* statement = prepare(sql.toUtf8(), sql).release();
+    m_writeStatements.insert(sql, statement);
+    return statement;
+}
+
+void SqliteBackend::bind(sqlite3_stmt* statement, int index, const QVariant& value, const QString& shownSql)
+{
+    int code = SQLITE_OK;
+    if (!value.isValid() || value.isNull()) {
+        code = sqlite3_bind_null(statement, index);
+    } else {
+        switch (value.typeId()) {
+        case QMetaType::Bool:
+            code = sqlite3_bind_int64(statement, index, value.toBool() ? -1 : 0);
+            break;
+        case QMetaType::Int:
+        case QMetaType::UInt:
+        case QMetaType::LongLong:
+        case QMetaType::Short:
+        case QMetaType::UShort:
+            code = sqlite3_bind_int64(statement, index, value.toLongLong());
+            break;
+        case QMetaType::ULongLong:
+        case QMetaType::Double:
+        case QMetaType::Float:
+            code = sqlite3_bind_double(statement, index, value.toDouble());
+            break;
+        case QMetaType::QByteArray: {
+            const QByteArray bytes = value.toByteArray();
+            code = sqlite3_bind_blob64(
+                statement, index, bytes.constData(), sqlite3_uint64(bytes.size()), SQLITE_TRANSIENT);
+            break;
+        }
+        default: {
+            QString text;
+            if (value.typeId() == QMetaType::QDate)
+                text = IsoText(value.toDate());
+            else if (value.typeId() == QMetaType::QDateTime)
+                text = IsoText(value.toDateTime());
+            else
+                text = value.toString();
+            const QByteArray utf8 = text.toUtf8();
+            code = sqlite3_bind_text64(statement, index, utf8.constData(), sqlite3_uint64(utf8.size()),
+                SQLITE_TRANSIENT, SQLITE_UTF8);
+            break;
+        }
+        }
+    }
+    if (code != SQLITE_OK)
+        fail(code, shownSql);
+}
+
+QVariant SqliteBackend::insertRow(
+    const TableSchema& table, const QStringList& columns, const QVariantList& values)
+{
+    QString sql = QStringLiteral("INSERT INTO ") + quoted(table.name);
+    if (columns.isEmpty()) {
+        sql += QStringLiteral(" DEFAULT VALUES");
+    } else {
+        QStringList names;
+        for (const QString& column : columns)
+            names << quoted(column);
+        sql += QStringLiteral(" (") + names.join(u',') + QStringLiteral(") VALUES (")
+            + QString(QStringLiteral("?,")).repeated(columns.size()).chopped(1) + u')';
+    }
+    sqlite3_stmt* statement = cachedStatement(sql);
+    for (int i = 0; i < values.size(); ++i)
+        bind(statement, i + 1, values[i], sql);
+    run(statement, sql);
+    if (!table.keyGenerated) {
+        for (qsizetype i = 0; i < columns.size(); ++i) {
+            if (columns[i].compare(table.key, Qt::CaseInsensitive) == 0)
+                return values[i];
+        }
+    }
+    return QVariant(qint64(sqlite3_last_insert_rowid(m_db)));
+}
+
+void SqliteBackend::updateRow(const TableSchema& table, const QString& keyName, const QVariant& key,
+    const QStringList& columns, const QVariantList& values)
+{
+    if (columns.isEmpty())
+        return;
+    QStringList assignments;
+    for (const QString& column : columns)
+        assignments << quoted(column) + QStringLiteral("=?");
+    const QString sql = QStringLiteral("UPDATE ") + quoted(table.name) + QStringLiteral(" SET ")
+        + assignments.join(u',') + QStringLiteral(" WHERE ") + quoted(keyName) + QStringLiteral("=?");
+    sqlite3_stmt* statement = cachedStatement(sql);
+    for (int i = 0; i < values.size(); ++i)
+        bind(statement, i + 1, values[i], sql);
+    bind(statement, int(values.size()) + 1, key, sql);
+    if (run(statement, sql) == 0)
+        ThrowError(ErrorNumber::CommandFailed,
+            QStringLiteral("Row cannot be located for updating: another user may have deleted it (")
+                + table.name + u' ' + keyName + u'=' + key.toString() + u')',
+            ConnectionSource);
+}
+
+void SqliteBackend::deleteRow(const TableSchema& table, const QString& keyName, const QVariant& key)
+{
+    const QString sql = QStringLiteral("DELETE FROM ") + quoted(table.name) + QStringLiteral(" WHERE ")
+        + quoted(keyName) + QStringLiteral("=?");
+    sqlite3_stmt* statement = cachedStatement(sql);
+    bind(statement, 1, key, sql);
+    run(statement, sql);
+}
+
+void SqliteBackend::beginTransaction()
+{
+    // The outermost transaction takes the write lock at once, so that two writers queue
+    // on the busy timeout instead of failing in the middle.
+    const QString sql = m_depth == 0 ? QStringLiteral("BEGIN IMMEDIATE")
+                                     : QStringLiteral("SAVEPOINT level") + QString::number(m_depth);
+    execute(sql);
+    ++m_depth;
+}
+
+void SqliteBackend::commitTransaction()
+{
+    if (m_depth == 0)
+        ThrowError(ErrorNumber::CommandFailed, QStringLiteral("There is no transaction to commit."),
+            ConnectionSource);
+    const QString sql = m_depth == 1 ? QStringLiteral("COMMIT")
+                                     : QStringLiteral("RELEASE level") + QString::number(m_depth - 1);
+    execute(sql);
+    --m_depth;
+}
+
+void SqliteBackend::rollbackTransaction()
+{
+    if (m_depth == 0)
+        ThrowError(ErrorNumber::CommandFailed, QStringLiteral("There is no transaction to roll back."),
+            ConnectionSource);
+    if (m_depth == 1) {
+        execute(QStringLiteral("ROLLBACK"));
+    } else {
+        const QString name = QStringLiteral("level") + QString::number(m_depth - 1);
+        execute(QStringLiteral("ROLLBACK TO ") + name);
+        execute(QStringLiteral("RELEASE ") + name);
+    }
+    --m_depth;
+}
+
+} // namespace kartella::engine

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "store/engine/Backend.h"
+
+#include <QHash>
+
+#include <map>
+#include <memory>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace kartella::engine {
+
+// The embedded back end: a register file read and written through the sqlite3 C API.
+// Every connection gets the NAMEFOLD collation, the engine's LIKE and a busy timeout, so
+// that two programs on one file wait for each other.
+class SqliteBackend final : public Backend
+{
+public:
+    // Opens an existing register file; never creates one. An empty file opens as an empty
+    // database, for the schema to be made in it. Throws ErrorNumber::ConnectionFailed.
+    static std::unique_ptr<SqliteBackend> open(const QString& path);
+    ~SqliteBackend() override;
+
+    static constexpr int BusyTimeoutMs = 10000;
+
+    void execute(const QString& sql) override;
+    QueryResult query(const QString& sql) override;
+    const TableSchema& tableSchema(const QString& table) override;
+    QVariant insertRow(
+        const TableSchema& table, const QStringList& columns, const QVariantList& values) override;
+    void updateRow(const TableSchema& table, const QString& keyName, const QVariant& key,
+        const QStringList& columns, const QVariantList& values) override;
+    void deleteRow(const TableSchema& table, const QString& keyName, const QVariant& key) override;
+    void beginTransaction() override;
+    void commitTransaction() override;
+    void rollbackTransaction() override;
+
+private:
+    explicit SqliteBackend(sqlite3* db);
+
+    // A prepared statement that finalizes itself.
+    struct StatementDeleter
+    {
+        void operator()(sqlite3_stmt* statement) const;
+    };
+    using Statement = std::unique_ptr<sqlite3_stmt, StatementDeleter>;
+
+    Statement prepare(const QByteArray& sql, const QString& shownSql, const char** tail = nullptr);
+    // A cached statement for the writes of recordsets, reset and with its bindings cleared.
+    sqlite3_stmt* cachedStatement(const QString& sql);
+    void bind(sqlite3_stmt* statement, int index, const QVariant& value, const QString& shownSql);
+    // Steps a statement that returns no rows; gives the number of rows it changed.
+    int run(sqlite3_stmt* statement, const QString& shownSql);
+    [[noreturn]] void fail(int code, const QString& shownSql) const;
+    void readRows(
+        sqlite3_stmt* statement, QueryResult& result, const std::vector<int>& order, const QString& shownSql);
+
+    sqlite3* m_db;
+    int m_depth = 0;
+    std::map<QString, TableSchema> m_schemas; // by lower-case name
+    QHash<QString, sqlite3_stmt*> m_writeStatements;
+};
+
+// Registers NAMEFOLD and like() on a connection; false when SQLite refused.
+bool RegisterTextFunctions(sqlite3* db);
+
+} // namespace kartella::engine

@@ -1,0 +1,154 @@
+#include "store/engine/ValueConversion.h"
+
+#include "store/engine/DateText.h"
+#include "store/engine/EngineErrors.h"
+
+#include <QDate>
+#include <QDateTime>
+#include <QLocale>
+
+#include <cmath>
+#include <limits>
+
+namespace kartella::engine {
+
+namespace {
+
+[[noreturn]] void mismatch(const QVariant& value, const QString& expected, const QString& fieldName)
+{
+    ThrowError(ErrorNumber::TypeMismatch,
+        QStringLiteral("Type mismatch: '") + value.toString() + QStringLiteral("' is not ") + expected
+            + QStringLiteral(" (field ") + fieldName + QStringLiteral(")."));
+}
+
+bool isText(const QVariant& value)
+{
+    return value.typeId() == QMetaType::QString || value.typeId() == QMetaType::QChar;
+}
+
+QVariant wholeNumber(qint64 number)
+{
+    if (number >= std::numeric_limits<int>::min() && number <= std::numeric_limits<int>::max())
+        return int(number);
+    return number;
+}
+
+// A number from text: C form first, then the locale's.
+bool readReal(const QString& text, double& number)
+{
+    bool ok = false;
+    number = text.toDouble(&ok);
+    if (!ok)
+        number = QLocale::system().toDouble(text, &ok);
+    if (!ok)
+        number = QLocale().toDouble(text, &ok);
+    return ok && std::isfinite(number);
+}
+
+QVariant toInteger(const QVariant& value, const QString& fieldName)
+{
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+        return value.toBool() ? -1 : 0;
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::Short:
+    case QMetaType::UShort:
+        return wholeNumber(value.toLongLong());
+    case QMetaType::ULongLong:
+    case QMetaType::Double:
+    case QMetaType::Float: {
+        const double number = std::nearbyint(value.toDouble());
+        if (!std::isfinite(number) || std::abs(number) > 9.2e18)
+            ThrowError(ErrorNumber::Overflow,
+                QStringLiteral("Overflow: ") + value.toString() + QStringLiteral(" doesn't fit field ")
+                    + fieldName + u'.');
+        return wholeNumber(qint64(number));
+    }
+    default:
+        break;
+    }
+    if (!isText(value))
+        mismatch(value, QStringLiteral("a whole number"), fieldName);
+    const QString text = value.toString().trimmed();
+    if (text.isEmpty())
+        return {};
+    bool ok = false;
+    const qint64 number = text.toLongLong(&ok);
+    if (ok)
+        return wholeNumber(number);
+    double real = 0;
+    if (!readReal(text, real))
+        mismatch(value, QStringLiteral("a whole number"), fieldName);
+    return toInteger(real, fieldName);
+}
+
+QVariant toReal(const QVariant& value, const QString& fieldName)
+{
+    if (isText(value)) {
+        const QString text = value.toString().trimmed();
+        if (text.isEmpty())
+            return {};
+        double number = 0;
+        if (!readReal(text, number))
+            mismatch(value, QStringLiteral("a number"), fieldName);
+        return number;
+    }
+    bool ok = false;
+    const double number = value.toDouble(&ok);
+    if (!ok || value.typeId() == QMetaType::QDate || value.typeId() == QMetaType::QDateTime)
+        mismatch(value, QStringLiteral("a number"), fieldName);
+    return number;
+}
+
+QVariant toDate(const QVariant& value, const QString& fieldName)
+{
+    if (value.typeId() == QMetaType::QDate) {
+        if (!value.toDate().isValid())
+            mismatch(value, QStringLiteral("a date"), fieldName);
+        return value;
+    }
+    if (value.typeId() == QMetaType::QDateTime) {
+        if (!value.toDateTime().isValid())
+            mismatch(value, QStringLiteral("a date"), fieldName);
+        return value;
+    }
+    if (!isText(value))
+        mismatch(value, QStringLiteral("a date"), fieldName);
+    if (value.toString().trimmed().isEmpty())
+        return {};
+    const QVariant date = ParseUserDate(value.toString());
+    if (!date.isValid())
+        mismatch(value, QStringLiteral("a date"), fieldName);
+    return date;
+}
+
+} // namespace
+
+QVariant ConvertForColumn(const QVariant& value, ValueKind kind, const QString& fieldName)
+{
+    if (!value.isValid() || value.isNull())
+        return {};
+    switch (kind) {
+    case ValueKind::Integer:
+        return toInteger(value, fieldName);
+    case ValueKind::Real:
+        return toReal(value, fieldName);
+    case ValueKind::Date:
+    case ValueKind::DateTime:
+        return toDate(value, fieldName);
+    case ValueKind::Text:
+        if (value.typeId() == QMetaType::QDate)
+            return IsoText(value.toDate());
+        if (value.typeId() == QMetaType::QDateTime)
+            return IsoText(value.toDateTime());
+        return value.toString();
+    case ValueKind::Null:
+    case ValueKind::Blob:
+        break;
+    }
+    return value;
+}
+
+} // namespace kartella::engine

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "store/engine/Connection.h"
+#include "store/engine/Recordset.h"
+
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <memory>
+
+namespace kartella::test {
+
+// A register in a temporary folder, made by CreateRegister, with a connection open on it.
+class EngineRegister
+{
+public:
+    EngineRegister();
+
+    bool isValid() const { return m_valid; }
+    QString path() const { return m_path; }
+    QString folder() const { return m_dir.path(); }
+    QString connectionString() const;
+    Connection& connection() { return *m_connection; }
+    void execute(const QString& sql) { m_connection->Execute(sql); }
+
+    // Contacts 1 "Petras", 2 "Ąžuolas", 3 "Šarūnas", 4 "šilas", 5 "Saulius"; documents 1..3
+    // of contact 1 (1, 2) and none (3), in categories 7, 7, 8; reminders 1, 2 of document 1.
+    void fillSmall();
+
+    // The value of the first row's first column of a SELECT.
+    QVariant scalar(const QString& sql);
+
+private:
+    QTemporaryDir m_dir;
+    QString m_path;
+    std::unique_ptr<Connection> m_connection;
+    bool m_valid = false;
+};
+
+// The fields of each row from the current one to the end, joined by "|", Null as "-".
+QStringList Rows(Recordset& recordset, const QStringList& fields);
+
+} // namespace kartella::test

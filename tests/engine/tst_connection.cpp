@@ -1,0 +1,237 @@
+#include "EngineFixture.h"
+#include "store/Store.h"
+#include "store/engine/Connection.h"
+#include "store/engine/Recordset.h"
+#include "support/Error.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QSemaphore>
+#include <QTest>
+#include <QThread>
+
+using namespace kartella;
+using namespace kartella::test;
+
+namespace {
+
+// The error that opening the connection string gives, or -1 and "" when it opens.
+std::pair<long, QString> openError(const QString& connectionString)
+{
+    try {
+        Connection connection;
+        connection.Open(connectionString);
+        return {-1, QString()};
+    } catch (const Error& error) {
+        return {error.number(), error.description()};
+    }
+}
+
+void writeFile(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+} // namespace
+
+class ConnectionTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void connectionStringForms_data()
+    {
+        QTest::addColumn<QString>("form");
+        const QString jet = QStringLiteral("Microsoft.Jet.OLEDB.4.0");
+        const QString old = QStringLiteral("microsoft.jet.oledb.3.51");
+        QTest::newRow("plain") << PlainConnectionString(jet, QStringLiteral("%1"));
+        QTest::newRow("upper") << UpperConnectionString(old, QStringLiteral("%1"));
+        QTest::newRow("shape") << ShapeConnectionString(jet, QStringLiteral("%1"));
+        QTest::newRow("shape prefix") << ShapePrefixConnectionString(old, QStringLiteral("%1"));
+        QTest::newRow("shape upper") << ShapeUpperConnectionString(jet, QStringLiteral("%1"));
+        QTest::newRow("odd case and blanks")
+            << QStringLiteral("provider = MICROSOFT.JET.OLEDB.4.0 ;data source=  %1  ");
+    }
+
+    // Every form opens the file at Data Source, also when its path holds blanks.
+    void connectionStringForms()
+    {
+        QFETCH(QString, form);
+        EngineRegister reg;
+        const QString spaced = reg.folder() + QStringLiteral("/a folder; with blanks/My register.mdb");
+        QVERIFY(QDir().mkpath(QFileInfo(spaced).path()));
+        QVERIFY(QFile::copy(reg.path(), spaced));
+        Connection connection;
+        connection.Open(form.arg(spaced));
+        QVERIFY(connection.IsOpen());
+        connection.Execute(QStringLiteral("INSERT INTO tbl_Contacts (FullName) VALUES ('x')"));
+        connection.Close();
+        QVERIFY(!connection.IsOpen());
+    }
+
+    void openFailures_data()
+    {
+        QTest::addColumn<QString>("connectionString");
+        QTest::addColumn<QString>("described");
+
+        // Paths are relative to the test's folder, written as {dir}.
+        const QString jet = QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source= {dir}/");
+        QTest::newRow("missing file") << jet + "none.mdb"
+                                      << "Could not find file '{dir}/none.mdb'.";
+        QTest::newRow("folder") << jet + "folder"
+                                << "is a folder";
+        QTest::newRow("text file") << jet + "notes.txt"
+                                   << "is not a register";
+        QTest::newRow("damaged") << jet + "damaged.mdb"
+                                 << "may be damaged";
+        QTest::newRow("other database") << jet + "other.db"
+                                        << "has no table tbl_Documents";
+        QTest::newRow("jet file") << jet + "old.mdb"
+                                  << "kartella-db migrate";
+        QTest::newRow("ace file") << jet + "new.accdb"
+                                  << "Microsoft Access database";
+        QTest::newRow("unknown provider")
+            << "Provider=SQLOLEDB;Data Source= {dir}/good.mdb"
+            << "'SQLOLEDB'. Set the Provider option to Microsoft.Jet.OLEDB.4.0 or "
+               "Microsoft.Jet.OLEDB.3.51.";
+        QTest::newRow("shape without data provider") << "Provider=MSDataShape;Data Source= {dir}/good.mdb"
+                                                     << "names no provider";
+        QTest::newRow("no data source") << "Provider=Microsoft.Jet.OLEDB.4.0"
+                                        << "no Data Source";
+    }
+
+    void openFailures()
+    {
+        QFETCH(QString, connectionString);
+        QFETCH(QString, described);
+        EngineRegister reg;
+        const QString dir = reg.folder();
+        QVERIFY(QFile::copy(reg.path(), dir + "/good.mdb"));
+        QVERIFY(QDir(dir).mkdir("folder"));
+        writeFile(dir + "/notes.txt", "Not a database at all, just some text that is long enough.");
+        QFile original(reg.path());
+        QVERIFY(original.open(QIODevice::ReadOnly));
+        QByteArray damaged = original.readAll();
+        damaged.replace(100, 4000, QByteArray(4000, '\x5A'));
+        writeFile(dir + "/damaged.mdb", damaged);
+        QByteArray jetHeader(2048, '\0');
+        jetHeader.replace(0, 19, QByteArray("\x00\x01\x00\x00Standard Jet DB", 19));
+        writeFile(dir + "/old.mdb", jetHeader);
+        jetHeader.replace(4, 15, "Standard ACE DB");
+        writeFile(dir + "/new.accdb", jetHeader);
+        // A database of another program: an SQLite file without the register's tables.
+        writeFile(dir + "/other.db", QByteArray());
+        Connection other(
+            QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source= ") + dir + "/other.db");
+        other.Open();
+        other.Execute("CREATE TABLE other (a)");
+        other.Close();
+
+        const auto [number, description] = openError(QString(connectionString).replace("{dir}", dir));
+        QCOMPARE(number, ErrorNumber::ConnectionFailed);
+        QVERIFY2(description.contains(QString(described).replace("{dir}", dir)), qPrintable(description));
+        QVERIFY(!QFileInfo::exists(dir + "/none.mdb"));
+    }
+
+    void commandFailure()
+    {
+        EngineRegister reg;
+        try {
+            reg.execute(QStringLiteral("DELETE tbl_Nothing.* FROM tbl_Nothing WHERE tbl_Nothing.ID=1"));
+            QFAIL("no error");
+        } catch (const Error& error) {
+            QCOMPARE(error.number(), ErrorNumber::CommandFailed);
+            QVERIFY2(
+                error.description().contains("no such table: tbl_Nothing"), qPrintable(error.description()));
+            QVERIFY(
+                error.description().contains("DELETE tbl_Nothing.* FROM tbl_Nothing WHERE tbl_Nothing.ID=1"));
+        }
+        Connection closed;
+        QVERIFY_THROWS_EXCEPTION(Error, closed.Execute("SELECT 1"));
+    }
+
+    // The statements of the program in Jet's dialect change the rows they name.
+    void deleteAndUpdateStatements()
+    {
+        EngineRegister reg;
+        reg.fillSmall();
+        reg.execute(
+            "INSERT INTO tbl_Sub_Categories (SubKategID, KategID, DokSubKategorija) VALUES (1, 7, 'A'), "
+            "(2, 0, 'B'), (3, 7, Null), (4, 8, 'D')");
+        reg.execute(
+            "DELETE tbl_Sub_Categories.*, tbl_Sub_Categories.KategID, tbl_Sub_Categories.DokSubKategorija "
+            "From tbl_Sub_Categories WHERE (tbl_Sub_Categories.DokSubKategorija Is Null) OR KategID=0;");
+        QCOMPARE(
+            reg.scalar("SELECT group_concat(SubKategID) FROM tbl_Sub_Categories").toString(), QString("1,4"));
+        reg.execute("DELETE tbl_Documents.* FROM tbl_Documents WHERE tbl_Documents.RastasID=2");
+        reg.execute("UPDATE tbl_Documents SET tbl_Documents.RastoKel = '/tmp/it''s #1/2/2024#.doc' WHERE "
+                    "(((tbl_Documents.RastasID)=3));");
+        QCOMPARE(reg.scalar("SELECT group_concat(RastasID) FROM tbl_Documents").toString(), QString("1,3"));
+        QCOMPARE(reg.scalar("SELECT RastoKel FROM tbl_Documents WHERE RastasID=3").toString(),
+            QString("/tmp/it's #1/2/2024#.doc"));
+        const QVariant date = reg.scalar("SELECT DokRegistracData FROM tbl_Documents WHERE "
+                                         "DokRegistracData between #2/29/2024# and #3/1/2024#");
+        QCOMPARE(date, QVariant(QDate(2024, 3, 1)));
+    }
+
+    // A writer that finds the file locked by another connection's transaction waits for it.
+    void secondWriterWaits()
+    {
+        EngineRegister reg;
+        QSemaphore locked;
+        QSemaphore release;
+        QString threadError;
+        QThread* holder = QThread::create([&] {
+            try {
+                Connection other(reg.connectionString());
+                other.Open();
+                other.BeginTrans();
+                other.Execute("INSERT INTO tbl_Contacts (FullName) VALUES ('first')");
+                locked.release();
+                release.acquire();
+                QThread::msleep(700);
+                other.CommitTrans();
+            } catch (const Error& error) {
+                threadError = error.description();
+                locked.release();
+            }
+        });
+        holder->start();
+        locked.acquire();
+        release.release();
+        QElapsedTimer timer;
+        timer.start();
+        reg.execute("INSERT INTO tbl_Contacts (FullName) VALUES ('second')");
+        const qint64 waited = timer.elapsed();
+        holder->wait();
+        delete holder;
+        QVERIFY2(threadError.isEmpty(), qPrintable(threadError));
+        QVERIFY2(waited >= 500, qPrintable(QString::number(waited)));
+        QCOMPARE(reg.scalar("SELECT group_concat(FullName) FROM tbl_Contacts").toString(),
+            QString("first,second"));
+    }
+
+    void transactions()
+    {
+        EngineRegister reg;
+        reg.connection().BeginTrans();
+        reg.execute("INSERT INTO tbl_Contacts (FullName) VALUES ('kept')");
+        reg.connection().CommitTrans();
+        reg.connection().BeginTrans();
+        reg.execute("INSERT INTO tbl_Contacts (FullName) VALUES ('dropped')");
+        reg.connection().RollbackTrans();
+        QCOMPARE(reg.scalar("SELECT group_concat(FullName) FROM tbl_Contacts").toString(), QString("kept"));
+        QVERIFY_THROWS_EXCEPTION(Error, reg.connection().CommitTrans());
+    }
+};
+
+int RunConnectionTest(int argc, char** argv)
+{
+    ConnectionTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_connection.moc"

@@ -1,0 +1,161 @@
+#include "EngineFixture.h"
+#include "store/engine/JetDialect.h"
+#include "store/engine/Recordset.h"
+
+#include <QLocale>
+#include <QTest>
+
+using namespace kartella;
+using namespace kartella::test;
+
+class DialectTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void translation_data()
+    {
+        QTest::addColumn<QString>("jet");
+        QTest::addColumn<QString>("sqlite");
+
+        QTest::newRow("date range")
+            << "SELECT * FROM t WHERE d between #3/1/2024# and #4/12/2024# ORDER BY d"
+            << "SELECT * FROM t WHERE d between '2024-03-01' and '2024-04-12' ORDER BY d";
+        QTest::newRow("date with time") << "SELECT 1 WHERE d = #12/31/2023 14:05:09#"
+                                        << "SELECT 1 WHERE d = '2023-12-31 14:05:09'";
+        QTest::newRow("date with PM") << "SELECT 1 WHERE d < #1/2/2024 2:30 PM#"
+                                      << "SELECT 1 WHERE d < '2024-01-02 14:30:00'";
+        QTest::newRow("ISO date") << "SELECT 1 WHERE d = #2024-03-05#"
+                                  << "SELECT 1 WHERE d = '2024-03-05'";
+        QTest::newRow("delete star")
+            << "DELETE tbl_Documents.* FROM tbl_Documents WHERE tbl_Documents.RastasID=5"
+            << "DELETE FROM tbl_Documents WHERE tbl_Documents.RastasID=5";
+        QTest::newRow("delete field list")
+            << "DELETE tbl_Sub_Categories.*, tbl_Sub_Categories.KategID, tbl_Sub_Categories.DokSubKategorija "
+               "From "
+               "tbl_Sub_Categories WHERE (tbl_Sub_Categories.DokSubKategorija Is Null) OR KategID=0;"
+            << "DELETE From tbl_Sub_Categories WHERE (tbl_Sub_Categories.DokSubKategorija Is Null) OR "
+               "KategID=0";
+        QTest::newRow("plain delete") << "DELETE FROM t WHERE a=1"
+                                      << "DELETE FROM t WHERE a=1";
+        QTest::newRow("update qualified")
+            << "UPDATE tbl_Documents SET tbl_Documents.RastoKel = '/a/b.doc' WHERE "
+               "(((tbl_Documents.RastasID)=3));"
+            << "UPDATE tbl_Documents SET RastoKel = '/a/b.doc' WHERE (((tbl_Documents.RastasID)=3))";
+        QTest::newRow("update several") << "UPDATE t SET t.a = 1, `t`.b=(2), c = t.a WHERE t.a = 0"
+                                        << "UPDATE t SET a = 1, b=(2), c = t.a WHERE t.a = 0";
+        QTest::newRow("backticks") << "SELECT * FROM `qry_Phones`"
+                                   << "SELECT * FROM \"qry_Phones\"";
+        QTest::newRow("semicolon and blanks") << "SELECT 1;  \r\n"
+                                              << "SELECT 1";
+        QTest::newRow("literal untouched")
+            << "UPDATE t SET t.a = 'x #3/1/2024# `q` t.b = 1;' WHERE b = 'DELETE t.* FROM'"
+            << "UPDATE t SET a = 'x #3/1/2024# `q` t.b = 1;' WHERE b = 'DELETE t.* FROM'";
+        QTest::newRow("quote in literal") << "SELECT 1 WHERE FullName <> '\"' AND n = 'O''Brien #1/1/2000#'"
+                                          << "SELECT 1 WHERE FullName <> '\"' AND n = 'O''Brien #1/1/2000#'";
+        QTest::newRow("right join")
+            << "SELECT tbl_Documents.RastasID, tbl_Contacts.FullName FROM tbl_Contacts RIGHT JOIN "
+               "tbl_Documents ON "
+               "tbl_Contacts.ContactID = tbl_Documents.ContactID WHERE tbl_Documents.KategID=7 ORDER BY 1"
+            << "SELECT tbl_Documents.RastasID, tbl_Contacts.FullName FROM tbl_Documents LEFT JOIN "
+               "tbl_Contacts ON "
+               "tbl_Contacts.ContactID = tbl_Documents.ContactID WHERE tbl_Documents.KategID=7 ORDER BY 1";
+        QTest::newRow("right join of a join")
+            << "SELECT a.x, count(*) FROM `a` RIGHT OUTER JOIN (b INNER JOIN c ON b.k=c.k) ON a.i=c.i"
+            << "SELECT a.x, count(*) FROM (b INNER JOIN c ON b.k=c.k) LEFT JOIN \"a\" ON a.i=c.i";
+        QTest::newRow("right join with star") << "SELECT * FROM a RIGHT JOIN b ON a.i=b.i"
+                                              << "SELECT * FROM a RIGHT JOIN b ON a.i=b.i";
+        QTest::newRow("right join among joins")
+            << "SELECT a.x FROM a RIGHT JOIN b ON a.i=b.i LEFT JOIN c ON c.i=b.i"
+            << "SELECT a.x FROM a RIGHT JOIN b ON a.i=b.i LEFT JOIN c ON c.i=b.i";
+        QTest::newRow("not a date") << "SELECT '#' || x, #abc# FROM t"
+                                    << "SELECT '#' || x, #abc# FROM t";
+    }
+
+    void translation()
+    {
+        QFETCH(QString, jet);
+        QFETCH(QString, sqlite);
+        QCOMPARE(engine::TranslateJetToSqlite(jet), sqlite);
+    }
+
+    void dateLiteralIsMonthFirstInAnyLocale()
+    {
+        const QLocale previous;
+        QLocale::setDefault(QLocale(QStringLiteral("lt_LT")));
+        const QString translated = engine::TranslateJetToSqlite(QStringLiteral("SELECT #3/5/2024#"));
+        QLocale::setDefault(previous);
+        QCOMPARE(translated, QStringLiteral("SELECT '2024-03-05'"));
+    }
+
+    // Like: wildcards, case of every letter, accents kept.
+    void like_data()
+    {
+        QTest::addColumn<QString>("pattern");
+        QTest::addColumn<QStringList>("names");
+
+        QTest::newRow("š%") << "š%" << QStringList {"šilas", "Šarūnas"};
+        QTest::newRow("Š%") << "Š%" << QStringList {"šilas", "Šarūnas"};
+        QTest::newRow("s%") << "s%" << QStringList {"Saulius", "sąžinė"};
+        QTest::newRow("%ŪN%") << "%ŪN%" << QStringList {"Šarūnas"};
+        QTest::newRow("ą_uolas") << "ą_uolas" << QStringList {"Ąžuolas"};
+        QTest::newRow("exact, other case") << "ĄŽUOLAS" << QStringList {"Ąžuolas"};
+        QTest::newRow("cyrillic and greek") << "жук%" << QStringList {"ЖУКОВ", "Жуков"};
+        QTest::newRow("german") << "ÜBER" << QStringList {"über"};
+        QTest::newRow("nothing") << "x%" << QStringList {};
+        QTest::newRow("percent first") << "%S" << QStringList {"Saulius", "Šarūnas", "šilas", "Ąžuolas"};
+        QTest::newRow("percent inside") << "s%s" << QStringList {"Saulius"};
+    }
+
+    void like()
+    {
+        QFETCH(QString, pattern);
+        QFETCH(QStringList, names);
+        EngineRegister reg;
+        reg.execute(
+            QStringLiteral("INSERT INTO tbl_Contacts (FullName) VALUES ('Šarūnas'), ('šilas'), ('Saulius'), "
+                           "('Ąžuolas'), ('sąžinė'), ('ЖУКОВ'), ('Жуков'), ('über'), (Null)"));
+        Recordset recordset;
+        recordset.Open(QStringLiteral("SELECT FullName FROM tbl_Contacts WHERE FullName Like '") + pattern
+                + QStringLiteral("' ORDER BY ContactID"),
+            reg.connection());
+        QStringList found = Rows(recordset, {QStringLiteral("FullName")});
+        found.sort();
+        names.sort();
+        QCOMPARE(found, names);
+    }
+
+    void likeEscape()
+    {
+        EngineRegister reg;
+        QCOMPARE(reg.scalar(QStringLiteral("SELECT '50%' LIKE '50!%' ESCAPE '!'")).toInt(), 1);
+        QCOMPARE(reg.scalar(QStringLiteral("SELECT '500' LIKE '50!%' ESCAPE '!'")).toInt(), 0);
+        QCOMPARE(reg.scalar(QStringLiteral("SELECT '' LIKE '%'")).toInt(), 1);
+        QVERIFY(IsNull(reg.scalar(QStringLiteral("SELECT NULL LIKE '%'"))));
+    }
+
+    void nameOrder()
+    {
+        EngineRegister reg;
+        reg.execute(
+            QStringLiteral("INSERT INTO tbl_Contacts (FullName) VALUES ('Benas'), ('Yla'), ('Ąžuolas'), "
+                           "('antanas'), ('Žygimantas'), ('Antanas'), ('Zita'), ('Čepas'), ('Cezaris'), "
+                           "('Ūla'), ('Ugnė'), ('Yoda'), ('Ėglė'), ('Eglė'), ('Daiva')"));
+        Recordset recordset;
+        recordset.Open(
+            QStringLiteral("SELECT FullName FROM tbl_Contacts ORDER BY FullName"), reg.connection());
+        // Folded equal names keep a fixed order by their bytes: "Antanas" before "antanas",
+        // "Eglė" before "Ėglė".
+        QCOMPARE(Rows(recordset, {QStringLiteral("FullName")}),
+            QStringList({"Antanas", "antanas", "Ąžuolas", "Benas", "Čepas", "Cezaris", "Daiva", "Eglė",
+                "Ėglė", "Ugnė", "Ūla", "Yla", "Yoda", "Zita", "Žygimantas"}));
+    }
+};
+
+int RunDialectTest(int argc, char** argv)
+{
+    DialectTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_dialect.moc"

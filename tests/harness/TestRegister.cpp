@@ -1,0 +1,122 @@
+#include "harness/TestRegister.h"
+
+#include "options/FirstRun.h"
+#include "options/OptionStore.h"
+#include "store/InsertBatch.h"
+#include "store/Schema.h"
+#include "store/Store.h"
+#include "store/engine/Connection.h"
+#include "store/engine/Recordset.h"
+#include "support/Error.h"
+
+#include <QHash>
+
+namespace kartella::test {
+
+namespace {
+
+const QString Provider = QStringLiteral("Microsoft.Jet.OLEDB.4.0");
+
+QString KeyOf(const QString& table)
+{
+    static const QHash<QString, QString> keys = {
+        {QStringLiteral("tbl_documents"), QStringLiteral("RastasID")},
+        {QStringLiteral("tbl_sub_documents"), QStringLiteral("SubRastasID")},
+        {QStringLiteral("tbl_document_categories"), QStringLiteral("KategID")},
+        {QStringLiteral("tbl_sub_categories"), QStringLiteral("SubKategID")},
+        {QStringLiteral("tbl_contacts"), QStringLiteral("ContactID")},
+        {QStringLiteral("tbl_phones"), QStringLiteral("PhoneID")},
+        {QStringLiteral("tbl_homepages"), QStringLiteral("HomeID")},
+        {QStringLiteral("tbl_tickler"), QStringLiteral("TicklerID")},
+    };
+    const QString key = keys.value(table.toLower());
+    if (key.isEmpty())
+        throw Error(ErrorNumber::ItemNotFound, QStringLiteral("No key known for table ") + table);
+    return key;
+}
+
+} // namespace
+
+TestRegister::TestRegister(const QString& fileName)
+    : m_path(m_dir.filePath(fileName))
+    , m_previousConfig(qgetenv("XDG_CONFIG_HOME"))
+    , m_hadConfig(qEnvironmentVariableIsSet("XDG_CONFIG_HOME"))
+{
+    if (!m_dir.isValid())
+        throw Error(ErrorNumber::PathFileAccess, QStringLiteral("Can't make a temporary folder"));
+    qputenv("XDG_CONFIG_HOME", m_dir.filePath(QStringLiteral("config")).toUtf8());
+    try {
+        SeedOptionsIfMissing();
+        CreateRegister(m_path);
+        SetRegValue(QStringLiteral("DbLocation"), m_path);
+        SetRegValue(QStringLiteral("Provider"), Provider);
+    } catch (...) {
+        restoreConfig();
+        throw;
+    }
+}
+
+TestRegister::~TestRegister()
+{
+    restoreConfig();
+}
+
+void TestRegister::restoreConfig() const
+{
+    if (m_hadConfig)
+        qputenv("XDG_CONFIG_HOME", m_previousConfig);
+    else
+        qunsetenv("XDG_CONFIG_HOME");
+}
+
+QString TestRegister::connectionString() const
+{
+    return PlainConnectionString(Provider, m_path);
+}
+
+void TestRegister::exec(const QString& sql) const
+{
+    Connection connection(connectionString());
+    connection.Open();
+    connection.Execute(sql);
+}
+
+QVariant TestRegister::scalar(const QString& sql) const
+{
+    Connection connection(connectionString());
+    connection.Open();
+    Recordset recordset;
+    recordset.Open(sql, connection);
+    return recordset.Eof() || recordset.FieldCount() == 0 ? QVariant() : recordset.Fields(0).Value();
+}
+
+qint32 TestRegister::insert(const QString& table, const QVariantMap& values) const
+{
+    const QString key = KeyOf(table);
+    QStringList fields;
+    QStringList literals;
+    for (auto it = values.cbegin(); it != values.cend(); ++it) {
+        fields << it.key();
+        literals << SqlLiteral(it.value());
+    }
+    QString sql = QStringLiteral("INSERT INTO ") + table;
+    sql += fields.isEmpty() ? QStringLiteral(" DEFAULT VALUES")
+                            : QStringLiteral(" (") + fields.join(u',') + QStringLiteral(") VALUES (")
+            + literals.join(u',') + u')';
+    Connection connection(connectionString());
+    connection.Open();
+    connection.Execute(sql);
+    // A given key is the new one; otherwise the generator's latest.
+    if (values.contains(key))
+        return values.value(key).toInt();
+    Recordset last;
+    last.Open(QStringLiteral("SELECT MAX(") + key + QStringLiteral(") AS NewKey FROM ") + table, connection);
+    return last.Fields(QStringLiteral("NewKey")).Value().toInt();
+}
+
+void TestRegister::fillSample(const SampleOptions& options) const
+{
+    FillSampleRegister(m_path, options);
+}
+
+} // namespace kartella::test

@@ -1,0 +1,99 @@
+#include "Arguments.h"
+
+namespace kartella::tool {
+
+namespace {
+
+// "--name value" or "--name=value"; advances i past what it took.
+std::optional<QString> OptionValue(const QStringList& arguments, int& i, const QString& name)
+{
+    const QString& argument = arguments.at(i);
+    if (argument.startsWith(name + u'='))
+        return argument.mid(name.size() + 1);
+    if (argument != name || i + 1 >= arguments.size())
+        return std::nullopt;
+    return arguments.at(++i);
+}
+
+} // namespace
+
+QString UsageText()
+{
+    return QStringLiteral("Usage: kartella-db create PATH\n"
+                          "       kartella-db sample PATH [--documents N] [--seed S]\n"
+                          "       kartella-db info PATH\n"
+                          "       kartella-db --help\n"
+                          "\n"
+                          "  create   makes a new, empty register at PATH (an existing file is refused)\n"
+                          "  sample   makes a new register at PATH and fills it with sample data;\n"
+                          "           its files go into the folder \"<name> files\" beside it\n"
+                          "           (N documents, default 400; the same seed S gives the same data)\n"
+                          "  info     counts the rows of each table of the register at PATH\n"
+                          "\n"
+                          "Exit codes: 0 success, 1 failure, 2 usage error.\n");
+}
+
+std::optional<Invocation> ParseArguments(const QStringList& arguments, QString& problem)
+{
+    if (arguments.isEmpty()) {
+        problem = QStringLiteral("no command given");
+        return std::nullopt;
+    }
+    Invocation invocation;
+    const QString& command = arguments.first();
+    if (command == u"--help" || command == u"-h" || command == u"help") {
+        if (arguments.size() == 1)
+            return invocation;
+        problem = QStringLiteral("--help takes no arguments");
+        return std::nullopt;
+    }
+    if (command == u"create")
+        invocation.command = Invocation::Command::Create;
+    else if (command == u"sample")
+        invocation.command = Invocation::Command::Sample;
+    else if (command == u"info")
+        invocation.command = Invocation::Command::Info;
+    else {
+        problem = QStringLiteral("unknown command \"") + command + u'"';
+        return std::nullopt;
+    }
+
+    QStringList paths;
+    for (int i = 1; i < arguments.size(); ++i) {
+        const QString& argument = arguments.at(i);
+        if (!argument.startsWith(QStringLiteral("--")) || argument == u"--") {
+            paths << argument;
+            continue;
+        }
+        if (invocation.command != Invocation::Command::Sample) {
+            problem = QStringLiteral("unknown option \"") + argument + u'"';
+            return std::nullopt;
+        }
+        bool ok = false;
+        if (const auto value = OptionValue(arguments, i, QStringLiteral("--documents"))) {
+            invocation.documents = value->toInt(&ok);
+            if (!ok || invocation.documents < 0) {
+                problem = QStringLiteral("--documents needs a whole number of 0 or more");
+                return std::nullopt;
+            }
+        } else if (const auto seed = OptionValue(arguments, i, QStringLiteral("--seed"))) {
+            invocation.seed = seed->toUInt(&ok);
+            if (!ok) {
+                problem = QStringLiteral("--seed needs a whole number from 0 to 4294967295");
+                return std::nullopt;
+            }
+        } else {
+            problem = QStringLiteral("unknown option or missing value: \"") + argument + u'"';
+            return std::nullopt;
+        }
+    }
+    if (paths.size() != 1) {
+        problem
+            = paths.isEmpty() ? QStringLiteral("no PATH given") : QStringLiteral("more than one PATH given");
+        return std::nullopt;
+    }
+    invocation.path = paths.first();
+    return invocation;
+}
+
+} // namespace kartella::tool

@@ -1,0 +1,72 @@
+#include "Commands.h"
+
+#include "store/SampleRegister.h"
+#include "store/Schema.h"
+#include "store/Store.h"
+#include "store/engine/Connection.h"
+#include "store/engine/Recordset.h"
+#include "support/Error.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QStringList>
+
+namespace kartella::tool {
+
+namespace {
+
+const QStringList Tables = {
+    QStringLiteral("tbl_Document_Categories"),
+    QStringLiteral("tbl_Sub_Categories"),
+    QStringLiteral("tbl_Documents"),
+    QStringLiteral("tbl_Sub_Documents"),
+    QStringLiteral("tbl_Tickler"),
+    QStringLiteral("tbl_Contacts"),
+    QStringLiteral("tbl_Phones"),
+    QStringLiteral("tbl_HomePages"),
+};
+
+} // namespace
+
+void CreateCommand(const QString& path)
+{
+    CreateRegister(path);
+}
+
+void SampleCommand(const QString& path, int documents, quint32 seed, QTextStream& out)
+{
+    CreateRegister(path);
+    SampleOptions options;
+    options.documents = documents;
+    options.seed = seed;
+    try {
+        FillSampleRegister(path, options);
+    } catch (...) {
+        QFile::remove(path);
+        throw;
+    }
+    out << "Created " << QFileInfo(path).absoluteFilePath() << " with " << documents
+        << " documents; files in " << SampleFilesFolder(path) << Qt::endl;
+}
+
+void InfoCommand(const QString& path, QTextStream& out)
+{
+    const QString location = QFileInfo(path).absoluteFilePath();
+    if (!QFileInfo(location).isFile())
+        throw Error(ErrorNumber::PathFileAccess, QStringLiteral("no register at \"") + location + u'"');
+    Connection connection;
+    connection.Open(PlainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"), location));
+    QStringList lines;
+    for (const QString& table : Tables) {
+        Recordset count;
+        count.Open(QStringLiteral("SELECT COUNT(*) AS N FROM ") + table, connection);
+        lines << table + QStringLiteral(": ")
+                + QString::number(count.Fields(QStringLiteral("N")).Value().toLongLong());
+    }
+    connection.Close();
+    for (const QString& line : std::as_const(lines))
+        out << line << '\n';
+    out.flush();
+}
+
+} // namespace kartella::tool

@@ -1,0 +1,67 @@
+// kartella-db: makes registers, fills them with sample data and tells what they hold.
+#include "Arguments.h"
+#include "Commands.h"
+#include "support/Error.h"
+
+#include <QCoreApplication>
+#include <QTextStream>
+
+#include <exception>
+
+using namespace kartella;
+using namespace kartella::tool;
+
+namespace {
+
+constexpr int ExitSuccess = 0;
+constexpr int ExitFailure = 1;
+constexpr int ExitUsage = 2;
+
+int Fail(const QString& message)
+{
+    QTextStream(stderr) << "kartella-db: " << QString(message).replace(u'\n', u' ') << Qt::endl;
+    return ExitFailure;
+}
+
+int Run(const Invocation& invocation)
+{
+    QTextStream out(stdout);
+    switch (invocation.command) {
+    case Invocation::Command::Help:
+        out << UsageText();
+        break;
+    case Invocation::Command::Create:
+        CreateCommand(invocation.path);
+        break;
+    case Invocation::Command::Sample:
+        SampleCommand(invocation.path, invocation.documents, invocation.seed, out);
+        break;
+    case Invocation::Command::Info:
+        InfoCommand(invocation.path, out);
+        break;
+    }
+    return ExitSuccess;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication app(argc, argv);
+    QStringList arguments = QCoreApplication::arguments();
+    arguments.removeFirst();
+
+    QString problem;
+    const auto invocation = ParseArguments(arguments, problem);
+    if (!invocation) {
+        QTextStream(stderr) << "kartella-db: " << problem << '\n' << UsageText();
+        return ExitUsage;
+    }
+    try {
+        return Run(*invocation);
+    } catch (const Error& error) {
+        return Fail(error.description());
+    } catch (const std::exception& error) {
+        return Fail(QString::fromLocal8Bit(error.what()));
+    }
+}
