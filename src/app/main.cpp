@@ -1,5 +1,7 @@
 #include "explorer/Form2.h"
 #include "options/FirstRun.h"
+#include "platform/DesktopShell.h"
+#include "platform/LibreOfficeSuite.h"
 #include "platform/WidgetPrompter.h"
 #include "support/FileInfo.h"
 
@@ -15,6 +17,10 @@ int main(int argc, char* argv[])
 
     kartella::WidgetPrompter prompter;
     kartella::Prompter::setInstance(&prompter);
+    kartella::DesktopShell shell;
+    kartella::Shell::setInstance(&shell);
+    kartella::LibreOfficeSuite office;
+    kartella::OfficeSuite::setInstance(&office);
 
     // The installer's part: the options exist from the first start on.
     kartella::SeedOptionsIfMissing();
@@ -26,6 +32,8 @@ int main(int argc, char* argv[])
         window.Form_Load();
         code = QApplication::exec();
     }
+    kartella::OfficeSuite::setInstance(nullptr);
+    kartella::Shell::setInstance(nullptr);
     kartella::Prompter::setInstance(nullptr);
     return code;
 }

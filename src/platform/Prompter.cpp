@@ -7,27 +7,27 @@ namespace kartella {
 
 namespace {
 
-    // Used where no window is around (the command-line tool): prints the message and
-    // takes the default button, and never offers a file.
-    class ConsolePrompter final : public Prompter
+// Used where no window is around (the command-line tool): prints the message and
+// takes the default button, and never offers a file.
+class ConsolePrompter final : public Prompter
+{
+public:
+    int MsgBox(const QString& prompt, int style, const QString& title) override
     {
-    public:
-        int MsgBox(const QString& prompt, int style, const QString& title) override
-        {
-            QTextStream err(stderr);
-            err << (title.isEmpty() ? ProgramTitle() : title) << ": " << QString(prompt).replace(u'\r', u'\n')
-                << Qt::endl;
-            return DefaultResult(style);
-        }
-        QString OpenFile(const OpenFileRequest&) override { return {}; }
-        QString ChooseFolder(const QString&) override { return {}; }
-    };
-
-    Prompter*& installed()
-    {
-        static Prompter* current = nullptr;
-        return current;
+        QTextStream err(stderr);
+        err << (title.isEmpty() ? ProgramTitle() : title) << ": " << QString(prompt).replace(u'\r', u'\n')
+            << Qt::endl;
+        return DefaultResult(style);
     }
+    QString OpenFile(const OpenFileRequest&) override { return {}; }
+    QString ChooseFolder(const QString&) override { return {}; }
+};
+
+Prompter*& installed()
+{
+    static Prompter* current = nullptr;
+    return current;
+}
 
 } // namespace
 

@@ -6,33 +6,33 @@ namespace kartella {
 
 // Style values of a message box: one button set, plus one icon, plus a default button.
 namespace MsgBoxStyle {
-    constexpr int OkOnly = 0;
-    constexpr int OkCancel = 1;
-    constexpr int AbortRetryIgnore = 2;
-    constexpr int YesNoCancel = 3;
-    constexpr int YesNo = 4;
-    constexpr int RetryCancel = 5;
-    constexpr int Critical = 16;
-    constexpr int Question = 32;
-    constexpr int Exclamation = 48;
-    constexpr int Information = 64;
-    constexpr int DefaultButton2 = 256;
-    constexpr int DefaultButton3 = 512;
+constexpr int OkOnly = 0;
+constexpr int OkCancel = 1;
+constexpr int AbortRetryIgnore = 2;
+constexpr int YesNoCancel = 3;
+constexpr int YesNo = 4;
+constexpr int RetryCancel = 5;
+constexpr int Critical = 16;
+constexpr int Question = 32;
+constexpr int Exclamation = 48;
+constexpr int Information = 64;
+constexpr int DefaultButton2 = 256;
+constexpr int DefaultButton3 = 512;
 
-    constexpr int ButtonMask = 0x7;
-    constexpr int IconMask = 0x70;
-    constexpr int DefaultMask = 0x300;
+constexpr int ButtonMask = 0x7;
+constexpr int IconMask = 0x70;
+constexpr int DefaultMask = 0x300;
 } // namespace MsgBoxStyle
 
 // What a message box answers: the code of the button pressed.
 namespace MsgBoxResult {
-    constexpr int Ok = 1;
-    constexpr int Cancel = 2;
-    constexpr int Abort = 3;
-    constexpr int Retry = 4;
-    constexpr int Ignore = 5;
-    constexpr int Yes = 6;
-    constexpr int No = 7;
+constexpr int Ok = 1;
+constexpr int Cancel = 2;
+constexpr int Abort = 3;
+constexpr int Retry = 4;
+constexpr int Ignore = 5;
+constexpr int Yes = 6;
+constexpr int No = 7;
 } // namespace MsgBoxResult
 
 // The program's title, shown on every message that has none of its own.

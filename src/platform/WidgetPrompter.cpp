@@ -9,57 +9,57 @@ namespace kartella {
 
 namespace {
 
-    QMessageBox::StandardButton standardButton(int result)
-    {
-        switch (result) {
-        case MsgBoxResult::Ok:
-            return QMessageBox::Ok;
-        case MsgBoxResult::Cancel:
-            return QMessageBox::Cancel;
-        case MsgBoxResult::Abort:
-            return QMessageBox::Abort;
-        case MsgBoxResult::Retry:
-            return QMessageBox::Retry;
-        case MsgBoxResult::Ignore:
-            return QMessageBox::Ignore;
-        case MsgBoxResult::Yes:
-            return QMessageBox::Yes;
-        case MsgBoxResult::No:
-            return QMessageBox::No;
-        default:
-            return QMessageBox::NoButton;
-        }
+QMessageBox::StandardButton standardButton(int result)
+{
+    switch (result) {
+    case MsgBoxResult::Ok:
+        return QMessageBox::Ok;
+    case MsgBoxResult::Cancel:
+        return QMessageBox::Cancel;
+    case MsgBoxResult::Abort:
+        return QMessageBox::Abort;
+    case MsgBoxResult::Retry:
+        return QMessageBox::Retry;
+    case MsgBoxResult::Ignore:
+        return QMessageBox::Ignore;
+    case MsgBoxResult::Yes:
+        return QMessageBox::Yes;
+    case MsgBoxResult::No:
+        return QMessageBox::No;
+    default:
+        return QMessageBox::NoButton;
     }
+}
 
-    QMessageBox::Icon icon(int style)
-    {
-        switch (style & MsgBoxStyle::IconMask) {
-        case MsgBoxStyle::Critical:
-            return QMessageBox::Critical;
-        case MsgBoxStyle::Question:
-            return QMessageBox::Question;
-        case MsgBoxStyle::Exclamation:
-            return QMessageBox::Warning;
-        case MsgBoxStyle::Information:
-            return QMessageBox::Information;
-        default:
-            return QMessageBox::NoIcon;
-        }
+QMessageBox::Icon icon(int style)
+{
+    switch (style & MsgBoxStyle::IconMask) {
+    case MsgBoxStyle::Critical:
+        return QMessageBox::Critical;
+    case MsgBoxStyle::Question:
+        return QMessageBox::Question;
+    case MsgBoxStyle::Exclamation:
+        return QMessageBox::Warning;
+    case MsgBoxStyle::Information:
+        return QMessageBox::Information;
+    default:
+        return QMessageBox::NoIcon;
     }
+}
 
-    QWidget* ownerWindow()
-    {
-        if (QWidget* modal = QApplication::activeModalWidget())
-            return modal;
-        return QApplication::activeWindow();
-    }
+QWidget* ownerWindow()
+{
+    if (QWidget* modal = QApplication::activeModalWidget())
+        return modal;
+    return QApplication::activeWindow();
+}
 
-    const char* const ResultProperty = "msgBoxResult";
+const char* const ResultProperty = "msgBoxResult";
 
 } // namespace
 
-std::unique_ptr<QMessageBox> BuildMessageBox(const QString& prompt, int style, const QString& title,
-                                             QWidget* parent)
+std::unique_ptr<QMessageBox> BuildMessageBox(
+    const QString& prompt, int style, const QString& title, QWidget* parent)
 {
     auto box = std::make_unique<QMessageBox>(parent);
     box->setWindowTitle(title.isEmpty() ? ProgramTitle() : title);
@@ -121,8 +121,8 @@ QString FileDialogFilter(const QString& label, const QString& pattern)
 QString WidgetPrompter::OpenFile(const OpenFileRequest& request)
 {
     const QString filter = FileDialogFilter(request.filterLabel, request.pattern);
-    return QFileDialog::getOpenFileName(ownerWindow(), request.title.trimmed(), request.startFolder.trimmed(),
-                                        filter);
+    return QFileDialog::getOpenFileName(
+        ownerWindow(), request.title.trimmed(), request.startFolder.trimmed(), filter);
 }
 
 QString WidgetPrompter::ChooseFolder(const QString& prompt)

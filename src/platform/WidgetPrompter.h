@@ -12,8 +12,8 @@ namespace kartella {
 
 // Builds the message box for a prompt and style, without showing it. Each button
 // carries its result code in the property "msgBoxResult".
-std::unique_ptr<QMessageBox> BuildMessageBox(const QString& prompt, int style, const QString& title,
-                                             QWidget* parent = nullptr);
+std::unique_ptr<QMessageBox> BuildMessageBox(
+    const QString& prompt, int style, const QString& title, QWidget* parent = nullptr);
 // The result code of the button that closed box, or its escape result when none was clicked.
 int MessageBoxResult(const QMessageBox& box, int style);
 

@@ -1,0 +1,140 @@
+#include "platform/FilePropertiesDialog.h"
+
+#include "support/FileInfo.h"
+
+#include <QDateTime>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFileInfo>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace kartella {
+
+namespace {
+
+constexpr int IconSize = 32;
+
+QString symbolic(QFileDevice::Permissions p)
+{
+    const auto flag = [p](QFileDevice::Permission bit, char letter) {
+        return QLatin1Char(p.testFlag(bit) ? letter : '-');
+    };
+    QString text;
+    text += flag(QFileDevice::ReadOwner, 'r');
+    text += flag(QFileDevice::WriteOwner, 'w');
+    text += flag(QFileDevice::ExeOwner, 'x');
+    text += flag(QFileDevice::ReadGroup, 'r');
+    text += flag(QFileDevice::WriteGroup, 'w');
+    text += flag(QFileDevice::ExeGroup, 'x');
+    text += flag(QFileDevice::ReadOther, 'r');
+    text += flag(QFileDevice::WriteOther, 'w');
+    text += flag(QFileDevice::ExeOther, 'x');
+    return text;
+}
+
+} // namespace
+
+FilePropertiesDialog::FilePropertiesDialog(const QString& path, QWidget* parent)
+    : QDialog(parent)
+{
+    const QFileInfo info(path);
+    CFileInfo shellInfo;
+    shellInfo.CreateFromFile(path);
+
+    setObjectName(QStringLiteral("frmFileProperties"));
+    setWindowTitle(info.fileName() % QStringLiteral(" Properties"));
+
+    auto* layout = new QVBoxLayout(this);
+    auto* header = new QHBoxLayout;
+    auto* icon = new QLabel(this);
+    icon->setObjectName(QStringLiteral("imgIcon"));
+    icon->setAccessibleName(QStringLiteral("File icon"));
+    icon->setPixmap(shellInfo.LargeIcon().pixmap(IconSize, IconSize));
+    icon->setFixedSize(IconSize, IconSize);
+    header->addWidget(icon);
+    header->addStretch();
+    layout->addLayout(header);
+
+    auto* form = new QFormLayout;
+    addField(
+        form, QStringLiteral("txtName"), QStringLiteral("&Name:"), QStringLiteral("Name"), info.fileName());
+    addField(form, QStringLiteral("txtType"), QStringLiteral("&Type:"), QStringLiteral("Type"),
+        shellInfo.TypeName());
+    addField(form, QStringLiteral("txtSize"), QStringLiteral("&Size:"), QStringLiteral("Size"),
+        info.isDir() ? QString() : SizeText(info.size()));
+    addField(form, QStringLiteral("txtFolder"), QStringLiteral("&Folder:"), QStringLiteral("Folder"),
+        QDir::toNativeSeparators(info.absolutePath()));
+    addField(form, QStringLiteral("txtModified"), QStringLiteral("&Modified:"), QStringLiteral("Modified"),
+        DateText(info.lastModified()));
+    addField(form, QStringLiteral("txtCreated"), QStringLiteral("&Created:"), QStringLiteral("Created"),
+        DateText(info.birthTime()));
+    addField(form, QStringLiteral("txtPermissions"), QStringLiteral("&Permissions:"),
+        QStringLiteral("Permissions"), PermissionsText(info.permissions()));
+    layout->addLayout(form);
+
+    auto* buttons = new QDialogButtonBox(this);
+    QPushButton* close = buttons->addButton(QStringLiteral("Close"), QDialogButtonBox::RejectRole);
+    close->setObjectName(QStringLiteral("cmdClose"));
+    close->setDefault(true);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    layout->addWidget(buttons);
+    close->setFocus();
+}
+
+QLineEdit* FilePropertiesDialog::addField(QFormLayout* form, const QString& objectName, const QString& label,
+    const QString& accessibleName, const QString& value)
+{
+    auto* field = new QLineEdit(value, this);
+    field->setObjectName(objectName);
+    field->setAccessibleName(accessibleName);
+    field->setReadOnly(true);
+    field->setFrame(false);
+    field->setMinimumWidth(
+        field->fontMetrics().horizontalAdvance(value) + 2 * field->fontMetrics().averageCharWidth());
+    field->setCursorPosition(0);
+    auto* caption = new QLabel(label, this);
+    caption->setBuddy(field);
+    form->addRow(caption, field);
+    return field;
+}
+
+QString FilePropertiesDialog::SizeText(qint64 bytes)
+{
+    const QLocale locale;
+    if (bytes == 1)
+        return QStringLiteral("1 byte");
+    if (bytes < 1024)
+        return locale.toString(bytes) % QStringLiteral(" bytes");
+    return locale.formattedDataSize(bytes) % QStringLiteral(" (") % locale.toString(bytes)
+        % QStringLiteral(" bytes)");
+}
+
+QString FilePropertiesDialog::PermissionsText(QFileDevice::Permissions permissions)
+{
+    QString access;
+    if (permissions.testFlag(QFileDevice::ReadOwner) && permissions.testFlag(QFileDevice::WriteOwner))
+        access = QStringLiteral("Read and write");
+    else if (permissions.testFlag(QFileDevice::ReadOwner))
+        access = QStringLiteral("Read only");
+    else if (permissions.testFlag(QFileDevice::WriteOwner))
+        access = QStringLiteral("Write only");
+    else
+        access = QStringLiteral("No access");
+    if (permissions.testFlag(QFileDevice::ExeOwner))
+        access += QStringLiteral(", executable");
+    return access % QStringLiteral(" (") % symbolic(permissions) % QStringLiteral(")");
+}
+
+QString FilePropertiesDialog::DateText(const QDateTime& when)
+{
+    if (!when.isValid())
+        return QStringLiteral("Unknown");
+    return QLocale().toString(when.toLocalTime(), QLocale::LongFormat);
+}
+
+} // namespace kartella

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QDialog>
+#include <QFileDevice>
+
+class QDateTime;
+class QFormLayout;
+class QLineEdit;
+
+namespace kartella {
+
+// The properties of one file: name, type, size, folder, dates of change and creation, and
+// permissions, each in a read-only field that can be selected and copied. Close or Esc
+// closes it.
+class FilePropertiesDialog final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit FilePropertiesDialog(const QString& path, QWidget* parent = nullptr);
+
+    // "512 bytes", "1 byte", or a rounded size with the exact count: "1.5 MiB (1,572,864 bytes)".
+    static QString SizeText(qint64 bytes);
+    // The owner's access in words, then the symbolic form: "Read and write (rw-r--r--)".
+    static QString PermissionsText(QFileDevice::Permissions permissions);
+    // A date and time as the fields show it; "Unknown" for an invalid one.
+    static QString DateText(const QDateTime& when);
+
+private:
+    QLineEdit* addField(QFormLayout* form, const QString& objectName, const QString& label,
+        const QString& accessibleName, const QString& value);
+};
+
+} // namespace kartella

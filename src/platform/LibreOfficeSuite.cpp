@@ -1,0 +1,249 @@
+#include "platform/LibreOfficeSuite.h"
+
+#include "platform/Shell.h"
+#include "support/Error.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QUrl>
+
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/types.h>
+#include <unistd.h>
+#endif
+
+namespace kartella {
+
+namespace {
+
+const QString Source = QStringLiteral("LibreOffice");
+constexpr int StopWaitMs = 5000;
+constexpr long TemplateNotFound = 53; // File not found
+
+[[noreturn]] void raise(long number, const QString& description)
+{
+    throw Error(number, description, Source);
+}
+
+QString filterName(OfficeSuite::Kind kind)
+{
+    switch (kind) {
+    case OfficeSuite::Kind::Word:
+        return QStringLiteral("MS Word 97");
+    case OfficeSuite::Kind::Excel:
+        return QStringLiteral("MS Excel 97");
+    case OfficeSuite::Kind::PowerPoint:
+        return QStringLiteral("MS PowerPoint 97");
+    }
+    return {};
+}
+
+QString findProgram()
+{
+    const QString program = QStandardPaths::findExecutable(QStringLiteral("soffice"));
+    if (program.isEmpty())
+        raise(OfficeErrorNumber::NotInstalled,
+            QStringLiteral("LibreOffice can't be found: there is no program \"soffice\" on the PATH. Install "
+                           "the Debian packages libreoffice-writer-nogui, libreoffice-calc-nogui and "
+                           "libreoffice-impress-nogui."));
+    return program;
+}
+
+// What LibreOffice printed, without the lines that every run prints.
+QString cleanOutput(const QByteArray& raw)
+{
+    QStringList kept;
+    const QStringList lines = QString::fromLocal8Bit(raw).split(QLatin1Char('\n'));
+    for (const QString& line : lines) {
+        const QString text = line.trimmed();
+        if (!text.isEmpty() && !text.contains(QLatin1String("javaldx")))
+            kept << text;
+    }
+    return kept.isEmpty() ? QStringLiteral("(no output)") : kept.join(QLatin1Char('\n'));
+}
+
+// Stops the process and every process it started.
+void stopTree(QProcess& process)
+{
+#ifdef Q_OS_UNIX
+    const qint64 pid = process.processId();
+    if (pid > 0)
+        ::kill(-pid_t(pid), SIGKILL);
+#endif
+    process.kill();
+    process.waitForFinished(StopWaitMs);
+}
+
+// Runs LibreOffice with arguments; returns its output, or throws when it can't be started,
+// times out, or fails.
+QString run(const QString& program, const QStringList& arguments, int timeoutMs, const QString& what)
+{
+    QProcess process;
+    process.setProgram(program);
+    process.setArguments(arguments);
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.setStandardInputFile(QProcess::nullDevice());
+#ifdef Q_OS_UNIX
+    // A group of its own, so that a timeout stops the helpers it starts too.
+    process.setChildProcessModifier([] { ::setpgid(0, 0); });
+#endif
+    process.start();
+    if (!process.waitForStarted(timeoutMs))
+        raise(OfficeErrorNumber::NotInstalled,
+            QStringLiteral("LibreOffice (") % program % QStringLiteral(") couldn't be started: ")
+                % process.errorString());
+    if (!process.waitForFinished(timeoutMs)) {
+        stopTree(process);
+        raise(OfficeErrorNumber::TimedOut,
+            QStringLiteral("LibreOffice didn't finish making ") % what % QStringLiteral(" within ")
+                % QString::number(timeoutMs / 1000.0) % QStringLiteral(" seconds and was stopped."));
+    }
+    const QString output = cleanOutput(process.readAll());
+    if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
+        raise(OfficeErrorNumber::Failed,
+            QStringLiteral("LibreOffice failed making ") % what % QStringLiteral(" (exit code ")
+                % QString::number(process.exitCode()) % QStringLiteral("): ") % output);
+    return output;
+}
+
+// The one file with the extension in folder; empty when there is none.
+QString resultIn(const QString& folder, const QString& extension)
+{
+    const QFileInfoList files = QDir(folder).entryInfoList(QDir::Files);
+    for (const QFileInfo& file : files) {
+        if (file.suffix().compare(extension, Qt::CaseInsensitive) == 0)
+            return file.absoluteFilePath();
+    }
+    return {};
+}
+
+} // namespace
+
+QString LibreOfficeSuite::Extension(Kind kind)
+{
+    switch (kind) {
+    case Kind::Word:
+        return QStringLiteral("doc");
+    case Kind::Excel:
+        return QStringLiteral("xls");
+    case Kind::PowerPoint:
+        return QStringLiteral("ppt");
+    }
+    return {};
+}
+
+QString LibreOfficeSuite::SeedExtension(Kind kind)
+{
+    switch (kind) {
+    case Kind::Word:
+        return QStringLiteral("fodt");
+    case Kind::Excel:
+        return QStringLiteral("fods");
+    case Kind::PowerPoint:
+        return QStringLiteral("fodp");
+    }
+    return {};
+}
+
+QByteArray LibreOfficeSuite::SeedDocument(Kind kind)
+{
+    static const QByteArray head = QByteArrayLiteral(
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+        "<office:document xmlns:office=\"urn:oasis:names:tc:opendocument:xmlns:office:1.0\" "
+        "xmlns:text=\"urn:oasis:names:tc:opendocument:xmlns:text:1.0\" "
+        "xmlns:table=\"urn:oasis:names:tc:opendocument:xmlns:table:1.0\" "
+        "xmlns:draw=\"urn:oasis:names:tc:opendocument:xmlns:drawing:1.0\" office:version=\"1.2\" "
+        "office:mimetype=\"application/vnd.oasis.opendocument.");
+    static const QByteArray tail = QByteArrayLiteral("</office:body></office:document>\n");
+    switch (kind) {
+    case Kind::Word:
+        return head + "text\"><office:body><office:text><text:p/></office:text>" + tail;
+    case Kind::Excel:
+        return head
+            + "spreadsheet\"><office:body><office:spreadsheet><table:table table:name=\"Sheet1\">"
+              "<table:table-row><table:table-cell/></table:table-row></table:table></office:spreadsheet>"
+            + tail;
+    case Kind::PowerPoint:
+        return head
+            + "presentation\"><office:body><office:presentation><draw:page draw:name=\"Slide1\"/>"
+              "</office:presentation>"
+            + tail;
+    }
+    return {};
+}
+
+void LibreOfficeSuite::Create(Kind kind, const QString& templatePath, const QString& target)
+{
+    const QFileInfo into(target);
+    const QString shown = QDir::toNativeSeparators(target);
+    if (target.isEmpty())
+        raise(OfficeErrorNumber::Failed, QStringLiteral("The new document has no path."));
+    if (into.exists() || into.isSymLink())
+        raise(OfficeErrorNumber::FileExists,
+            QStringLiteral("The file '") % shown % QStringLiteral("' already exists."));
+    if (!into.absoluteDir().exists())
+        raise(OfficeErrorNumber::Failed,
+            QStringLiteral("The folder '") % QDir::toNativeSeparators(into.absolutePath())
+                % QStringLiteral("' doesn't exist."));
+    if (!templatePath.isEmpty() && !QFileInfo(templatePath).isFile())
+        raise(TemplateNotFound,
+            QStringLiteral("The template '") % QDir::toNativeSeparators(templatePath)
+                % QStringLiteral("' can't be found."));
+    const QString program = findProgram();
+
+    QTemporaryDir work(QDir(QDir::tempPath()).filePath(QStringLiteral("kartella-office-XXXXXX")));
+    if (!work.isValid())
+        raise(OfficeErrorNumber::Failed,
+            QStringLiteral("No temporary folder for LibreOffice: ") % work.errorString());
+    const QString profile = work.filePath(QStringLiteral("profile"));
+    const QString outDir = work.filePath(QStringLiteral("out"));
+
+    QString source = templatePath.isEmpty() ? QString() : QFileInfo(templatePath).absoluteFilePath();
+    if (source.isEmpty()) {
+        source = work.filePath(QStringLiteral("New.") % SeedExtension(kind));
+        QFile seed(source);
+        if (!seed.open(QIODevice::WriteOnly) || seed.write(SeedDocument(kind)) < 0 || !seed.flush())
+            raise(OfficeErrorNumber::Failed,
+                QStringLiteral("The empty document couldn't be written: ") % seed.errorString());
+    }
+
+    const QString extension = Extension(kind);
+    const QStringList arguments = {QStringLiteral("--headless"), QStringLiteral("--norestore"),
+        QStringLiteral("--nolockcheck"),
+        QStringLiteral("-env:UserInstallation=") % QUrl::fromLocalFile(profile).toString(QUrl::FullyEncoded),
+        QStringLiteral("--convert-to"), extension % QLatin1Char(':') % filterName(kind),
+        QStringLiteral("--outdir"), outDir, source};
+    const QString what = QLatin1Char('\'') % shown % QLatin1Char('\'');
+    const QString output = run(program, arguments, m_timeoutMs, what);
+
+    const QString result = resultIn(outDir, extension);
+    if (result.isEmpty())
+        raise(OfficeErrorNumber::Failed,
+            QStringLiteral("LibreOffice couldn't make ") % what % QStringLiteral(" from '")
+                % QDir::toNativeSeparators(source) % QStringLiteral("': ") % output);
+    // A rename never replaces a file: one that appeared meanwhile stays.
+    QFile made(result);
+    if (!made.rename(target)) {
+        if (QFileInfo::exists(target))
+            raise(OfficeErrorNumber::FileExists,
+                QStringLiteral("The file '") % shown % QStringLiteral("' already exists."));
+        raise(OfficeErrorNumber::Failed,
+            QStringLiteral("The new document couldn't be moved to '") % shown % QStringLiteral("': ")
+                % made.errorString());
+    }
+}
+
+void LibreOfficeSuite::Show(const QString& path)
+{
+    if (!Shell::instance().Open(path))
+        raise(OfficeErrorNumber::Failed,
+            QStringLiteral("No program could be started to show '") % QDir::toNativeSeparators(path)
+                % QStringLiteral("'."));
+}
+
+} // namespace kartella

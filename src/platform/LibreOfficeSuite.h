@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/OfficeSuite.h"
+
+#include <QByteArray>
+
+namespace kartella {
+
+// Makes documents with LibreOffice running headless: it converts the template, or an empty
+// seed document, to the Office 97 format of the kind, in a temporary folder and with a
+// profile of its own for each call (so that a LibreOffice the user is running is left
+// alone), and then moves the result to the target. Each call waits for LibreOffice, up to a
+// time limit after which LibreOffice and its children are stopped.
+class LibreOfficeSuite final : public OfficeSuite
+{
+public:
+    static constexpr int DefaultTimeoutMs = 120 * 1000;
+
+    void Create(Kind kind, const QString& templatePath, const QString& target) override;
+    void Show(const QString& path) override;
+
+    void setTimeout(int milliseconds) { m_timeoutMs = milliseconds; }
+
+    // The extension of a new document of kind, without its dot: "doc", "xls", "ppt".
+    static QString Extension(Kind kind);
+    // The empty document of kind as flat ODF (.fodt, .fods, .fodp), and its extension.
+    static QByteArray SeedDocument(Kind kind);
+    static QString SeedExtension(Kind kind);
+
+private:
+    int m_timeoutMs = DefaultTimeoutMs;
+};
+
+} // namespace kartella

@@ -1,0 +1,289 @@
+#include "platform/Shell.h"
+
+#include "platform/Prompter.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <filesystem>
+#include <system_error>
+
+namespace kartella {
+
+namespace {
+
+constexpr qint64 BlockSize = qint64(1) << 20;
+
+Shell*& installed()
+{
+    static Shell* current = nullptr;
+    return current;
+}
+
+std::filesystem::path fsPath(const QString& path)
+{
+#ifdef Q_OS_WIN
+    return std::filesystem::path(path.toStdWString());
+#else
+    return std::filesystem::path(QFile::encodeName(path).toStdString());
+#endif
+}
+
+QString systemMessage(const std::error_code& code)
+{
+    return QString::fromLocal8Bit(code.message().c_str());
+}
+
+void setError(QString* error, const QString& text)
+{
+    if (error)
+        *error = text;
+}
+
+// Whether both paths name one file (also through links).
+bool sameFile(const QString& a, const QString& b)
+{
+    std::error_code code;
+    const bool same = std::filesystem::equivalent(fsPath(a), fsPath(b), code);
+    return !code && same;
+}
+
+QString displayName(const QString& path)
+{
+    return QFileInfo(path).fileName();
+}
+
+QString displayFolder(const QFileInfo& info)
+{
+    return QDir::toNativeSeparators(info.absolutePath());
+}
+
+} // namespace
+
+Shell::~Shell() = default;
+
+Shell& Shell::instance()
+{
+    static FileShell fallback;
+    Shell* current = installed();
+    return current ? *current : fallback;
+}
+
+void Shell::setInstance(Shell* shell)
+{
+    installed() = shell;
+}
+
+CopyProgress::~CopyProgress() = default;
+
+bool CopyFileContents(
+    const QString& source, const QString& target, const CopyProgressFunction& progress, QString* error)
+{
+    setError(error, {});
+    QFile in(source);
+    if (!in.open(QIODevice::ReadOnly)) {
+        setError(error, in.errorString());
+        return false;
+    }
+    // Without a commit the temporary file goes when out does, and target stays as it was.
+    QSaveFile out(target);
+    out.setDirectWriteFallback(false);
+    if (!out.open(QIODevice::WriteOnly)) {
+        setError(error, out.errorString());
+        return false;
+    }
+    const qint64 total = in.size();
+    if (progress && !progress(0, total))
+        return false;
+    QByteArray block(BlockSize, Qt::Uninitialized);
+    qint64 done = 0;
+    for (;;) {
+        const qint64 read = in.read(block.data(), block.size());
+        if (read < 0) {
+            setError(error, in.errorString());
+            return false;
+        }
+        if (read == 0)
+            break;
+        if (out.write(block.constData(), read) != read) {
+            setError(error, out.errorString());
+            return false;
+        }
+        done += read;
+        if (progress && !progress(done, total))
+            return false;
+    }
+    const QDateTime modified = QFileInfo(source).lastModified();
+    if (!out.flush() || !out.setPermissions(in.permissions())
+        || !out.setFileTime(modified, QFileDevice::FileModificationTime) || !out.commit()) {
+        setError(error, out.errorString());
+        return false;
+    }
+    return true;
+}
+
+bool MoveFileContents(
+    const QString& source, const QString& target, const CopyProgressFunction& progress, QString* error)
+{
+    setError(error, {});
+    std::error_code code;
+    std::filesystem::rename(fsPath(source), fsPath(target), code);
+    if (!code)
+        return true;
+    if (code != std::errc::cross_device_link) {
+        setError(error, systemMessage(code));
+        return false;
+    }
+    if (!CopyFileContents(source, target, progress, error))
+        return false;
+    QFile original(source);
+    if (!original.remove()) {
+        setError(error,
+            QStringLiteral("The file was copied to '") % QDir::toNativeSeparators(target)
+                % QStringLiteral("', but the original couldn't be removed: ") % original.errorString());
+        return false;
+    }
+    return true;
+}
+
+bool FileShell::Open(const QString&)
+{
+    return false;
+}
+
+bool FileShell::Print(const QString&)
+{
+    return false;
+}
+
+void FileShell::ShowProperties(const QString&) { }
+
+QString FileShell::DeleteQuestion(const QString& path)
+{
+    return QStringLiteral("Do you want to permanently delete the file '") % displayName(path)
+        % QStringLiteral("'?");
+}
+
+QString FileShell::ReplaceQuestion(const QString& target)
+{
+    const QFileInfo info(target);
+    return QStringLiteral("The file '") % info.fileName() % QStringLiteral("' already exists in '")
+        % displayFolder(info) % QStringLiteral("'. Do you want to replace it?");
+}
+
+bool FileShell::DeleteFile(const QString& path)
+{
+    const QString title = QStringLiteral("Error Deleting File");
+    if (path.isEmpty())
+        return false;
+    const QFileInfo info(path);
+    if (!info.exists() && !info.isSymLink()) {
+        Fail(QStringLiteral("Can't delete '") % displayName(path)
+                % QStringLiteral("': the file can't be found."),
+            title);
+        return false;
+    }
+    if (info.isDir() && !info.isSymLink()) {
+        Fail(QStringLiteral("Can't delete '") % displayName(path) % QStringLiteral("': it is a folder."),
+            title);
+        return false;
+    }
+    const int answer
+        = Ask(DeleteQuestion(path), MsgBoxStyle::YesNo | MsgBoxStyle::Exclamation, DeleteTitle());
+    if (answer != MsgBoxResult::Yes)
+        return false;
+    QFile file(path);
+    if (!file.remove()) {
+        Fail(
+            QStringLiteral("Can't delete '") % displayName(path) % QStringLiteral("': ") % file.errorString(),
+            title);
+        return false;
+    }
+    return true;
+}
+
+bool FileShell::CopyFile(const QString& source, const QString& target)
+{
+    return Transfer(source, target, false);
+}
+
+bool FileShell::MoveFile(const QString& source, const QString& target)
+{
+    return Transfer(source, target, true);
+}
+
+bool FileShell::Transfer(const QString& source, const QString& target, bool moving)
+{
+    if (source.isEmpty() || target.isEmpty())
+        return false;
+    const QString title = moving ? QStringLiteral("Error Moving File") : QStringLiteral("Error Copying File");
+    const QString cant = (moving ? QStringLiteral("Can't move '") : QStringLiteral("Can't copy '"))
+        % displayName(source) % QStringLiteral("': ");
+    const QFileInfo from(source);
+    if (!from.isFile()) {
+        Fail(cant % QStringLiteral("the file can't be found."), title);
+        return false;
+    }
+    QString to = target;
+    if (QFileInfo(to).isDir())
+        to = QDir(to).filePath(from.fileName());
+    const QFileInfo into(to);
+    if (!into.absoluteDir().exists()) {
+        Fail(cant % QStringLiteral("the folder '") % displayFolder(into) % QStringLiteral("' doesn't exist."),
+            title);
+        return false;
+    }
+    if (into.exists()) {
+        if (sameFile(source, to)) {
+            Fail(cant % QStringLiteral("the source and the target are the same file."), title);
+            return false;
+        }
+        if (into.isDir()) {
+            Fail(cant % QStringLiteral("a folder of that name exists in '") % displayFolder(into)
+                    % QStringLiteral("'."),
+                title);
+            return false;
+        }
+        const int answer
+            = Ask(ReplaceQuestion(to), MsgBoxStyle::YesNo | MsgBoxStyle::Exclamation, ReplaceTitle());
+        if (answer != MsgBoxResult::Yes)
+            return false;
+    }
+
+    // The sign appears with the first block actually copied: a rename needs none.
+    std::unique_ptr<CopyProgress> sign;
+    bool started = false;
+    const CopyProgressFunction progress = [&](qint64 done, qint64 total) {
+        if (!started) {
+            started = true;
+            sign = StartProgress(source, to, total, moving);
+        }
+        return !sign || sign->Advance(done);
+    };
+    QString error;
+    const bool done = moving ? MoveFileContents(source, to, progress, &error)
+                             : CopyFileContents(source, to, progress, &error);
+    sign.reset();
+    if (!done && !error.isEmpty())
+        Fail(cant % error, title);
+    return done;
+}
+
+int FileShell::Ask(const QString& prompt, int style, const QString& title)
+{
+    return MsgBox(prompt, style, title);
+}
+
+std::unique_ptr<CopyProgress> FileShell::StartProgress(const QString&, const QString&, qint64, bool)
+{
+    return nullptr;
+}
+
+void FileShell::Fail(const QString& prompt, const QString& title)
+{
+    Ask(prompt, MsgBoxStyle::OkOnly | MsgBoxStyle::Critical, title);
+}
+
+} // namespace kartella
