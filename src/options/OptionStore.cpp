@@ -12,53 +12,54 @@ namespace kartella {
 
 namespace {
 
-    constexpr qsizetype MaxValueLength = 254;
-    const QString NotFound = QStringLiteral("Not Found");
-    const QString IniSection = QStringLiteral("DocContr");
+constexpr qsizetype MaxValueLength = 254;
+const QString NotFound = QStringLiteral("Not Found");
+const QString IniSection = QStringLiteral("DocContr");
 
-    // A run-time error inside the primitives: reported in the one plain form.
-    void reportRuntimeError(long number)
-    {
-        MsgBox(QStringLiteral("ERROR # ") + QString::number(number) + QStringLiteral(" : 0\rPlease exit and try again."));
-    }
+// A run-time error inside the primitives: reported in the one plain form.
+void reportRuntimeError(long number)
+{
+    MsgBox(QStringLiteral("ERROR # ") + QString::number(number)
+        + QStringLiteral(" : 0\rPlease exit and try again."));
+}
 
 #ifdef Q_OS_WIN
-    QString registryPath(Hive hive, const QString& keyPath)
-    {
-        return (hive == Hive::CurrentUser ? QStringLiteral("HKEY_CURRENT_USER\\")
-                                          : QStringLiteral("HKEY_LOCAL_MACHINE\\"))
-            + keyPath;
-    }
+QString registryPath(Hive hive, const QString& keyPath)
+{
+    return (hive == Hive::CurrentUser ? QStringLiteral("HKEY_CURRENT_USER\\")
+                                      : QStringLiteral("HKEY_LOCAL_MACHINE\\"))
+        + keyPath;
+}
 
-    bool keyExists(Hive hive, const QString& keyPath)
-    {
-        const qsizetype cut = keyPath.lastIndexOf(u'\\');
-        QSettings parent(registryPath(hive, keyPath.left(cut)), QSettings::NativeFormat);
-        return parent.childGroups().contains(keyPath.mid(cut + 1), Qt::CaseInsensitive);
-    }
+bool keyExists(Hive hive, const QString& keyPath)
+{
+    const qsizetype cut = keyPath.lastIndexOf(u'\\');
+    QSettings parent(registryPath(hive, keyPath.left(cut)), QSettings::NativeFormat);
+    return parent.childGroups().contains(keyPath.mid(cut + 1), Qt::CaseInsensitive);
+}
 #else
-    // "SOFTWARE\Kartella\Options" under the user's hive is <config>/Kartella/Options.ini,
-    // section [Options]; the machine's hive lives under /etc.
-    struct KeyFile
-    {
-        QString path;
-        QString section;
-    };
+// "SOFTWARE\Kartella\Options" under the user's hive is <config>/Kartella/Options.ini,
+// section [Options]; the machine's hive lives under /etc.
+struct KeyFile
+{
+    QString path;
+    QString section;
+};
 
-    KeyFile keyFile(Hive hive, const QString& keyPath)
-    {
-        QStringList parts = keyPath.split(u'\\', Qt::SkipEmptyParts);
-        if (!parts.isEmpty() && parts.first().compare(QLatin1String("SOFTWARE"), Qt::CaseInsensitive) == 0)
-            parts.removeFirst();
-        const QString section = parts.isEmpty() ? QStringLiteral("Options") : parts.last();
-        const QString root = hive == Hive::CurrentUser ? ConfigFolder() : QStringLiteral("/etc");
-        return {root + u'/' + (parts.isEmpty() ? section : parts.join(u'/')) + QStringLiteral(".ini"), section};
-    }
+KeyFile keyFile(Hive hive, const QString& keyPath)
+{
+    QStringList parts = keyPath.split(u'\\', Qt::SkipEmptyParts);
+    if (!parts.isEmpty() && parts.first().compare(QLatin1String("SOFTWARE"), Qt::CaseInsensitive) == 0)
+        parts.removeFirst();
+    const QString section = parts.isEmpty() ? QStringLiteral("Options") : parts.last();
+    const QString root = hive == Hive::CurrentUser ? ConfigFolder() : QStringLiteral("/etc");
+    return {root + u'/' + (parts.isEmpty() ? section : parts.join(u'/')) + QStringLiteral(".ini"), section};
+}
 
-    bool keyExists(Hive hive, const QString& keyPath)
-    {
-        return QFileInfo::exists(keyFile(hive, keyPath).path);
-    }
+bool keyExists(Hive hive, const QString& keyPath)
+{
+    return QFileInfo::exists(keyFile(hive, keyPath).path);
+}
 #endif
 
 } // namespace

@@ -9,63 +9,63 @@ namespace kartella {
 
 namespace {
 
-    QString escape(const QString& value)
-    {
-        QString out;
-        out.reserve(value.size());
-        for (QChar c : value) {
-            if (c == u'\\')
-                out += QStringLiteral("\\\\");
-            else if (c == u'\n')
-                out += QStringLiteral("\\n");
-            else if (c == u'\r')
-                out += QStringLiteral("\\r");
-            else
-                out += c;
-        }
-        return out;
+QString escape(const QString& value)
+{
+    QString out;
+    out.reserve(value.size());
+    for (QChar c : value) {
+        if (c == u'\\')
+            out += QStringLiteral("\\\\");
+        else if (c == u'\n')
+            out += QStringLiteral("\\n");
+        else if (c == u'\r')
+            out += QStringLiteral("\\r");
+        else
+            out += c;
     }
+    return out;
+}
 
-    QString unescape(QStringView text)
-    {
-        QString out;
-        out.reserve(text.size());
-        for (qsizetype i = 0; i < text.size(); ++i) {
-            const QChar c = text[i];
-            if (c == u'\\' && i + 1 < text.size()) {
-                const QChar next = text[++i];
-                out += next == u'n' ? QChar(u'\n') : next == u'r' ? QChar(u'\r') : next;
-            } else {
-                out += c;
-            }
+QString unescape(QStringView text)
+{
+    QString out;
+    out.reserve(text.size());
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar c = text[i];
+        if (c == u'\\' && i + 1 < text.size()) {
+            const QChar next = text[++i];
+            out += next == u'n' ? QChar(u'\n') : next == u'r' ? QChar(u'\r') : next;
+        } else {
+            out += c;
         }
-        return out;
     }
+    return out;
+}
 
-    std::optional<QString> sectionName(QStringView line)
-    {
-        const QStringView trimmed = line.trimmed();
-        if (trimmed.size() >= 2 && trimmed.startsWith(u'[') && trimmed.endsWith(u']'))
-            return trimmed.mid(1, trimmed.size() - 2).trimmed().toString();
+std::optional<QString> sectionName(QStringView line)
+{
+    const QStringView trimmed = line.trimmed();
+    if (trimmed.size() >= 2 && trimmed.startsWith(u'[') && trimmed.endsWith(u']'))
+        return trimmed.mid(1, trimmed.size() - 2).trimmed().toString();
+    return std::nullopt;
+}
+
+bool isComment(QStringView line)
+{
+    const QStringView trimmed = line.trimmed();
+    return trimmed.isEmpty() || trimmed.startsWith(u';') || trimmed.startsWith(u'#');
+}
+
+// The name of a "name=value" line, or nothing for other lines.
+std::optional<QStringView> entryName(QStringView line)
+{
+    if (isComment(line))
         return std::nullopt;
-    }
-
-    bool isComment(QStringView line)
-    {
-        const QStringView trimmed = line.trimmed();
-        return trimmed.isEmpty() || trimmed.startsWith(u';') || trimmed.startsWith(u'#');
-    }
-
-    // The name of a "name=value" line, or nothing for other lines.
-    std::optional<QStringView> entryName(QStringView line)
-    {
-        if (isComment(line))
-            return std::nullopt;
-        const qsizetype eq = line.indexOf(u'=');
-        if (eq < 0)
-            return std::nullopt;
-        return line.left(eq).trimmed();
-    }
+    const qsizetype eq = line.indexOf(u'=');
+    if (eq < 0)
+        return std::nullopt;
+    return line.left(eq).trimmed();
+}
 
 } // namespace
 

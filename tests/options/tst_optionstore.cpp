@@ -1,6 +1,6 @@
+#include "harness/ScriptedPrompter.h"
 #include "options/FirstRun.h"
 #include "options/OptionStore.h"
-#include "harness/ScriptedPrompter.h"
 
 #include <QDir>
 #include <QFile>
@@ -54,7 +54,8 @@ private Q_SLOTS:
         QCOMPARE(GetRegValue("DbLocation"), QString());
         QCOMPARE(prompter.prompts().size(), 1);
         const auto prompt = prompter.prompts().first();
-        QCOMPARE(prompt.text, QString("Unable to get Registry Value SOFTWARE\\Kartella\\Options\\DbLocation"));
+        QCOMPARE(
+            prompt.text, QString("Unable to get Registry Value SOFTWARE\\Kartella\\Options\\DbLocation"));
         QCOMPARE(prompt.title, QString("Kartella"));
         QCOMPARE(prompt.style, MsgBoxStyle::OkOnly);
     }
@@ -73,15 +74,24 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("written");
         QTest::addColumn<QString>("read");
-        QTest::newRow("text") << "Microsoft.Jet.OLEDB.4.0" << "Microsoft.Jet.OLEDB.4.0";
-        QTest::newRow("empty is not absent") << "" << "";
-        QTest::newRow("leading blank kept") << " 12" << " 12";
-        QTest::newRow("blanks around") << "  a b  " << "  a b  ";
-        QTest::newRow("path with blanks") << "/home/u/My Documents/Kartella.mdb" << "/home/u/My Documents/Kartella.mdb";
-        QTest::newRow("backslashes") << "c:\\Docs\\" << "c:\\Docs\\";
-        QTest::newRow("equals sign") << "a=b" << "a=b";
-        QTest::newRow("line breaks") << "one\r\ntwo" << "one\r\ntwo";
-        QTest::newRow("lithuanian") << "Ąžuolas Šarūnas" << "Ąžuolas Šarūnas";
+        QTest::newRow("text") << "Microsoft.Jet.OLEDB.4.0"
+                              << "Microsoft.Jet.OLEDB.4.0";
+        QTest::newRow("empty is not absent") << ""
+                                             << "";
+        QTest::newRow("leading blank kept") << " 12"
+                                            << " 12";
+        QTest::newRow("blanks around") << "  a b  "
+                                       << "  a b  ";
+        QTest::newRow("path with blanks") << "/home/u/My Documents/Kartella.mdb"
+                                          << "/home/u/My Documents/Kartella.mdb";
+        QTest::newRow("backslashes") << "c:\\Docs\\"
+                                     << "c:\\Docs\\";
+        QTest::newRow("equals sign") << "a=b"
+                                     << "a=b";
+        QTest::newRow("line breaks") << "one\r\ntwo"
+                                     << "one\r\ntwo";
+        QTest::newRow("lithuanian") << "Ąžuolas Šarūnas"
+                                    << "Ąžuolas Šarūnas";
         QTest::newRow("254 characters") << QString(254, 'x') << QString(254, 'x');
         QTest::newRow("255 characters") << QString(255, 'x') << "Not Found";
     }
@@ -156,14 +166,15 @@ private Q_SLOTS:
         ScriptedPrompter prompter;
         prompter.answer(MsgBoxResult::Ok);
         QCOMPARE(GetRegValue("Filter"), QString());
-        QCOMPARE(prompter.texts(), QStringList{"ERROR # 75 : 0\rPlease exit and try again."});
+        QCOMPARE(prompter.texts(), QStringList {"ERROR # 75 : 0\rPlease exit and try again."});
 
         // On write the run-time error comes first, then the failed write's own message.
         prompter.take();
         prompter.answer(MsgBoxResult::Ok).answer(MsgBoxResult::Ok);
         SetRegValue("Filter", 1);
-        QCOMPARE(prompter.texts(), QStringList({"ERROR # 75 : 0\rPlease exit and try again.",
-                                                "Unable to set Registry Value SOFTWARE\\Kartella\\Options\\Filter"}));
+        QCOMPARE(prompter.texts(),
+            QStringList({"ERROR # 75 : 0\rPlease exit and try again.",
+                "Unable to set Registry Value SOFTWARE\\Kartella\\Options\\Filter"}));
     }
 
     void refusedWriteKeepsTheOldValue()
@@ -174,7 +185,8 @@ private Q_SLOTS:
         ScriptedPrompter prompter;
         prompter.answer(MsgBoxResult::Ok);
         SetRegValue("Filter", 1);
-        QCOMPARE(prompter.texts(), QStringList{"Unable to set Registry Value SOFTWARE\\Kartella\\Options\\Filter"});
+        QCOMPARE(prompter.texts(),
+            QStringList {"Unable to set Registry Value SOFTWARE\\Kartella\\Options\\Filter"});
         QCOMPARE(prompter.prompts().first().style, MsgBoxStyle::OkOnly);
         QCOMPARE(GetRegValue("Filter"), QString("Not Found"));
     }
@@ -207,10 +219,18 @@ private Q_SLOTS:
         QVERIFY(SeedOptionsIfMissing(QDate(2024, 3, 5)));
         QVERIFY(OptionsKeyExists());
         const QList<QPair<QString, QString>> expected = {
-            {"Provider", "Microsoft.Jet.OLEDB.4.0"}, {"Filter", "0"}, {"Network", "0"},
-            {"AutoRegIndex", "1"}, {"UseMnemonic", "1"}, {"IndexStyle", "1"},
-            {"Separator1", "-"}, {"Separator2", "/"}, {"FileName", "0"},
-            {"Date", "2024 03 05"}, {"TodayNumber", "1"}, {"FileNumber", " 1"},
+            {"Provider", "Microsoft.Jet.OLEDB.4.0"},
+            {"Filter", "0"},
+            {"Network", "0"},
+            {"AutoRegIndex", "1"},
+            {"UseMnemonic", "1"},
+            {"IndexStyle", "1"},
+            {"Separator1", "-"},
+            {"Separator2", "/"},
+            {"FileName", "0"},
+            {"Date", "2024 03 05"},
+            {"TodayNumber", "1"},
+            {"FileNumber", " 1"},
         };
         for (const auto& [name, value] : expected)
             QCOMPARE(GetRegValue(name), value);

@@ -1,5 +1,5 @@
-#include "platform/WidgetPrompter.h"
 #include "harness/ScriptedPrompter.h"
+#include "platform/WidgetPrompter.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -27,19 +27,21 @@ private Q_SLOTS:
 
         using namespace MsgBoxStyle;
         using namespace MsgBoxResult;
-        QTest::newRow("0 OK, no icon") << 0 << QList<int>{Ok} << QMessageBox::NoIcon << Ok << Ok;
-        QTest::newRow("1 OK/Cancel") << 1 << QList<int>{Ok, Cancel} << QMessageBox::NoIcon << Ok << Cancel;
-        QTest::newRow("3 Yes/No/Cancel") << 3 << QList<int>{Yes, No, Cancel} << QMessageBox::NoIcon << Yes << Cancel;
-        QTest::newRow("4 Yes/No") << 4 << QList<int>{Yes, No} << QMessageBox::NoIcon << Yes << 0;
-        QTest::newRow("16 critical") << 16 << QList<int>{Ok} << QMessageBox::Critical << Ok << Ok;
-        QTest::newRow("32 question") << 4 + 32 << QList<int>{Yes, No} << QMessageBox::Question << Yes << 0;
-        QTest::newRow("48 exclamation") << 48 << QList<int>{Ok} << QMessageBox::Warning << Ok << Ok;
-        QTest::newRow("64 information") << 64 << QList<int>{Ok} << QMessageBox::Information << Ok << Ok;
-        QTest::newRow("1+16+256 Cancel default") << 1 + 16 + 256 << QList<int>{Ok, Cancel} << QMessageBox::Critical
-                                                 << Cancel << Cancel;
-        QTest::newRow("3+48+256 No default") << 3 + 48 + 256 << QList<int>{Yes, No, Cancel} << QMessageBox::Warning
-                                             << No << Cancel;
-        QTest::newRow("4+256 No default") << 4 + 256 << QList<int>{Yes, No} << QMessageBox::NoIcon << No << 0;
+        QTest::newRow("0 OK, no icon") << 0 << QList<int> {Ok} << QMessageBox::NoIcon << Ok << Ok;
+        QTest::newRow("1 OK/Cancel") << 1 << QList<int> {Ok, Cancel} << QMessageBox::NoIcon << Ok << Cancel;
+        QTest::newRow("3 Yes/No/Cancel")
+            << 3 << QList<int> {Yes, No, Cancel} << QMessageBox::NoIcon << Yes << Cancel;
+        QTest::newRow("4 Yes/No") << 4 << QList<int> {Yes, No} << QMessageBox::NoIcon << Yes << 0;
+        QTest::newRow("16 critical") << 16 << QList<int> {Ok} << QMessageBox::Critical << Ok << Ok;
+        QTest::newRow("32 question") << 4 + 32 << QList<int> {Yes, No} << QMessageBox::Question << Yes << 0;
+        QTest::newRow("48 exclamation") << 48 << QList<int> {Ok} << QMessageBox::Warning << Ok << Ok;
+        QTest::newRow("64 information") << 64 << QList<int> {Ok} << QMessageBox::Information << Ok << Ok;
+        QTest::newRow("1+16+256 Cancel default")
+            << 1 + 16 + 256 << QList<int> {Ok, Cancel} << QMessageBox::Critical << Cancel << Cancel;
+        QTest::newRow("3+48+256 No default")
+            << 3 + 48 + 256 << QList<int> {Yes, No, Cancel} << QMessageBox::Warning << No << Cancel;
+        QTest::newRow("4+256 No default")
+            << 4 + 256 << QList<int> {Yes, No} << QMessageBox::NoIcon << No << 0;
     }
 
     void styleMapsToButtonsIconAndDefault()
@@ -98,14 +100,16 @@ private Q_SLOTS:
             }
         });
         const int result = prompter.MsgBox("Line one\rLine two", style, "Own title");
-        const int expected = press > 0 ? press : press == 0 ? DefaultResult(style) : int(MsgBoxResult::Cancel);
+        const int expected = press > 0 ? press
+            : press == 0               ? DefaultResult(style)
+                                       : int(MsgBoxResult::Cancel);
         QCOMPARE(result, expected);
     }
 
     void carriageReturnBreaksTheLine()
     {
         const auto box = BuildMessageBox("Error: 1 x\rSelect correct database type and file, please!", 16,
-                                         "Connection to database error:");
+            "Connection to database error:");
         QCOMPARE(box->text(), QString("Error: 1 x\nSelect correct database type and file, please!"));
         QCOMPARE(box->windowTitle(), QString("Connection to database error:"));
     }
@@ -115,11 +119,18 @@ private Q_SLOTS:
         QTest::addColumn<QString>("label");
         QTest::addColumn<QString>("pattern");
         QTest::addColumn<QString>("filter");
-        QTest::newRow("all files") << "All files (*.*)" << "*.*" << "All files (*)";
-        QTest::newRow("templates") << "Word templates (*.dot)" << "*.dot" << "Word templates (*.dot)";
-        QTest::newRow("trailing blanks") << "Access databases (*.mdb)  " << "*.mdb  "
+        QTest::newRow("all files") << "All files (*.*)"
+                                   << "*.*"
+                                   << "All files (*)";
+        QTest::newRow("templates") << "Word templates (*.dot)"
+                                   << "*.dot"
+                                   << "Word templates (*.dot)";
+        QTest::newRow("trailing blanks") << "Access databases (*.mdb)  "
+                                         << "*.mdb  "
                                          << "Access databases (*.mdb)";
-        QTest::newRow("bare label") << "Documents" << "*.doc;*.xls" << "Documents (*.doc *.xls)";
+        QTest::newRow("bare label") << "Documents"
+                                    << "*.doc;*.xls"
+                                    << "Documents (*.doc *.xls)";
     }
 
     void fileDialogFilters()
@@ -136,7 +147,7 @@ private Q_SLOTS:
         scripted.answer(MsgBoxResult::No).answerFile("/tmp/a.doc").answerFolder("");
         QCOMPARE(MsgBox("Delete?", 4 + 32, "Confirm Deletion"), int(MsgBoxResult::No));
         QCOMPARE(Prompter::instance().OpenFile({"Select Document", "/tmp", "All files (*.*)", "*.*"}),
-                 QString("/tmp/a.doc"));
+            QString("/tmp/a.doc"));
         QCOMPARE(Prompter::instance().ChooseFolder("Pick"), QString());
         QCOMPARE(scripted.prompts().size(), 1);
         QCOMPARE(scripted.prompts().first().title, QString("Confirm Deletion"));
