@@ -2,6 +2,8 @@
 
 #include "explorer/ListModel.h"
 
+#include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QDragEnterEvent>
 #include <QHeaderView>
 #include <QItemSelectionModel>
@@ -57,7 +59,7 @@ ExplorerList::ExplorerList(ListModel* model, QWidget* parent)
         view->setDragDropMode(QAbstractItemView::NoDragDrop);
         view->viewport()->installEventFilter(this);
         view->installEventFilter(this);
-        connect(view, &QAbstractItemView::clicked, this, &ExplorerList::onClicked);
+        connect(view, &QAbstractItemView::pressed, this, &ExplorerList::onClicked);
         connect(view, &QAbstractItemView::doubleClicked, this,
             [this](const QModelIndex& index) { Q_EMIT DblClick(index.row()); });
         m_stack->addWidget(view);
@@ -163,8 +165,8 @@ void ExplorerList::setDragFilesOut(bool enabled)
 
 void ExplorerList::onCurrentChanged(const QModelIndex& current, const QModelIndex&)
 {
-    // A mouse press is answered by the click; here only moves by the keyboard count.
-    if (current.isValid() && !m_mousePressed && currentView()->hasFocus())
+    // Only a move by the keyboard counts as a click; a refill or a mouse press doesn't.
+    if (current.isValid() && m_keyPressed && !m_mousePressed)
         Q_EMIT ItemClick(current.row());
 }
 
@@ -189,6 +191,27 @@ bool ExplorerList::eventFilter(QObject* watched, QEvent* event)
     case QEvent::MouseButtonRelease:
         m_mousePressed = false;
         break;
+    case QEvent::KeyPress:
+        if (watched == currentView() && !m_keyPressed) {
+            // The view moves its current item while it handles the key: deliver it here,
+            // so that the move is known to come from the keyboard.
+            m_keyPressed = true;
+            QCoreApplication::sendEvent(watched, event);
+            m_keyPressed = false;
+            return true;
+        }
+        break;
+    case QEvent::ContextMenu: {
+        // The menu key acts as the right button over the selected item.
+        auto* menu = static_cast<QContextMenuEvent*>(event);
+        if (menu->reason() == QContextMenuEvent::Keyboard) {
+            QAbstractItemView* view = currentView();
+            const int row = selectedRow();
+            const QPoint local = row >= 0 ? view->visualRect(m_model->index(row, 0)).center() : QPoint(8, 8);
+            Q_EMIT MouseDown(Qt::RightButton, view->viewport()->mapToGlobal(local));
+        }
+        return true;
+    }
     case QEvent::DragEnter:
     case QEvent::DragMove: {
         auto* drag = static_cast<QDropEvent*>(event);

@@ -72,6 +72,7 @@ private:
     int m_view = Report;
     bool m_acceptDrops = false;
     bool m_mousePressed = false;
+    bool m_keyPressed = false;
 };
 
 } // namespace kartella

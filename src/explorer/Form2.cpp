@@ -10,6 +10,7 @@
 #include "options/OptionStore.h"
 #include "platform/Prompter.h"
 #include "support/Error.h"
+#include "support/Splitter.h"
 
 #include <QComboBox>
 #include <QCoreApplication>
@@ -18,6 +19,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QMenu>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QToolBar>
@@ -34,6 +36,7 @@ Form2::Form2(QWidget* parent)
     m_fills = std::make_unique<DocumentFills>(*m_documentModel, m_state);
     m_fills->setCount = [this](const QString& text) { m_count->setText(text); };
     m_fills->disableDocumentCommands = [this] { DisableDocumentCommands(); };
+    popupMenu = [](QMenu* menu, const QPoint& pos) { menu->exec(pos); };
 }
 
 Form2::~Form2() = default;
@@ -110,12 +113,36 @@ void Form2::buildWindow()
     status->addWidget(m_count);
     status->addWidget(m_source, 1);
 
-    resize(900, 600);
-    m_mainSplit->setSizes({ExplorerList::twipsToPixels(3000, this), 900});
+    resize(1100, 700);
+
+    // The three gaps: tree and lists side by side, the document list over the related one.
+    m_splitters[0] = new CSplitter(this);
+    m_splitters[0]->Create(m_mainSplit, true, 0, 30);
+    m_splitters[1] = new CSplitter(this);
+    m_splitters[1]->Create(m_listSplit, false, 0, 80);
+
+    buildMenus();
+    buildToolbar();
+    buildPopups();
 
     connect(m_tree, &NavigationTree::NodeClick, this, &Form2::acxTreeKategorijos_NodeClick);
+    connect(m_tree, &NavigationTree::MouseDown, this, &Form2::acxTreeKategorijos_MouseDown);
     connect(m_documents, &ExplorerList::ItemClick, this, &Form2::ListDokSarasas_ItemClick);
+    connect(m_documents, &ExplorerList::DblClick, this, &Form2::ListDokSarasas_DblClick);
+    connect(m_documents, &ExplorerList::ColumnClick, this, &Form2::ListDokSarasas_ColumnClick);
+    connect(m_documents, &ExplorerList::MouseDown, this, &Form2::ListDokSarasas_MouseDown);
+    connect(m_documents, &ExplorerList::filesDropped, this, &Form2::ListDokSarasas_OLEDragDrop);
     connect(m_related, &ExplorerList::ItemClick, this, &Form2::ListSusieti_ItemClick);
+    connect(m_related, &ExplorerList::DblClick, this, &Form2::ListSusieti_DblClick);
+    connect(m_related, &ExplorerList::ColumnClick, this, &Form2::ListSusieti_ColumnClick);
+    connect(m_related, &ExplorerList::MouseDown, this, &Form2::ListSusieti_MouseDown);
+
+    // A document's file can be dragged out as a file list; files dropped on the list register.
+    m_documentModel->dragFiles = [this] {
+        return m_state.SelectedFilePath.isEmpty() ? QStringList() : QStringList{m_state.SelectedFilePath};
+    };
+    m_documents->setDragFilesOut(true);
+    m_documents->setAcceptFileDrops(true);
 }
 
 bool Form2::FileFound(const QString& path)
@@ -301,9 +328,5 @@ void Form2::ListByContactDated(int direction)
             ContactDatedDocumentSql(direction, m_startDate->date(), m_endDate->date()));
     });
 }
-
-void Form2::UpdateCommandState() { }
-
-void Form2::DisableDocumentCommands() { }
 
 } // namespace kartella

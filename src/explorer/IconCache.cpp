@@ -2,7 +2,6 @@
 
 #include "support/FileInfo.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace kartella {
@@ -25,18 +24,13 @@ IconCache& IconCache::shared()
     return cache;
 }
 
-QString SnowIconPath()
-{
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/snow.ico");
-}
-
 void AddEmptyIcon(const QString& key)
 {
     IconCache& cache = IconCache::shared();
     if (cache.contains(key))
         return;
     // Without the file the picture is simply empty.
-    const QIcon snow(SnowIconPath());
+    const QIcon snow(NoFileIconPath());
     cache.add(key, snow, snow);
 }
 

@@ -42,7 +42,5 @@ QString GetIconKey(const QString& path);
 void AddFileIcon(CFileInfo& info, const QString& key);
 // Puts the "no file" picture (snow.ico beside the program) under key, unless it is there.
 void AddEmptyIcon(const QString& key);
-// The "no file" picture's file.
-QString SnowIconPath();
 
 } // namespace kartella

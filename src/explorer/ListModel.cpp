@@ -152,6 +152,13 @@ QMimeData* ListModel::mimeData(const QModelIndexList& indexes) const
 {
     auto* data = new QMimeData;
     QList<QUrl> urls;
+    if (dragFiles) {
+        const QStringList files = dragFiles();
+        for (const QString& file : files)
+            urls << QUrl::fromLocalFile(file);
+        data->setUrls(urls);
+        return data;
+    }
     for (const QModelIndex& index : indexes) {
         if (index.column() != 0 || index.row() >= int(m_items.size()))
             continue;

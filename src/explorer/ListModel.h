@@ -4,6 +4,7 @@
 #include <QIcon>
 
 #include <array>
+#include <functional>
 #include <vector>
 
 namespace kartella {
@@ -65,6 +66,9 @@ public:
     QStringList mimeTypes() const override;
     QMimeData* mimeData(const QModelIndexList& indexes) const override;
     Qt::DropActions supportedDragActions() const override;
+
+    // The files a drag out of the list offers (none: the dragged items' own tags).
+    std::function<QStringList()> dragFiles;
 
     // The text an item shows in a column.
     static const QString& columnText(const ListItem& item, int column);

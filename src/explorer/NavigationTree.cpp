@@ -1,5 +1,6 @@
 #include "explorer/NavigationTree.h"
 
+#include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
@@ -160,6 +161,16 @@ void NavigationTree::mousePressEvent(QMouseEvent* event)
         return;
     }
     QTreeWidget::mousePressEvent(event);
+}
+
+void NavigationTree::contextMenuEvent(QContextMenuEvent* event)
+{
+    // The menu key acts as the right button; a mouse press has already been answered.
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        const QRect rect = currentItem() ? visualItemRect(currentItem()) : QRect(0, 0, 16, 16);
+        Q_EMIT MouseDown(Qt::RightButton, viewport()->mapToGlobal(rect.center()));
+    }
+    event->accept();
 }
 
 void NavigationTree::onItemClicked(QTreeWidgetItem* item)

@@ -6,6 +6,7 @@
 #include "explorer/ListModel.h"
 #include "explorer/NavigationTree.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QLabel>
 #include <QTest>
@@ -117,15 +118,18 @@ void ExplorerFixture::clickNode(const QString& key)
     NavigationTree* tree = m_window->tree();
     QTreeWidgetItem* node = tree->nodeByKey(key);
     QVERIFY2(node, qPrintable("no node " + key));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     tree->scrollToItem(node);
     const QRect rect = tree->visualItemRect(node);
     QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, rect.center());
+    QVERIFY2(tree->currentItem() == node, qPrintable(QString("clicked beside node %1 at %2,%3, current %4, viewport %5x%6").arg(key).arg(rect.center().x()).arg(rect.center().y()).arg(NavigationTree::nodeKey(tree->currentItem())).arg(tree->viewport()->width()).arg(tree->viewport()->height())));
 }
 
 void ExplorerFixture::clickDocument(const QString& name)
 {
     const int row = documents().rowOfKey(DocumentFills::ItemKey(id.value(name)));
     QVERIFY2(row >= 0, qPrintable("no document " + name));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     QTreeView* view = m_window->documentList()->detailsView();
     const QModelIndex index = documents().index(row, 0);
     view->scrollTo(index);

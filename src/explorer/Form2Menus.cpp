@@ -1,0 +1,363 @@
+// Form2: the menu bar, the toolbar, the two context menus and the enabling of commands.
+#include "explorer/Form2.h"
+#include "explorer/SelectionState.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+#include <QToolButton>
+
+namespace kartella {
+
+namespace {
+
+    // What a user calls each dialog, for the tool tip of a command whose dialog is missing.
+    QString dialogTitle(const QString& name)
+    {
+        static const QHash<QString, QString> titles = {
+            {QStringLiteral("frmNewDocument"), QStringLiteral("New Document")},
+            {QStringLiteral("frmCopyFile"), QStringLiteral("Copy/Move File")},
+            {QStringLiteral("frmRelated"), QStringLiteral("New Related Document")},
+            {QStringLiteral("frmNew"), QStringLiteral("Document Details")},
+            {QStringLiteral("frmCategory"), QStringLiteral("Category Options")},
+            {QStringLiteral("frmCorr"), QStringLiteral("New Contact")},
+            {QStringLiteral("frmNewCategory"), QStringLiteral("New Category")},
+            {QStringLiteral("frmCoresp"), QStringLiteral("Address Book")},
+            {QStringLiteral("frmSettings"), QStringLiteral("Options")},
+            {QStringLiteral("frmAbout"), QStringLiteral("About Kartella")},
+            {QStringLiteral("reports"), QStringLiteral("report")},
+            {QStringLiteral("outlookImport"), QStringLiteral("contact import")},
+        };
+        return titles.value(name, name);
+    }
+
+    QString unavailableText(const QString& dialog)
+    {
+        return QStringLiteral("The %1 dialog is not available in this version.").arg(dialogTitle(dialog));
+    }
+
+    QIcon themed(const char* name, const char* fallback = "")
+    {
+        return QIcon::fromTheme(QLatin1String(name), QIcon::fromTheme(QLatin1String(fallback)));
+    }
+
+} // namespace
+
+QAction* Form2::addCommand(QMenu* menu, const QString& name, const QString& caption, void (Form2::*slot)(),
+                           const QKeySequence& shortcut, const QString& dialog)
+{
+    auto* action = new QAction(caption, this);
+    action->setObjectName(name);
+    if (!shortcut.isEmpty())
+        action->setShortcut(shortcut);
+    if (slot)
+        connect(action, &QAction::triggered, this, slot);
+    else if (!dialog.isEmpty())
+        connect(action, &QAction::triggered, this, [this, dialog] { openDialog(dialog); });
+    if (!dialog.isEmpty())
+        m_actionDialogs.insert(action, dialog);
+    if (menu)
+        menu->addAction(action);
+    m_actions.insert(name, action);
+    setCommandEnabled(name, true);
+    return action;
+}
+
+QAction* Form2::action(const QString& name) const
+{
+    return m_actions.value(name);
+}
+
+QAction* Form2::toolbarButton(int position) const
+{
+    return position >= 1 && position <= m_toolbar.size() ? m_toolbar[position - 1] : nullptr;
+}
+
+void Form2::setDialog(const QString& name, DialogOpener open)
+{
+    m_dialogs.insert(name, std::move(open));
+    for (auto it = m_actionDialogs.cbegin(); it != m_actionDialogs.cend(); ++it) {
+        if (it.value() == name)
+            setCommandEnabled(it.key()->objectName(), it.key()->property("wantedEnabled").toBool());
+    }
+}
+
+void Form2::openDialog(const QString& name, const QString& droppedFile)
+{
+    if (const DialogOpener open = m_dialogs.value(name))
+        open(droppedFile);
+}
+
+void Form2::setCommandEnabled(const QString& name, bool enabled)
+{
+    QAction* command = m_actions.value(name);
+    if (!command)
+        return;
+    command->setProperty("wantedEnabled", enabled);
+    const QString dialog = m_actionDialogs.value(command);
+    const bool available = dialog.isEmpty() || m_dialogs.contains(dialog);
+    command->setEnabled(enabled && available);
+    QString tip = command->property("ownToolTip").toString();
+    if (!available)
+        tip = tip.isEmpty() ? unavailableText(dialog) : tip + u'\n' + unavailableText(dialog);
+    command->setToolTip(tip.isEmpty() ? QString(command->text()).remove(u'&') : tip);
+}
+
+void Form2::setToolbarEnabled(std::initializer_list<int> positions, bool enabled)
+{
+    for (int position : positions) {
+        if (QAction* button = toolbarButton(position))
+            setCommandEnabled(button->objectName(), enabled);
+    }
+}
+
+void Form2::buildMenus()
+{
+    QMenuBar* bar = menuBar();
+    QMenu* file = bar->addMenu(QStringLiteral("&File"));
+    file->setObjectName(QStringLiteral("mnuFile"));
+    file->setToolTipsVisible(true);
+    addCommand(file, QStringLiteral("mnuNew"), QStringLiteral("&New Document"), &Form2::mnuNew_Click,
+               QKeySequence(Qt::CTRL | Qt::Key_N), QStringLiteral("frmNewDocument"));
+    addCommand(file, QStringLiteral("mnuOpen"), QStringLiteral("&Open Document"), &Form2::mnuOpen_Click,
+               QKeySequence(Qt::CTRL | Qt::Key_O));
+    file->addSeparator()->setObjectName(QStringLiteral("mnuHyper3"));
+    addCommand(file, QStringLiteral("mnuCopy"), QStringLiteral("&Copy Document"), &Form2::mnuCopy_Click,
+               QKeySequence(Qt::CTRL | Qt::Key_C), QStringLiteral("frmCopyFile"));
+    addCommand(file, QStringLiteral("mnuMove"), QStringLiteral("&Move Document"), &Form2::mnuCopy_Click,
+               QKeySequence(Qt::CTRL | Qt::Key_M), QStringLiteral("frmCopyFile"));
+    addCommand(file, QStringLiteral("mnuDelete"), QStringLiteral("&Delete Document"), &Form2::mnuDelete_Click,
+               QKeySequence(Qt::Key_Delete));
+    file->addSeparator()->setObjectName(QStringLiteral("mnuHyper4"));
+    addCommand(file, QStringLiteral("mnuDeleteCategory"), QStringLiteral("De&lete Category"),
+               &Form2::mnuDeleteCategory_Click);
+    file->addSeparator()->setObjectName(QStringLiteral("mnuhyper6"));
+    addCommand(file, QStringLiteral("mnuPrintSetup"), QStringLiteral("Print Set&up"), &Form2::mnuPrintSetup_Click);
+    addCommand(file, QStringLiteral("mnuPrint"), QStringLiteral("&Print Document"), &Form2::mnuPrint_Click,
+               QKeySequence(Qt::CTRL | Qt::Key_P));
+    file->addSeparator()->setObjectName(QStringLiteral("mnuhypen1"));
+    addCommand(file, QStringLiteral("mnuRelated"), QStringLiteral("Ne&w Related Document"), &Form2::mnuRelated_Click,
+               {}, QStringLiteral("frmRelated"));
+    file->addSeparator()->setObjectName(QStringLiteral("mnuHyper5"));
+    addCommand(file, QStringLiteral("mnuShowDetails"), QStringLiteral("&Show Details"), &Form2::mnuShowDetails_Click,
+               QKeySequence(Qt::Key_F3), QStringLiteral("frmNew"));
+    addCommand(file, QStringLiteral("mnuProperties"), QStringLiteral("P&roperties"), &Form2::mnuProperties_Click,
+               QKeySequence(Qt::Key_F4));
+    file->addSeparator()->setObjectName(QStringLiteral("mnuhypen2"));
+    addCommand(file, QStringLiteral("mnuExit"), QStringLiteral("E&xit"), &Form2::mnuExit_Click);
+    for (const char* name : {"mnuOpen", "mnuCopy", "mnuMove", "mnuDelete", "mnuDeleteCategory", "mnuPrint", "mnuRelated",
+                             "mnuShowDetails", "mnuProperties"})
+        setCommandEnabled(QLatin1String(name), false);
+
+    QMenu* view = bar->addMenu(QStringLiteral("&View"));
+    view->setObjectName(QStringLiteral("mnuView"));
+    view->setToolTipsVisible(true);
+    addCommand(view, QStringLiteral("mnuByCategory"), QStringLiteral("By Category"), &Form2::mnuByCategory_Click)
+        ->setCheckable(true);
+    addCommand(view, QStringLiteral("mnuByContacts"), QStringLiteral("By Contacts"), &Form2::mnuByContacts_Click)
+        ->setCheckable(true);
+    action(QStringLiteral("mnuByCategory"))->setChecked(true);
+    view->addSeparator()->setObjectName(QStringLiteral("mnuHypen9"));
+    addCommand(view, QStringLiteral("mnuLargeIcons"), QStringLiteral("Lar&ge Icons"), &Form2::mnuLargeIcons_Click);
+    addCommand(view, QStringLiteral("mnuSmallIcons"), QStringLiteral("S&mall Icons"), &Form2::mnuSmallIcons_Click);
+    addCommand(view, QStringLiteral("mnuList"), QStringLiteral("&List"), &Form2::mnuList_Click);
+    addCommand(view, QStringLiteral("mnuDetails"), QStringLiteral("&Details"), &Form2::mnuDetails_Click);
+    for (const char* name : {"mnuLargeIcons", "mnuSmallIcons", "mnuList", "mnuDetails"})
+        action(QLatin1String(name))->setCheckable(true);
+    action(QStringLiteral("mnuDetails"))->setChecked(true);
+    view->addSeparator()->setObjectName(QStringLiteral("mnuHypen5"));
+    QMenu* arrange = view->addMenu(QStringLiteral("Arrange &Icons"));
+    arrange->setObjectName(QStringLiteral("mnuArrangeIcons"));
+    addCommand(arrange, QStringLiteral("mnubyName"), QStringLiteral("by &Document description"),
+               &Form2::mnubyName_Click);
+    addCommand(arrange, QStringLiteral("mnubyRegIndex"), QStringLiteral("by &Registration Index"),
+               &Form2::mnubyRegIndex_Click);
+    addCommand(arrange, QStringLiteral("mnubyCorrespondent"), QStringLiteral("by &Correspondent"),
+               &Form2::mnubyCorrespondent_Click);
+    addCommand(arrange, QStringLiteral("mnubyDate"), QStringLiteral("by D&ate"), &Form2::mnubyDate_Click);
+    view->addSeparator()->setObjectName(QStringLiteral("mnuhypen6"));
+    addCommand(view, QStringLiteral("mnuRefresh"), QStringLiteral("&Refresh"), &Form2::mnuRefresh_Click,
+               QKeySequence(Qt::Key_F5));
+    addCommand(view, QStringLiteral("mnuCategoryOptions"), QStringLiteral("&Category Options"),
+               &Form2::mnuCategoryOptions_Click, {}, QStringLiteral("frmCategory"));
+    setCommandEnabled(QStringLiteral("mnuCategoryOptions"), false);
+
+    QMenu* go = bar->addMenu(QStringLiteral("&Go"));
+    go->setObjectName(QStringLiteral("mnuGo"));
+    go->setToolTipsVisible(true);
+    addCommand(go, QStringLiteral("mnuNewContact"), QStringLiteral("&New Contact"), nullptr, {},
+               QStringLiteral("frmCorr"));
+    addCommand(go, QStringLiteral("mnuNewCategory"), QStringLiteral("Ne&w Category"), nullptr, {},
+               QStringLiteral("frmNewCategory"));
+    go->addSeparator()->setObjectName(QStringLiteral("mnuhypen10"));
+    addCommand(go, QStringLiteral("mnuAddressBook"), QStringLiteral("&Address Book"), nullptr, {},
+               QStringLiteral("frmCoresp"));
+
+    QMenu* tools = bar->addMenu(QStringLiteral("&Tools"));
+    tools->setObjectName(QStringLiteral("mnuTools"));
+    tools->setToolTipsVisible(true);
+    addCommand(tools, QStringLiteral("mnuOptions"), QStringLiteral("&Options"), nullptr, {},
+               QStringLiteral("frmSettings"));
+    tools->addSeparator()->setObjectName(QStringLiteral("sep45"));
+    addCommand(tools, QStringLiteral("mnuOutlookData"), QStringLiteral("&Import Address Book from Outlook"), nullptr,
+               {}, QStringLiteral("outlookImport"));
+
+    QMenu* reports = bar->addMenu(QStringLiteral("&Reports"));
+    reports->setObjectName(QStringLiteral("mnuReports"));
+    reports->setToolTipsVisible(true);
+    const QString report = QStringLiteral("reports");
+    addCommand(reports, QStringLiteral("mnuCategoriesRep"), QStringLiteral("&Categories"), nullptr, {}, report);
+    QMenu* lists = reports->addMenu(QStringLiteral("&Documents List's"));
+    lists->setObjectName(QStringLiteral("mnuDocumentsLists"));
+    lists->setToolTipsVisible(true);
+    QMenu* byCategory = lists->addMenu(QStringLiteral("By Category"));
+    byCategory->setObjectName(QStringLiteral("mnuDocumByCategory"));
+    byCategory->setToolTipsVisible(true);
+    addCommand(byCategory, QStringLiteral("mnuThisMonth"), QStringLiteral("This Month"), nullptr, {}, report);
+    addCommand(byCategory, QStringLiteral("mnurptPrevMonth"), QStringLiteral("Previous Month"), nullptr, {}, report);
+    addCommand(byCategory, QStringLiteral("mnuAll"), QStringLiteral("All"), nullptr, {}, report);
+    addCommand(lists, QStringLiteral("mnuDocByContacts"), QStringLiteral("By Contacts"), nullptr, {}, report);
+    QMenu* addressBook = reports->addMenu(QStringLiteral("&Address Book"));
+    addressBook->setObjectName(QStringLiteral("mnurptAddressBook"));
+    addressBook->setToolTipsVisible(true);
+    addCommand(addressBook, QStringLiteral("mnurptPhones"), QStringLiteral("P&hones"), nullptr, {}, report);
+    addCommand(addressBook, QStringLiteral("mnuContacts"), QStringLiteral("&Contacts"), nullptr, {}, report);
+    addCommand(reports, QStringLiteral("mnuReminder"), QStringLiteral("&Reminder"), nullptr, {}, report);
+
+    QMenu* help = bar->addMenu(QStringLiteral("&Help"));
+    help->setObjectName(QStringLiteral("mnuHelp"));
+    help->setToolTipsVisible(true);
+    addCommand(help, QStringLiteral("mnuAboutKA"), QStringLiteral("&About Kartella"), nullptr, {},
+               QStringLiteral("frmAbout"));
+}
+
+void Form2::buildToolbar()
+{
+    auto* toolbar = new QToolBar(QStringLiteral("Toolbar"), m_coolBar);
+    toolbar->setObjectName(QStringLiteral("Toolbar1"));
+    toolbar->setIconSize(QSize(22, 22));
+    auto button = [&](const QString& key, const QString& tip, const char* icon, void (Form2::*slot)(),
+                      const QString& dialog = {}) {
+        QAction* command = addCommand(nullptr, key, QString(tip).section(QStringLiteral(" ("), 0, 0), slot, {}, dialog);
+        command->setIcon(themed(icon));
+        command->setProperty("ownToolTip", tip);
+        setCommandEnabled(key, true);
+        toolbar->addAction(command);
+        if (QWidget* widget = toolbar->widgetForAction(command)) {
+            widget->setObjectName(key);
+            widget->setAccessibleName(QString(tip).section(QStringLiteral(" ("), 0, 0));
+        }
+        m_toolbar << command;
+    };
+    auto separator = [&](const QString& key) {
+        QAction* separator = toolbar->addSeparator();
+        separator->setObjectName(key);
+        m_toolbar << separator;
+    };
+    button(QStringLiteral("btnNewDocument"), QStringLiteral("New Document (Ctrl+N)"), "document-new",
+           &Form2::mnuNew_Click, QStringLiteral("frmNewDocument"));
+    button(QStringLiteral("btnOpen"), QStringLiteral("Open Document (Ctrl+O)"), "document-open", &Form2::mnuOpen_Click);
+    separator(QStringLiteral("firstSep"));
+    button(QStringLiteral("btnCopy"), QStringLiteral("Copy Document (Ctrl+C)"), "edit-copy", &Form2::mnuCopy_Click,
+           QStringLiteral("frmCopyFile"));
+    button(QStringLiteral("btnMove"), QStringLiteral("Move Document (Ctrl+M)"), "go-jump", &Form2::mnuCopy_Click,
+           QStringLiteral("frmCopyFile"));
+    button(QStringLiteral("btnDelete"), QStringLiteral("Delete Document (Del)"), "edit-delete",
+           &Form2::mnuDelete_Click);
+    button(QStringLiteral("btnPrint"), QStringLiteral("Print (Ctrl+P)"), "document-print", &Form2::mnuPrint_Click);
+    separator({});
+    button(QStringLiteral("btnDetails"), QStringLiteral("Show Details (F3)"), "document-page-setup",
+           &Form2::mnuShowDetails_Click, QStringLiteral("frmNew"));
+    button(QStringLiteral("btnProperties"), QStringLiteral("Properties (F4)"), "document-properties",
+           &Form2::mnuProperties_Click);
+    separator({});
+
+    // The view button: its face does nothing, its menu sets the view.
+    auto* viewMenu = new QMenu(toolbar);
+    viewMenu->setObjectName(QStringLiteral("btnViewMenu"));
+    const QList<std::tuple<QString, QString, void (Form2::*)()>> views = {
+        {QStringLiteral("btnLarge"), QStringLiteral("Lar&ge"), &Form2::mnuLargeIcons_Click},
+        {QStringLiteral("btnSmall"), QStringLiteral("&Small"), &Form2::mnuSmallIcons_Click},
+        {QStringLiteral("btnList"), QStringLiteral("&List"), &Form2::mnuList_Click},
+        {QStringLiteral("btnDetailsV"), QStringLiteral("&Details"), &Form2::mnuDetails_Click},
+    };
+    for (const auto& [key, caption, slot] : views)
+        addCommand(viewMenu, key, caption, slot);
+    auto* viewButton = new QAction(themed("view-list-icons", "view-list-symbolic"), QStringLiteral("View Type"), this);
+    viewButton->setObjectName(QStringLiteral("btnView"));
+    viewButton->setToolTip(QStringLiteral("View Type"));
+    viewButton->setMenu(viewMenu);
+    m_actions.insert(viewButton->objectName(), viewButton);
+    toolbar->addAction(viewButton);
+    if (auto* widget = qobject_cast<QToolButton*>(toolbar->widgetForAction(viewButton))) {
+        widget->setObjectName(QStringLiteral("btnView"));
+        widget->setPopupMode(QToolButton::MenuButtonPopup);
+        widget->setAccessibleName(QStringLiteral("View Type"));
+    }
+    m_toolbar << viewButton;
+    separator(QStringLiteral("secsepar"));
+    button(QStringLiteral("btnNewCat"), QStringLiteral("New Category"), "folder-new", nullptr,
+           QStringLiteral("frmNewCategory"));
+    button(QStringLiteral("btnNewContact"), QStringLiteral("New Contact"), "contact-new", nullptr,
+           QStringLiteral("frmCorr"));
+    separator(QStringLiteral("sep12"));
+    button(QStringLiteral("btnContacts"), QStringLiteral("Address Book"), "x-office-address-book", nullptr,
+           QStringLiteral("frmCoresp"));
+    separator(QStringLiteral("btnSepar3"));
+    m_coolBar->insertWidget(m_coolBar->actions().value(0), toolbar);
+}
+
+void Form2::buildPopups()
+{
+    m_popUp = new QMenu(QStringLiteral("PopDoc"), this);
+    m_popUp->setObjectName(QStringLiteral("mnuPopUp"));
+    addCommand(m_popUp, QStringLiteral("mnuPopOpen"), QStringLiteral("&Open"), &Form2::mnuOpen_Click);
+    m_popUp->addSeparator()->setObjectName(QStringLiteral("mnuhypen11"));
+    addCommand(m_popUp, QStringLiteral("mnuPopCopy"), QStringLiteral("&Copy/Move"), &Form2::mnuCopy_Click, {},
+               QStringLiteral("frmCopyFile"));
+    addCommand(m_popUp, QStringLiteral("mnuPopDelete"), QStringLiteral("&Delete"), &Form2::mnuDelete_Click);
+    m_popUp->addSeparator()->setObjectName(QStringLiteral("mnuhypen12"));
+    addCommand(m_popUp, QStringLiteral("mnuPopPrint"), QStringLiteral("&Print"), &Form2::mnuPrint_Click);
+    m_popUp->addSeparator()->setObjectName(QStringLiteral("mnuhypen13"));
+    addCommand(m_popUp, QStringLiteral("mnuPopRelated"), QStringLiteral("Ne&w Related"), &Form2::mnuRelated_Click,
+               {}, QStringLiteral("frmRelated"));
+    QAction* hyphen14 = m_popUp->addSeparator();
+    hyphen14->setObjectName(QStringLiteral("mnuhypen14"));
+    m_actions.insert(hyphen14->objectName(), hyphen14);
+    addCommand(m_popUp, QStringLiteral("mnuPopDetails"), QStringLiteral("&Show Details"),
+               &Form2::mnuShowDetails_Click, {}, QStringLiteral("frmNew"));
+    addCommand(m_popUp, QStringLiteral("mnuPopProperties"), QStringLiteral("P&roperties"), &Form2::mnuProperties_Click);
+    m_popUp->setToolTipsVisible(true);
+
+    m_popCat = new QMenu(QStringLiteral("PopCat"), this);
+    m_popCat->setObjectName(QStringLiteral("mnuPopCat"));
+    addCommand(m_popCat, QStringLiteral("mnuPopCatNewDoc"), QStringLiteral("&New Document"), &Form2::mnuNew_Click, {},
+               QStringLiteral("frmNewDocument"));
+    addCommand(m_popCat, QStringLiteral("mnuPopCatDel"), QStringLiteral("&Delete"), &Form2::mnuDeleteCategory_Click);
+    addCommand(m_popCat, QStringLiteral("mnuPopCatEdit"), QStringLiteral("&Edit Details"),
+               &Form2::mnuCategoryOptions_Click, {}, QStringLiteral("frmCategory"));
+    m_popCat->setToolTipsVisible(true);
+}
+
+void Form2::UpdateCommandState()
+{
+    const bool path = !m_state.SelectedFilePath.isEmpty();
+    for (const char* name : {"mnuOpen", "mnuCopy", "mnuMove", "mnuPrint", "mnuProperties", "mnuPopCopy", "mnuPopOpen",
+                             "mnuPopPrint", "mnuPopProperties"})
+        setCommandEnabled(QLatin1String(name), path);
+    setCommandEnabled(QStringLiteral("mnuDelete"), true);
+    setToolbarEnabled({2, 4, 5, 7, 10}, path);
+    setToolbarEnabled({6, 9}, true);
+}
+
+void Form2::DisableDocumentCommands()
+{
+    for (const char* name : {"mnuOpen", "mnuCopy", "mnuMove", "mnuDelete", "mnuPrint", "mnuRelated", "mnuShowDetails",
+                             "mnuProperties"})
+        setCommandEnabled(QLatin1String(name), false);
+    setToolbarEnabled({2, 4, 5, 6, 7, 9, 10}, false);
+}
+
+} // namespace kartella

@@ -1,0 +1,13 @@
+#include "support/SharedPrinter.h"
+
+#include <QPrinter>
+
+namespace kartella {
+
+QPrinter& SharedPrinter()
+{
+    static QPrinter printer(QPrinter::HighResolution);
+    return printer;
+}
+
+} // namespace kartella
