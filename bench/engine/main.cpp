@@ -14,6 +14,7 @@
 #include "BenchRegister.h"
 #include "RawRead.h"
 #include "StorageCompare.h"
+#include "explorer/DocumentQueries.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 #include "store/engine/JetDialect.h"
@@ -27,6 +28,8 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include "explorer/DocumentQueries.h"
+
 #include <cstdio>
 #include <vector>
 
@@ -34,12 +37,6 @@ using namespace kartella;
 
 namespace {
 
-const QString DocumentSql = QStringLiteral(
-    "SELECT tbl_Documents.RastasID, tbl_Documents.DokGavSiuntData, tbl_Documents.DokRegistracData, "
-    "tbl_Documents.DokRegistracIndeksas, tbl_Documents.DokAntraste, tbl_Documents.DokVykdytojas, "
-    "tbl_Documents.DokIvykdymoZyma, tbl_Documents.RastoKel, tbl_Documents.ContactID, tbl_Contacts.FullName, "
-    "tbl_Documents.KategID, tbl_Documents.DokPastaba FROM tbl_Contacts RIGHT JOIN tbl_Documents ON "
-    "tbl_Contacts.ContactID = tbl_Documents.ContactID ");
 const QString Ordering = QStringLiteral(" ORDER BY tbl_Documents.DokRegistracData");
 
 // The fields as a list fill names them.
@@ -94,7 +91,7 @@ void compareJoins(const std::string& path, int runs)
     const QString filtered = QStringLiteral("WHERE tbl_Documents.DokRegistracData between '2020-03-01' and "
                                             "'2020-04-01' AND tbl_Documents.KategID=7");
     for (const auto& [name, clause] : {std::pair {"", QString()}, std::pair {"_filtered", filtered}}) {
-        const QString written = DocumentSql + clause + Ordering;
+        const QString written = DocumentSql() + clause + Ordering;
         const QString rewritten = engine::TranslateJetToSqlite(written);
         for (const auto& [form, sql] : {std::pair {"right", written}, std::pair {"left", rewritten}}) {
             std::vector<double> times;
@@ -132,7 +129,7 @@ int main(int argc, char** argv)
 
         Connection connection(PlainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"), path));
         connection.Open();
-        const QString sql = DocumentSql + Ordering;
+        const QString sql = DocumentSql() + Ordering;
         const std::string rawPath = path.toStdString();
         const std::string rawSql = engine::TranslateJetToSqlite(sql).toStdString();
 

@@ -1,4 +1,5 @@
 #include "EngineFixture.h"
+#include "explorer/DocumentQueries.h"
 #include "store/engine/Recordset.h"
 #include "support/Error.h"
 
@@ -10,12 +11,6 @@ using namespace kartella::test;
 
 namespace {
 
-const QString DocumentSql = QStringLiteral(
-    "SELECT tbl_Documents.RastasID, tbl_Documents.DokGavSiuntData, tbl_Documents.DokRegistracData, "
-    "tbl_Documents.DokRegistracIndeksas, tbl_Documents.DokAntraste, tbl_Documents.DokVykdytojas, "
-    "tbl_Documents.DokIvykdymoZyma, tbl_Documents.RastoKel, tbl_Documents.ContactID, tbl_Contacts.FullName, "
-    "tbl_Documents.KategID, tbl_Documents.DokPastaba FROM tbl_Contacts RIGHT JOIN tbl_Documents ON "
-    "tbl_Contacts.ContactID = tbl_Documents.ContactID ");
 
 // Eight documents: RastasID 1..8, KategID 1 for odd and 2 for even ids, registered on
 // March 1st..8th 2024, contact 1 "Petras" for ids up to 4, none above; DokAntraste
@@ -54,7 +49,7 @@ private Q_SLOTS:
         reg.fillSmall();
         reg.execute("UPDATE tbl_Documents SET DokGavSiuntData = '2024-03-02 10:15:00' WHERE RastasID = 2");
         Recordset recordset;
-        recordset.Open(DocumentSql + "ORDER BY tbl_Documents.DokRegistracData DESC", reg.connection(),
+        recordset.Open(DocumentSql() + "ORDER BY tbl_Documents.DokRegistracData DESC", reg.connection(),
             CursorTypeEnum::Static, LockTypeEnum::Unspecified);
         QCOMPARE(recordset.FieldCount(), 12);
         QCOMPARE(recordset.RecordCount(), 3);
