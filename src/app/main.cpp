@@ -1,15 +1,14 @@
 #include "explorer/Form2.h"
 #include "options/FirstRun.h"
+#include "platform/Application.h"
 #include "platform/DesktopShell.h"
 #include "platform/LibreOfficeSuite.h"
 #include "platform/WidgetPrompter.h"
 #include "support/FileInfo.h"
 
-#include <QApplication>
-
 int main(int argc, char* argv[])
 {
-    QApplication app(argc, argv);
+    kartella::Application app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Kartella"));
     QApplication::setApplicationDisplayName(QStringLiteral("Kartella"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("folder-documents")));

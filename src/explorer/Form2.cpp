@@ -9,6 +9,7 @@
 #include "explorer/SelectionState.h"
 #include "options/OptionStore.h"
 #include "platform/Prompter.h"
+#include "registration/NewDocumentDialog.h"
 #include "support/Error.h"
 #include "support/Splitter.h"
 
@@ -124,6 +125,12 @@ void Form2::buildWindow()
     buildMenus();
     buildToolbar();
     buildPopups();
+    setDialog(QStringLiteral("frmNewDocument"), [this](const QString& file) {
+        NewDocumentDialog dialog(this);
+        if (!file.isEmpty())
+            dialog.SetLocation(file);
+        dialog.exec();
+    });
 
     connect(m_tree, &NavigationTree::NodeClick, this, &Form2::acxTreeKategorijos_NodeClick);
     connect(m_tree, &NavigationTree::MouseDown, this, &Form2::acxTreeKategorijos_MouseDown);

@@ -1,0 +1,83 @@
+#include "support/EnterAsTab.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QWidget>
+
+namespace kartella {
+
+namespace {
+
+bool isEnter(const QKeyEvent* key)
+{
+    return (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter)
+        && !(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::ShiftModifier));
+}
+
+} // namespace
+
+EnterAsTab::EnterAsTab(QWidget* dialog)
+    : QObject(dialog)
+    , m_dialog(dialog)
+{
+    dialog->installEventFilter(this);
+}
+
+void EnterAsTab::Watch(QWidget* box)
+{
+    OnEnter(box, [box] { FocusNext(box); });
+}
+
+void EnterAsTab::OnEnter(QWidget* widget, std::function<void()> handler)
+{
+    if (!m_enter.contains(widget)) {
+        widget->installEventFilter(this);
+        connect(widget, &QObject::destroyed, this, &EnterAsTab::forget);
+    }
+    m_enter.insert(widget, std::move(handler));
+}
+
+void EnterAsTab::OnEscape(std::function<bool()> handler)
+{
+    m_escape = std::move(handler);
+}
+
+void EnterAsTab::forget(QObject* widget)
+{
+    m_enter.remove(widget);
+}
+
+void EnterAsTab::SendKey(QWidget* widget, int key, Qt::KeyboardModifiers modifiers)
+{
+    QKeyEvent press(QEvent::KeyPress, key, modifiers);
+    QCoreApplication::sendEvent(widget, &press);
+    QKeyEvent release(QEvent::KeyRelease, key, modifiers);
+    QCoreApplication::sendEvent(widget, &release);
+}
+
+void EnterAsTab::FocusNext(QWidget* widget)
+{
+    // The window moves the focus on a Tab it receives itself, whatever the focused box would
+    // do with one (a multi-line box would insert it).
+    SendKey(widget->window(), Qt::Key_Tab);
+}
+
+bool EnterAsTab::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress)
+        return QObject::eventFilter(watched, event);
+    auto* key = static_cast<QKeyEvent*>(event);
+    if (isEnter(key)) {
+        const auto handler = m_enter.constFind(watched);
+        if (handler != m_enter.cend()) {
+            const std::function<void()> run = handler.value();
+            run();
+            return true;
+        }
+    } else if (key->key() == Qt::Key_Escape && watched == m_dialog && m_escape) {
+        return m_escape();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace kartella

@@ -1,0 +1,281 @@
+#include "support/RecordsetModel.h"
+
+#include "platform/Prompter.h"
+#include "store/engine/Recordset.h"
+#include "store/engine/Value.h"
+#include "support/Error.h"
+
+#include <QDate>
+#include <QDateTime>
+#include <QHeaderView>
+#include <QLocale>
+#include <QTableView>
+
+namespace kartella {
+
+RecordsetModel::RecordsetModel(QObject* parent)
+    : QAbstractTableModel(parent)
+    , m_dateFormat(QLocale::system().dateFormat(QLocale::ShortFormat))
+{ }
+
+void RecordsetModel::SetRecordset(Recordset* recordset)
+{
+    if (m_recordset)
+        disconnect(m_recordset, nullptr, this, nullptr);
+    beginResetModel();
+    m_recordset = recordset;
+    m_fields = recordset && recordset->IsOpen() ? recordset->FieldNames() : QStringList();
+    endResetModel();
+    if (!recordset)
+        return;
+    connect(recordset, &Recordset::RecordsetChangeComplete, this, [this] {
+        if (!m_self)
+            reload();
+    });
+    connect(recordset, &Recordset::FieldChangeComplete, this, &RecordsetModel::onFieldChanged);
+    connect(recordset, &Recordset::MoveComplete, this, &RecordsetModel::onMoved);
+    connect(recordset, &QObject::destroyed, this, &RecordsetModel::reload);
+    onMoved();
+}
+
+void RecordsetModel::reload()
+{
+    beginResetModel();
+    m_fields = m_recordset && m_recordset->IsOpen() ? m_recordset->FieldNames() : QStringList();
+    endResetModel();
+}
+
+void RecordsetModel::SetColumnCaption(int column, const QString& caption)
+{
+    m_captions.insert(column, caption);
+    Q_EMIT headerDataChanged(Qt::Horizontal, column, column);
+}
+
+void RecordsetModel::SetColumnWidth(int column, int twips)
+{
+    m_widths.insert(column, twips);
+    applyColumns();
+}
+
+void RecordsetModel::SetColumnHidden(int column, bool hidden)
+{
+    m_hidden.insert(column, hidden);
+    applyColumns();
+}
+
+void RecordsetModel::SetAllowAddNew(bool allow)
+{
+    if (allow == m_allowAddNew)
+        return;
+    beginResetModel();
+    m_allowAddNew = allow;
+    endResetModel();
+}
+
+bool RecordsetModel::IsNewRowLine(int row) const
+{
+    return row == dataRows() && rowCount() > dataRows();
+}
+
+int RecordsetModel::dataRows() const
+{
+    return m_recordset && m_recordset->IsOpen() ? m_recordset->RecordCount() : 0;
+}
+
+int RecordsetModel::rowCount(const QModelIndex& parent) const
+{
+    if (parent.isValid() || !m_recordset || !m_recordset->IsOpen())
+        return 0;
+    return dataRows() + (m_allowAddNew && m_recordset->IsUpdatable() ? 1 : 0);
+}
+
+int RecordsetModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : int(m_fields.size());
+}
+
+QString RecordsetModel::displayText(const QVariant& value) const
+{
+    if (IsNull(value))
+        return {};
+    if (value.typeId() == QMetaType::QDate)
+        return value.toDate().toString(m_dateFormat);
+    if (value.typeId() == QMetaType::QDateTime) {
+        const QDateTime moment = value.toDateTime();
+        return moment.time() == QTime(0, 0) ? moment.date().toString(m_dateFormat)
+                                            : QLocale::system().toString(moment, QLocale::ShortFormat);
+    }
+    return value.toString();
+}
+
+QVariant RecordsetModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::EditRole))
+        return {};
+    if (index.row() >= dataRows())
+        return QString();
+    return displayText(m_recordset->RowValue(index.row(), index.column()));
+}
+
+QVariant RecordsetModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (role != Qt::DisplayRole)
+        return {};
+    if (orientation == Qt::Vertical)
+        return IsNewRowLine(section) ? QStringLiteral("*") : QString::number(section + 1);
+    return m_captions.contains(section) ? m_captions.value(section) : m_fields.value(section);
+}
+
+Qt::ItemFlags RecordsetModel::flags(const QModelIndex& index) const
+{
+    if (!index.isValid())
+        return Qt::NoItemFlags;
+    Qt::ItemFlags result = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+    bool chapter = false;
+    try {
+        chapter = m_recordset->Fields(index.column()).IsChapter();
+    } catch (const Error&) {
+        chapter = true;
+    }
+    if (m_recordset->IsUpdatable() && !chapter)
+        result |= Qt::ItemIsEditable;
+    return result;
+}
+
+bool RecordsetModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    if (!index.isValid() || role != Qt::EditRole || !(flags(index) & Qt::ItemIsEditable))
+        return false;
+    const bool adding = IsNewRowLine(index.row());
+    if (adding && value.toString().isEmpty())
+        return false; // nothing typed: no row
+    const bool done = adding ? addRow(index.column(), value) : setCell(index.row(), index.column(), value);
+    if (done)
+        Q_EMIT Edited();
+    return done;
+}
+
+bool RecordsetModel::addRow(int column, const QVariant& value)
+{
+    const int row = dataRows();
+    // The new-row line becomes the new row, and a new new-row line follows it.
+    beginInsertRows({}, row + 1, row + 1);
+    m_self = true;
+    try {
+        m_recordset->AddNew();
+    } catch (const Error& error) {
+        m_self = false;
+        endInsertRows();
+        reload();
+        MsgBox(error.description());
+        return false;
+    }
+    m_self = false;
+    endInsertRows();
+    if (setCell(row, column, value))
+        return true;
+    beginRemoveRows({}, row + 1, row + 1);
+    m_self = true;
+    try {
+        m_recordset->CancelUpdate();
+    } catch (const Error&) {
+        // The row was never more than an edit; nothing is left to undo.
+    }
+    m_self = false;
+    endRemoveRows();
+    Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
+    return false;
+}
+
+bool RecordsetModel::setCell(int row, int column, const QVariant& value)
+{
+    m_self = true;
+    try {
+        if (m_recordset->CurrentRow() != row)
+            m_recordset->SetAbsolutePosition(row + 1);
+        const QString text = value.toString();
+        m_recordset->Fields(column).SetValue(text.isEmpty() ? QVariant() : value);
+        if (m_recordset->EditMode() != EditModeEnum::None)
+            m_recordset->Update();
+    } catch (const Error& error) {
+        m_self = false;
+        MsgBox(error.description());
+        return false;
+    }
+    m_self = false;
+    Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
+    return true;
+}
+
+void RecordsetModel::onFieldChanged(const QString& name)
+{
+    if (m_self || !m_recordset)
+        return;
+    const int row = m_recordset->CurrentRow();
+    const int column = int(m_fields.indexOf(name));
+    if (row >= 0 && column >= 0)
+        Q_EMIT dataChanged(index(row, column), index(row, column));
+}
+
+void RecordsetModel::onMoved()
+{
+    if (!m_view || !m_recordset || m_syncing)
+        return;
+    const int row = m_recordset->CurrentRow();
+    const QModelIndex current = m_view->currentIndex();
+    if (row < 0 || current.row() == row)
+        return;
+    int column = current.isValid() ? current.column() : 0;
+    while (column < columnCount() - 1 && m_view->isColumnHidden(column))
+        ++column;
+    m_syncing = true;
+    m_view->setCurrentIndex(index(row, column));
+    m_syncing = false;
+}
+
+void RecordsetModel::onViewCurrentChanged(const QModelIndex& current)
+{
+    if (m_syncing || !m_recordset || !current.isValid() || current.row() >= dataRows())
+        return;
+    if (m_recordset->CurrentRow() == current.row())
+        return;
+    m_syncing = true;
+    try {
+        m_recordset->SetAbsolutePosition(current.row() + 1);
+    } catch (const Error& error) {
+        MsgBox(error.description());
+    }
+    m_syncing = false;
+}
+
+void RecordsetModel::AttachView(QTableView* view)
+{
+    m_view = view;
+    view->setModel(this);
+    view->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked
+        | QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
+    view->setSelectionBehavior(QAbstractItemView::SelectItems);
+    view->setSelectionMode(QAbstractItemView::SingleSelection);
+    connect(view->selectionModel(), &QItemSelectionModel::currentChanged, this,
+        &RecordsetModel::onViewCurrentChanged, Qt::UniqueConnection);
+    connect(this, &QAbstractItemModel::modelReset, this, &RecordsetModel::applyColumns, Qt::UniqueConnection);
+    applyColumns();
+}
+
+void RecordsetModel::applyColumns()
+{
+    if (!m_view)
+        return;
+    for (auto it = m_widths.cbegin(); it != m_widths.cend(); ++it)
+        m_view->setColumnWidth(it.key(), TwipsToPixels(it.value(), m_view));
+    for (int column = 0; column < columnCount(); ++column)
+        m_view->setColumnHidden(column, m_hidden.value(column, false));
+}
+
+int RecordsetModel::TwipsToPixels(int twips, const QWidget* widget)
+{
+    const int dpi = widget ? widget->logicalDpiX() : 96;
+    return (twips * dpi + 720) / 1440;
+}
+
+} // namespace kartella
