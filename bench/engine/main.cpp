@@ -28,8 +28,6 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
-#include "explorer/DocumentQueries.h"
-
 #include <cstdio>
 #include <vector>
 

@@ -146,7 +146,7 @@ void Form2::buildWindow()
 
     // A document's file can be dragged out as a file list; files dropped on the list register.
     m_documentModel->dragFiles = [this] {
-        return m_state.SelectedFilePath.isEmpty() ? QStringList() : QStringList{m_state.SelectedFilePath};
+        return m_state.SelectedFilePath.isEmpty() ? QStringList() : QStringList {m_state.SelectedFilePath};
     };
     m_documents->setDragFilesOut(true);
     m_documents->setAcceptFileDrops(true);

@@ -146,7 +146,7 @@ private:
     void buildToolbar();
     void buildPopups();
     QAction* addCommand(QMenu* menu, const QString& name, const QString& caption, void (Form2::*slot)(),
-                        const QKeySequence& shortcut = {}, const QString& dialog = {});
+        const QKeySequence& shortcut = {}, const QString& dialog = {});
     void setView(int view);
     void sortColumn(ExplorerList* list, int column);
     void setCommandEnabled(const QString& name, bool enabled);

@@ -22,26 +22,26 @@
 namespace kartella {
 
 namespace {
-    const QString DocumentListName = QStringLiteral("ListDokSarasas");
-    const QString RelatedListName = QStringLiteral("ListSusieti");
+const QString DocumentListName = QStringLiteral("ListDokSarasas");
+const QString RelatedListName = QStringLiteral("ListSusieti");
 
-    bool sameName(const QString& a, const QString& b)
-    {
-        return a.compare(b, Qt::CaseInsensitive) == 0;
-    }
+bool sameName(const QString& a, const QString& b)
+{
+    return a.compare(b, Qt::CaseInsensitive) == 0;
+}
 
-    QString deleteDocumentSql(qint32 id)
-    {
-        return QStringLiteral("DELETE tbl_Documents.* FROM tbl_Documents WHERE tbl_Documents.RastasID=")
-            + QString::number(id);
-    }
+QString deleteDocumentSql(qint32 id)
+{
+    return QStringLiteral("DELETE tbl_Documents.* FROM tbl_Documents WHERE tbl_Documents.RastasID=")
+        + QString::number(id);
+}
 
-    QString deleteSubDocumentSql(qint32 id)
-    {
-        return QStringLiteral("DELETE tbl_Sub_Documents.*, tbl_Sub_Documents.SubRastasID FROM tbl_Sub_Documents "
-                              "WHERE tbl_Sub_Documents.SubRastasID=")
-            + QString::number(id);
-    }
+QString deleteSubDocumentSql(qint32 id)
+{
+    return QStringLiteral("DELETE tbl_Sub_Documents.*, tbl_Sub_Documents.SubRastasID FROM tbl_Sub_Documents "
+                          "WHERE tbl_Sub_Documents.SubRastasID=")
+        + QString::number(id);
+}
 } // namespace
 
 void Form2::mnuNew_Click()
@@ -116,13 +116,13 @@ void Form2::OpenDocumentFile(const QString& path, const QString& verb)
 {
     if (path.isEmpty()) {
         MsgBox(QStringLiteral("Path to Location of this Document not included!"),
-               MsgBoxStyle::OkOnly + MsgBoxStyle::Information, QStringLiteral("File not found"));
+            MsgBoxStyle::OkOnly + MsgBoxStyle::Information, QStringLiteral("File not found"));
         return;
     }
     const QFileInfo file(path);
     if (!file.exists() || file.isDir()) {
         MsgBox(QStringLiteral("Path to file is invalid!"), MsgBoxStyle::OkOnly + MsgBoxStyle::Critical,
-               QStringLiteral("Unable to open Document"));
+            QStringLiteral("Unable to open Document"));
         return;
     }
     // The result isn't looked at: the desktop reports its own failures.
@@ -177,17 +177,18 @@ void Form2::DeleteDocument()
     const QString active = m_state.ActiveListName;
     if (!sameName(active, DocumentListName) && !sameName(active, RelatedListName)) {
         MsgBox(QStringLiteral("Select document, please!"), MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation,
-               QStringLiteral("Unable to delete as requested"));
+            QStringLiteral("Unable to delete as requested"));
         return;
     }
     try {
         Connection connection;
         connection.Open(PlainConnectionString());
         Recordset children;
-        children.Open(QStringLiteral("SELECT tbl_Sub_Documents.*, tbl_Sub_Documents.RastasID FROM tbl_Sub_Documents "
-                                     "WHERE tbl_Sub_Documents.RastasID=")
-                          + QString::number(m_state.SelectedDocumentId),
-                      connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
+        children.Open(
+            QStringLiteral("SELECT tbl_Sub_Documents.*, tbl_Sub_Documents.RastasID FROM tbl_Sub_Documents "
+                           "WHERE tbl_Sub_Documents.RastasID=")
+                + QString::number(m_state.SelectedDocumentId),
+            connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
         const QString path = m_state.SelectedFilePath;
 
         if (sameName(active, RelatedListName)) {
@@ -210,7 +211,7 @@ void Form2::DeleteDocument()
         }
 
         if (MsgBox(QStringLiteral("Do you wish to delete document and their subdocuments?"),
-                   MsgBoxStyle::YesNo + MsgBoxStyle::Question, QStringLiteral("Confirm Deletion"))
+                MsgBoxStyle::YesNo + MsgBoxStyle::Question, QStringLiteral("Confirm Deletion"))
             != MsgBoxResult::Yes)
             return;
         // Each related document's row goes first, then its file; a file that stays is no matter.
@@ -242,7 +243,8 @@ void Form2::DeleteCategory()
             + QString::number(m_state.CurrentCategoryId);
     } else if (m_state.CurrentNodeKind == QLatin1String("b")) {
         question = QStringLiteral("Do you wish to delete SubCategory?");
-        sql = QStringLiteral("DELETE tbl_Sub_Categories.* FROM tbl_Sub_Categories WHERE tbl_Sub_Categories.SubKategID=")
+        sql = QStringLiteral(
+                  "DELETE tbl_Sub_Categories.* FROM tbl_Sub_Categories WHERE tbl_Sub_Categories.SubKategID=")
             + QString::number(m_state.CurrentSubCategoryId);
     } else {
         return;

@@ -13,40 +13,40 @@ namespace kartella {
 
 namespace {
 
-    // What a user calls each dialog, for the tool tip of a command whose dialog is missing.
-    QString dialogTitle(const QString& name)
-    {
-        static const QHash<QString, QString> titles = {
-            {QStringLiteral("frmNewDocument"), QStringLiteral("New Document")},
-            {QStringLiteral("frmCopyFile"), QStringLiteral("Copy/Move File")},
-            {QStringLiteral("frmRelated"), QStringLiteral("New Related Document")},
-            {QStringLiteral("frmNew"), QStringLiteral("Document Details")},
-            {QStringLiteral("frmCategory"), QStringLiteral("Category Options")},
-            {QStringLiteral("frmCorr"), QStringLiteral("New Contact")},
-            {QStringLiteral("frmNewCategory"), QStringLiteral("New Category")},
-            {QStringLiteral("frmCoresp"), QStringLiteral("Address Book")},
-            {QStringLiteral("frmSettings"), QStringLiteral("Options")},
-            {QStringLiteral("frmAbout"), QStringLiteral("About Kartella")},
-            {QStringLiteral("reports"), QStringLiteral("report")},
-            {QStringLiteral("outlookImport"), QStringLiteral("contact import")},
-        };
-        return titles.value(name, name);
-    }
+// What a user calls each dialog, for the tool tip of a command whose dialog is missing.
+QString dialogTitle(const QString& name)
+{
+    static const QHash<QString, QString> titles = {
+        {QStringLiteral("frmNewDocument"), QStringLiteral("New Document")},
+        {QStringLiteral("frmCopyFile"), QStringLiteral("Copy/Move File")},
+        {QStringLiteral("frmRelated"), QStringLiteral("New Related Document")},
+        {QStringLiteral("frmNew"), QStringLiteral("Document Details")},
+        {QStringLiteral("frmCategory"), QStringLiteral("Category Options")},
+        {QStringLiteral("frmCorr"), QStringLiteral("New Contact")},
+        {QStringLiteral("frmNewCategory"), QStringLiteral("New Category")},
+        {QStringLiteral("frmCoresp"), QStringLiteral("Address Book")},
+        {QStringLiteral("frmSettings"), QStringLiteral("Options")},
+        {QStringLiteral("frmAbout"), QStringLiteral("About Kartella")},
+        {QStringLiteral("reports"), QStringLiteral("report")},
+        {QStringLiteral("outlookImport"), QStringLiteral("contact import")},
+    };
+    return titles.value(name, name);
+}
 
-    QString unavailableText(const QString& dialog)
-    {
-        return QStringLiteral("The %1 dialog is not available in this version.").arg(dialogTitle(dialog));
-    }
+QString unavailableText(const QString& dialog)
+{
+    return QStringLiteral("The %1 dialog is not available in this version.").arg(dialogTitle(dialog));
+}
 
-    QIcon themed(const char* name, const char* fallback = "")
-    {
-        return QIcon::fromTheme(QLatin1String(name), QIcon::fromTheme(QLatin1String(fallback)));
-    }
+QIcon themed(const char* name, const char* fallback = "")
+{
+    return QIcon::fromTheme(QLatin1String(name), QIcon::fromTheme(QLatin1String(fallback)));
+}
 
 } // namespace
 
 QAction* Form2::addCommand(QMenu* menu, const QString& name, const QString& caption, void (Form2::*slot)(),
-                           const QKeySequence& shortcut, const QString& dialog)
+    const QKeySequence& shortcut, const QString& dialog)
 {
     auto* action = new QAction(caption, this);
     action->setObjectName(name);
@@ -120,48 +120,53 @@ void Form2::buildMenus()
     file->setObjectName(QStringLiteral("mnuFile"));
     file->setToolTipsVisible(true);
     addCommand(file, QStringLiteral("mnuNew"), QStringLiteral("&New Document"), &Form2::mnuNew_Click,
-               QKeySequence(Qt::CTRL | Qt::Key_N), QStringLiteral("frmNewDocument"));
+        QKeySequence(Qt::CTRL | Qt::Key_N), QStringLiteral("frmNewDocument"));
     addCommand(file, QStringLiteral("mnuOpen"), QStringLiteral("&Open Document"), &Form2::mnuOpen_Click,
-               QKeySequence(Qt::CTRL | Qt::Key_O));
+        QKeySequence(Qt::CTRL | Qt::Key_O));
     file->addSeparator()->setObjectName(QStringLiteral("mnuHyper3"));
     addCommand(file, QStringLiteral("mnuCopy"), QStringLiteral("&Copy Document"), &Form2::mnuCopy_Click,
-               QKeySequence(Qt::CTRL | Qt::Key_C), QStringLiteral("frmCopyFile"));
+        QKeySequence(Qt::CTRL | Qt::Key_C), QStringLiteral("frmCopyFile"));
     addCommand(file, QStringLiteral("mnuMove"), QStringLiteral("&Move Document"), &Form2::mnuCopy_Click,
-               QKeySequence(Qt::CTRL | Qt::Key_M), QStringLiteral("frmCopyFile"));
+        QKeySequence(Qt::CTRL | Qt::Key_M), QStringLiteral("frmCopyFile"));
     addCommand(file, QStringLiteral("mnuDelete"), QStringLiteral("&Delete Document"), &Form2::mnuDelete_Click,
-               QKeySequence(Qt::Key_Delete));
+        QKeySequence(Qt::Key_Delete));
     file->addSeparator()->setObjectName(QStringLiteral("mnuHyper4"));
     addCommand(file, QStringLiteral("mnuDeleteCategory"), QStringLiteral("De&lete Category"),
-               &Form2::mnuDeleteCategory_Click);
+        &Form2::mnuDeleteCategory_Click);
     file->addSeparator()->setObjectName(QStringLiteral("mnuhyper6"));
-    addCommand(file, QStringLiteral("mnuPrintSetup"), QStringLiteral("Print Set&up"), &Form2::mnuPrintSetup_Click);
+    addCommand(
+        file, QStringLiteral("mnuPrintSetup"), QStringLiteral("Print Set&up"), &Form2::mnuPrintSetup_Click);
     addCommand(file, QStringLiteral("mnuPrint"), QStringLiteral("&Print Document"), &Form2::mnuPrint_Click,
-               QKeySequence(Qt::CTRL | Qt::Key_P));
+        QKeySequence(Qt::CTRL | Qt::Key_P));
     file->addSeparator()->setObjectName(QStringLiteral("mnuhypen1"));
-    addCommand(file, QStringLiteral("mnuRelated"), QStringLiteral("Ne&w Related Document"), &Form2::mnuRelated_Click,
-               {}, QStringLiteral("frmRelated"));
+    addCommand(file, QStringLiteral("mnuRelated"), QStringLiteral("Ne&w Related Document"),
+        &Form2::mnuRelated_Click, {}, QStringLiteral("frmRelated"));
     file->addSeparator()->setObjectName(QStringLiteral("mnuHyper5"));
-    addCommand(file, QStringLiteral("mnuShowDetails"), QStringLiteral("&Show Details"), &Form2::mnuShowDetails_Click,
-               QKeySequence(Qt::Key_F3), QStringLiteral("frmNew"));
-    addCommand(file, QStringLiteral("mnuProperties"), QStringLiteral("P&roperties"), &Form2::mnuProperties_Click,
-               QKeySequence(Qt::Key_F4));
+    addCommand(file, QStringLiteral("mnuShowDetails"), QStringLiteral("&Show Details"),
+        &Form2::mnuShowDetails_Click, QKeySequence(Qt::Key_F3), QStringLiteral("frmNew"));
+    addCommand(file, QStringLiteral("mnuProperties"), QStringLiteral("P&roperties"),
+        &Form2::mnuProperties_Click, QKeySequence(Qt::Key_F4));
     file->addSeparator()->setObjectName(QStringLiteral("mnuhypen2"));
     addCommand(file, QStringLiteral("mnuExit"), QStringLiteral("E&xit"), &Form2::mnuExit_Click);
-    for (const char* name : {"mnuOpen", "mnuCopy", "mnuMove", "mnuDelete", "mnuDeleteCategory", "mnuPrint", "mnuRelated",
-                             "mnuShowDetails", "mnuProperties"})
+    for (const char* name : {"mnuOpen", "mnuCopy", "mnuMove", "mnuDelete", "mnuDeleteCategory", "mnuPrint",
+             "mnuRelated", "mnuShowDetails", "mnuProperties"})
         setCommandEnabled(QLatin1String(name), false);
 
     QMenu* view = bar->addMenu(QStringLiteral("&View"));
     view->setObjectName(QStringLiteral("mnuView"));
     view->setToolTipsVisible(true);
-    addCommand(view, QStringLiteral("mnuByCategory"), QStringLiteral("By Category"), &Form2::mnuByCategory_Click)
+    addCommand(
+        view, QStringLiteral("mnuByCategory"), QStringLiteral("By Category"), &Form2::mnuByCategory_Click)
         ->setCheckable(true);
-    addCommand(view, QStringLiteral("mnuByContacts"), QStringLiteral("By Contacts"), &Form2::mnuByContacts_Click)
+    addCommand(
+        view, QStringLiteral("mnuByContacts"), QStringLiteral("By Contacts"), &Form2::mnuByContacts_Click)
         ->setCheckable(true);
     action(QStringLiteral("mnuByCategory"))->setChecked(true);
     view->addSeparator()->setObjectName(QStringLiteral("mnuHypen9"));
-    addCommand(view, QStringLiteral("mnuLargeIcons"), QStringLiteral("Lar&ge Icons"), &Form2::mnuLargeIcons_Click);
-    addCommand(view, QStringLiteral("mnuSmallIcons"), QStringLiteral("S&mall Icons"), &Form2::mnuSmallIcons_Click);
+    addCommand(
+        view, QStringLiteral("mnuLargeIcons"), QStringLiteral("Lar&ge Icons"), &Form2::mnuLargeIcons_Click);
+    addCommand(
+        view, QStringLiteral("mnuSmallIcons"), QStringLiteral("S&mall Icons"), &Form2::mnuSmallIcons_Click);
     addCommand(view, QStringLiteral("mnuList"), QStringLiteral("&List"), &Form2::mnuList_Click);
     addCommand(view, QStringLiteral("mnuDetails"), QStringLiteral("&Details"), &Form2::mnuDetails_Click);
     for (const char* name : {"mnuLargeIcons", "mnuSmallIcons", "mnuList", "mnuDetails"})
@@ -171,44 +176,45 @@ void Form2::buildMenus()
     QMenu* arrange = view->addMenu(QStringLiteral("Arrange &Icons"));
     arrange->setObjectName(QStringLiteral("mnuArrangeIcons"));
     addCommand(arrange, QStringLiteral("mnubyName"), QStringLiteral("by &Document description"),
-               &Form2::mnubyName_Click);
+        &Form2::mnubyName_Click);
     addCommand(arrange, QStringLiteral("mnubyRegIndex"), QStringLiteral("by &Registration Index"),
-               &Form2::mnubyRegIndex_Click);
+        &Form2::mnubyRegIndex_Click);
     addCommand(arrange, QStringLiteral("mnubyCorrespondent"), QStringLiteral("by &Correspondent"),
-               &Form2::mnubyCorrespondent_Click);
+        &Form2::mnubyCorrespondent_Click);
     addCommand(arrange, QStringLiteral("mnubyDate"), QStringLiteral("by D&ate"), &Form2::mnubyDate_Click);
     view->addSeparator()->setObjectName(QStringLiteral("mnuhypen6"));
     addCommand(view, QStringLiteral("mnuRefresh"), QStringLiteral("&Refresh"), &Form2::mnuRefresh_Click,
-               QKeySequence(Qt::Key_F5));
+        QKeySequence(Qt::Key_F5));
     addCommand(view, QStringLiteral("mnuCategoryOptions"), QStringLiteral("&Category Options"),
-               &Form2::mnuCategoryOptions_Click, {}, QStringLiteral("frmCategory"));
+        &Form2::mnuCategoryOptions_Click, {}, QStringLiteral("frmCategory"));
     setCommandEnabled(QStringLiteral("mnuCategoryOptions"), false);
 
     QMenu* go = bar->addMenu(QStringLiteral("&Go"));
     go->setObjectName(QStringLiteral("mnuGo"));
     go->setToolTipsVisible(true);
     addCommand(go, QStringLiteral("mnuNewContact"), QStringLiteral("&New Contact"), nullptr, {},
-               QStringLiteral("frmCorr"));
+        QStringLiteral("frmCorr"));
     addCommand(go, QStringLiteral("mnuNewCategory"), QStringLiteral("Ne&w Category"), nullptr, {},
-               QStringLiteral("frmNewCategory"));
+        QStringLiteral("frmNewCategory"));
     go->addSeparator()->setObjectName(QStringLiteral("mnuhypen10"));
     addCommand(go, QStringLiteral("mnuAddressBook"), QStringLiteral("&Address Book"), nullptr, {},
-               QStringLiteral("frmCoresp"));
+        QStringLiteral("frmCoresp"));
 
     QMenu* tools = bar->addMenu(QStringLiteral("&Tools"));
     tools->setObjectName(QStringLiteral("mnuTools"));
     tools->setToolTipsVisible(true);
     addCommand(tools, QStringLiteral("mnuOptions"), QStringLiteral("&Options"), nullptr, {},
-               QStringLiteral("frmSettings"));
+        QStringLiteral("frmSettings"));
     tools->addSeparator()->setObjectName(QStringLiteral("sep45"));
-    addCommand(tools, QStringLiteral("mnuOutlookData"), QStringLiteral("&Import Address Book from Outlook"), nullptr,
-               {}, QStringLiteral("outlookImport"));
+    addCommand(tools, QStringLiteral("mnuOutlookData"), QStringLiteral("&Import Address Book from Outlook"),
+        nullptr, {}, QStringLiteral("outlookImport"));
 
     QMenu* reports = bar->addMenu(QStringLiteral("&Reports"));
     reports->setObjectName(QStringLiteral("mnuReports"));
     reports->setToolTipsVisible(true);
     const QString report = QStringLiteral("reports");
-    addCommand(reports, QStringLiteral("mnuCategoriesRep"), QStringLiteral("&Categories"), nullptr, {}, report);
+    addCommand(
+        reports, QStringLiteral("mnuCategoriesRep"), QStringLiteral("&Categories"), nullptr, {}, report);
     QMenu* lists = reports->addMenu(QStringLiteral("&Documents List's"));
     lists->setObjectName(QStringLiteral("mnuDocumentsLists"));
     lists->setToolTipsVisible(true);
@@ -216,7 +222,8 @@ void Form2::buildMenus()
     byCategory->setObjectName(QStringLiteral("mnuDocumByCategory"));
     byCategory->setToolTipsVisible(true);
     addCommand(byCategory, QStringLiteral("mnuThisMonth"), QStringLiteral("This Month"), nullptr, {}, report);
-    addCommand(byCategory, QStringLiteral("mnurptPrevMonth"), QStringLiteral("Previous Month"), nullptr, {}, report);
+    addCommand(
+        byCategory, QStringLiteral("mnurptPrevMonth"), QStringLiteral("Previous Month"), nullptr, {}, report);
     addCommand(byCategory, QStringLiteral("mnuAll"), QStringLiteral("All"), nullptr, {}, report);
     addCommand(lists, QStringLiteral("mnuDocByContacts"), QStringLiteral("By Contacts"), nullptr, {}, report);
     QMenu* addressBook = reports->addMenu(QStringLiteral("&Address Book"));
@@ -230,7 +237,7 @@ void Form2::buildMenus()
     help->setObjectName(QStringLiteral("mnuHelp"));
     help->setToolTipsVisible(true);
     addCommand(help, QStringLiteral("mnuAboutKA"), QStringLiteral("&About Kartella"), nullptr, {},
-               QStringLiteral("frmAbout"));
+        QStringLiteral("frmAbout"));
 }
 
 void Form2::buildToolbar()
@@ -240,7 +247,8 @@ void Form2::buildToolbar()
     toolbar->setIconSize(QSize(22, 22));
     auto button = [&](const QString& key, const QString& tip, const char* icon, void (Form2::*slot)(),
                       const QString& dialog = {}) {
-        QAction* command = addCommand(nullptr, key, QString(tip).section(QStringLiteral(" ("), 0, 0), slot, {}, dialog);
+        QAction* command
+            = addCommand(nullptr, key, QString(tip).section(QStringLiteral(" ("), 0, 0), slot, {}, dialog);
         command->setIcon(themed(icon));
         command->setProperty("ownToolTip", tip);
         setCommandEnabled(key, true);
@@ -257,21 +265,23 @@ void Form2::buildToolbar()
         m_toolbar << separator;
     };
     button(QStringLiteral("btnNewDocument"), QStringLiteral("New Document (Ctrl+N)"), "document-new",
-           &Form2::mnuNew_Click, QStringLiteral("frmNewDocument"));
-    button(QStringLiteral("btnOpen"), QStringLiteral("Open Document (Ctrl+O)"), "document-open", &Form2::mnuOpen_Click);
+        &Form2::mnuNew_Click, QStringLiteral("frmNewDocument"));
+    button(QStringLiteral("btnOpen"), QStringLiteral("Open Document (Ctrl+O)"), "document-open",
+        &Form2::mnuOpen_Click);
     separator(QStringLiteral("firstSep"));
-    button(QStringLiteral("btnCopy"), QStringLiteral("Copy Document (Ctrl+C)"), "edit-copy", &Form2::mnuCopy_Click,
-           QStringLiteral("frmCopyFile"));
-    button(QStringLiteral("btnMove"), QStringLiteral("Move Document (Ctrl+M)"), "go-jump", &Form2::mnuCopy_Click,
-           QStringLiteral("frmCopyFile"));
+    button(QStringLiteral("btnCopy"), QStringLiteral("Copy Document (Ctrl+C)"), "edit-copy",
+        &Form2::mnuCopy_Click, QStringLiteral("frmCopyFile"));
+    button(QStringLiteral("btnMove"), QStringLiteral("Move Document (Ctrl+M)"), "go-jump",
+        &Form2::mnuCopy_Click, QStringLiteral("frmCopyFile"));
     button(QStringLiteral("btnDelete"), QStringLiteral("Delete Document (Del)"), "edit-delete",
-           &Form2::mnuDelete_Click);
-    button(QStringLiteral("btnPrint"), QStringLiteral("Print (Ctrl+P)"), "document-print", &Form2::mnuPrint_Click);
+        &Form2::mnuDelete_Click);
+    button(QStringLiteral("btnPrint"), QStringLiteral("Print (Ctrl+P)"), "document-print",
+        &Form2::mnuPrint_Click);
     separator({});
     button(QStringLiteral("btnDetails"), QStringLiteral("Show Details (F3)"), "document-page-setup",
-           &Form2::mnuShowDetails_Click, QStringLiteral("frmNew"));
+        &Form2::mnuShowDetails_Click, QStringLiteral("frmNew"));
     button(QStringLiteral("btnProperties"), QStringLiteral("Properties (F4)"), "document-properties",
-           &Form2::mnuProperties_Click);
+        &Form2::mnuProperties_Click);
     separator({});
 
     // The view button: its face does nothing, its menu sets the view.
@@ -285,7 +295,8 @@ void Form2::buildToolbar()
     };
     for (const auto& [key, caption, slot] : views)
         addCommand(viewMenu, key, caption, slot);
-    auto* viewButton = new QAction(themed("view-list-icons", "view-list-symbolic"), QStringLiteral("View Type"), this);
+    auto* viewButton
+        = new QAction(themed("view-list-icons", "view-list-symbolic"), QStringLiteral("View Type"), this);
     viewButton->setObjectName(QStringLiteral("btnView"));
     viewButton->setToolTip(QStringLiteral("View Type"));
     viewButton->setMenu(viewMenu);
@@ -299,12 +310,12 @@ void Form2::buildToolbar()
     m_toolbar << viewButton;
     separator(QStringLiteral("secsepar"));
     button(QStringLiteral("btnNewCat"), QStringLiteral("New Category"), "folder-new", nullptr,
-           QStringLiteral("frmNewCategory"));
+        QStringLiteral("frmNewCategory"));
     button(QStringLiteral("btnNewContact"), QStringLiteral("New Contact"), "contact-new", nullptr,
-           QStringLiteral("frmCorr"));
+        QStringLiteral("frmCorr"));
     separator(QStringLiteral("sep12"));
     button(QStringLiteral("btnContacts"), QStringLiteral("Address Book"), "x-office-address-book", nullptr,
-           QStringLiteral("frmCoresp"));
+        QStringLiteral("frmCoresp"));
     separator(QStringLiteral("btnSepar3"));
     m_coolBar->insertWidget(m_coolBar->actions().value(0), toolbar);
 }
@@ -316,36 +327,38 @@ void Form2::buildPopups()
     addCommand(m_popUp, QStringLiteral("mnuPopOpen"), QStringLiteral("&Open"), &Form2::mnuOpen_Click);
     m_popUp->addSeparator()->setObjectName(QStringLiteral("mnuhypen11"));
     addCommand(m_popUp, QStringLiteral("mnuPopCopy"), QStringLiteral("&Copy/Move"), &Form2::mnuCopy_Click, {},
-               QStringLiteral("frmCopyFile"));
+        QStringLiteral("frmCopyFile"));
     addCommand(m_popUp, QStringLiteral("mnuPopDelete"), QStringLiteral("&Delete"), &Form2::mnuDelete_Click);
     m_popUp->addSeparator()->setObjectName(QStringLiteral("mnuhypen12"));
     addCommand(m_popUp, QStringLiteral("mnuPopPrint"), QStringLiteral("&Print"), &Form2::mnuPrint_Click);
     m_popUp->addSeparator()->setObjectName(QStringLiteral("mnuhypen13"));
-    addCommand(m_popUp, QStringLiteral("mnuPopRelated"), QStringLiteral("Ne&w Related"), &Form2::mnuRelated_Click,
-               {}, QStringLiteral("frmRelated"));
+    addCommand(m_popUp, QStringLiteral("mnuPopRelated"), QStringLiteral("Ne&w Related"),
+        &Form2::mnuRelated_Click, {}, QStringLiteral("frmRelated"));
     QAction* hyphen14 = m_popUp->addSeparator();
     hyphen14->setObjectName(QStringLiteral("mnuhypen14"));
     m_actions.insert(hyphen14->objectName(), hyphen14);
     addCommand(m_popUp, QStringLiteral("mnuPopDetails"), QStringLiteral("&Show Details"),
-               &Form2::mnuShowDetails_Click, {}, QStringLiteral("frmNew"));
-    addCommand(m_popUp, QStringLiteral("mnuPopProperties"), QStringLiteral("P&roperties"), &Form2::mnuProperties_Click);
+        &Form2::mnuShowDetails_Click, {}, QStringLiteral("frmNew"));
+    addCommand(m_popUp, QStringLiteral("mnuPopProperties"), QStringLiteral("P&roperties"),
+        &Form2::mnuProperties_Click);
     m_popUp->setToolTipsVisible(true);
 
     m_popCat = new QMenu(QStringLiteral("PopCat"), this);
     m_popCat->setObjectName(QStringLiteral("mnuPopCat"));
-    addCommand(m_popCat, QStringLiteral("mnuPopCatNewDoc"), QStringLiteral("&New Document"), &Form2::mnuNew_Click, {},
-               QStringLiteral("frmNewDocument"));
-    addCommand(m_popCat, QStringLiteral("mnuPopCatDel"), QStringLiteral("&Delete"), &Form2::mnuDeleteCategory_Click);
+    addCommand(m_popCat, QStringLiteral("mnuPopCatNewDoc"), QStringLiteral("&New Document"),
+        &Form2::mnuNew_Click, {}, QStringLiteral("frmNewDocument"));
+    addCommand(
+        m_popCat, QStringLiteral("mnuPopCatDel"), QStringLiteral("&Delete"), &Form2::mnuDeleteCategory_Click);
     addCommand(m_popCat, QStringLiteral("mnuPopCatEdit"), QStringLiteral("&Edit Details"),
-               &Form2::mnuCategoryOptions_Click, {}, QStringLiteral("frmCategory"));
+        &Form2::mnuCategoryOptions_Click, {}, QStringLiteral("frmCategory"));
     m_popCat->setToolTipsVisible(true);
 }
 
 void Form2::UpdateCommandState()
 {
     const bool path = !m_state.SelectedFilePath.isEmpty();
-    for (const char* name : {"mnuOpen", "mnuCopy", "mnuMove", "mnuPrint", "mnuProperties", "mnuPopCopy", "mnuPopOpen",
-                             "mnuPopPrint", "mnuPopProperties"})
+    for (const char* name : {"mnuOpen", "mnuCopy", "mnuMove", "mnuPrint", "mnuProperties", "mnuPopCopy",
+             "mnuPopOpen", "mnuPopPrint", "mnuPopProperties"})
         setCommandEnabled(QLatin1String(name), path);
     setCommandEnabled(QStringLiteral("mnuDelete"), true);
     setToolbarEnabled({2, 4, 5, 7, 10}, path);
@@ -354,8 +367,8 @@ void Form2::UpdateCommandState()
 
 void Form2::DisableDocumentCommands()
 {
-    for (const char* name : {"mnuOpen", "mnuCopy", "mnuMove", "mnuDelete", "mnuPrint", "mnuRelated", "mnuShowDetails",
-                             "mnuProperties"})
+    for (const char* name : {"mnuOpen", "mnuCopy", "mnuMove", "mnuDelete", "mnuPrint", "mnuRelated",
+             "mnuShowDetails", "mnuProperties"})
         setCommandEnabled(QLatin1String(name), false);
     setToolbarEnabled({2, 4, 5, 6, 7, 9, 10}, false);
 }

@@ -7,8 +7,7 @@ namespace kartella {
 
 Application::Application(int& argc, char** argv)
     : QApplication(argc, argv)
-{
-}
+{ }
 
 bool Application::notify(QObject* receiver, QEvent* event)
 {

@@ -9,11 +9,11 @@ namespace kartella {
 
 // The connection string forms, each built from the options Provider and DbLocation as
 // they stand at the moment of the call. Note the blank after "Data Source=".
-QString PlainConnectionString();       // "Provider=P;Data Source= L"
-QString UpperConnectionString();       // "PROVIDER=P;Data Source= L"
-QString ShapeConnectionString();       // "PROVIDER=MSDataShape;Data Provider=P;Data Source= L"
+QString PlainConnectionString(); // "Provider=P;Data Source= L"
+QString UpperConnectionString(); // "PROVIDER=P;Data Source= L"
+QString ShapeConnectionString(); // "PROVIDER=MSDataShape;Data Provider=P;Data Source= L"
 QString ShapePrefixConnectionString(); // "PROVIDER=MSDataShape;Data " + the plain form
-QString ShapeUpperConnectionString();  // "PROVIDER=MSDataShape;Data PROVIDER=P;Data Source= L;"
+QString ShapeUpperConnectionString(); // "PROVIDER=MSDataShape;Data PROVIDER=P;Data Source= L;"
 
 // The same forms from given values.
 QString PlainConnectionString(const QString& provider, const QString& location);

@@ -17,8 +17,7 @@ public:
         , m_description(std::move(description))
         , m_source(std::move(source))
         , m_what(m_description.toUtf8())
-    {
-    }
+    { }
 
     long number() const noexcept { return m_number; }
     const QString& description() const noexcept { return m_description; }
@@ -34,24 +33,24 @@ private:
 
 // Error numbers the program relies on.
 namespace ErrorNumber {
-    // Failure to open a database connection (OLE DB E_FAIL, 0x80004005).
-    constexpr long ConnectionFailed = -2147467259;
-    // A statement the database refused (DB_E_ERRORSINCOMMAND, 0x80040E14).
-    constexpr long CommandFailed = -2147217900;
-    // Operation not allowed in the object's present state (adErrIllegalOperation).
-    constexpr long IllegalOperation = 3219;
-    // Either BOF or EOF is true, or the current record has been deleted (adErrNoCurrentRecord).
-    constexpr long NoCurrentRecord = 3021;
-    // Item cannot be found in the collection (adErrItemNotFound).
-    constexpr long ItemNotFound = 3265;
-    // Type mismatch.
-    constexpr long TypeMismatch = 13;
-    // Overflow.
-    constexpr long Overflow = 6;
-    // Path/File access error.
-    constexpr long PathFileAccess = 75;
-    // Invalid use of Null.
-    constexpr long InvalidUseOfNull = 94;
+// Failure to open a database connection (OLE DB E_FAIL, 0x80004005).
+constexpr long ConnectionFailed = -2147467259;
+// A statement the database refused (DB_E_ERRORSINCOMMAND, 0x80040E14).
+constexpr long CommandFailed = -2147217900;
+// Operation not allowed in the object's present state (adErrIllegalOperation).
+constexpr long IllegalOperation = 3219;
+// Either BOF or EOF is true, or the current record has been deleted (adErrNoCurrentRecord).
+constexpr long NoCurrentRecord = 3021;
+// Item cannot be found in the collection (adErrItemNotFound).
+constexpr long ItemNotFound = 3265;
+// Type mismatch.
+constexpr long TypeMismatch = 13;
+// Overflow.
+constexpr long Overflow = 6;
+// Path/File access error.
+constexpr long PathFileAccess = 75;
+// Invalid use of Null.
+constexpr long InvalidUseOfNull = 94;
 } // namespace ErrorNumber
 
 } // namespace kartella

@@ -8,13 +8,12 @@
 namespace kartella {
 
 namespace {
-    constexpr int EdgePixels = 20;
+constexpr int EdgePixels = 20;
 }
 
 CSplitter::CSplitter(QObject* parent)
     : QObject(parent)
-{
-}
+{ }
 
 void CSplitter::Create(QSplitter* splitter, bool vertical, int barPixels, int percent)
 {

@@ -11,7 +11,6 @@ using namespace kartella::test;
 
 namespace {
 
-
 // Eight documents: RastasID 1..8, KategID 1 for odd and 2 for even ids, registered on
 // March 1st..8th 2024, contact 1 "Petras" for ids up to 4, none above; DokAntraste
 // "Doc 1".."Doc 8"; 3 and 6 have no description.

@@ -122,7 +122,14 @@ void ExplorerFixture::clickNode(const QString& key)
     tree->scrollToItem(node);
     const QRect rect = tree->visualItemRect(node);
     QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, rect.center());
-    QVERIFY2(tree->currentItem() == node, qPrintable(QString("clicked beside node %1 at %2,%3, current %4, viewport %5x%6").arg(key).arg(rect.center().x()).arg(rect.center().y()).arg(NavigationTree::nodeKey(tree->currentItem())).arg(tree->viewport()->width()).arg(tree->viewport()->height())));
+    QVERIFY2(tree->currentItem() == node,
+        qPrintable(QString("clicked beside node %1 at %2,%3, current %4, viewport %5x%6")
+                       .arg(key)
+                       .arg(rect.center().x())
+                       .arg(rect.center().y())
+                       .arg(NavigationTree::nodeKey(tree->currentItem()))
+                       .arg(tree->viewport()->width())
+                       .arg(tree->viewport()->height())));
 }
 
 void ExplorerFixture::clickDocument(const QString& name)

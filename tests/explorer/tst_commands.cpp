@@ -22,11 +22,12 @@ using namespace kartella::test;
 
 namespace {
 
-const QStringList PathCommands = {"mnuOpen", "mnuCopy", "mnuMove", "mnuPrint", "mnuProperties",
-                                  "mnuPopCopy", "mnuPopOpen", "mnuPopPrint", "mnuPopProperties"};
-const QStringList DocumentCommands = {"mnuOpen", "mnuCopy", "mnuMove", "mnuDelete", "mnuPrint",
-                                      "mnuRelated", "mnuShowDetails", "mnuProperties"};
-const QStringList Dialogs = {"frmNewDocument", "frmCopyFile", "frmRelated", "frmNew", "frmRelDescr", "frmCategory"};
+const QStringList PathCommands = {"mnuOpen", "mnuCopy", "mnuMove", "mnuPrint", "mnuProperties", "mnuPopCopy",
+    "mnuPopOpen", "mnuPopPrint", "mnuPopProperties"};
+const QStringList DocumentCommands = {"mnuOpen", "mnuCopy", "mnuMove", "mnuDelete", "mnuPrint", "mnuRelated",
+    "mnuShowDetails", "mnuProperties"};
+const QStringList Dialogs
+    = {"frmNewDocument", "frmCopyFile", "frmRelated", "frmNew", "frmRelDescr", "frmCategory"};
 
 // A main window with every dialog registered as a recorder, and the menus it would pop up.
 struct CommandsFixture : ExplorerFixture
@@ -38,7 +39,9 @@ struct CommandsFixture : ExplorerFixture
     {
         Form2& w = window();
         for (const QString& name : Dialogs)
-            w.setDialog(name, [this, name](const QString& file) { opened << name + (file.isEmpty() ? QString() : QString(":" + file)); });
+            w.setDialog(name, [this, name](const QString& file) {
+                opened << name + (file.isEmpty() ? QString() : QString(":" + file));
+            });
         w.popupMenu = [this](QMenu* menu, const QPoint&) { popups << menu; };
         return w;
     }
@@ -48,7 +51,9 @@ struct CommandsFixture : ExplorerFixture
     int rowCount(const QString& table) { return reg.scalar("SELECT COUNT(*) FROM " + table).toInt(); }
     bool documentExists(const QString& name)
     {
-        return reg.scalar("SELECT COUNT(*) FROM tbl_Documents WHERE RastasID=" + QString::number(id[name])).toInt() == 1;
+        return reg.scalar("SELECT COUNT(*) FROM tbl_Documents WHERE RastasID=" + QString::number(id[name]))
+                   .toInt()
+            == 1;
     }
     void rightClick(QWidget* viewport, const QPoint& pos = {5, 5})
     {
@@ -63,7 +68,8 @@ struct CommandsFixture : ExplorerFixture
         file.write("x");
         return path;
     }
-    void setPath(const QString& table, const QString& key, qint32 keyValue, const QString& field, const QString& path)
+    void setPath(
+        const QString& table, const QString& key, qint32 keyValue, const QString& field, const QString& path)
     {
         reg.exec(QString("UPDATE %1 SET %2 = '%3' WHERE %4=%5").arg(table, field, path, key).arg(keyValue));
     }
@@ -84,7 +90,7 @@ private Q_SLOTS:
         ScriptedPrompter prompter;
         Form2& w = fx.load();
         // Start: document commands disabled in the menus, every toolbar button enabled.
-        for (const QString& name : DocumentCommands + QStringList{"mnuDeleteCategory", "mnuCategoryOptions"})
+        for (const QString& name : DocumentCommands + QStringList {"mnuDeleteCategory", "mnuCategoryOptions"})
             QVERIFY2(!fx.enabled(name), qPrintable(name));
         for (const char* name : {"mnuNew", "mnuPrintSetup", "mnuExit", "mnuRefresh"})
             QVERIFY2(fx.enabled(QString::fromLatin1(name)), name);
@@ -96,7 +102,7 @@ private Q_SLOTS:
 
         // A document with a file.
         fx.clickDocument("letter");
-        for (const QString& name : PathCommands + QStringList{"mnuDelete", "mnuRelated", "mnuShowDetails"})
+        for (const QString& name : PathCommands + QStringList {"mnuDelete", "mnuRelated", "mnuShowDetails"})
             QVERIFY2(fx.enabled(name), qPrintable(name));
         for (int position : {2, 4, 5, 6, 7, 9, 10})
             QVERIFY(fx.toolbarEnabled(position));
@@ -104,7 +110,8 @@ private Q_SLOTS:
         fx.clickDocument("contract");
         for (const QString& name : PathCommands)
             QVERIFY2(!fx.enabled(name), qPrintable(name));
-        for (const char* name : {"mnuDelete", "mnuRelated", "mnuShowDetails", "mnuPopDelete", "mnuPopDetails"})
+        for (const char* name :
+            {"mnuDelete", "mnuRelated", "mnuShowDetails", "mnuPopDelete", "mnuPopDetails"})
             QVERIFY2(fx.enabled(QString::fromLatin1(name)), name);
         for (int position : {2, 4, 5, 7, 10})
             QVERIFY(!fx.toolbarEnabled(position));
@@ -125,6 +132,16 @@ private Q_SLOTS:
         fx.clickNode("ALL");
         QVERIFY(!fx.enabled("mnuCategoryOptions"));
         QVERIFY(fx.enabled("mnuDeleteCategory"));
+
+        // The empty state: a click on its item leaves everything as it was.
+        fx.clickDocument("letter");
+        fx.reg.exec("DELETE FROM tbl_Documents");
+        fx.clickNode("a" + QString::number(fx.id["Raštai"]));
+        w.ListDokSarasas_ItemClick(0);
+        for (const QString& name : DocumentCommands)
+            QVERIFY2(!fx.enabled(name), qPrintable(name));
+        QVERIFY(fx.enabled("mnuPopOpen"));
+        QVERIFY(Selection().SelectedFilePath.isEmpty());
         QVERIFY(prompter.prompts().isEmpty());
     }
 
@@ -156,7 +173,7 @@ private Q_SLOTS:
         // Before any click the toolbar is on and the path is empty.
         prompter.answer(MsgBoxResult::Ok);
         w.action("btnOpen")->trigger();
-        QCOMPARE(prompter.texts(), QStringList{"Path to Location of this Document not included!"});
+        QCOMPARE(prompter.texts(), QStringList {"Path to Location of this Document not included!"});
         QCOMPARE(prompter.prompts().last().title, QString("File not found"));
         QCOMPARE(prompter.prompts().last().style, MsgBoxStyle::OkOnly + MsgBoxStyle::Information);
 
@@ -173,7 +190,8 @@ private Q_SLOTS:
         w.action("mnuPopPrint")->trigger();
         w.action("mnuProperties")->trigger();
         QTreeView* view = w.documentList()->detailsView();
-        const QModelIndex index = fx.documents().index(fx.documents().rowOfKey(DocumentFills::ItemKey(fx.id["letter"])), 0);
+        const QModelIndex index
+            = fx.documents().index(fx.documents().rowOfKey(DocumentFills::ItemKey(fx.id["letter"])), 0);
         QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(index).center());
         const QList<ScriptedShell::Call> calls = shell.take();
         QCOMPARE(calls.size(), 4);
@@ -188,8 +206,8 @@ private Q_SLOTS:
 
     void deleteWithoutRelatedDocuments_data()
     {
-        QTest::addColumn<QString>("file");   // "none", "gone", "there"
-        QTest::addColumn<int>("answer");     // the shell's question: 1 confirm, 0 refuse, -1 none asked
+        QTest::addColumn<QString>("file"); // "none", "gone", "there"
+        QTest::addColumn<int>("answer"); // the shell's question: 1 confirm, 0 refuse, -1 none asked
         QTest::addColumn<bool>("rowGone");
         QTest::newRow("no file: no question") << "none" << -1 << true;
         QTest::newRow("vanished file: no question") << "gone" << -1 << true;
@@ -226,7 +244,7 @@ private Q_SLOTS:
         if (file == "there")
             QCOMPARE(QFile::exists(path), !rowGone);
         // The node's documents are listed again, whatever happened.
-        QCOMPARE(fx.documentTexts(), rowGone ? QStringList{"contract"} : QStringList({"contract", "work"}));
+        QCOMPARE(fx.documentTexts(), rowGone ? QStringList {"contract"} : QStringList({"contract", "work"}));
         QVERIFY(prompter.prompts().isEmpty());
     }
 
@@ -247,7 +265,8 @@ private Q_SLOTS:
         // No: nothing changes, no file is touched.
         prompter.answer(MsgBoxResult::No);
         w.action("btnDelete")->trigger();
-        QCOMPARE(prompter.prompts().last().text, QString("Do you wish to delete document and their subdocuments?"));
+        QCOMPARE(prompter.prompts().last().text,
+            QString("Do you wish to delete document and their subdocuments?"));
         QCOMPARE(prompter.prompts().last().title, QString("Confirm Deletion"));
         QCOMPARE(prompter.prompts().last().style, MsgBoxStyle::YesNo + MsgBoxStyle::Question);
         QVERIFY(shell.calls().isEmpty());
@@ -303,7 +322,7 @@ private Q_SLOTS:
         Form2& w = fx.load();
         prompter.answer(MsgBoxResult::Ok);
         w.action("btnDelete")->trigger();
-        QCOMPARE(prompter.texts(), QStringList{"Select document, please!"});
+        QCOMPARE(prompter.texts(), QStringList {"Select document, please!"});
         QCOMPARE(prompter.prompts().first().title, QString("Unable to delete as requested"));
         QCOMPARE(prompter.prompts().first().style, MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation);
         QCOMPARE(fx.rowCount("tbl_Documents"), 5);
@@ -315,8 +334,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("question");
         QTest::addColumn<int>("categories");
         QTest::addColumn<int>("subCategories");
-        QTest::newRow("category") << "aSutartys" << "Do you wish to delete Category and SubCategories?" << 1 << 0;
-        QTest::newRow("subcategory") << "bNuomos" << "Do you wish to delete SubCategory?" << 2 << 1;
+        QTest::newRow("category") << "aSutartys"
+                                  << "Do you wish to delete Category and SubCategories?" << 1 << 0;
+        QTest::newRow("subcategory") << "bNuomos"
+                                     << "Do you wish to delete SubCategory?" << 2 << 1;
     }
 
     void deleteCategory()
@@ -369,7 +390,7 @@ private Q_SLOTS:
         w.action("mnubyCorrespondent")->trigger();
         QStringList names = column(2);
         QVERIFY(std::is_sorted(names.begin(), names.end(),
-                               [](const QString& a, const QString& b) { return a.compare(b, Qt::CaseInsensitive) < 0; }));
+            [](const QString& a, const QString& b) { return a.compare(b, Qt::CaseInsensitive) < 0; }));
         w.action("mnubyCorrespondent")->trigger();
         QCOMPARE(column(2).first(), names.last());
         fx.clickNode("a" + QString::number(fx.id["Raštai"]));
@@ -417,7 +438,7 @@ private Q_SLOTS:
         QVERIFY(fx.popups.isEmpty());
         fx.clickDocument("contract");
         fx.rightClick(documents);
-        QCOMPARE(fx.popups, QList<QMenu*>{w.popUpMenu()});
+        QCOMPARE(fx.popups, QList<QMenu*> {w.popUpMenu()});
         QVERIFY(w.action("mnuPopRelated")->isVisible());
         fx.rightClick(related);
         QCOMPARE(fx.popups.size(), 2);
@@ -435,9 +456,9 @@ private Q_SLOTS:
         QVERIFY(!fx.enabled("mnuCategoryOptions"));
         fx.clickNode("a" + QString::number(fx.id["Raštai"]));
         fx.rightClick(w.tree()->viewport());
-        QCOMPARE(fx.popups, QList<QMenu*>{w.popCatMenu()});
+        QCOMPARE(fx.popups, QList<QMenu*> {w.popCatMenu()});
         w.action("mnuPopCatNewDoc")->trigger();
-        QCOMPARE(fx.opened, QStringList{"frmNewDocument"});
+        QCOMPARE(fx.opened, QStringList {"frmNewDocument"});
         // Not in the contact view.
         w.action("mnuByContacts")->trigger();
         fx.rightClick(w.tree()->viewport());
@@ -487,7 +508,7 @@ private Q_SLOTS:
         fx.load();
         fx.clickDocument("letter");
         std::unique_ptr<QMimeData> data(fx.documents().mimeData({fx.documents().index(0, 0)}));
-        QCOMPARE(data->urls(), QList<QUrl>{QUrl::fromLocalFile(fx.existingFile)});
+        QCOMPARE(data->urls(), QList<QUrl> {QUrl::fromLocalFile(fx.existingFile)});
         QVERIFY(data->hasFormat("text/uri-list"));
         fx.clickDocument("loose");
         data.reset(fx.documents().mimeData({fx.documents().index(0, 0)}));
@@ -533,8 +554,9 @@ private Q_SLOTS:
         CommandsFixture fx;
         Form2& w = fx.load();
         w.ListDokSarasas_OLEDragDrop({"/tmp/a.doc", "/tmp/b.xls", "/tmp/c.pdf"});
-        QCOMPARE(fx.opened, QStringList({"frmNewDocument:/tmp/a.doc", "frmNewDocument:/tmp/b.xls",
-                                         "frmNewDocument:/tmp/c.pdf"}));
+        QCOMPARE(fx.opened,
+            QStringList(
+                {"frmNewDocument:/tmp/a.doc", "frmNewDocument:/tmp/b.xls", "frmNewDocument:/tmp/c.pdf"}));
     }
 };
 

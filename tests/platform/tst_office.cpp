@@ -1,3 +1,4 @@
+#include "harness/OfficeTemplates.h"
 #include "harness/ScriptedShell.h"
 #include "platform/LibreOfficeSuite.h"
 #include "support/Error.h"
@@ -23,28 +24,6 @@ Q_DECLARE_METATYPE(OfficeSuite::Kind)
 
 namespace {
 
-// A flat ODF document of kind holding text.
-QByteArray flatDocument(Kind kind, const QByteArray& text)
-{
-    QByteArray body = LibreOfficeSuite::SeedDocument(kind);
-    const QByteArray paragraph = "<text:p>" + text + "</text:p>";
-    if (kind == Kind::Word) {
-        body.replace("<text:p/>", paragraph);
-    } else if (kind == Kind::Excel) {
-        const QByteArray cell
-            = "<table:table-cell office:value-type=\"string\">" + paragraph + "</table:table-cell>";
-        body.replace("<table:table-cell/>", cell);
-    } else {
-        const QByteArray page = "<draw:page draw:name=\"Slide1\"><draw:frame svg:x=\"2cm\" svg:y=\"2cm\" "
-                                "svg:width=\"20cm\" svg:height=\"3cm\" "
-                                "xmlns:svg=\"urn:oasis:names:tc:opendocument:xmlns:svg-compatible:1.0\">"
-                                "<draw:text-box>"
-            + paragraph + "</draw:text-box></draw:frame></draw:page>";
-        body.replace("<draw:page draw:name=\"Slide1\"/>", page);
-    }
-    return body;
-}
-
 QByteArray readFile(const QString& path)
 {
     QFile file(path);
@@ -57,14 +36,6 @@ bool writeFile(const QString& path, const QByteArray& content, QFile::Permission
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         return false;
     return !permissions || file.setPermissions(permissions);
-}
-
-// Whether a document file holds text, in one byte or two bytes a character.
-bool holdsText(const QByteArray& file, const QString& text)
-{
-    QStringEncoder utf16(QStringConverter::Utf16LE);
-    const QByteArray wide = utf16.encode(text);
-    return file.contains(text.toLatin1()) || file.contains(wide);
 }
 
 // The description of the kartella::Error that call throws; "no error" when none.
@@ -112,21 +83,6 @@ class OfficeTest : public QObject
 
     QTemporaryDir m_templates;
 
-    // Converts a flat ODF file into the Office 97 template format of its kind.
-    QString makeTemplate(Kind kind, const QString& name, const QString& filter)
-    {
-        const QString source = m_templates.filePath(name + "." + LibreOfficeSuite::SeedExtension(kind));
-        if (!writeFile(source, flatDocument(kind, "Template marker " + name.toLatin1())))
-            return {};
-        QProcess soffice;
-        soffice.start("soffice",
-            {"--headless", "--norestore", "-env:UserInstallation=file://" + m_templates.filePath("profile"),
-                "--convert-to", filter, "--outdir", m_templates.path(), source});
-        soffice.waitForFinished(120000);
-        const QString made = m_templates.filePath(name + "." + filter.left(3));
-        return QFile::exists(made) ? made : QString();
-    }
-
 private Q_SLOTS:
     void initTestCase()
     {
@@ -154,7 +110,7 @@ private Q_SLOTS:
         QFETCH(QString, filter);
         QFETCH(QString, stream);
         const QString name = QTest::currentDataTag();
-        const QString templatePath = makeTemplate(kind, name, filter);
+        const QString templatePath = test::MakeOfficeTemplate(kind, m_templates.path(), name);
         QVERIFY2(!templatePath.isEmpty(), "LibreOffice made no template");
         QTemporaryDir out;
         const QString extension = "." + LibreOfficeSuite::Extension(kind);
@@ -168,11 +124,11 @@ private Q_SLOTS:
         for (const QString& made : {fromTemplate, empty}) {
             const QMimeType type = mime.mimeTypeForFile(made, QMimeDatabase::MatchContent);
             QVERIFY2(type.inherits("application/x-ole-storage"), qPrintable(type.name()));
-            QVERIFY(holdsText(readFile(made), stream));
+            QVERIFY(test::FileHoldsText(made, stream));
         }
         const QString marker = "Template marker " + name;
-        QVERIFY(holdsText(readFile(fromTemplate), marker));
-        QVERIFY(!holdsText(readFile(empty), marker));
+        QVERIFY(test::FileHoldsText(fromTemplate, marker));
+        QVERIFY(!test::FileHoldsText(empty, marker));
         // Nothing but the new file is left in the target's folder.
         QCOMPARE(QDir(out.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
 

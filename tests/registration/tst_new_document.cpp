@@ -1,6 +1,7 @@
 #include "explorer/ExplorerList.h"
 #include "explorer/Form2.h"
 #include "explorer/SelectionState.h"
+#include "harness/OfficeTemplates.h"
 #include "harness/ScriptedPrompter.h"
 #include "harness/ScriptedShell.h"
 #include "harness/TestRegister.h"
@@ -67,15 +68,6 @@ QByteArray readFile(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-// Whether an Office 97 file holds text, in one byte or two bytes a character.
-bool holdsText(const QString& path, const QString& text)
-{
-    const QByteArray content = readFile(path);
-    QStringEncoder utf16(QStringConverter::Utf16LE);
-    const QByteArray wide = utf16.encode(text);
-    return content.contains(text.toLatin1()) || content.contains(wide);
 }
 
 QString today(const char* format)
@@ -164,40 +156,14 @@ class NewDocumentTest : public QObject
     QTemporaryDir m_templates;
     QStringList m_templatePaths; // Word, Excel, PowerPoint
 
-    // A template of kind holding "Template marker <name>", made by LibreOffice from flat ODF.
-    QString makeTemplate(Kind kind, const QString& name, const QString& filter)
-    {
-        QByteArray body = LibreOfficeSuite::SeedDocument(kind);
-        const QByteArray paragraph = "<text:p>Template marker " + name.toLatin1() + "</text:p>";
-        if (kind == Kind::Word)
-            body.replace("<text:p/>", paragraph);
-        else if (kind == Kind::Excel)
-            body.replace("<table:table-cell/>",
-                QByteArray(
-                    "<table:table-cell office:value-type=\"string\">" + paragraph + "</table:table-cell>"));
-        const QString source = m_templates.filePath(name + "." + LibreOfficeSuite::SeedExtension(kind));
-        QFile file(source);
-        if (!file.open(QIODevice::WriteOnly) || file.write(body) != body.size())
-            return {};
-        file.close();
-        QProcess soffice;
-        soffice.start("soffice",
-            {"--headless", "--norestore",
-                "-env:UserInstallation=" + QUrl::fromLocalFile(m_templates.filePath("profile")).toString(),
-                "--convert-to", filter, "--outdir", m_templates.path(), source});
-        soffice.waitForFinished(120000);
-        const QString made = m_templates.filePath(name + "." + filter.left(3));
-        return QFile::exists(made) ? made : QString();
-    }
-
 private Q_SLOTS:
     void initTestCase()
     {
         if (QStandardPaths::findExecutable("soffice").isEmpty())
             QSKIP("LibreOffice isn't installed");
-        m_templatePaths = {makeTemplate(Kind::Word, "Word", "dot:MS Word 97 Vorlage"),
-            makeTemplate(Kind::Excel, "Excel", "xlt:MS Excel 97 Vorlage/Template"),
-            makeTemplate(Kind::PowerPoint, "PowerPoint", "pot:MS PowerPoint 97 Vorlage")};
+        m_templatePaths = {test::MakeOfficeTemplate(Kind::Word, m_templates.path(), "Word"),
+            test::MakeOfficeTemplate(Kind::Excel, m_templates.path(), "Excel"),
+            test::MakeOfficeTemplate(Kind::PowerPoint, m_templates.path(), "PowerPoint")};
         QVERIFY2(!m_templatePaths.contains(QString()), "LibreOffice made no template");
     }
 
@@ -285,9 +251,9 @@ private Q_SLOTS:
         QVERIFY(!QGuiApplication::overrideCursor());
         const QMimeType type = QMimeDatabase().mimeTypeForFile(path, QMimeDatabase::MatchContent);
         QVERIFY2(type.inherits("application/x-ole-storage"), qPrintable(type.name()));
-        QVERIFY(holdsText(path, stream));
+        QVERIFY(test::FileHoldsText(path, stream));
         if (templateText)
-            QVERIFY(holdsText(path, "Template marker " + button.mid(3, 4)));
+            QVERIFY(test::FileHoldsText(path, "Template marker " + button.mid(3, 4)));
         QCOMPARE(fx.shell.calls().size(), 1);
         QCOMPARE(fx.shell.calls().first().path, path);
 
@@ -421,8 +387,8 @@ private Q_SLOTS:
         QCOMPARE(d.box(5)->text(), path);
         QCOMPARE(fx.suite.calls.size(), 1);
         QCOMPARE(fx.suite.calls.first().templatePath, QString());
-        QVERIFY(holdsText(path, "WordDocument"));
-        QVERIFY(!holdsText(path, "Template marker"));
+        QVERIFY(test::FileHoldsText(path, "WordDocument"));
+        QVERIFY(!test::FileHoldsText(path, "Template marker"));
     }
 
     // With no category chosen in the tree: with AutoRegIndex on the load stops at the index

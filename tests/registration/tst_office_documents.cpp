@@ -1,3 +1,4 @@
+#include "harness/OfficeTemplates.h"
 #include "harness/ScriptedPrompter.h"
 #include "harness/ScriptedShell.h"
 #include "harness/TestRegister.h"
@@ -37,14 +38,6 @@ QByteArray readFile(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-bool holdsText(const QString& path, const QString& text)
-{
-    const QByteArray file = readFile(path);
-    QStringEncoder utf16(QStringConverter::Utf16LE);
-    const QByteArray wide = utf16.encode(text);
-    return file.contains(text.toLatin1()) || file.contains(wide);
 }
 
 const QString Marker = QStringLiteral("Template marker Sutartis");
@@ -122,7 +115,7 @@ class OfficeDocumentsTest : public QObject
         QCOMPARE(calls.first().kind, ScriptedShell::Kind::Open);
         QCOMPARE(calls.first().path, path);
         QVERIFY(QFile::exists(path));
-        QCOMPARE(holdsText(path, Marker), withTemplate);
+        QCOMPARE(test::FileHoldsText(path, Marker), withTemplate);
         fx.locations.clear();
         fx.callsAtLocation.clear();
     }

@@ -22,8 +22,7 @@ public:
     Field(Recordset* recordset, int index)
         : m_recordset(recordset)
         , m_index(index)
-    {
-    }
+    { }
 
     QString Name() const;
     int Index() const { return m_index; }
@@ -69,11 +68,11 @@ public:
     // open connection. The recordset reads all rows at once; the connection is needed
     // again only to write changes and to requery.
     void Open(const QString& source, Connection& connection, int cursorType = CursorTypeEnum::Static,
-              int lockType = LockTypeEnum::Unspecified, int options = -1);
+        int lockType = LockTypeEnum::Unspecified, int options = -1);
     // Opens on a connection of its own made from connectionString, kept until Close (the
     // way a data control works).
     void Open(const QString& source, const QString& connectionString, int cursorType = CursorTypeEnum::Static,
-              int lockType = LockTypeEnum::Optimistic);
+        int lockType = LockTypeEnum::Optimistic);
     void Close();
     bool IsOpen() const;
     QString Source() const;
