@@ -55,8 +55,7 @@ void Form2::acxTreeKategorijos_NodeClick(QTreeWidgetItem* node)
         setWindowTitle(node->text(0));
         m_state.CurrentCategoryId = 0;
         m_state.CurrentSubCategoryId = 0;
-        if (QAction* options = findChild<QAction*>(QStringLiteral("mnuCategoryOptions")))
-            options->setEnabled(false);
+        setCommandEnabled(QStringLiteral("mnuCategoryOptions"), false);
         showRelatedList(false);
         return;
     }
@@ -72,10 +71,8 @@ void Form2::acxTreeKategorijos_NodeClick(QTreeWidgetItem* node)
             m_state.CurrentSubCategoryId = key.mid(1).toInt();
             modListDocum2(m_state.CurrentCategoryId, m_state.CurrentSubCategoryId, direction());
         }
-        for (const char* name : {"mnuCategoryOptions", "mnuDeleteCategory"}) {
-            if (QAction* action = findChild<QAction*>(QLatin1String(name)))
-                action->setEnabled(true);
-        }
+        setCommandEnabled(QStringLiteral("mnuCategoryOptions"), true);
+        setCommandEnabled(QStringLiteral("mnuDeleteCategory"), true);
         setWindowTitle(QStringLiteral("Exploring Category — ") + node->text(0));
     } else if (key.size() == 1) {
         m_state.CurrentLetterCode = qint16(key.at(0).unicode());
@@ -103,10 +100,8 @@ void Form2::ListDokSarasas_ItemClick(int row)
     m_state.SelectedItemText = item.text;
     m_state.ActiveListName = QStringLiteral("ListDokSarasas");
     m_state.SelectedFilePath = item.tag;
-    for (const char* name : {"mnuRelated", "mnuShowDetails"}) {
-        if (QAction* action = findChild<QAction*>(QLatin1String(name)))
-            action->setEnabled(true);
-    }
+    setCommandEnabled(QStringLiteral("mnuRelated"), true);
+    setCommandEnabled(QStringLiteral("mnuShowDetails"), true);
     UpdateCommandState();
     FillRelatedList();
 }
@@ -120,10 +115,8 @@ void Form2::ListSusieti_ItemClick(int row)
     m_state.SelectedItemText = item.text;
     m_state.SelectedSubDocumentId = DocumentFills::IdOfKey(item.key);
     m_state.SelectedFilePath = item.tag;
-    if (QAction* related = findChild<QAction*>(QStringLiteral("mnuRelated")))
-        related->setEnabled(false);
-    if (QAction* details = findChild<QAction*>(QStringLiteral("mnuShowDetails")))
-        details->setEnabled(true);
+    setCommandEnabled(QStringLiteral("mnuRelated"), false);
+    setCommandEnabled(QStringLiteral("mnuShowDetails"), true);
     UpdateCommandState();
 }
 

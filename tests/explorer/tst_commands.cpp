@@ -155,6 +155,13 @@ private Q_SLOTS:
         QVERIFY(!w.action("btnContacts")->isEnabled());
         QVERIFY(w.action("btnContacts")->toolTip().startsWith("Address Book\n"));
         QCOMPARE(w.action("btnDelete")->toolTip(), QString("Delete Document (Del)"));
+        // The selection enables what it may; a command without its dialog stays off.
+        fx.clickDocument("contract");
+        QVERIFY(w.action("mnuDelete")->isEnabled());
+        QVERIFY(!w.action("mnuRelated")->isEnabled());
+        fx.clickNode("a" + QString::number(fx.id["Raštai"]));
+        QVERIFY(w.action("mnuDeleteCategory")->isEnabled());
+        QVERIFY(!w.action("mnuCategoryOptions")->isEnabled());
         bool opened = false;
         w.setDialog("frmCoresp", [&](const QString&) { opened = true; });
         QVERIFY(addressBook->isEnabled());
