@@ -10,6 +10,7 @@
 #include "options/OptionStore.h"
 #include "platform/Prompter.h"
 #include "registration/NewDocumentDialog.h"
+#include "support/BusyCursor.h"
 #include "support/Error.h"
 #include "support/Splitter.h"
 
@@ -251,17 +252,14 @@ void Form2::RefillByDates()
 
 void Form2::runFill(const std::function<void()>& fill)
 {
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     try {
+        const BusyCursor busy;
         fill();
     } catch (const Error& error) {
-        QGuiApplication::restoreOverrideCursor();
         // At start the tree reports an unusable register, right after this first fill.
         if (!m_loading)
             reportConnectionError(error.number(), error.description());
-        return;
     }
-    QGuiApplication::restoreOverrideCursor();
 }
 
 void Form2::reportConnectionError(long number, const QString& description)

@@ -7,6 +7,7 @@
 #include "explorer/RelatedFill.h"
 #include "explorer/SelectionState.h"
 #include "explorer/TreeFills.h"
+#include "support/BusyCursor.h"
 #include "support/Error.h"
 
 #include <QGuiApplication>
@@ -16,12 +17,10 @@ namespace kartella {
 
 void Form2::FillCategoryTree()
 {
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     try {
+        const BusyCursor busy;
         BuildCategoryTree(*m_tree);
-        QGuiApplication::restoreOverrideCursor();
     } catch (const Error& error) {
-        QGuiApplication::restoreOverrideCursor();
         // Only an unusable register is reported; any other error leaves the tree as far as it got.
         if (error.number() == ErrorNumber::ConnectionFailed) {
             reportConnectionError(error.number(), error.description());
@@ -33,12 +32,10 @@ void Form2::FillCategoryTree()
 
 void Form2::FillContactTree()
 {
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     try {
+        const BusyCursor busy;
         BuildContactTree(*m_tree);
-        QGuiApplication::restoreOverrideCursor();
     } catch (const Error& error) {
-        QGuiApplication::restoreOverrideCursor();
         reportConnectionError(error.number(), error.description());
     }
 }

@@ -10,6 +10,7 @@
 #include "store/Store.h"
 #include "store/engine/Recordset.h"
 #include "support/BoundList.h"
+#include "support/BusyCursor.h"
 #include "support/EnterAsTab.h"
 #include "support/Error.h"
 #include "support/FieldBinder.h"
@@ -51,16 +52,6 @@ const QString CategorySource
 const QString SubCategorySource
     = QStringLiteral("select SubKategID,KategID,DokSubKategorija from tbl_Sub_Categories where KategID=");
 const QString DateFormat = QStringLiteral("yyyy.MM.dd");
-
-// The busy pointer while an office program works.
-class BusyCursor
-{
-public:
-    BusyCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~BusyCursor() { QGuiApplication::restoreOverrideCursor(); }
-    BusyCursor(const BusyCursor&) = delete;
-    BusyCursor& operator=(const BusyCursor&) = delete;
-};
 
 QPushButton* makeButton(const QString& name, const QString& caption, QWidget* parent)
 {
@@ -285,6 +276,7 @@ void NewDocumentDialog::bindControls()
 
 void NewDocumentDialog::Form_Load()
 {
+    const BusyCursor busy;
     // An error at any step ends the sequence: the dialog opens with what was done so far.
     try {
         const QString provider = GetRegValue(QStringLiteral("Provider"));
