@@ -148,6 +148,7 @@ private:
     QAction* addCommand(QMenu* menu, const QString& name, const QString& caption, void (Form2::*slot)(),
         const QKeySequence& shortcut = {}, const QString& dialog = {});
     void setView(int view);
+    void switchView(bool categories);
     void sortColumn(ExplorerList* list, int column);
     void setCommandEnabled(const QString& name, bool enabled);
     void setToolbarEnabled(std::initializer_list<int> positions, bool enabled);

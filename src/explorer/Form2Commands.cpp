@@ -144,22 +144,26 @@ void Form2::mnuRefresh_Click()
 
 void Form2::mnuByCategory_Click()
 {
-    action(QStringLiteral("mnuByCategory"))->setChecked(true);
-    action(QStringLiteral("mnuByContacts"))->setChecked(false);
-    m_tree->clearNodes();
-    CategoryView = true;
-    LastNodeIndex = 0;
-    FillCategoryTree();
+    switchView(true);
 }
 
 void Form2::mnuByContacts_Click()
 {
-    action(QStringLiteral("mnuByContacts"))->setChecked(true);
-    action(QStringLiteral("mnuByCategory"))->setChecked(false);
+    switchView(false);
+}
+
+void Form2::switchView(bool categories)
+{
+    action(QStringLiteral("mnuByCategory"))->setChecked(categories);
+    action(QStringLiteral("mnuByContacts"))->setChecked(!categories);
     m_tree->clearNodes();
-    CategoryView = false;
+    CategoryView = categories;
+    // Any click after a switch acts, the root's too.
     LastNodeIndex = 0;
-    FillContactTree();
+    if (categories)
+        FillCategoryTree();
+    else
+        FillContactTree();
 }
 
 void Form2::reloadAfterDelete()

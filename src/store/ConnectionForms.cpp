@@ -30,35 +30,40 @@ QString ShapeUpperConnectionString(const QString& provider, const QString& locat
         + location + u';';
 }
 
-// Provider is read before DbLocation, each at the moment of the call.
-QString PlainConnectionString()
+namespace {
+using Form = QString (*)(const QString&, const QString&);
+
+// A form from the options as they stand now: Provider is read before DbLocation.
+QString fromOptions(Form form)
 {
     const QString provider = GetRegValue(QStringLiteral("Provider"));
-    return PlainConnectionString(provider, GetRegValue(QStringLiteral("DbLocation")));
+    return form(provider, GetRegValue(QStringLiteral("DbLocation")));
+}
+} // namespace
+
+QString PlainConnectionString()
+{
+    return fromOptions(&PlainConnectionString);
 }
 
 QString UpperConnectionString()
 {
-    const QString provider = GetRegValue(QStringLiteral("Provider"));
-    return UpperConnectionString(provider, GetRegValue(QStringLiteral("DbLocation")));
+    return fromOptions(&UpperConnectionString);
 }
 
 QString ShapeConnectionString()
 {
-    const QString provider = GetRegValue(QStringLiteral("Provider"));
-    return ShapeConnectionString(provider, GetRegValue(QStringLiteral("DbLocation")));
+    return fromOptions(&ShapeConnectionString);
 }
 
 QString ShapePrefixConnectionString()
 {
-    const QString provider = GetRegValue(QStringLiteral("Provider"));
-    return ShapePrefixConnectionString(provider, GetRegValue(QStringLiteral("DbLocation")));
+    return fromOptions(&ShapePrefixConnectionString);
 }
 
 QString ShapeUpperConnectionString()
 {
-    const QString provider = GetRegValue(QStringLiteral("Provider"));
-    return ShapeUpperConnectionString(provider, GetRegValue(QStringLiteral("DbLocation")));
+    return fromOptions(&ShapeUpperConnectionString);
 }
 
 } // namespace kartella
