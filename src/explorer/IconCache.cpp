@@ -2,8 +2,6 @@
 
 #include "support/FileInfo.h"
 
-#include <QFileInfo>
-
 namespace kartella {
 
 void IconCache::add(const QString& key, const QIcon& large, const QIcon& small)
@@ -44,11 +42,8 @@ void AddFileIcon(CFileInfo& info, const QString& key)
 
 QString GetIconKey(const QString& path)
 {
-    if (path == NoFilePath || path.isEmpty() || !QFileInfo::exists(path)) {
-        AddEmptyIcon(EmptyIconKey);
-        return EmptyIconKey;
-    }
-    CFileInfo* info = GetFileInfoObject(path);
+    // A Null path ("jj") and a file that isn't there both show the "no file" picture.
+    CFileInfo* info = path == NoFilePath ? nullptr : GetFileInfoObject(path);
     if (!info) {
         AddEmptyIcon(EmptyIconKey);
         return EmptyIconKey;
