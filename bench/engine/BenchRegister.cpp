@@ -43,7 +43,7 @@ public:
     {
         if (m_rows.isEmpty())
             return;
-        m_connection.Execute(m_head + QStringLiteral(" VALUES ") + m_rows.join(u','));
+        m_connection.execute(m_head + QStringLiteral(" VALUES ") + m_rows.join(u','));
         m_rows.clear();
     }
 
@@ -55,12 +55,12 @@ private:
 
 } // namespace
 
-void BuildRegister(const QString& path, int documents)
+void buildRegister(const QString& path, int documents)
 {
-    CreateRegister(path);
-    Connection connection(PlainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"), path));
-    connection.Open();
-    connection.BeginTrans();
+    createRegister(path);
+    Connection connection(plainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"), path));
+    connection.open();
+    connection.beginTrans();
     QRandomGenerator random(20240305);
     auto pick = [&random](const QStringList& list) { return list[random.bounded(int(list.size()))]; };
 
@@ -115,8 +115,8 @@ void BuildRegister(const QString& path, int documents)
                 + QString::number(1 + random.bounded(4)));
         }
     }
-    connection.CommitTrans();
-    connection.Close();
+    connection.commitTrans();
+    connection.close();
 }
 
 } // namespace kartella::bench

@@ -16,7 +16,7 @@ int compareBytes(void*, int aSize, const void* a, int bSize, const void* b)
 
 } // namespace
 
-std::vector<RawRow> ReadRaw(const std::string& path, const std::string& sql)
+std::vector<RawRow> readRaw(const std::string& path, const std::string& sql)
 {
     sqlite3* db = nullptr;
     if (sqlite3_open_v2(path.c_str(), &db, SQLITE_OPEN_READONLY, nullptr) != SQLITE_OK) {

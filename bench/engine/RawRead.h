@@ -21,6 +21,6 @@ using RawRow = std::vector<RawValue>;
 // Runs sql on the file at path with the sqlite3 C API alone and copies every value of
 // every row. The collation NAMEFOLD is registered as a plain byte comparison so that the
 // register's schema opens; the query doesn't order by it.
-std::vector<RawRow> ReadRaw(const std::string& path, const std::string& sql);
+std::vector<RawRow> readRaw(const std::string& path, const std::string& sql);
 
 } // namespace kartella::bench

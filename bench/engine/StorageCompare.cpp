@@ -56,7 +56,7 @@ double median(std::vector<double> values)
 
 } // namespace
 
-void CompareStorage(const std::string& path, const std::string& sql, int runs)
+void compareStorage(const std::string& path, const std::string& sql, int runs)
 {
     sqlite3* db = nullptr;
     sqlite3_open_v2(path.c_str(), &db, SQLITE_OPEN_READONLY, nullptr);

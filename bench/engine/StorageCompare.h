@@ -8,6 +8,6 @@ namespace kartella::bench {
 // store (typed cells, text kept as UTF-8) and once into one QVariant per cell, and then
 // reads every value back as a QVariant, as a recordset hands it out. Prints the medians
 // as storage_compact_ms and storage_variant_ms.
-void CompareStorage(const std::string& path, const std::string& sql, int runs);
+void compareStorage(const std::string& path, const std::string& sql, int runs);
 
 } // namespace kartella::bench

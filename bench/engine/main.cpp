@@ -14,12 +14,12 @@
 #include "BenchRegister.h"
 #include "RawRead.h"
 #include "StorageCompare.h"
+#include "base/Error.h"
 #include "explorer/DocumentQueries.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 #include "store/engine/JetDialect.h"
 #include "store/engine/Recordset.h"
-#include "support/Error.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -51,14 +51,14 @@ double readRecordset(Connection& connection, const QString& sql, qint64& count)
     QElapsedTimer timer;
     timer.start();
     Recordset recordset;
-    recordset.Open(sql, connection);
+    recordset.open(sql, connection);
     count = 0;
-    while (!recordset.Eof()) {
+    while (!recordset.eof()) {
         for (const QString& name : FieldNames) {
-            const QVariant value = recordset.Fields(name).Value();
-            count += IsNull(value) ? 0 : 1;
+            const QVariant value = recordset.fields(name).value();
+            count += isNull(value) ? 0 : 1;
         }
-        recordset.MoveNext();
+        recordset.moveNext();
     }
     return double(timer.nsecsElapsed()) / 1e6;
 }
@@ -67,7 +67,7 @@ double readRaw(const std::string& path, const std::string& sql, qint64& count)
 {
     QElapsedTimer timer;
     timer.start();
-    const std::vector<bench::RawRow> rows = bench::ReadRaw(path, sql);
+    const std::vector<bench::RawRow> rows = bench::readRaw(path, sql);
     const double ms = double(timer.nsecsElapsed()) / 1e6;
     count = 0;
     for (const bench::RawRow& row : rows) {
@@ -89,8 +89,8 @@ void compareJoins(const std::string& path, int runs)
     const QString filtered = QStringLiteral("WHERE tbl_Documents.DokRegistracData between '2020-03-01' and "
                                             "'2020-04-01' AND tbl_Documents.KategID=7");
     for (const auto& [name, clause] : {std::pair {"", QString()}, std::pair {"_filtered", filtered}}) {
-        const QString written = DocumentSql() + clause + Ordering;
-        const QString rewritten = engine::TranslateJetToSqlite(written);
+        const QString written = documentSql() + clause + Ordering;
+        const QString rewritten = engine::translateJetToSqlite(written);
         for (const auto& [form, sql] : {std::pair {"right", written}, std::pair {"left", rewritten}}) {
             std::vector<double> times;
             qint64 count = 0;
@@ -123,13 +123,13 @@ int main(int argc, char** argv)
         if (registerAt >= 0 && registerAt + 1 < arguments.size())
             path = arguments[registerAt + 1];
         if (!QFileInfo::exists(path))
-            bench::BuildRegister(path, documents);
+            bench::buildRegister(path, documents);
 
-        Connection connection(PlainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"), path));
-        connection.Open();
-        const QString sql = DocumentSql() + Ordering;
+        Connection connection(plainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"), path));
+        connection.open();
+        const QString sql = documentSql() + Ordering;
         const std::string rawPath = path.toStdString();
-        const std::string rawSql = engine::TranslateJetToSqlite(sql).toStdString();
+        const std::string rawSql = engine::translateJetToSqlite(sql).toStdString();
 
         std::vector<double> recordsetTimes;
         std::vector<double> rawTimes;
@@ -155,7 +155,7 @@ int main(int argc, char** argv)
         if (arguments.contains(QStringLiteral("--joins")))
             compareJoins(rawPath, runs);
         if (arguments.contains(QStringLiteral("--storage")))
-            bench::CompareStorage(rawPath, rawSql, runs);
+            bench::compareStorage(rawPath, rawSql, runs);
     } catch (const Error& error) {
         std::fprintf(stderr, "%s\n", qPrintable(error.description()));
         return 1;

@@ -2,10 +2,9 @@
 // click to a filled list, in category mode (the root: all documents) and in contact mode,
 // beside the engine's read of the same query. Prints "name: value" lines.
 #include "explorer/DocumentQueries.h"
-#include "explorer/Form2.h"
 #include "explorer/ListModel.h"
+#include "explorer/MainWindow.h"
 #include "explorer/NavigationTree.h"
-#include "explorer/SelectionState.h"
 #include "options/FirstRun.h"
 #include "options/OptionStore.h"
 #include "store/SampleRegister.h"
@@ -13,6 +12,7 @@
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
+#include "support/SelectionState.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -60,16 +60,16 @@ double residentMb()
 void readAll(const QString& sql)
 {
     Connection connection;
-    connection.SetMode(ConnectModeEnum::ShareDenyNone);
-    connection.Open(PlainConnectionString());
+    connection.setMode(ConnectModeEnum::ShareDenyNone);
+    connection.open(plainConnectionString());
     Recordset rs;
-    rs.Open(sql, connection);
+    rs.open(sql, connection);
     qint64 sink = 0;
-    const int fields = rs.FieldCount();
-    while (!rs.Eof()) {
+    const int fields = rs.fieldCount();
+    while (!rs.eof()) {
         for (int f = 0; f < fields; ++f)
-            sink += rs.Fields(f).Value().isValid() ? 1 : 0;
-        rs.MoveNext();
+            sink += rs.fields(f).value().isValid() ? 1 : 0;
+        rs.moveNext();
     }
     if (sink < 0)
         qWarning("unreachable");
@@ -83,42 +83,40 @@ int main(int argc, char* argv[])
     QApplication app(argc, argv);
     QTemporaryDir dir;
     qputenv("XDG_CONFIG_HOME", dir.filePath(QStringLiteral("config")).toUtf8());
-    SeedOptionsIfMissing();
+    seedOptionsIfMissing();
     const QString path = dir.filePath(QStringLiteral("Kartella.mdb"));
-    CreateRegister(path);
+    createRegister(path);
     SampleOptions options;
     options.documents = 100000;
-    FillSampleRegister(path, options);
-    SetRegValue(QStringLiteral("DbLocation"), path);
+    fillSampleRegister(path, options);
+    setRegValue(QStringLiteral("DbLocation"), path);
 
     const int runs = 5;
     const QDate today = QDate::currentDate();
-    const QString sql = CategoryListSql(0, 0, false, today, today);
+    const QString sql = categoryListSql(0, 0, false, today, today);
     const double read = medianMs(runs, [&] { readAll(sql); });
 
     // Memory: the load's first fill lists all 100 000 documents.
-    Form2 window;
+    MainWindow window;
     const double before = residentMb();
-    window.Form_Load();
+    window.load();
     const double memory = residentMb() - before;
     const int rows = window.documentModel()->itemCount();
     NavigationTree* tree = window.tree();
     const QString someCategory = NavigationTree::nodeKey(tree->nodeByIndex(2));
     // The root's click fills the list with all documents (after another node, so it acts).
     const double categoryFill = medianMs(
-        runs, [&] { window.acxTreeKategorijos_NodeClick(tree->nodeByKey(QStringLiteral("ALL"))); },
-        [&] { window.acxTreeKategorijos_NodeClick(tree->nodeByKey(someCategory)); });
+        runs, [&] { window.onNodeClicked(tree->nodeByKey(QStringLiteral("ALL"))); },
+        [&] { window.onNodeClicked(tree->nodeByKey(someCategory)); });
 
     tree->clearNodes();
-    window.CategoryView = false;
-    window.LastNodeIndex = 0;
-    window.FillContactTree();
+    window.setCategoryView(false);
+    window.fillContactTree();
     QTreeWidgetItem* letter = tree->nodeByKey(QStringLiteral("A"));
     QTreeWidgetItem* first = letter->child(0);
     QTreeWidgetItem* second = letter->child(1);
     const double contactFill = medianMs(
-        runs, [&] { window.acxTreeKategorijos_NodeClick(first); },
-        [&] { window.acxTreeKategorijos_NodeClick(second); });
+        runs, [&] { window.onNodeClicked(first); }, [&] { window.onNodeClicked(second); });
 
     QTextStream out(stdout);
     out << "rows: " << rows << '\n';

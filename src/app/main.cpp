@@ -1,4 +1,4 @@
-#include "explorer/Form2.h"
+#include "explorer/MainWindow.h"
 #include "options/FirstRun.h"
 #include "platform/Application.h"
 #include "platform/DesktopShell.h"
@@ -12,7 +12,7 @@ int main(int argc, char* argv[])
     QApplication::setApplicationName(QStringLiteral("Kartella"));
     QApplication::setApplicationDisplayName(QStringLiteral("Kartella"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("folder-documents")));
-    kartella::UseIconThemeFallback();
+    kartella::useIconThemeFallback();
 
     kartella::WidgetPrompter prompter;
     kartella::Prompter::setInstance(&prompter);
@@ -22,13 +22,13 @@ int main(int argc, char* argv[])
     kartella::OfficeSuite::setInstance(&office);
 
     // The installer's part: the options exist from the first start on.
-    kartella::SeedOptionsIfMissing();
+    kartella::seedOptionsIfMissing();
 
     int code = 0;
     {
-        kartella::Form2 window;
+        kartella::MainWindow window;
         window.show();
-        window.Form_Load();
+        window.load();
         code = QApplication::exec();
     }
     kartella::OfficeSuite::setInstance(nullptr);

@@ -1,10 +1,10 @@
 #include "explorer/DocumentFills.h"
 
 #include "explorer/IconCache.h"
-#include "explorer/SelectionState.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
+#include "support/SelectionState.h"
 
 #include <QDate>
 #include <QHash>
@@ -21,13 +21,13 @@ QHash<qint64, QString> categoryNames(Connection& connection)
 {
     QHash<qint64, QString> names;
     Recordset rs;
-    rs.Open(QStringLiteral("SELECT tbl_Document_Categories.KategID, tbl_Document_Categories.DokKategorija "
+    rs.open(QStringLiteral("SELECT tbl_Document_Categories.KategID, tbl_Document_Categories.DokKategorija "
                            "FROM tbl_Document_Categories"),
         connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
-    while (!rs.Eof()) {
-        names.insert(rs.Collect(QStringLiteral("KategID")).toLongLong(),
-            NullToMark(rs.Collect(QStringLiteral("DokKategorija"))).toString());
-        rs.MoveNext();
+    while (!rs.eof()) {
+        names.insert(rs.collect(QStringLiteral("KategID")).toLongLong(),
+            nullToMark(rs.collect(QStringLiteral("DokKategorija"))).toString());
+        rs.moveNext();
     }
     return names;
 }
@@ -39,30 +39,30 @@ DocumentFills::DocumentFills(ListModel& model, SelectionState& selection)
     , m_selection(selection)
 { }
 
-QString DocumentFills::ItemKey(qint32 id)
+QString DocumentFills::itemKey(qint32 id)
 {
     return QStringLiteral("a ") + QString::number(id);
 }
 
-qint32 DocumentFills::IdOfKey(const QString& key)
+qint32 DocumentFills::idOfKey(const QString& key)
 {
     return key.mid(1).trimmed().toInt();
 }
 
-void DocumentFills::SetDocumentColumns()
+void DocumentFills::setDocumentColumns()
 {
     m_model.setColumns({{QStringLiteral("Doc. description"), 2000}, {QStringLiteral("Reg.index"), 1300},
         {QStringLiteral("Sender/Receiver"), 1800}, {QStringLiteral("Date"), 1500},
         {QStringLiteral("Notes"), 2000}});
 }
 
-void DocumentFills::SetContactColumns()
+void DocumentFills::setContactColumns()
 {
     m_model.setColumns({{QStringLiteral("Doc. description"), 2000}, {QStringLiteral("Reg.index"), 1300},
         {QStringLiteral("Category"), 1800}, {QStringLiteral("Date"), 1500}, {QStringLiteral("Notes"), 2000}});
 }
 
-void DocumentFills::ShowEmptyList()
+void DocumentFills::showEmptyList()
 {
     m_model.setColumns({{QStringLiteral("Documents"), 9000}});
     ListItem empty;
@@ -71,24 +71,24 @@ void DocumentFills::ShowEmptyList()
     m_model.setItems({std::move(empty)});
     if (setCount)
         setCount(QStringLiteral("0 object(s)"));
-    m_selection.SelectedFilePath.clear();
-    m_selection.SelectedDocumentId = 0;
+    m_selection.selectedFilePath.clear();
+    m_selection.selectedDocumentId = 0;
     if (disableDocumentCommands)
         disableDocumentCommands();
-    m_selection.DocumentListFilled = false;
+    m_selection.documentListFilled = false;
 }
 
-void DocumentFills::FillDocumentList(const QString& sql)
+void DocumentFills::fillDocumentList(const QString& sql)
 {
     fill(sql, Mode::Category, 0);
 }
 
-void DocumentFills::FillLetterList(const QString& sql, qint16 letterCode)
+void DocumentFills::fillLetterList(const QString& sql, qint16 letterCode)
 {
     fill(sql, Mode::Letter, letterCode);
 }
 
-void DocumentFills::FillContactDocumentList(const QString& sql)
+void DocumentFills::fillContactDocumentList(const QString& sql)
 {
     fill(sql, Mode::Contact, 0);
 }
@@ -96,46 +96,46 @@ void DocumentFills::FillContactDocumentList(const QString& sql)
 void DocumentFills::fill(const QString& sql, Mode mode, qint16 letterCode)
 {
     Connection connection;
-    connection.SetConnectionString(PlainConnectionString());
+    connection.setConnectionString(plainConnectionString());
     if (mode != Mode::Letter)
-        connection.SetMode(ConnectModeEnum::ShareDenyNone);
-    connection.Open();
+        connection.setMode(ConnectModeEnum::ShareDenyNone);
+    connection.open();
     Recordset rs;
-    rs.Open(sql, connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
-    if (rs.Eof()) {
-        ShowEmptyList();
+    rs.open(sql, connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
+    if (rs.eof()) {
+        showEmptyList();
         return;
     }
     std::vector<ListItem> rows;
     if (mode == Mode::Contact) {
-        SetContactColumns();
+        setContactColumns();
         rows = documentRows(rs, mode, letterCode);
     } else {
-        SetDocumentColumns();
+        setDocumentColumns();
         rows = documentRows(rs, mode, letterCode);
     }
-    rs.Close();
+    rs.close();
     finish(std::move(rows));
 }
 
 std::vector<ListItem> DocumentFills::documentRows(Recordset& rs, Mode mode, qint16 letterCode)
 {
-    const int idColumn = rs.Fields(QStringLiteral("RastasID")).Index();
-    const int pathColumn = rs.Fields(QStringLiteral("RastoKel")).Index();
-    const int indexColumn = rs.Fields(QStringLiteral("DokRegistracIndeksas")).Index();
-    const int nameColumn = rs.Fields(QStringLiteral("FullName")).Index();
-    const int contactColumn = rs.Fields(QStringLiteral("ContactID")).Index();
-    const int categoryColumn = rs.Fields(QStringLiteral("KategID")).Index();
-    const int dateColumn = rs.Fields(QStringLiteral("DokRegistracData")).Index();
-    const int notesColumn = rs.Fields(QStringLiteral("DokPastaba")).Index();
-    const int titleColumn = rs.Fields(QStringLiteral("DokAntraste")).Index();
+    const int idColumn = rs.fields(QStringLiteral("RastasID")).index();
+    const int pathColumn = rs.fields(QStringLiteral("RastoKel")).index();
+    const int indexColumn = rs.fields(QStringLiteral("DokRegistracIndeksas")).index();
+    const int nameColumn = rs.fields(QStringLiteral("FullName")).index();
+    const int contactColumn = rs.fields(QStringLiteral("ContactID")).index();
+    const int categoryColumn = rs.fields(QStringLiteral("KategID")).index();
+    const int dateColumn = rs.fields(QStringLiteral("DokRegistracData")).index();
+    const int notesColumn = rs.fields(QStringLiteral("DokPastaba")).index();
+    const int titleColumn = rs.fields(QStringLiteral("DokAntraste")).index();
 
     QHash<qint64, QString> categories;
     if (mode == Mode::Contact) {
         Connection lookup;
-        lookup.SetConnectionString(PlainConnectionString());
-        lookup.SetMode(ConnectModeEnum::ShareDenyNone);
-        lookup.Open();
+        lookup.setConnectionString(plainConnectionString());
+        lookup.setMode(ConnectModeEnum::ShareDenyNone);
+        lookup.open();
         categories = categoryNames(lookup);
     }
     const QChar letter {char16_t(letterCode)};
@@ -143,45 +143,45 @@ std::vector<ListItem> DocumentFills::documentRows(Recordset& rs, Mode mode, qint
     QHash<qint64, QString> dayTexts;
     auto dateText = [&dayTexts](const QVariant& value) {
         if (value.typeId() != QMetaType::QDate)
-            return DisplayText(value);
+            return displayText(value);
         const qint64 day = value.toDate().toJulianDay();
         auto it = dayTexts.constFind(day);
         if (it == dayTexts.constEnd())
-            it = dayTexts.insert(day, DisplayText(value));
+            it = dayTexts.insert(day, displayText(value));
         return *it;
     };
-    const qint32 contactId = m_selection.CurrentContactId;
+    const qint32 contactId = m_selection.currentContactId;
 
     std::vector<ListItem> rows;
-    rows.reserve(size_t(mode == Mode::Category ? rs.RecordCount() : 64));
-    const int count = rs.RecordCount();
+    rows.reserve(size_t(mode == Mode::Category ? rs.recordCount() : 64));
+    const int count = rs.recordCount();
     for (int row = 0; row < count; ++row) {
         if (mode == Mode::Letter) {
             // Exact comparison: "Ą" belongs to no letter node but its own.
-            const QString name = DisplayText(rs.RowValue(row, nameColumn));
+            const QString name = displayText(rs.rowValue(row, nameColumn));
             if (name.isEmpty() || name.at(0).toUpper() != letter)
                 continue;
         } else if (mode == Mode::Contact) {
-            const QVariant contact = rs.RowValue(row, contactColumn);
-            if (IsNull(contact) || contact.toLongLong() != contactId)
+            const QVariant contact = rs.rowValue(row, contactColumn);
+            if (isNull(contact) || contact.toLongLong() != contactId)
                 continue;
         }
-        const QVariant path = rs.RowValue(row, pathColumn);
+        const QVariant path = rs.rowValue(row, pathColumn);
         ListItem item;
-        item.iconKey = GetIconKey(NullToDefault(path, NoFilePath).toString());
-        item.text = DisplayText(rs.RowValue(row, titleColumn));
-        item.subItems[0] = DisplayText(rs.RowValue(row, indexColumn));
+        item.iconKey = getIconKey(nullToDefault(path, NoFilePath).toString());
+        item.text = displayText(rs.rowValue(row, titleColumn));
+        item.subItems[0] = displayText(rs.rowValue(row, indexColumn));
         if (mode == Mode::Contact) {
-            const QVariant category = rs.RowValue(row, categoryColumn);
+            const QVariant category = rs.rowValue(row, categoryColumn);
             item.subItems[1]
-                = IsNull(category) ? NullMark : categories.value(category.toLongLong(), NullMark);
+                = isNull(category) ? NullMark : categories.value(category.toLongLong(), NullMark);
         } else {
-            item.subItems[1] = DisplayText(rs.RowValue(row, nameColumn));
+            item.subItems[1] = displayText(rs.rowValue(row, nameColumn));
         }
-        item.subItems[2] = dateText(rs.RowValue(row, dateColumn));
-        item.subItems[3] = DisplayText(rs.RowValue(row, notesColumn));
-        item.key = ItemKey(rs.RowValue(row, idColumn).toInt());
-        item.tagIsNull = IsNull(path);
+        item.subItems[2] = dateText(rs.rowValue(row, dateColumn));
+        item.subItems[3] = displayText(rs.rowValue(row, notesColumn));
+        item.key = itemKey(rs.rowValue(row, idColumn).toInt());
+        item.tagIsNull = isNull(path);
         item.tag = item.tagIsNull ? QString() : path.toString();
         rows.push_back(std::move(item));
     }
@@ -194,7 +194,7 @@ void DocumentFills::finish(std::vector<ListItem> rows)
     m_model.setItems(std::move(rows));
     if (setCount)
         setCount(QString::number(count) + QStringLiteral(" object(s)"));
-    m_selection.DocumentListFilled = true;
+    m_selection.documentListFilled = true;
 }
 
 } // namespace kartella

@@ -25,20 +25,20 @@ public:
     std::function<void()> disableDocumentCommands;
 
     // The fills throw kartella::Error when the query fails; the list then stays as it was.
-    void FillDocumentList(const QString& sql);
-    void FillLetterList(const QString& sql, qint16 letterCode);
-    void FillContactDocumentList(const QString& sql);
-    void ShowEmptyList();
+    void fillDocumentList(const QString& sql);
+    void fillLetterList(const QString& sql, qint16 letterCode);
+    void fillContactDocumentList(const QString& sql);
+    void showEmptyList();
 
-    void SetDocumentColumns();
-    void SetContactColumns();
+    void setDocumentColumns();
+    void setContactColumns();
 
     static const QString EmptyKey; // "Empty"
     static const QString EmptyText; // "There aren't any data to display!"
     // The key of a list item: "a" and the id with one leading blank.
-    static QString ItemKey(qint32 id);
+    static QString itemKey(qint32 id);
     // The id in an item key, read from its second character on; 0 when there is none.
-    static qint32 IdOfKey(const QString& key);
+    static qint32 idOfKey(const QString& key);
 
 private:
     enum class Mode { Category, Letter, Contact };

@@ -27,7 +27,7 @@ void add(QString& sql, const QString& clause, qint64 number)
 QString datedWithFilters(
     qint32 category, qint32 subCategory, int direction, const QDate& start, const QDate& end)
 {
-    QString sql = DatedDocumentSql(start, end);
+    QString sql = datedDocumentSql(start, end);
     if (category != 0)
         add(sql, CategoryLater, category);
     if (subCategory != 0)
@@ -40,7 +40,7 @@ QString datedWithFilters(
 // The form without dates: the first clause opens with WHERE.
 QString undatedWithFilters(qint32 category, qint32 subCategory, int direction)
 {
-    QString sql = DocumentSql();
+    QString sql = documentSql();
     if (category != 0) {
         add(sql, CategoryFirst, category);
         if (subCategory != 0)
@@ -55,13 +55,13 @@ QString undatedWithFilters(qint32 category, qint32 subCategory, int direction)
 
 } // namespace
 
-QString JetDate(const QDate& date)
+QString jetDate(const QDate& date)
 {
     return QString::number(date.month()) % QLatin1Char('/') % QString::number(date.day()) % QLatin1Char('/')
         % QString::number(date.year());
 }
 
-QString DocumentSql()
+QString documentSql()
 {
     return QStringLiteral(
         "SELECT tbl_Documents.RastasID, tbl_Documents.DokGavSiuntData, tbl_Documents.DokRegistracData, "
@@ -72,23 +72,23 @@ QString DocumentSql()
         "tbl_Contacts.ContactID = tbl_Documents.ContactID ");
 }
 
-QString DatedDocumentSql(const QDate& start, const QDate& end)
+QString datedDocumentSql(const QDate& start, const QDate& end)
 {
-    return DocumentSql() % DateRangeOpening % JetDate(start) % DateRangeMiddle % JetDate(end)
+    return documentSql() % DateRangeOpening % jetDate(start) % DateRangeMiddle % jetDate(end)
         % DateRangeClose;
 }
 
-QString CategoryListSql(qint32 category, int direction, bool filterOn, const QDate& start, const QDate& end)
+QString categoryListSql(qint32 category, int direction, bool filterOn, const QDate& start, const QDate& end)
 {
-    return SubCategoryListSql(category, 0, direction, filterOn, start, end);
+    return subCategoryListSql(category, 0, direction, filterOn, start, end);
 }
 
-QString CategoryDatedListSql(qint32 category, int direction, const QDate& start, const QDate& end)
+QString categoryDatedListSql(qint32 category, int direction, const QDate& start, const QDate& end)
 {
-    return SubCategoryDatedListSql(category, 0, direction, start, end);
+    return subCategoryDatedListSql(category, 0, direction, start, end);
 }
 
-QString SubCategoryListSql(
+QString subCategoryListSql(
     qint32 category, qint32 subCategory, int direction, bool filterOn, const QDate& start, const QDate& end)
 {
     const QString sql = filterOn ? datedWithFilters(category, subCategory, direction, start, end)
@@ -96,31 +96,31 @@ QString SubCategoryListSql(
     return sql % Ordering;
 }
 
-QString SubCategoryDatedListSql(
+QString subCategoryDatedListSql(
     qint32 category, qint32 subCategory, int direction, const QDate& start, const QDate& end)
 {
     return datedWithFilters(category, subCategory, direction, start, end) % Ordering;
 }
 
-QString ContactDocumentSql(int direction, bool filterOn, const QDate& start, const QDate& end)
+QString contactDocumentSql(int direction, bool filterOn, const QDate& start, const QDate& end)
 {
     if (filterOn)
-        return ContactDatedDocumentSql(direction, start, end);
+        return contactDatedDocumentSql(direction, start, end);
     return undatedWithFilters(0, 0, direction) % Ordering;
 }
 
-QString ContactDatedDocumentSql(int direction, const QDate& start, const QDate& end)
+QString contactDatedDocumentSql(int direction, const QDate& start, const QDate& end)
 {
-    QString sql = DatedDocumentSql(start, end);
+    QString sql = datedDocumentSql(start, end);
     if (direction != 0)
         sql += ContactDirectionLater % QString::number(direction);
     return sql % Ordering;
 }
 
-bool FilterOptionOn()
+bool filterOptionOn()
 {
     bool isNumber = false;
-    const double value = GetRegValue(QStringLiteral("Filter")).trimmed().toDouble(&isNumber);
+    const double value = getRegValue(QStringLiteral("Filter")).trimmed().toDouble(&isNumber);
     return isNumber && value != 0.0;
 }
 

@@ -12,32 +12,32 @@ namespace kartella {
 
 // A date as Jet reads it between "#" marks: month/day/year, no leading zeros, whatever
 // the locale ("3/5/2024" for 5 March 2024).
-QString JetDate(const QDate& date);
+QString jetDate(const QDate& date);
 
 // The base text; it ends in a blank.
-QString DocumentSql();
+QString documentSql();
 // The base text followed by the date range clause (both ends included).
-QString DatedDocumentSql(const QDate& start, const QDate& end);
+QString datedDocumentSql(const QDate& start, const QDate& end);
 
 // By category; the date range applies when filterOn is true.
-QString CategoryListSql(qint32 category, int direction, bool filterOn, const QDate& start, const QDate& end);
+QString categoryListSql(qint32 category, int direction, bool filterOn, const QDate& start, const QDate& end);
 // By category, always within the date range.
-QString CategoryDatedListSql(qint32 category, int direction, const QDate& start, const QDate& end);
+QString categoryDatedListSql(qint32 category, int direction, const QDate& start, const QDate& end);
 // By subcategory; the date range applies when filterOn is true. Without a category the
 // subcategory is ignored.
-QString SubCategoryListSql(
+QString subCategoryListSql(
     qint32 category, qint32 subCategory, int direction, bool filterOn, const QDate& start, const QDate& end);
 // By subcategory, always within the date range.
-QString SubCategoryDatedListSql(
+QString subCategoryDatedListSql(
     qint32 category, qint32 subCategory, int direction, const QDate& start, const QDate& end);
 
 // The contact and letter modes: rows by date and direction only; the list keeps the
 // wanted contact's rows itself.
-QString ContactDocumentSql(int direction, bool filterOn, const QDate& start, const QDate& end);
-QString ContactDatedDocumentSql(int direction, const QDate& start, const QDate& end);
+QString contactDocumentSql(int direction, bool filterOn, const QDate& start, const QDate& end);
+QString contactDatedDocumentSql(int direction, const QDate& start, const QDate& end);
 
 // Option Filter as a truth value: any number but 0 is true; 0, "Not Found", empty or
 // other text is false.
-bool FilterOptionOn();
+bool filterOptionOn();
 
 } // namespace kartella

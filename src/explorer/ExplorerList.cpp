@@ -42,7 +42,7 @@ ExplorerList::ExplorerList(ListModel* model, QWidget* parent)
     m_details->header()->setSectionsClickable(true);
     m_details->header()->setSectionsMovable(false);
     m_details->header()->setStretchLastSection(false);
-    connect(m_details->header(), &QHeaderView::sectionClicked, this, &ExplorerList::ColumnClick);
+    connect(m_details->header(), &QHeaderView::sectionClicked, this, &ExplorerList::columnClicked);
 
     m_icons->setModel(model);
     m_icons->setSelectionModel(m_selection);
@@ -61,7 +61,7 @@ ExplorerList::ExplorerList(ListModel* model, QWidget* parent)
         view->installEventFilter(this);
         connect(view, &QAbstractItemView::pressed, this, &ExplorerList::onClicked);
         connect(view, &QAbstractItemView::doubleClicked, this,
-            [this](const QModelIndex& index) { Q_EMIT DblClick(index.row()); });
+            [this](const QModelIndex& index) { Q_EMIT doubleClickedItem(index.row()); });
         m_stack->addWidget(view);
     }
     connect(m_selection, &QItemSelectionModel::currentRowChanged, this, &ExplorerList::onCurrentChanged);
@@ -75,7 +75,7 @@ QAbstractItemView* ExplorerList::currentView() const
     return m_view == Report ? static_cast<QAbstractItemView*>(m_details) : m_icons;
 }
 
-void ExplorerList::SetView(int view)
+void ExplorerList::setView(int view)
 {
     m_view = qBound(int(LargeIcons), view, int(Report));
     m_model->setLargeIcons(m_view == LargeIcons);
@@ -167,13 +167,13 @@ void ExplorerList::onCurrentChanged(const QModelIndex& current, const QModelInde
 {
     // Only a move by the keyboard counts as a click; a refill or a mouse press doesn't.
     if (current.isValid() && m_keyPressed && !m_mousePressed)
-        Q_EMIT ItemClick(current.row());
+        Q_EMIT itemClicked(current.row());
 }
 
 void ExplorerList::onClicked(const QModelIndex& index)
 {
     if (index.isValid())
-        Q_EMIT ItemClick(index.row());
+        Q_EMIT itemClicked(index.row());
 }
 
 bool ExplorerList::eventFilter(QObject* watched, QEvent* event)
@@ -181,7 +181,7 @@ bool ExplorerList::eventFilter(QObject* watched, QEvent* event)
     switch (event->type()) {
     case QEvent::MouseButtonPress: {
         auto* mouse = static_cast<QMouseEvent*>(event);
-        Q_EMIT MouseDown(mouse->button(), mouse->globalPosition().toPoint());
+        Q_EMIT pressed(mouse->button(), mouse->globalPosition().toPoint());
         // The right button selects nothing: the menu acts on the item last clicked.
         if (mouse->button() == Qt::RightButton)
             return true;
@@ -208,7 +208,7 @@ bool ExplorerList::eventFilter(QObject* watched, QEvent* event)
             QAbstractItemView* view = currentView();
             const int row = selectedRow();
             const QPoint local = row >= 0 ? view->visualRect(m_model->index(row, 0)).center() : QPoint(8, 8);
-            Q_EMIT MouseDown(Qt::RightButton, view->viewport()->mapToGlobal(local));
+            Q_EMIT pressed(Qt::RightButton, view->viewport()->mapToGlobal(local));
         }
         return true;
     }

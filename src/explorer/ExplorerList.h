@@ -26,8 +26,8 @@ public:
     ExplorerList(ListModel* model, QWidget* parent = nullptr);
 
     ListModel* model() const { return m_model; }
-    int View() const { return m_view; }
-    void SetView(int view);
+    int view() const { return m_view; }
+    void setView(int view);
     // Row of the selected item, -1 when none.
     int selectedRow() const;
     void selectRow(int row);
@@ -47,12 +47,12 @@ public:
 
 Q_SIGNALS:
     // An item was clicked or reached with the keyboard.
-    void ItemClick(int row);
-    void DblClick(int row);
+    void itemClicked(int row);
+    void doubleClickedItem(int row);
     // A column header was clicked (0-based position).
-    void ColumnClick(int column);
+    void columnClicked(int column);
     // A mouse button went down over the list (Qt button, position on screen).
-    void MouseDown(Qt::MouseButton button, const QPoint& globalPos);
+    void pressed(Qt::MouseButton button, const QPoint& globalPos);
     void filesDropped(const QStringList& paths);
     // A drag of the selected item's file is starting: the receiver gives the file to offer.
     void dragRequested();

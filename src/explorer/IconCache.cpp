@@ -22,36 +22,36 @@ IconCache& IconCache::shared()
     return cache;
 }
 
-void AddEmptyIcon(const QString& key)
+void addEmptyIcon(const QString& key)
 {
     IconCache& cache = IconCache::shared();
     if (cache.contains(key))
         return;
     // Without the file the picture is simply empty.
-    const QIcon snow(NoFileIconPath());
+    const QIcon snow(noFileIconPath());
     cache.add(key, snow, snow);
 }
 
-void AddFileIcon(CFileInfo& info, const QString& key)
+void addFileIcon(FileInfo& info, const QString& key)
 {
     IconCache& cache = IconCache::shared();
     if (cache.contains(key))
         return;
-    cache.add(key, info.LargeIcon(), info.SmallIcon());
+    cache.add(key, info.largeIcon(), info.smallIcon());
 }
 
-QString GetIconKey(const QString& path)
+QString getIconKey(const QString& path)
 {
     // A Null path ("jj") and a file that isn't there both show the "no file" picture.
-    CFileInfo* info = path == NoFilePath ? nullptr : GetFileInfoObject(path);
+    FileInfo* info = path == NoFilePath ? nullptr : getFileInfoObject(path);
     if (!info) {
-        AddEmptyIcon(EmptyIconKey);
+        addEmptyIcon(EmptyIconKey);
         return EmptyIconKey;
     }
-    QString key = info->DisplayName();
-    if (info->TypeName() != QLatin1String("Shortcut") && info->ItemType() == 1)
-        key = info->TypeName();
-    AddFileIcon(*info, key);
+    QString key = info->displayName();
+    if (info->typeName() != QLatin1String("Shortcut") && info->itemType() == 1)
+        key = info->typeName();
+    addFileIcon(*info, key);
     return key;
 }
 

@@ -6,7 +6,7 @@
 
 namespace kartella {
 
-class CFileInfo;
+class FileInfo;
 
 // The pictures of the two explorer lists by key: one large and one small picture per
 // key (imlstLIcon and imlstSIcon hold the same keys). It grows during fills, survives
@@ -31,16 +31,16 @@ private:
 
 // Image key for a document without a reachable file.
 inline const QString EmptyIconKey = QStringLiteral("pctEmpty");
-// Stands for a Null file path on the way to GetIconKey.
+// Stands for a Null file path on the way to getIconKey.
 inline const QString NoFilePath = QStringLiteral("jj");
 
 // The image key for a file: "pctEmpty" for "jj" or a path that isn't there; otherwise
 // the file's type name (its display name for a shortcut), with the pictures put into the
 // shared cache on first sight of the key.
-QString GetIconKey(const QString& path);
+QString getIconKey(const QString& path);
 // Puts the file's pictures into the shared cache under key, unless the key is there.
-void AddFileIcon(CFileInfo& info, const QString& key);
+void addFileIcon(FileInfo& info, const QString& key);
 // Puts the "no file" picture (snow.ico beside the program) under key, unless it is there.
-void AddEmptyIcon(const QString& key);
+void addEmptyIcon(const QString& key);
 
 } // namespace kartella

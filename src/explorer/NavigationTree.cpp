@@ -55,12 +55,12 @@ QIcon nodeIcon(const QString& image, const QString& selectedImage)
 {
     QIcon icon;
     if (!image.isEmpty()) {
-        const QIcon normal = NavigationTree::NodeImage(image);
+        const QIcon normal = NavigationTree::nodeImage(image);
         for (int size : {16, 22, 32})
             icon.addPixmap(normal.pixmap(size), QIcon::Normal);
     }
     if (!selectedImage.isEmpty()) {
-        const QIcon selected = NavigationTree::NodeImage(selectedImage);
+        const QIcon selected = NavigationTree::nodeImage(selectedImage);
         for (int size : {16, 22, 32})
             icon.addPixmap(selected.pixmap(size), QIcon::Selected);
     }
@@ -81,7 +81,7 @@ NavigationTree::NavigationTree(QWidget* parent)
     connect(this, &QTreeWidget::itemCollapsed, this, &NavigationTree::onExpansionChanged);
 }
 
-QIcon NavigationTree::NodeImage(const QString& key)
+QIcon NavigationTree::nodeImage(const QString& key)
 {
     static QHash<QString, QIcon> images;
     auto it = images.find(key);
@@ -155,7 +155,7 @@ void NavigationTree::selectNode(QTreeWidgetItem* node)
 
 void NavigationTree::mousePressEvent(QMouseEvent* event)
 {
-    Q_EMIT MouseDown(event->button(), event->globalPosition().toPoint());
+    Q_EMIT pressed(event->button(), event->globalPosition().toPoint());
     if (event->button() == Qt::RightButton) {
         event->accept();
         return;
@@ -168,7 +168,7 @@ void NavigationTree::contextMenuEvent(QContextMenuEvent* event)
     // The menu key acts as the right button; a mouse press has already been answered.
     if (event->reason() == QContextMenuEvent::Keyboard) {
         const QRect rect = currentItem() ? visualItemRect(currentItem()) : QRect(0, 0, 16, 16);
-        Q_EMIT MouseDown(Qt::RightButton, viewport()->mapToGlobal(rect.center()));
+        Q_EMIT pressed(Qt::RightButton, viewport()->mapToGlobal(rect.center()));
     }
     event->accept();
 }
@@ -176,14 +176,14 @@ void NavigationTree::contextMenuEvent(QContextMenuEvent* event)
 void NavigationTree::onItemClicked(QTreeWidgetItem* item)
 {
     if (item)
-        Q_EMIT NodeClick(item);
+        Q_EMIT nodeClicked(item);
 }
 
 void NavigationTree::onCurrentItemChanged(QTreeWidgetItem* current)
 {
     // A move with the keyboard acts as a click; a mouse press is answered by itemClicked.
     if (current && !m_selectingByCode && hasFocus() && QGuiApplication::mouseButtons() == Qt::NoButton)
-        Q_EMIT NodeClick(current);
+        Q_EMIT nodeClicked(current);
 }
 
 void NavigationTree::onExpansionChanged(QTreeWidgetItem* item)

@@ -26,17 +26,17 @@ public:
 
     static QString nodeKey(const QTreeWidgetItem* node);
     static int nodeIndex(const QTreeWidgetItem* node);
-    // Selects the node without raising NodeClick.
+    // Selects the node without raising nodeClicked.
     void selectNode(QTreeWidgetItem* node);
 
     // The picture of an image key of the tree's image list.
-    static QIcon NodeImage(const QString& key);
+    static QIcon nodeImage(const QString& key);
 
 Q_SIGNALS:
-    void NodeClick(QTreeWidgetItem* node);
+    void nodeClicked(QTreeWidgetItem* node);
     // A mouse button went down over the tree. The right button selects nothing: the tree's
     // menu acts on the node last clicked with the left button.
-    void MouseDown(Qt::MouseButton button, const QPoint& globalPos);
+    void pressed(Qt::MouseButton button, const QPoint& globalPos);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;

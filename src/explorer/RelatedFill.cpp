@@ -2,15 +2,15 @@
 
 #include "explorer/DocumentFills.h"
 #include "explorer/IconCache.h"
-#include "explorer/SelectionState.h"
 #include "store/Lookups.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
+#include "support/SelectionState.h"
 
 namespace kartella {
 
-QString RelatedDocumentsSql(qint32 documentId)
+QString relatedDocumentsSql(qint32 documentId)
 {
     return QStringLiteral("SELECT tbl_Sub_Documents.SubRastasID, tbl_Sub_Documents.RastasID, "
                           "tbl_Sub_Documents.SubDocDescript, ")
@@ -20,36 +20,36 @@ QString RelatedDocumentsSql(qint32 documentId)
         + QString::number(documentId);
 }
 
-bool FillRelatedRows(ListModel& model, const SelectionState& selection)
+bool fillRelatedRows(ListModel& model, const SelectionState& selection)
 {
-    const QString sql = RelatedDocumentsSql(selection.SelectedDocumentId);
+    const QString sql = relatedDocumentsSql(selection.selectedDocumentId);
     Connection connection;
-    connection.SetConnectionString(PlainConnectionString());
-    connection.Open();
+    connection.setConnectionString(plainConnectionString());
+    connection.open();
     Recordset rs;
-    rs.Open(sql, connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
-    if (rs.RecordCount() == 0 || !selection.DocumentListFilled) {
+    rs.open(sql, connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
+    if (rs.recordCount() == 0 || !selection.documentListFilled) {
         model.clear();
         return false;
     }
-    rs.MoveLast();
-    rs.MoveFirst();
+    rs.moveLast();
+    rs.moveFirst();
     std::vector<ListItem> rows;
-    rows.reserve(size_t(rs.RecordCount()));
-    while (!rs.Eof()) {
-        const QVariant path = rs.Collect(QStringLiteral("SubRastoKelias"));
+    rows.reserve(size_t(rs.recordCount()));
+    while (!rs.eof()) {
+        const QVariant path = rs.collect(QStringLiteral("SubRastoKelias"));
         ListItem item;
-        item.iconKey = GetIconKey(NullToDefault(path, NoFilePath).toString());
-        item.text = DisplayText(rs.Collect(QStringLiteral("SubDocDescript")));
-        item.subItems[0] = GetContactName(rs.Collect(QStringLiteral("ContactID")));
-        item.subItems[1] = DisplayText(rs.Collect(QStringLiteral("SubRastGavimoData")));
-        item.key = DocumentFills::ItemKey(rs.Collect(QStringLiteral("SubRastasID")).toInt());
-        item.tagIsNull = IsNull(path);
+        item.iconKey = getIconKey(nullToDefault(path, NoFilePath).toString());
+        item.text = displayText(rs.collect(QStringLiteral("SubDocDescript")));
+        item.subItems[0] = getContactName(rs.collect(QStringLiteral("ContactID")));
+        item.subItems[1] = displayText(rs.collect(QStringLiteral("SubRastGavimoData")));
+        item.key = DocumentFills::itemKey(rs.collect(QStringLiteral("SubRastasID")).toInt());
+        item.tagIsNull = isNull(path);
         item.tag = item.tagIsNull ? QString() : path.toString();
         rows.push_back(std::move(item));
-        rs.MoveNext();
+        rs.moveNext();
     }
-    rs.Close();
+    rs.close();
     model.setColumns({{QStringLiteral("Doc. Description"), 3000}, {QStringLiteral("Sender/Receiver"), 2000},
         {QStringLiteral("Date"), 1500}});
     model.setItems(std::move(rows));

@@ -9,9 +9,9 @@ struct SelectionState;
 // Fills the related documents of the selected document into model. Returns false,
 // with the model cleared, when there is nothing to show: no related document, or the
 // document list in its empty state. Throws kartella::Error when the query fails.
-bool FillRelatedRows(ListModel& model, const SelectionState& selection);
+bool fillRelatedRows(ListModel& model, const SelectionState& selection);
 
 // The query of the related documents of a document.
-QString RelatedDocumentsSql(qint32 documentId);
+QString relatedDocumentsSql(qint32 documentId);
 
 } // namespace kartella

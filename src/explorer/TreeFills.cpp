@@ -12,11 +12,11 @@ const QString RootKey = QStringLiteral("ALL");
 
 QString text(const QVariant& value)
 {
-    return IsNull(value) ? NullMark : value.toString();
+    return isNull(value) ? NullMark : value.toString();
 }
 } // namespace
 
-int ContactLetterIndex(QChar first)
+int contactLetterIndex(QChar first)
 {
     const QChar upper = first.toUpper();
     if (upper >= u'A' && upper <= u'Z')
@@ -41,57 +41,57 @@ int ContactLetterIndex(QChar first)
     }
 }
 
-void BuildCategoryTree(NavigationTree& tree)
+void buildCategoryTree(NavigationTree& tree)
 {
     Connection connection;
-    connection.Open(PlainConnectionString());
-    connection.Execute(QStringLiteral("DELETE tbl_Sub_Categories.*, tbl_Sub_Categories.KategID, "
+    connection.open(plainConnectionString());
+    connection.execute(QStringLiteral("DELETE tbl_Sub_Categories.*, tbl_Sub_Categories.KategID, "
                                       "tbl_Sub_Categories.DokSubKategorija ")
         + QStringLiteral("From tbl_Sub_Categories ")
         + QStringLiteral("WHERE (tbl_Sub_Categories.DokSubKategorija Is Null) OR KategID=0;"));
     Recordset categories;
-    categories.Open(
+    categories.open(
         QStringLiteral("SELECT tbl_Document_Categories.KategID, tbl_Document_Categories.DokKategorija ")
             + QStringLiteral("FROM tbl_Document_Categories ")
             + QStringLiteral("ORDER BY tbl_Document_Categories.DokKategorija;"),
         connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
     QTreeWidgetItem* root = tree.addNode({}, RootKey, QStringLiteral("CATEGORIES"));
     tree.setExpandedImage(root, QStringLiteral("Open"));
-    while (!categories.Eof()) {
-        const QString id = categories.Collect(QStringLiteral("KategID")).toString();
+    while (!categories.eof()) {
+        const QString id = categories.collect(QStringLiteral("KategID")).toString();
         const QString categoryKey = u'a' + id;
-        tree.addNode(RootKey, categoryKey, text(categories.Collect(QStringLiteral("DokKategorija"))),
+        tree.addNode(RootKey, categoryKey, text(categories.collect(QStringLiteral("DokKategorija"))),
             QStringLiteral("Closed"), QStringLiteral("Open"));
         Recordset subCategories;
-        subCategories.Open(QStringLiteral("SELECT  tbl_Sub_Categories.SubKategID, ")
+        subCategories.open(QStringLiteral("SELECT  tbl_Sub_Categories.SubKategID, ")
                 + QStringLiteral("tbl_Sub_Categories.KategID, tbl_Sub_Categories.DokSubKategorija ")
                 + QStringLiteral("FROM tbl_Sub_Categories ")
                 + QStringLiteral("WHERE tbl_Sub_Categories.KategID= ") + id,
             connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
-        if (subCategories.RecordCount() > 0) {
-            while (!subCategories.Eof()) {
+        if (subCategories.recordCount() > 0) {
+            while (!subCategories.eof()) {
                 tree.addNode(categoryKey,
-                    u'b' + subCategories.Collect(QStringLiteral("SubKategID")).toString(),
-                    text(subCategories.Collect(QStringLiteral("DokSubKategorija"))), QStringLiteral("Closed"),
+                    u'b' + subCategories.collect(QStringLiteral("SubKategID")).toString(),
+                    text(subCategories.collect(QStringLiteral("DokSubKategorija"))), QStringLiteral("Closed"),
                     QStringLiteral("Open"));
-                subCategories.MoveNext();
+                subCategories.moveNext();
             }
         }
-        subCategories.Close();
-        categories.MoveNext();
+        subCategories.close();
+        categories.moveNext();
     }
-    categories.Close();
-    connection.Close();
+    categories.close();
+    connection.close();
     tree.expandAll();
     tree.selectNode(tree.nodeByIndex(1));
 }
 
-void BuildContactTree(NavigationTree& tree)
+void buildContactTree(NavigationTree& tree)
 {
     Connection connection;
-    connection.Open(PlainConnectionString());
+    connection.open(plainConnectionString());
     Recordset contacts;
-    contacts.Open(QStringLiteral("SELECT ContactID,CompanyName,FullName AS FN ")
+    contacts.open(QStringLiteral("SELECT ContactID,CompanyName,FullName AS FN ")
             + QStringLiteral("FROM tbl_Contacts ")
             + QStringLiteral("WHERE FullName <> '\"' ORDER BY FullName"),
         connection, CursorTypeEnum::Dynamic, LockTypeEnum::Unspecified);
@@ -100,21 +100,21 @@ void BuildContactTree(NavigationTree& tree)
     for (int letterIndex = 0; letterIndex < 26; ++letterIndex) {
         const QString letter(QChar(u'A' + letterIndex));
         tree.addNode(RootKey, letter, letter, QStringLiteral("Closed"), QStringLiteral("Twist"));
-        while (!contacts.Eof()) {
-            const QString name = contacts.Collect(QStringLiteral("FN")).toString();
-            const int belongs = name.isEmpty() ? -1 : ContactLetterIndex(name.at(0));
+        while (!contacts.eof()) {
+            const QString name = contacts.collect(QStringLiteral("FN")).toString();
+            const int belongs = name.isEmpty() ? -1 : contactLetterIndex(name.at(0));
             if (belongs > letterIndex)
                 break; // stays current for the letters to come
             if (belongs == letterIndex) {
                 tree.addNode(letter,
-                    QStringLiteral("ID") + contacts.Collect(QStringLiteral("ContactID")).toString(), name,
+                    QStringLiteral("ID") + contacts.collect(QStringLiteral("ContactID")).toString(), name,
                     QStringLiteral("Open"), QStringLiteral("Point"));
             }
-            contacts.MoveNext();
+            contacts.moveNext();
         }
     }
-    contacts.Close();
-    connection.Close();
+    contacts.close();
+    connection.close();
     QTreeWidgetItem* first = tree.nodeByIndex(1);
     tree.selectNode(first);
     first->setExpanded(true);

@@ -7,9 +7,9 @@
 
 namespace kartella {
 
-bool SeedOptionsIfMissing(const QDate& today)
+bool seedOptionsIfMissing(const QDate& today)
 {
-    if (OptionsKeyExists())
+    if (optionsKeyExists())
         return false;
     const QList<QPair<QString, QString>> initial = {
         {QStringLiteral("Provider"), QStringLiteral("Microsoft.Jet.OLEDB.4.0")},
@@ -26,7 +26,7 @@ bool SeedOptionsIfMissing(const QDate& today)
         {QStringLiteral("FileNumber"), QStringLiteral(" 1")},
     };
     for (const auto& [name, value] : initial) {
-        if (!WriteRegValue(Hive::CurrentUser, OptionsKeyPath(), name, value))
+        if (!writeRegValue(Hive::CurrentUser, optionsKeyPath(), name, value))
             return false;
     }
     return true;

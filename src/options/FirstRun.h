@@ -7,6 +7,6 @@ namespace kartella {
 // The installer's part: when the options key is missing, creates it with the initial
 // options (today's date as the day of the running number). An existing key is left as
 // it is. Returns true when it created the key.
-bool SeedOptionsIfMissing(const QDate& today = QDate::currentDate());
+bool seedOptionsIfMissing(const QDate& today = QDate::currentDate());
 
 } // namespace kartella

@@ -1,8 +1,8 @@
 #include "options/OptionStore.h"
 
+#include "base/Error.h"
 #include "options/SectionFile.h"
 #include "platform/Prompter.h"
-#include "support/Error.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -19,7 +19,7 @@ const QString IniSection = QStringLiteral("DocContr");
 // A run-time error inside the primitives: reported in the one plain form.
 void reportRuntimeError(long number)
 {
-    MsgBox(QStringLiteral("ERROR # ") + QString::number(number)
+    msgBox(QStringLiteral("ERROR # ") + QString::number(number)
         + QStringLiteral(" : 0\rPlease exit and try again."));
 }
 
@@ -52,7 +52,7 @@ KeyFile keyFile(Hive hive, const QString& keyPath)
     if (!parts.isEmpty() && parts.first().compare(QLatin1String("SOFTWARE"), Qt::CaseInsensitive) == 0)
         parts.removeFirst();
     const QString section = parts.isEmpty() ? QStringLiteral("Options") : parts.last();
-    const QString root = hive == Hive::CurrentUser ? ConfigFolder() : QStringLiteral("/etc");
+    const QString root = hive == Hive::CurrentUser ? configFolder() : QStringLiteral("/etc");
     return {root + u'/' + (parts.isEmpty() ? section : parts.join(u'/')) + QStringLiteral(".ini"), section};
 }
 
@@ -64,24 +64,24 @@ bool keyExists(Hive hive, const QString& keyPath)
 
 } // namespace
 
-QString OptionsKeyPath()
+QString optionsKeyPath()
 {
     return QStringLiteral("SOFTWARE\\Kartella\\Options");
 }
 
-QString ConfigFolder()
+QString configFolder()
 {
     const QString xdg = qEnvironmentVariable("XDG_CONFIG_HOME");
     return xdg.isEmpty() ? QDir::homePath() + QStringLiteral("/.config") : xdg;
 }
 
 #ifdef Q_OS_WIN
-QString OptionsFilePath()
+QString optionsFilePath()
 {
     return {};
 }
 
-bool WriteRegValue(Hive hive, const QString& keyPath, const QString& name, const QString& value)
+bool writeRegValue(Hive hive, const QString& keyPath, const QString& name, const QString& value)
 {
     QSettings key(registryPath(hive, keyPath), QSettings::NativeFormat);
     key.setValue(name, value);
@@ -89,7 +89,7 @@ bool WriteRegValue(Hive hive, const QString& keyPath, const QString& name, const
     return key.status() == QSettings::NoError;
 }
 
-QString ReadRegValue(Hive hive, const QString& keyPath, const QString& name, const QString& defaultValue)
+QString readRegValue(Hive hive, const QString& keyPath, const QString& name, const QString& defaultValue)
 {
     QSettings key(registryPath(hive, keyPath), QSettings::NativeFormat);
     if (key.status() != QSettings::NoError) {
@@ -102,23 +102,23 @@ QString ReadRegValue(Hive hive, const QString& keyPath, const QString& name, con
     return value.size() > MaxValueLength ? defaultValue : value;
 }
 
-QString IniFilePath()
+QString iniFilePath()
 {
     return QDir::toNativeSeparators(qEnvironmentVariable("SystemRoot", QStringLiteral("C:\\Windows")))
         + QStringLiteral("\\kartella.ini");
 }
 
-QString IniDefaultValue()
+QString iniDefaultValue()
 {
     return QStringLiteral("c:\\");
 }
 #else
-QString OptionsFilePath()
+QString optionsFilePath()
 {
-    return keyFile(Hive::CurrentUser, OptionsKeyPath()).path;
+    return keyFile(Hive::CurrentUser, optionsKeyPath()).path;
 }
 
-bool WriteRegValue(Hive hive, const QString& keyPath, const QString& name, const QString& value)
+bool writeRegValue(Hive hive, const QString& keyPath, const QString& name, const QString& value)
 {
     const KeyFile key = keyFile(hive, keyPath);
     SectionFile file;
@@ -130,7 +130,7 @@ bool WriteRegValue(Hive hive, const QString& keyPath, const QString& name, const
     return file.save(key.path);
 }
 
-QString ReadRegValue(Hive hive, const QString& keyPath, const QString& name, const QString& defaultValue)
+QString readRegValue(Hive hive, const QString& keyPath, const QString& name, const QString& defaultValue)
 {
     const KeyFile key = keyFile(hive, keyPath);
     SectionFile file;
@@ -150,58 +150,58 @@ QString ReadRegValue(Hive hive, const QString& keyPath, const QString& name, con
     return *value;
 }
 
-QString IniFilePath()
+QString iniFilePath()
 {
-    return ConfigFolder() + QStringLiteral("/kartella.ini");
+    return configFolder() + QStringLiteral("/kartella.ini");
 }
 
-QString IniDefaultValue()
+QString iniDefaultValue()
 {
     return QDir::homePath() + u'/';
 }
 #endif
 
-bool OptionsKeyExists()
+bool optionsKeyExists()
 {
-    return keyExists(Hive::CurrentUser, OptionsKeyPath());
+    return keyExists(Hive::CurrentUser, optionsKeyPath());
 }
 
-void SetRegValue(const QString& name, const QString& value)
+void setRegValue(const QString& name, const QString& value)
 {
-    if (!OptionsKeyExists())
+    if (!optionsKeyExists())
         return;
-    if (!WriteRegValue(Hive::CurrentUser, OptionsKeyPath(), name, value))
-        MsgBox(QStringLiteral("Unable to set Registry Value ") + OptionsKeyPath() + u'\\' + name);
+    if (!writeRegValue(Hive::CurrentUser, optionsKeyPath(), name, value))
+        msgBox(QStringLiteral("Unable to set Registry Value ") + optionsKeyPath() + u'\\' + name);
 }
 
-QString GetRegValue(const QString& name)
+QString getRegValue(const QString& name)
 {
-    if (!OptionsKeyExists()) {
-        MsgBox(QStringLiteral("Unable to get Registry Value ") + OptionsKeyPath() + u'\\' + name);
+    if (!optionsKeyExists()) {
+        msgBox(QStringLiteral("Unable to get Registry Value ") + optionsKeyPath() + u'\\' + name);
         return {};
     }
-    return ReadRegValue(Hive::CurrentUser, OptionsKeyPath(), name, NotFound);
+    return readRegValue(Hive::CurrentUser, optionsKeyPath(), name, NotFound);
 }
 
-QString GetIniValue(const QString& key)
+QString getIniValue(const QString& key)
 {
     SectionFile file;
-    if (file.load(IniFilePath()) != SectionFile::Status::Ok)
-        return IniDefaultValue();
+    if (file.load(iniFilePath()) != SectionFile::Status::Ok)
+        return iniDefaultValue();
     const std::optional<QString> value = file.value(IniSection, key);
     if (!value)
-        return IniDefaultValue();
+        return iniDefaultValue();
     // The reader's buffer holds 254 characters and the terminating zero.
     return value->left(MaxValueLength);
 }
 
-bool WriteIniValue(const QString& key, const QString& value)
+bool writeIniValue(const QString& key, const QString& value)
 {
     SectionFile file;
-    if (file.load(IniFilePath()) == SectionFile::Status::Unreadable)
+    if (file.load(iniFilePath()) == SectionFile::Status::Unreadable)
         return false;
     file.setValue(IniSection, key, value);
-    return file.save(IniFilePath());
+    return file.save(iniFilePath());
 }
 
 } // namespace kartella

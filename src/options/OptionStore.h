@@ -10,7 +10,7 @@ namespace kartella {
 enum class Hive { CurrentUser, LocalMachine };
 
 // The key under which the program's options live.
-QString OptionsKeyPath(); // "SOFTWARE\Kartella\Options"
+QString optionsKeyPath(); // "SOFTWARE\Kartella\Options"
 
 // Options: one text value per name, names compared without regard to case. Nothing is
 // cached; each read goes to the store and each write reaches it at once.
@@ -21,38 +21,38 @@ QString OptionsKeyPath(); // "SOFTWARE\Kartella\Options"
 
 // Stores one option. Does nothing, silently, when the key is missing; a refused write
 // shows "Unable to set Registry Value ..." and keeps the old value.
-void SetRegValue(const QString& name, const QString& value);
+void setRegValue(const QString& name, const QString& value);
 template<std::integral T>
-void SetRegValue(const QString& name, T value)
+void setRegValue(const QString& name, T value)
 {
-    SetRegValue(name, QString::number(value));
+    setRegValue(name, QString::number(value));
 }
 
 // Reads one option: its text; "Not Found" when the key holds no such value (or one
 // longer than 254 characters); empty text, after the "Unable to get Registry Value ..."
 // message, when the key is missing.
-QString GetRegValue(const QString& name);
+QString getRegValue(const QString& name);
 
 // The primitives under the two: write or read one value of any key.
-bool WriteRegValue(Hive hive, const QString& keyPath, const QString& name, const QString& value);
-QString ReadRegValue(Hive hive, const QString& keyPath, const QString& name, const QString& defaultValue);
+bool writeRegValue(Hive hive, const QString& keyPath, const QString& name, const QString& value);
+QString readRegValue(Hive hive, const QString& keyPath, const QString& name, const QString& defaultValue);
 
 // Whether the options key is there.
-bool OptionsKeyExists();
+bool optionsKeyExists();
 // The file that holds the options key where there is no registry.
-QString OptionsFilePath();
+QString optionsFilePath();
 
 // The ini file: Windows directory + "\kartella.ini" under Windows, else
 // $XDG_CONFIG_HOME/kartella.ini. Worked out anew at each call.
-QString IniFilePath();
-// Reads one key of section "DocContr"; a missing file or key gives IniDefaultValue().
-QString GetIniValue(const QString& key);
+QString iniFilePath();
+// Reads one key of section "DocContr"; a missing file or key gives iniDefaultValue().
+QString getIniValue(const QString& key);
 // Writes one key of section "DocContr"; false when the file system refuses.
-bool WriteIniValue(const QString& key, const QString& value);
+bool writeIniValue(const QString& key, const QString& value);
 // "c:\" under Windows; elsewhere the home folder followed by "/".
-QString IniDefaultValue();
+QString iniDefaultValue();
 
 // The folder that holds per-user configuration: $XDG_CONFIG_HOME, else ~/.config.
-QString ConfigFolder();
+QString configFolder();
 
 } // namespace kartella

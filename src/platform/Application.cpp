@@ -1,7 +1,7 @@
 #include "platform/Application.h"
 
+#include "base/Error.h"
 #include "platform/Prompter.h"
-#include "support/Error.h"
 
 namespace kartella {
 
@@ -14,9 +14,9 @@ bool Application::notify(QObject* receiver, QEvent* event)
     try {
         return QApplication::notify(receiver, event);
     } catch (const Error& error) {
-        MsgBox(error.description());
+        msgBox(error.description());
     } catch (const std::exception& error) {
-        MsgBox(QString::fromLocal8Bit(error.what()));
+        msgBox(QString::fromLocal8Bit(error.what()));
     }
     return false;
 }

@@ -62,7 +62,7 @@ public:
         QCoreApplication::processEvents();
     }
 
-    bool Advance(qint64 done) override
+    bool advance(qint64 done) override
     {
         m_dialog.setValue(m_total > 0 ? int(done * Steps / m_total) : Steps);
         QCoreApplication::processEvents();
@@ -77,14 +77,14 @@ private:
 
 } // namespace
 
-bool DesktopShell::Open(const QString& path)
+bool DesktopShell::open(const QString& path)
 {
     if (path.isEmpty() || !QFileInfo::exists(path))
         return false;
     return QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
 }
 
-ShellCommand DesktopShell::PrintCommand(const QString& path)
+ShellCommand DesktopShell::printCommand(const QString& path)
 {
     const QString file = QFileInfo(path).absoluteFilePath();
     if (isOfficeFile(path))
@@ -92,18 +92,18 @@ ShellCommand DesktopShell::PrintCommand(const QString& path)
     return {QStringLiteral("lp"), {QStringLiteral("--"), file}};
 }
 
-bool DesktopShell::Print(const QString& path)
+bool DesktopShell::print(const QString& path)
 {
     if (!QFileInfo(path).isFile())
         return false;
-    const ShellCommand command = PrintCommand(path);
+    const ShellCommand command = printCommand(path);
     const QString program = QStandardPaths::findExecutable(command.program);
     if (program.isEmpty())
         return false;
     return QProcess::startDetached(program, command.arguments);
 }
 
-void DesktopShell::ShowProperties(const QString& path)
+void DesktopShell::showProperties(const QString& path)
 {
     if (path.isEmpty() || !QFileInfo::exists(path))
         return;
@@ -112,7 +112,7 @@ void DesktopShell::ShowProperties(const QString& path)
     dialog->show();
 }
 
-std::unique_ptr<CopyProgress> DesktopShell::StartProgress(
+std::unique_ptr<CopyProgress> DesktopShell::startProgress(
     const QString& source, const QString& target, qint64 total, bool moving)
 {
     if (total <= m_progressThreshold || !qobject_cast<QApplication*>(QCoreApplication::instance()))

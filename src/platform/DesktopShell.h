@@ -22,21 +22,21 @@ public:
     // Copies and moves of more bytes than this show their progress.
     static constexpr qint64 DefaultProgressThreshold = qint64(4) << 20;
 
-    bool Open(const QString& path) override;
+    bool open(const QString& path) override;
     // Starts the printing program and doesn't wait for it; false when it can't be started.
-    bool Print(const QString& path) override;
-    void ShowProperties(const QString& path) override;
+    bool print(const QString& path) override;
+    void showProperties(const QString& path) override;
 
     // What prints path: "soffice --headless -p" for the formats of an office suite, "lp"
     // for everything else. The program is named, not searched for.
-    static ShellCommand PrintCommand(const QString& path);
+    static ShellCommand printCommand(const QString& path);
 
     void setProgressThreshold(qint64 bytes) { m_progressThreshold = bytes; }
     // How many progress dialogs this shell has shown.
     int progressShown() const { return m_progressShown; }
 
 protected:
-    std::unique_ptr<CopyProgress> StartProgress(
+    std::unique_ptr<CopyProgress> startProgress(
         const QString& source, const QString& target, qint64 total, bool moving) override;
 
 private:

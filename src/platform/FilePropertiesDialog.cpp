@@ -43,8 +43,8 @@ FilePropertiesDialog::FilePropertiesDialog(const QString& path, QWidget* parent)
     : QDialog(parent)
 {
     const QFileInfo info(path);
-    CFileInfo shellInfo;
-    shellInfo.CreateFromFile(path);
+    FileInfo shellInfo;
+    shellInfo.createFromFile(path);
 
     setObjectName(QStringLiteral("frmFileProperties"));
     setWindowTitle(info.fileName() % QStringLiteral(" Properties"));
@@ -54,7 +54,7 @@ FilePropertiesDialog::FilePropertiesDialog(const QString& path, QWidget* parent)
     auto* icon = new QLabel(this);
     icon->setObjectName(QStringLiteral("imgIcon"));
     icon->setAccessibleName(QStringLiteral("File icon"));
-    icon->setPixmap(shellInfo.LargeIcon().pixmap(IconSize, IconSize));
+    icon->setPixmap(shellInfo.largeIcon().pixmap(IconSize, IconSize));
     icon->setFixedSize(IconSize, IconSize);
     header->addWidget(icon);
     header->addStretch();
@@ -64,17 +64,17 @@ FilePropertiesDialog::FilePropertiesDialog(const QString& path, QWidget* parent)
     addField(
         form, QStringLiteral("txtName"), QStringLiteral("&Name:"), QStringLiteral("Name"), info.fileName());
     addField(form, QStringLiteral("txtType"), QStringLiteral("&Type:"), QStringLiteral("Type"),
-        shellInfo.TypeName());
+        shellInfo.typeName());
     addField(form, QStringLiteral("txtSize"), QStringLiteral("&Size:"), QStringLiteral("Size"),
-        info.isDir() ? QString() : SizeText(info.size()));
+        info.isDir() ? QString() : sizeText(info.size()));
     addField(form, QStringLiteral("txtFolder"), QStringLiteral("&Folder:"), QStringLiteral("Folder"),
         QDir::toNativeSeparators(info.absolutePath()));
     addField(form, QStringLiteral("txtModified"), QStringLiteral("&Modified:"), QStringLiteral("Modified"),
-        DateText(info.lastModified()));
+        dateText(info.lastModified()));
     addField(form, QStringLiteral("txtCreated"), QStringLiteral("&Created:"), QStringLiteral("Created"),
-        DateText(info.birthTime()));
+        dateText(info.birthTime()));
     addField(form, QStringLiteral("txtPermissions"), QStringLiteral("&Permissions:"),
-        QStringLiteral("Permissions"), PermissionsText(info.permissions()));
+        QStringLiteral("Permissions"), permissionsText(info.permissions()));
     layout->addLayout(form);
 
     auto* buttons = new QDialogButtonBox(this);
@@ -103,7 +103,7 @@ QLineEdit* FilePropertiesDialog::addField(QFormLayout* form, const QString& obje
     return field;
 }
 
-QString FilePropertiesDialog::SizeText(qint64 bytes)
+QString FilePropertiesDialog::sizeText(qint64 bytes)
 {
     const QLocale locale;
     if (bytes == 1)
@@ -114,7 +114,7 @@ QString FilePropertiesDialog::SizeText(qint64 bytes)
         % QStringLiteral(" bytes)");
 }
 
-QString FilePropertiesDialog::PermissionsText(QFileDevice::Permissions permissions)
+QString FilePropertiesDialog::permissionsText(QFileDevice::Permissions permissions)
 {
     QString access;
     if (permissions.testFlag(QFileDevice::ReadOwner) && permissions.testFlag(QFileDevice::WriteOwner))
@@ -130,7 +130,7 @@ QString FilePropertiesDialog::PermissionsText(QFileDevice::Permissions permissio
     return access % QStringLiteral(" (") % symbolic(permissions) % QStringLiteral(")");
 }
 
-QString FilePropertiesDialog::DateText(const QDateTime& when)
+QString FilePropertiesDialog::dateText(const QDateTime& when)
 {
     if (!when.isValid())
         return QStringLiteral("Unknown");

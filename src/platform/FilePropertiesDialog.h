@@ -20,11 +20,11 @@ public:
     explicit FilePropertiesDialog(const QString& path, QWidget* parent = nullptr);
 
     // "512 bytes", "1 byte", or a rounded size with the exact count: "1.5 MiB (1,572,864 bytes)".
-    static QString SizeText(qint64 bytes);
+    static QString sizeText(qint64 bytes);
     // The owner's access in words, then the symbolic form: "Read and write (rw-r--r--)".
-    static QString PermissionsText(QFileDevice::Permissions permissions);
+    static QString permissionsText(QFileDevice::Permissions permissions);
     // A date and time as the fields show it; "Unknown" for an invalid one.
-    static QString DateText(const QDateTime& when);
+    static QString dateText(const QDateTime& when);
 
 private:
     QLineEdit* addField(QFormLayout* form, const QString& objectName, const QString& label,

@@ -1,7 +1,7 @@
 #include "platform/LibreOfficeSuite.h"
 
+#include "base/Error.h"
 #include "platform/Shell.h"
-#include "support/Error.h"
 
 #include <QDir>
 #include <QFile>
@@ -124,7 +124,7 @@ QString resultIn(const QString& folder, const QString& extension)
 
 } // namespace
 
-QString LibreOfficeSuite::Extension(Kind kind)
+QString LibreOfficeSuite::extension(Kind kind)
 {
     switch (kind) {
     case Kind::Word:
@@ -137,7 +137,7 @@ QString LibreOfficeSuite::Extension(Kind kind)
     return {};
 }
 
-QString LibreOfficeSuite::SeedExtension(Kind kind)
+QString LibreOfficeSuite::seedExtension(Kind kind)
 {
     switch (kind) {
     case Kind::Word:
@@ -150,7 +150,7 @@ QString LibreOfficeSuite::SeedExtension(Kind kind)
     return {};
 }
 
-QByteArray LibreOfficeSuite::SeedDocument(Kind kind)
+QByteArray LibreOfficeSuite::seedDocument(Kind kind)
 {
     static const QByteArray head = QByteArrayLiteral(
         "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
@@ -177,7 +177,7 @@ QByteArray LibreOfficeSuite::SeedDocument(Kind kind)
     return {};
 }
 
-void LibreOfficeSuite::Create(Kind kind, const QString& templatePath, const QString& target)
+void LibreOfficeSuite::create(Kind kind, const QString& templatePath, const QString& target)
 {
     const QFileInfo into(target);
     const QString shown = QDir::toNativeSeparators(target);
@@ -205,23 +205,23 @@ void LibreOfficeSuite::Create(Kind kind, const QString& templatePath, const QStr
 
     QString source = templatePath.isEmpty() ? QString() : QFileInfo(templatePath).absoluteFilePath();
     if (source.isEmpty()) {
-        source = work.filePath(QStringLiteral("New.") % SeedExtension(kind));
+        source = work.filePath(QStringLiteral("New.") % seedExtension(kind));
         QFile seed(source);
-        if (!seed.open(QIODevice::WriteOnly) || seed.write(SeedDocument(kind)) < 0 || !seed.flush())
+        if (!seed.open(QIODevice::WriteOnly) || seed.write(seedDocument(kind)) < 0 || !seed.flush())
             raise(OfficeErrorNumber::Failed,
                 QStringLiteral("The empty document couldn't be written: ") % seed.errorString());
     }
 
-    const QString extension = Extension(kind);
+    const QString targetExtension = extension(kind);
     const QStringList arguments = {QStringLiteral("--headless"), QStringLiteral("--norestore"),
         QStringLiteral("--nolockcheck"),
         QStringLiteral("-env:UserInstallation=") % QUrl::fromLocalFile(profile).toString(QUrl::FullyEncoded),
-        QStringLiteral("--convert-to"), extension % QLatin1Char(':') % filterName(kind),
+        QStringLiteral("--convert-to"), targetExtension % QLatin1Char(':') % filterName(kind),
         QStringLiteral("--outdir"), outDir, source};
     const QString what = QLatin1Char('\'') % shown % QLatin1Char('\'');
     const QString output = run(program, arguments, m_timeoutMs, what);
 
-    const QString result = resultIn(outDir, extension);
+    const QString result = resultIn(outDir, targetExtension);
     if (result.isEmpty())
         raise(OfficeErrorNumber::Failed,
             QStringLiteral("LibreOffice couldn't make ") % what % QStringLiteral(" from '")
@@ -238,9 +238,9 @@ void LibreOfficeSuite::Create(Kind kind, const QString& templatePath, const QStr
     }
 }
 
-void LibreOfficeSuite::Show(const QString& path)
+void LibreOfficeSuite::show(const QString& path)
 {
-    if (!Shell::instance().Open(path))
+    if (!Shell::instance().open(path))
         raise(OfficeErrorNumber::Failed,
             QStringLiteral("No program could be started to show '") % QDir::toNativeSeparators(path)
                 % QStringLiteral("'."));

@@ -16,16 +16,16 @@ class LibreOfficeSuite final : public OfficeSuite
 public:
     static constexpr int DefaultTimeoutMs = 120 * 1000;
 
-    void Create(Kind kind, const QString& templatePath, const QString& target) override;
-    void Show(const QString& path) override;
+    void create(Kind kind, const QString& templatePath, const QString& target) override;
+    void show(const QString& path) override;
 
     void setTimeout(int milliseconds) { m_timeoutMs = milliseconds; }
 
     // The extension of a new document of kind, without its dot: "doc", "xls", "ppt".
-    static QString Extension(Kind kind);
+    static QString extension(Kind kind);
     // The empty document of kind as flat ODF (.fodt, .fods, .fodp), and its extension.
-    static QByteArray SeedDocument(Kind kind);
-    static QString SeedExtension(Kind kind);
+    static QByteArray seedDocument(Kind kind);
+    static QString seedExtension(Kind kind);
 
 private:
     int m_timeoutMs = DefaultTimeoutMs;

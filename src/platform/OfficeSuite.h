@@ -28,10 +28,10 @@ public:
     // Makes a new document of kind at target (".doc", ".xls" or ".ppt"): the template's
     // content when templatePath is given, else an empty document. Throws kartella::Error
     // when it can't (LibreOffice missing, failed, timed out).
-    virtual void Create(Kind kind, const QString& templatePath, const QString& target) = 0;
+    virtual void create(Kind kind, const QString& templatePath, const QString& target) = 0;
     // Shows the file in the desktop's program for it (through Shell::instance().Open).
     // Throws kartella::Error when no program could be started.
-    virtual void Show(const QString& path) = 0;
+    virtual void show(const QString& path) = 0;
 
     static OfficeSuite& instance();
     // Installs suite (not owned); nullptr restores the default.

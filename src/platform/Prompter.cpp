@@ -12,15 +12,15 @@ namespace {
 class ConsolePrompter final : public Prompter
 {
 public:
-    int MsgBox(const QString& prompt, int style, const QString& title) override
+    int msgBox(const QString& prompt, int style, const QString& title) override
     {
         QTextStream err(stderr);
-        err << (title.isEmpty() ? ProgramTitle() : title) << ": " << QString(prompt).replace(u'\r', u'\n')
+        err << (title.isEmpty() ? programTitle() : title) << ": " << QString(prompt).replace(u'\r', u'\n')
             << Qt::endl;
-        return DefaultResult(style);
+        return defaultResult(style);
     }
-    QString OpenFile(const OpenFileRequest&) override { return {}; }
-    QString ChooseFolder(const QString&) override { return {}; }
+    QString openFile(const OpenFileRequest&) override { return {}; }
+    QString chooseFolder(const QString&) override { return {}; }
 };
 
 Prompter*& installed()
@@ -31,12 +31,12 @@ Prompter*& installed()
 
 } // namespace
 
-QString ProgramTitle()
+QString programTitle()
 {
     return QStringLiteral("Kartella");
 }
 
-QList<int> ButtonResults(int style)
+QList<int> buttonResults(int style)
 {
     using namespace MsgBoxResult;
     switch (style & MsgBoxStyle::ButtonMask) {
@@ -55,9 +55,9 @@ QList<int> ButtonResults(int style)
     }
 }
 
-int DefaultResult(int style)
+int defaultResult(int style)
 {
-    const QList<int> buttons = ButtonResults(style);
+    const QList<int> buttons = buttonResults(style);
     qsizetype index = 0;
     if ((style & MsgBoxStyle::DefaultMask) == MsgBoxStyle::DefaultButton2)
         index = 1;
@@ -66,9 +66,9 @@ int DefaultResult(int style)
     return buttons.value(index < buttons.size() ? index : 0);
 }
 
-int EscapeResult(int style)
+int escapeResult(int style)
 {
-    const QList<int> buttons = ButtonResults(style);
+    const QList<int> buttons = buttonResults(style);
     if (buttons.contains(MsgBoxResult::Cancel))
         return MsgBoxResult::Cancel;
     return buttons.size() == 1 ? buttons.first() : 0;
@@ -88,9 +88,9 @@ void Prompter::setInstance(Prompter* prompter)
     installed() = prompter;
 }
 
-int MsgBox(const QString& prompt, int style, const QString& title)
+int msgBox(const QString& prompt, int style, const QString& title)
 {
-    return Prompter::instance().MsgBox(prompt, style, title);
+    return Prompter::instance().msgBox(prompt, style, title);
 }
 
 } // namespace kartella

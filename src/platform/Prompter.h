@@ -36,14 +36,14 @@ constexpr int No = 7;
 } // namespace MsgBoxResult
 
 // The program's title, shown on every message that has none of its own.
-QString ProgramTitle();
+QString programTitle();
 
 // The result codes of a style's buttons, in the order they are shown.
-QList<int> ButtonResults(int style);
+QList<int> buttonResults(int style);
 // The result of the style's default button (the first, or the second with 256, the third with 512).
-int DefaultResult(int style);
+int defaultResult(int style);
 // The result of Esc: Cancel where there is one, else the only button, else none (0).
-int EscapeResult(int style);
+int escapeResult(int style);
 
 // Everything the program asks the user in a modal way: messages, the file chooser and
 // the folder chooser. The program uses the one installed instance; tests install a
@@ -61,20 +61,20 @@ public:
 
     virtual ~Prompter();
 
-    // Shows prompt with the buttons and icon of style; an empty title gives ProgramTitle().
+    // Shows prompt with the buttons and icon of style; an empty title gives programTitle().
     // Returns the code of the button pressed.
-    virtual int MsgBox(const QString& prompt, int style, const QString& title) = 0;
+    virtual int msgBox(const QString& prompt, int style, const QString& title) = 0;
     // Asks for one existing file; Cancel gives an empty text.
-    virtual QString OpenFile(const OpenFileRequest& request) = 0;
+    virtual QString openFile(const OpenFileRequest& request) = 0;
     // Asks for a folder; Cancel gives an empty text.
-    virtual QString ChooseFolder(const QString& prompt) = 0;
+    virtual QString chooseFolder(const QString& prompt) = 0;
 
     static Prompter& instance();
     // Installs prompter (not owned); nullptr restores the default, which writes to stderr.
     static void setInstance(Prompter* prompter);
 };
 
-// Shorthand for Prompter::instance().MsgBox.
-int MsgBox(const QString& prompt, int style = MsgBoxStyle::OkOnly, const QString& title = {});
+// Shorthand for Prompter::instance().msgBox.
+int msgBox(const QString& prompt, int style = MsgBoxStyle::OkOnly, const QString& title = {});
 
 } // namespace kartella

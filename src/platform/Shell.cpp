@@ -78,7 +78,7 @@ void Shell::setInstance(Shell* shell)
 
 CopyProgress::~CopyProgress() = default;
 
-bool CopyFileContents(
+bool copyFileContents(
     const QString& source, const QString& target, const CopyProgressFunction& progress, QString* error)
 {
     setError(error, {});
@@ -124,7 +124,7 @@ bool CopyFileContents(
     return true;
 }
 
-bool MoveFileContents(
+bool moveFileContents(
     const QString& source, const QString& target, const CopyProgressFunction& progress, QString* error)
 {
     setError(error, {});
@@ -136,7 +136,7 @@ bool MoveFileContents(
         setError(error, systemMessage(code));
         return false;
     }
-    if (!CopyFileContents(source, target, progress, error))
+    if (!copyFileContents(source, target, progress, error))
         return false;
     QFile original(source);
     if (!original.remove()) {
@@ -148,55 +148,55 @@ bool MoveFileContents(
     return true;
 }
 
-bool FileShell::Open(const QString&)
+bool FileShell::open(const QString&)
 {
     return false;
 }
 
-bool FileShell::Print(const QString&)
+bool FileShell::print(const QString&)
 {
     return false;
 }
 
-void FileShell::ShowProperties(const QString&) { }
+void FileShell::showProperties(const QString&) { }
 
-QString FileShell::DeleteQuestion(const QString& path)
+QString FileShell::deleteQuestion(const QString& path)
 {
     return QStringLiteral("Do you want to permanently delete the file '") % displayName(path)
         % QStringLiteral("'?");
 }
 
-QString FileShell::ReplaceQuestion(const QString& target)
+QString FileShell::replaceQuestion(const QString& target)
 {
     const QFileInfo info(target);
     return QStringLiteral("The file '") % info.fileName() % QStringLiteral("' already exists in '")
         % displayFolder(info) % QStringLiteral("'. Do you want to replace it?");
 }
 
-bool FileShell::DeleteFile(const QString& path)
+bool FileShell::deleteFile(const QString& path)
 {
     const QString title = QStringLiteral("Error Deleting File");
     if (path.isEmpty())
         return false;
     const QFileInfo info(path);
     if (!info.exists() && !info.isSymLink()) {
-        Fail(QStringLiteral("Can't delete '") % displayName(path)
+        fail(QStringLiteral("Can't delete '") % displayName(path)
                 % QStringLiteral("': the file can't be found."),
             title);
         return false;
     }
     if (info.isDir() && !info.isSymLink()) {
-        Fail(QStringLiteral("Can't delete '") % displayName(path) % QStringLiteral("': it is a folder."),
+        fail(QStringLiteral("Can't delete '") % displayName(path) % QStringLiteral("': it is a folder."),
             title);
         return false;
     }
     const int answer
-        = Ask(DeleteQuestion(path), MsgBoxStyle::YesNo | MsgBoxStyle::Exclamation, DeleteTitle());
+        = ask(deleteQuestion(path), MsgBoxStyle::YesNo | MsgBoxStyle::Exclamation, deleteTitle());
     if (answer != MsgBoxResult::Yes)
         return false;
     QFile file(path);
     if (!file.remove()) {
-        Fail(
+        fail(
             QStringLiteral("Can't delete '") % displayName(path) % QStringLiteral("': ") % file.errorString(),
             title);
         return false;
@@ -204,17 +204,17 @@ bool FileShell::DeleteFile(const QString& path)
     return true;
 }
 
-bool FileShell::CopyFile(const QString& source, const QString& target)
+bool FileShell::copyFile(const QString& source, const QString& target)
 {
-    return Transfer(source, target, false);
+    return transfer(source, target, false);
 }
 
-bool FileShell::MoveFile(const QString& source, const QString& target)
+bool FileShell::moveFile(const QString& source, const QString& target)
 {
-    return Transfer(source, target, true);
+    return transfer(source, target, true);
 }
 
-bool FileShell::Transfer(const QString& source, const QString& target, bool moving)
+bool FileShell::transfer(const QString& source, const QString& target, bool moving)
 {
     if (source.isEmpty() || target.isEmpty())
         return false;
@@ -223,7 +223,7 @@ bool FileShell::Transfer(const QString& source, const QString& target, bool movi
         % displayName(source) % QStringLiteral("': ");
     const QFileInfo from(source);
     if (!from.isFile()) {
-        Fail(cant % QStringLiteral("the file can't be found."), title);
+        fail(cant % QStringLiteral("the file can't be found."), title);
         return false;
     }
     QString to = target;
@@ -231,23 +231,23 @@ bool FileShell::Transfer(const QString& source, const QString& target, bool movi
         to = QDir(to).filePath(from.fileName());
     const QFileInfo into(to);
     if (!into.absoluteDir().exists()) {
-        Fail(cant % QStringLiteral("the folder '") % displayFolder(into) % QStringLiteral("' doesn't exist."),
+        fail(cant % QStringLiteral("the folder '") % displayFolder(into) % QStringLiteral("' doesn't exist."),
             title);
         return false;
     }
     if (into.exists()) {
         if (sameFile(source, to)) {
-            Fail(cant % QStringLiteral("the source and the target are the same file."), title);
+            fail(cant % QStringLiteral("the source and the target are the same file."), title);
             return false;
         }
         if (into.isDir()) {
-            Fail(cant % QStringLiteral("a folder of that name exists in '") % displayFolder(into)
+            fail(cant % QStringLiteral("a folder of that name exists in '") % displayFolder(into)
                     % QStringLiteral("'."),
                 title);
             return false;
         }
         const int answer
-            = Ask(ReplaceQuestion(to), MsgBoxStyle::YesNo | MsgBoxStyle::Exclamation, ReplaceTitle());
+            = ask(replaceQuestion(to), MsgBoxStyle::YesNo | MsgBoxStyle::Exclamation, replaceTitle());
         if (answer != MsgBoxResult::Yes)
             return false;
     }
@@ -258,32 +258,32 @@ bool FileShell::Transfer(const QString& source, const QString& target, bool movi
     const CopyProgressFunction progress = [&](qint64 done, qint64 total) {
         if (!started) {
             started = true;
-            sign = StartProgress(source, to, total, moving);
+            sign = startProgress(source, to, total, moving);
         }
-        return !sign || sign->Advance(done);
+        return !sign || sign->advance(done);
     };
     QString error;
-    const bool done = moving ? MoveFileContents(source, to, progress, &error)
-                             : CopyFileContents(source, to, progress, &error);
+    const bool done = moving ? moveFileContents(source, to, progress, &error)
+                             : copyFileContents(source, to, progress, &error);
     sign.reset();
     if (!done && !error.isEmpty())
-        Fail(cant % error, title);
+        fail(cant % error, title);
     return done;
 }
 
-int FileShell::Ask(const QString& prompt, int style, const QString& title)
+int FileShell::ask(const QString& prompt, int style, const QString& title)
 {
-    return MsgBox(prompt, style, title);
+    return msgBox(prompt, style, title);
 }
 
-std::unique_ptr<CopyProgress> FileShell::StartProgress(const QString&, const QString&, qint64, bool)
+std::unique_ptr<CopyProgress> FileShell::startProgress(const QString&, const QString&, qint64, bool)
 {
     return nullptr;
 }
 
-void FileShell::Fail(const QString& prompt, const QString& title)
+void FileShell::fail(const QString& prompt, const QString& title)
 {
-    Ask(prompt, MsgBoxStyle::OkOnly | MsgBoxStyle::Critical, title);
+    ask(prompt, MsgBoxStyle::OkOnly | MsgBoxStyle::Critical, title);
 }
 
 } // namespace kartella

@@ -16,21 +16,21 @@ public:
     virtual ~Shell();
 
     // Opens path with the desktop's program for it; false when nothing could be started.
-    virtual bool Open(const QString& path) = 0;
+    virtual bool open(const QString& path) = 0;
     // Prints path with the program for its type: office formats through LibreOffice headless
     // (soffice --headless -p), others through lp (CUPS).
-    virtual bool Print(const QString& path) = 0;
+    virtual bool print(const QString& path) = 0;
     // Shows the file's properties: a dialog of our own (name, type, size, folder, modified and
     // created dates, permissions).
-    virtual void ShowProperties(const QString& path) = 0;
+    virtual void showProperties(const QString& path) = 0;
     // Deletes path for good after asking the user to confirm ("permanently delete"); refused,
     // cancelled or failed = false.
-    virtual bool DeleteFile(const QString& path) = 0;
+    virtual bool deleteFile(const QString& path) = 0;
     // Copies or moves a file, asking before overwriting an existing target, with progress for
     // large files; refused, cancelled or failed = false. A target that is an existing folder
     // receives the file under its own name.
-    virtual bool CopyFile(const QString& source, const QString& target) = 0;
-    virtual bool MoveFile(const QString& source, const QString& target) = 0;
+    virtual bool copyFile(const QString& source, const QString& target) = 0;
+    virtual bool moveFile(const QString& source, const QString& target) = 0;
 
     static Shell& instance();
     // Installs shell (not owned); nullptr restores the default, a FileShell.
@@ -43,7 +43,7 @@ class CopyProgress
 public:
     virtual ~CopyProgress();
     // Bytes copied so far; false when the user wants the copy to stop.
-    virtual bool Advance(qint64 done) = 0;
+    virtual bool advance(qint64 done) = 0;
 };
 
 // Called after each block of a copy with the bytes done so far and the total; false stops it.
@@ -53,46 +53,46 @@ using CopyProgressFunction = std::function<bool(qint64 done, qint64 total)>;
 // target only once the copy is complete; the copy keeps source's permissions and time of
 // change. On failure or when progress stops it, target is left as it was and false comes
 // back, with the reason in *error when error isn't null (empty for a stop).
-bool CopyFileContents(const QString& source, const QString& target, const CopyProgressFunction& progress = {},
+bool copyFileContents(const QString& source, const QString& target, const CopyProgressFunction& progress = {},
     QString* error = nullptr);
 
 // Moves source to target: a rename within one file system (replacing target), else a copy
-// through CopyFileContents and then the removal of source. Source is removed only after the
-// copy is complete. False with the reason in *error as for CopyFileContents.
-bool MoveFileContents(const QString& source, const QString& target, const CopyProgressFunction& progress = {},
+// through copyFileContents and then the removal of source. Source is removed only after the
+// copy is complete. False with the reason in *error as for copyFileContents.
+bool moveFileContents(const QString& source, const QString& target, const CopyProgressFunction& progress = {},
     QString* error = nullptr);
 
 // The shell that needs no window: deletes, copies and moves files for real and asks its
-// questions through MsgBox; it opens, prints and shows nothing. The desktop's shell and the
+// questions through msgBox; it opens, prints and shows nothing. The desktop's shell and the
 // tests' shell build on it.
 class FileShell : public Shell
 {
 public:
-    bool Open(const QString& path) override;
-    bool Print(const QString& path) override;
-    void ShowProperties(const QString& path) override;
-    bool DeleteFile(const QString& path) override;
-    bool CopyFile(const QString& source, const QString& target) override;
-    bool MoveFile(const QString& source, const QString& target) override;
+    bool open(const QString& path) override;
+    bool print(const QString& path) override;
+    void showProperties(const QString& path) override;
+    bool deleteFile(const QString& path) override;
+    bool copyFile(const QString& source, const QString& target) override;
+    bool moveFile(const QString& source, const QString& target) override;
 
     // The texts of the shell's questions.
-    static QString DeleteQuestion(const QString& path);
-    static QString ReplaceQuestion(const QString& target);
-    static QString DeleteTitle() { return QStringLiteral("Delete File"); }
-    static QString ReplaceTitle() { return QStringLiteral("Confirm File Replace"); }
+    static QString deleteQuestion(const QString& path);
+    static QString replaceQuestion(const QString& target);
+    static QString deleteTitle() { return QStringLiteral("Delete File"); }
+    static QString replaceTitle() { return QStringLiteral("Confirm File Replace"); }
 
 protected:
-    // Asks a question or tells of a failure: a MsgBox with prompt, style and title, whose
+    // Asks a question or tells of a failure: a msgBox with prompt, style and title, whose
     // result code comes back.
-    virtual int Ask(const QString& prompt, int style, const QString& title);
+    virtual int ask(const QString& prompt, int style, const QString& title);
     // A sign of progress for a copy or move of total bytes from source to target (moving
     // tells which); nullptr for none, which is what this shell gives.
-    virtual std::unique_ptr<CopyProgress> StartProgress(
+    virtual std::unique_ptr<CopyProgress> startProgress(
         const QString& source, const QString& target, qint64 total, bool moving);
 
 private:
-    bool Transfer(const QString& source, const QString& target, bool moving);
-    void Fail(const QString& prompt, const QString& title);
+    bool transfer(const QString& source, const QString& target, bool moving);
+    void fail(const QString& prompt, const QString& title);
 };
 
 } // namespace kartella

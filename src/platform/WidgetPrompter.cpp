@@ -58,11 +58,11 @@ const char* const ResultProperty = "msgBoxResult";
 
 } // namespace
 
-std::unique_ptr<QMessageBox> BuildMessageBox(
+std::unique_ptr<QMessageBox> buildMessageBox(
     const QString& prompt, int style, const QString& title, QWidget* parent)
 {
     auto box = std::make_unique<QMessageBox>(parent);
-    box->setWindowTitle(title.isEmpty() ? ProgramTitle() : title);
+    box->setWindowTitle(title.isEmpty() ? programTitle() : title);
     // Messages separate their lines with a carriage return alone.
     QString text = prompt;
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
@@ -70,36 +70,36 @@ std::unique_ptr<QMessageBox> BuildMessageBox(
     box->setTextFormat(Qt::PlainText);
     box->setIcon(icon(style));
 
-    const QList<int> results = ButtonResults(style);
+    const QList<int> results = buttonResults(style);
     for (int result : results) {
         QPushButton* button = box->addButton(standardButton(result));
         button->setProperty(ResultProperty, result);
-        if (result == DefaultResult(style))
+        if (result == defaultResult(style))
             box->setDefaultButton(button);
-        if (result == EscapeResult(style))
+        if (result == escapeResult(style))
             box->setEscapeButton(button);
     }
     return box;
 }
 
-int MessageBoxResult(const QMessageBox& box, int style)
+int messageBoxResult(const QMessageBox& box, int style)
 {
     if (const QAbstractButton* clicked = box.clickedButton()) {
         const QVariant result = clicked->property(ResultProperty);
         if (result.isValid())
             return result.toInt();
     }
-    return EscapeResult(style) ? EscapeResult(style) : DefaultResult(style);
+    return escapeResult(style) ? escapeResult(style) : defaultResult(style);
 }
 
-int WidgetPrompter::MsgBox(const QString& prompt, int style, const QString& title)
+int WidgetPrompter::msgBox(const QString& prompt, int style, const QString& title)
 {
-    const std::unique_ptr<QMessageBox> box = BuildMessageBox(prompt, style, title, ownerWindow());
+    const std::unique_ptr<QMessageBox> box = buildMessageBox(prompt, style, title, ownerWindow());
     box->exec();
-    return MessageBoxResult(*box, style);
+    return messageBoxResult(*box, style);
 }
 
-QString FileDialogFilter(const QString& label, const QString& pattern)
+QString fileDialogFilter(const QString& label, const QString& pattern)
 {
     QString name = label.trimmed();
     if (name.endsWith(u')') && name.contains(u'('))
@@ -118,14 +118,14 @@ QString FileDialogFilter(const QString& label, const QString& pattern)
     return QStringLiteral("%1 (%2)").arg(name, patterns.join(u' '));
 }
 
-QString WidgetPrompter::OpenFile(const OpenFileRequest& request)
+QString WidgetPrompter::openFile(const OpenFileRequest& request)
 {
-    const QString filter = FileDialogFilter(request.filterLabel, request.pattern);
+    const QString filter = fileDialogFilter(request.filterLabel, request.pattern);
     return QFileDialog::getOpenFileName(
         ownerWindow(), request.title.trimmed(), request.startFolder.trimmed(), filter);
 }
 
-QString WidgetPrompter::ChooseFolder(const QString& prompt)
+QString WidgetPrompter::chooseFolder(const QString& prompt)
 {
     return QFileDialog::getExistingDirectory(ownerWindow(), prompt, QString(), QFileDialog::ShowDirsOnly);
 }

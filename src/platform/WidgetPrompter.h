@@ -12,22 +12,22 @@ namespace kartella {
 
 // Builds the message box for a prompt and style, without showing it. Each button
 // carries its result code in the property "msgBoxResult".
-std::unique_ptr<QMessageBox> BuildMessageBox(
+std::unique_ptr<QMessageBox> buildMessageBox(
     const QString& prompt, int style, const QString& title, QWidget* parent = nullptr);
 // The result code of the button that closed box, or its escape result when none was clicked.
-int MessageBoxResult(const QMessageBox& box, int style);
+int messageBoxResult(const QMessageBox& box, int style);
 
 // The file dialog's filter for a label such as "Word templates (*.dot)" and its pattern.
-QString FileDialogFilter(const QString& label, const QString& pattern);
+QString fileDialogFilter(const QString& label, const QString& pattern);
 
 // The prompter of the running program: Qt's message box and file dialogs, owned by the
 // window that is active at the time.
 class WidgetPrompter final : public Prompter
 {
 public:
-    int MsgBox(const QString& prompt, int style, const QString& title) override;
-    QString OpenFile(const OpenFileRequest& request) override;
-    QString ChooseFolder(const QString& prompt) override;
+    int msgBox(const QString& prompt, int style, const QString& title) override;
+    QString openFile(const OpenFileRequest& request) override;
+    QString chooseFolder(const QString& prompt) override;
 };
 
 } // namespace kartella

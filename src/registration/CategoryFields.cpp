@@ -1,17 +1,17 @@
 #include "registration/CategoryFields.h"
 
+#include "base/Error.h"
 #include "store/Lookups.h"
 #include "store/engine/Value.h"
-#include "support/Error.h"
 
 namespace kartella {
 
-QVariant CategoryField(qint32 categoryId, const QString& field)
+QVariant categoryField(qint32 categoryId, const QString& field)
 {
     const QString table = QStringLiteral("tbl_Document_Categories");
     const QString key = QStringLiteral("KategID");
-    const QVariant value = GetFieldValue(key, field, table, categoryId);
-    if (IsNull(value) && IsNull(GetFieldValue(key, key, table, categoryId)))
+    const QVariant value = getFieldValue(key, field, table, categoryId);
+    if (isNull(value) && isNull(getFieldValue(key, key, table, categoryId)))
         throw Error(ErrorNumber::NoCurrentRecord,
             QStringLiteral("There is no category with the key ") % QString::number(categoryId)
                 % QStringLiteral(" in the register."));

@@ -22,34 +22,34 @@ constexpr QStringView IllegalCharacters = u"'!~@#$%^&/\\()<>.,:;";
 
 } // namespace
 
-QString CDocFileName::DocFileName(const QString& system, const QString& description,
+QString DocumentFileName::docFileName(const QString& system, const QString& description,
     const QString& numberName, const QString& regIndex) const
 {
-    return BuildFileName(system, FileNameParts {description, numberName, regIndex});
+    return buildFileName(system, FileNameParts {description, numberName, regIndex});
 }
 
-QString CDocFileName::BuildFileName(const QString& system, const FileNameParts& parts) const
+QString DocumentFileName::buildFileName(const QString& system, const FileNameParts& parts) const
 {
     if (system == QLatin1String("0"))
-        return parts.NumberName;
+        return parts.numberName;
     if (system == QLatin1String("1")) {
         const int number = QRandomGenerator::global()->bounded(1, 1000);
-        return parts.Description.left(DescriptionLength) % QLatin1Char(' ') % QString::number(number);
+        return parts.description.left(DescriptionLength) % QLatin1Char(' ') % QString::number(number);
     }
     if (system == QLatin1String("2")) {
-        if (parts.RegIndex.isEmpty()) {
-            MsgBox(QStringLiteral("Can't create a file, because the Registration Index is empty. Enter valid "
+        if (parts.regIndex.isEmpty()) {
+            msgBox(QStringLiteral("Can't create a file, because the Registration Index is empty. Enter valid "
                                   "Registration Index, please."),
                 MsgBoxStyle::OkOnly | MsgBoxStyle::Critical,
                 QStringLiteral("The file name must be like Registration Index"));
             return {};
         }
-        return CleanFileName(parts.RegIndex);
+        return cleanFileName(parts.regIndex);
     }
     return {};
 }
 
-QString CDocFileName::CleanFileName(const QString& text)
+QString DocumentFileName::cleanFileName(const QString& text)
 {
     QString cleaned = text;
     for (QChar& c : cleaned) {
@@ -59,36 +59,36 @@ QString CDocFileName::CleanFileName(const QString& text)
     return cleaned;
 }
 
-QString MakeFileNumberName(qint32 category)
+QString makeFileNumberName(qint32 category)
 {
-    const QString fileNumber = GetRegValue(QStringLiteral("FileNumber"));
+    const QString fileNumber = getRegValue(QStringLiteral("FileNumber"));
     QString mnemonic
-        = NullToDefault(CategoryField(category, QStringLiteral("Mnemonic")), QString()).toString();
+        = nullToDefault(categoryField(category, QStringLiteral("Mnemonic")), QString()).toString();
     if (mnemonic.isEmpty()) {
-        const QVariant title = CategoryField(category, QStringLiteral("DokKategorija"));
-        mnemonic = NullToDefault(title, QStringLiteral("WMN")).toString().left(3);
+        const QVariant title = categoryField(category, QStringLiteral("DokKategorija"));
+        mnemonic = nullToDefault(title, QStringLiteral("WMN")).toString().left(3);
     }
-    const qint16 number = ToInteger16(fileNumber);
+    const qint16 number = toInteger16(fileNumber);
     if (number == std::numeric_limits<qint16>::max())
-        RaiseOverflow(QStringLiteral("FileNumber can't go past 32767"));
-    SetRegValue(QStringLiteral("FileNumber"), NumberWithSignPlace(number + 1));
+        raiseOverflow(QStringLiteral("FileNumber can't go past 32767"));
+    setRegValue(QStringLiteral("FileNumber"), numberWithSignPlace(number + 1));
     const QString digits = QStringLiteral("%1").arg(qAbs(int(number)), 5, 10, QLatin1Char('0'));
     return mnemonic % (number < 0 ? QStringLiteral("-") : QString()) % digits;
 }
 
-QString MakeNewFileName(const QString& description, const QString& extension, const QVariant& folder,
+QString makeNewFileName(const QString& description, const QString& extension, const QVariant& folder,
     const QVariant& category, const QString& regIndex)
 {
-    const QString system = GetRegValue(QStringLiteral("FileName"));
-    const QString numberName = MakeFileNumberName(ToLong(category));
-    const QString name = CDocFileName().DocFileName(system, description, numberName, regIndex);
+    const QString system = getRegValue(QStringLiteral("FileName"));
+    const QString numberName = makeFileNumberName(toLong(category));
+    const QString name = DocumentFileName().docFileName(system, description, numberName, regIndex);
     if (name.isEmpty())
         return {};
-    const QString base = IsNull(folder) ? GetIniValue(QStringLiteral("AllDocs")) : folder.toString();
+    const QString base = isNull(folder) ? getIniValue(QStringLiteral("AllDocs")) : folder.toString();
     return base % QDir::separator() % name % extension;
 }
 
-QString FileExistsMessage(const QString& path)
+QString fileExistsMessage(const QString& path)
 {
     return QStringLiteral("The File with name ") % path
         % QStringLiteral(
@@ -96,16 +96,16 @@ QString FileExistsMessage(const QString& path)
             "other parameters.");
 }
 
-QVariant GetDocumentFolder(const QVariant& category, const QVariant& subCategory)
+QVariant getDocumentFolder(const QVariant& category, const QVariant& subCategory)
 {
-    if (!IsNull(subCategory) && !subCategory.toString().isEmpty()) {
-        const QVariant folder = GetFieldValue(QStringLiteral("SubKategID"), QStringLiteral("SubPathToFiles"),
-            QStringLiteral("tbl_Sub_Categories"), ToLong(subCategory));
-        if (!IsNull(folder))
+    if (!isNull(subCategory) && !subCategory.toString().isEmpty()) {
+        const QVariant folder = getFieldValue(QStringLiteral("SubKategID"), QStringLiteral("SubPathToFiles"),
+            QStringLiteral("tbl_Sub_Categories"), toLong(subCategory));
+        if (!isNull(folder))
             return folder;
     }
-    return GetFieldValue(QStringLiteral("KategID"), QStringLiteral("DokKategDaug"),
-        QStringLiteral("tbl_Document_Categories"), ToLong(category));
+    return getFieldValue(QStringLiteral("KategID"), QStringLiteral("DokKategDaug"),
+        QStringLiteral("tbl_Document_Categories"), toLong(category));
 }
 
 } // namespace kartella

@@ -14,39 +14,39 @@ namespace kartella {
 // name and extension. Takes a running number under every naming system. Empty text when
 // no name can be made (after telling the user why). Throws kartella::Error for an empty or
 // unknown category or a FileNumber that isn't a number or would pass 32767.
-QString MakeNewFileName(const QString& description, const QString& extension, const QVariant& folder,
+QString makeNewFileName(const QString& description, const QString& extension, const QVariant& folder,
     const QVariant& category, const QString& regIndex);
 
 // Mnemonic (or the first three letters of the title, "WMN" without one) and FileNumber
 // as five digits; FileNumber then goes up by one.
-QString MakeFileNumberName(qint32 category);
+QString makeFileNumberName(qint32 category);
 
 // The message shown when the new file's path is taken.
-QString FileExistsMessage(const QString& path);
+QString fileExistsMessage(const QString& path);
 
 // The folder for new files of a subcategory, else of its category: SubPathToFiles when it
 // isn't Null (even when empty), else DokKategDaug, which may be Null.
-QVariant GetDocumentFolder(const QVariant& category, const QVariant& subCategory);
+QVariant getDocumentFolder(const QVariant& category, const QVariant& subCategory);
 
 // The name of a document's file, without extension, under one naming system.
-class CDocFileName
+class DocumentFileName
 {
 public:
-    QString DocFileName(const QString& system, const QString& description, const QString& numberName,
+    QString docFileName(const QString& system, const QString& description, const QString& numberName,
         const QString& regIndex) const;
 
 private:
     struct FileNameParts
     {
-        QString Description;
-        QString NumberName;
-        QString RegIndex;
+        QString description;
+        QString numberName;
+        QString regIndex;
     };
 
-    QString BuildFileName(const QString& system, const FileNameParts& parts) const;
-    static QString CleanFileName(const QString& text);
+    QString buildFileName(const QString& system, const FileNameParts& parts) const;
+    static QString cleanFileName(const QString& text);
 
-    friend struct DocFileNameProbe; // the tests' view of the cleaning rule
+    friend struct DocumentFileNameProbe; // the tests' view of the cleaning rule
 };
 
 } // namespace kartella

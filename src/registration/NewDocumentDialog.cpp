@@ -1,6 +1,6 @@
 #include "registration/NewDocumentDialog.h"
 
-#include "explorer/SelectionState.h"
+#include "base/Error.h"
 #include "options/OptionStore.h"
 #include "platform/Prompter.h"
 #include "registration/FileNaming.h"
@@ -12,9 +12,9 @@
 #include "support/BoundList.h"
 #include "support/BusyCursor.h"
 #include "support/EnterAsTab.h"
-#include "support/Error.h"
 #include "support/FieldBinder.h"
 #include "support/RecordsetModel.h"
+#include "support/SelectionState.h"
 #include "support/ShellDialogs.h"
 
 #include <QComboBox>
@@ -77,13 +77,18 @@ NewDocumentDialog::NewDocumentDialog(QWidget* parent)
     setObjectName(QStringLiteral("frmNewDocument"));
     setWindowTitle(QStringLiteral("New Document"));
     setModal(true);
-    for (int number = 1; number <= 4; ++number) {
-        m_adodc[std::size_t(number)] = new Recordset(this);
-        m_adodc[std::size_t(number)]->setObjectName(QStringLiteral("Adodc") + QString::number(number));
-    }
+    const auto dataControl = [this](const char* name) {
+        auto* recordset = new Recordset(this);
+        recordset->setObjectName(QLatin1String(name));
+        return recordset;
+    };
+    m_document = dataControl("Adodc1");
+    m_contacts = dataControl("Adodc2");
+    m_categories = dataControl("Adodc3");
+    m_subCategories = dataControl("Adodc4");
     buildWidgets();
     bindControls();
-    Form_Load();
+    load();
 }
 
 NewDocumentDialog::~NewDocumentDialog() = default;
@@ -92,7 +97,6 @@ QLineEdit* NewDocumentDialog::addTextBox(int index)
 {
     auto* box = new QLineEdit(this);
     box->setObjectName(QStringLiteral("txtFields_") + QString::number(index));
-    m_txtFields[std::size_t(index)] = box;
     return box;
 }
 
@@ -114,8 +118,8 @@ void NewDocumentDialog::buildWidgets()
 
     m_ok = makeButton(QStringLiteral("cmdOK"), QStringLiteral("OK"), this);
     m_cancel = makeButton(QStringLiteral("cmdCancel"), QStringLiteral("Cancel"), this);
-    connect(m_ok, &QPushButton::clicked, this, &NewDocumentDialog::cmdOK_Click);
-    connect(m_cancel, &QPushButton::clicked, this, &NewDocumentDialog::cmdCancel_Click);
+    connect(m_ok, &QPushButton::clicked, this, &NewDocumentDialog::save);
+    connect(m_cancel, &QPushButton::clicked, this, &NewDocumentDialog::cancel);
 
     auto* buttons = new QHBoxLayout;
     buttons->addStretch(1);
@@ -129,15 +133,15 @@ void NewDocumentDialog::buildWidgets()
     layout->addLayout(buttons);
 
     // The row's key and its direction code live in boxes of their own that nobody sees.
-    for (const int index : {0, 7}) {
-        QLineEdit* hidden = addTextBox(index);
-        hidden->setVisible(false);
-    }
+    m_documentId = addTextBox(0);
+    m_directionCode = addTextBox(7);
+    m_documentId->setVisible(false);
+    m_directionCode->setVisible(false);
 
     // The order of the boxes on the first tab, then the buttons.
-    const QList<QWidget*> order = {m_txtFields[4], m_sender->box(), m_txtFields[5], m_txtFields[1],
-        m_txtFields[2], m_txtFields[3], m_category->box(), m_subCategory->box(), m_option[1], m_option[2],
-        m_option[3], m_option[4], findChild<QPushButton*>(QStringLiteral("cmdWord")),
+    const QList<QWidget*> order = {m_description, m_sender->box(), m_location, m_sentReceivedDate,
+        m_registrationDate, m_regIndex, m_category->box(), m_subCategory->box(), m_inner, m_outgoing,
+        m_incoming, m_otherDirection, findChild<QPushButton*>(QStringLiteral("cmdWord")),
         findChild<QPushButton*>(QStringLiteral("cmdExcel")),
         findChild<QPushButton*>(QStringLiteral("cmdPower")),
         findChild<QPushButton*>(QStringLiteral("cmdAddExisting")), m_ok, m_cancel};
@@ -145,13 +149,12 @@ void NewDocumentDialog::buildWidgets()
         setTabOrder(order[i - 1], order[i]);
 
     m_keys = new EnterAsTab(this);
-    for (QLineEdit* box : m_txtFields) {
-        if (box)
-            m_keys->Watch(box);
-    }
-    m_keys->Watch(m_notes);
-    m_keys->OnEnter(m_grid, [this] { grdTickler_Enter(); });
-    m_keys->OnEscape([this] {
+    for (QLineEdit* box : {m_documentId, m_sentReceivedDate, m_registrationDate, m_regIndex, m_description,
+             m_location, m_directionCode})
+        m_keys->watch(box);
+    m_keys->watch(m_notes);
+    m_keys->onEnter(m_grid, [this] { onReminderGridEnter(); });
+    m_keys->onEscape([this] {
         m_cancel->click();
         return true;
     });
@@ -161,22 +164,29 @@ void NewDocumentDialog::buildWidgets()
 QWidget* NewDocumentDialog::buildGeneralTab()
 {
     auto* page = new QWidget(this);
-    QLineEdit* description = addTextBox(4);
+    m_description = addTextBox(4);
+    QLineEdit* description = m_description;
     auto* sender = new QComboBox(page);
     sender->setObjectName(QStringLiteral("cmbSender"));
     m_sender = new BoundList(sender, this);
-    QLineEdit* location = addTextBox(5);
+    m_location = addTextBox(5);
+    QLineEdit* location = m_location;
     location->setReadOnly(true);
 
     auto* dates = new QGroupBox(QStringLiteral("Date, Index"), page);
     dates->setObjectName(QStringLiteral("fraDateIndex"));
     auto* datesLayout = new QGridLayout(dates);
-    const std::array<QString, 3> dateCaptions = {QStringLiteral("Send/Receive Date:"),
-        QStringLiteral("Registration Date:"), QStringLiteral("Registration Index:")};
-    for (int index = 1; index <= 3; ++index) {
-        QLineEdit* box = addTextBox(index);
-        datesLayout->addWidget(makeLabel(dateCaptions[std::size_t(index - 1)], box, dates), index - 1, 0);
-        datesLayout->addWidget(box, index - 1, 1);
+    m_sentReceivedDate = addTextBox(1);
+    m_registrationDate = addTextBox(2);
+    m_regIndex = addTextBox(3);
+    const std::array<std::pair<QString, QLineEdit*>, 3> dateBoxes
+        = {std::pair {QStringLiteral("Send/Receive Date:"), m_sentReceivedDate},
+            std::pair {QStringLiteral("Registration Date:"), m_registrationDate},
+            std::pair {QStringLiteral("Registration Index:"), m_regIndex}};
+    int line = 0;
+    for (const auto& [caption, box] : dateBoxes) {
+        datesLayout->addWidget(makeLabel(caption, box, dates), line, 0);
+        datesLayout->addWidget(box, line++, 1);
     }
 
     auto* categories = new QGroupBox(QStringLiteral("Category"), page);
@@ -196,18 +206,21 @@ QWidget* NewDocumentDialog::buildGeneralTab()
     auto* direction = new QGroupBox(QStringLiteral("Direction"), page);
     direction->setObjectName(QStringLiteral("fraDirection"));
     auto* directionLayout = new QVBoxLayout(direction);
-    const std::array<QString, 4> directions = {QStringLiteral("Inner"), QStringLiteral("Outgoing"),
-        QStringLiteral("Incoming"), QStringLiteral("Other")};
-    for (int index = 1; index <= 4; ++index) {
-        auto* option = new QRadioButton(directions[std::size_t(index - 1)], direction);
-        option->setObjectName(QStringLiteral("Option_") + QString::number(index));
-        connect(option, &QRadioButton::toggled, this, [this, index](bool checked) {
+    // The buttons in the order of their direction codes, 1 to 4.
+    const auto addDirection = [&](const QString& caption, int code) {
+        auto* option = new QRadioButton(caption, direction);
+        option->setObjectName(QStringLiteral("Option_") + QString::number(code));
+        connect(option, &QRadioButton::toggled, this, [this, code](bool checked) {
             if (checked)
-                Option_Click(index);
+                onDirectionChosen(code);
         });
-        m_option[std::size_t(index)] = option;
         directionLayout->addWidget(option);
-    }
+        return option;
+    };
+    m_inner = addDirection(QStringLiteral("Inner"), 1);
+    m_outgoing = addDirection(QStringLiteral("Outgoing"), 2);
+    m_incoming = addDirection(QStringLiteral("Incoming"), 3);
+    m_otherDirection = addDirection(QStringLiteral("Other"), 4);
 
     auto* layout = new QGridLayout(page);
     layout->addWidget(makeLabel(QStringLiteral("Description:"), description, page), 0, 0);
@@ -234,10 +247,10 @@ QGroupBox* NewDocumentDialog::buildCreateWith()
         const char* caption;
         void (NewDocumentDialog::*slot)();
     } buttons[] = {
-        {"cmdWord", "&Word", &NewDocumentDialog::cmdWord_Click},
-        {"cmdExcel", "&Excel", &NewDocumentDialog::cmdExcel_Click},
-        {"cmdPower", "&PowerPoint", &NewDocumentDialog::cmdPower_Click},
-        {"cmdAddExisting", "&Add Existing", &NewDocumentDialog::cmdAddExisting_Click},
+        {"cmdWord", "&Word", &NewDocumentDialog::createWithWord},
+        {"cmdExcel", "&Excel", &NewDocumentDialog::createWithExcel},
+        {"cmdPower", "&PowerPoint", &NewDocumentDialog::createWithPowerPoint},
+        {"cmdAddExisting", "&Add Existing", &NewDocumentDialog::addExistingFile},
     };
     for (const auto& entry : buttons) {
         QPushButton* button
@@ -250,213 +263,214 @@ QGroupBox* NewDocumentDialog::buildCreateWith()
 
 void NewDocumentDialog::bindControls()
 {
-    Recordset* row = m_adodc[1];
+    Recordset* row = m_document;
     m_binder = new FieldBinder(row, this);
-    m_binder->Bind(m_txtFields[4], QStringLiteral("DokAntraste"));
-    m_binder->Bind(m_sender, QStringLiteral("ContactID"));
-    m_binder->Bind(m_txtFields[5], QStringLiteral("RastoKel"));
-    m_binder->BindDate(m_txtFields[1], QStringLiteral("DokGavSiuntData"), DateFormat);
-    m_binder->BindDate(m_txtFields[2], QStringLiteral("DokRegistracData"), DateFormat);
-    m_binder->Bind(m_txtFields[3], QStringLiteral("DokRegistracIndeksas"));
-    m_binder->Bind(m_category, QStringLiteral("KategID"));
-    m_binder->Bind(m_subCategory, QStringLiteral("SubKategID"));
-    m_binder->Bind(m_txtFields[7], QStringLiteral("KryptisID"));
-    m_binder->Bind(m_txtFields[0], QStringLiteral("RastasID"));
-    m_binder->Bind(m_notes, QStringLiteral("DokPastaba"));
+    m_binder->bind(m_description, QStringLiteral("DokAntraste"));
+    m_binder->bind(m_sender, QStringLiteral("ContactID"));
+    m_binder->bind(m_location, QStringLiteral("RastoKel"));
+    m_binder->bindDate(m_sentReceivedDate, QStringLiteral("DokGavSiuntData"), DateFormat);
+    m_binder->bindDate(m_registrationDate, QStringLiteral("DokRegistracData"), DateFormat);
+    m_binder->bind(m_regIndex, QStringLiteral("DokRegistracIndeksas"));
+    m_binder->bind(m_category, QStringLiteral("KategID"));
+    m_binder->bind(m_subCategory, QStringLiteral("SubKategID"));
+    m_binder->bind(m_directionCode, QStringLiteral("KryptisID"));
+    m_binder->bind(m_documentId, QStringLiteral("RastasID"));
+    m_binder->bind(m_notes, QStringLiteral("DokPastaba"));
 
-    m_sender->SetRowSource(m_adodc[2], QStringLiteral("FullName"), QStringLiteral("ContactID"));
-    m_category->SetRowSource(m_adodc[3], QStringLiteral("DokKategorija"), QStringLiteral("KategID"));
-    m_subCategory->SetRowSource(m_adodc[4], QStringLiteral("DokSubKategorija"), QStringLiteral("SubKategID"));
-    connect(m_category, &BoundList::Change, this, &NewDocumentDialog::cmbCategory_Change);
+    m_sender->setRowSource(m_contacts, QStringLiteral("FullName"), QStringLiteral("ContactID"));
+    m_category->setRowSource(m_categories, QStringLiteral("DokKategorija"), QStringLiteral("KategID"));
+    m_subCategory->setRowSource(
+        m_subCategories, QStringLiteral("DokSubKategorija"), QStringLiteral("SubKategID"));
+    connect(m_category, &BoundList::changed, this, &NewDocumentDialog::onCategoryChanged);
 
     m_tickler = new RecordsetModel(this);
-    m_tickler->SetAllowAddNew(true);
-    m_tickler->AttachView(m_grid);
+    m_tickler->setAllowAddNew(true);
+    m_tickler->attachView(m_grid);
 }
 
-void NewDocumentDialog::Form_Load()
+void NewDocumentDialog::load()
 {
     const BusyCursor busy;
     // An error at any step ends the sequence: the dialog opens with what was done so far.
     try {
-        const QString provider = GetRegValue(QStringLiteral("Provider"));
-        const QString location = GetRegValue(QStringLiteral("DbLocation"));
-        m_adodc[1]->Open(DocumentSource, ShapeUpperConnectionString(provider, location),
+        const QString provider = getRegValue(QStringLiteral("Provider"));
+        const QString location = getRegValue(QStringLiteral("DbLocation"));
+        m_document->open(DocumentSource, shapeUpperConnectionString(provider, location),
             CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
 
-        m_listConnection = PlainConnectionString(provider, location);
-        m_adodc[2]->Open(ContactSource, m_listConnection);
-        m_adodc[3]->Open(CategorySource, m_listConnection);
+        m_listConnection = plainConnectionString(provider, location);
+        m_contacts->open(ContactSource, m_listConnection);
+        m_categories->open(CategorySource, m_listConnection);
 
-        m_tickler->SetRecordset(m_adodc[1]->Fields(QStringLiteral("ChildCMD")).Chapter());
+        m_tickler->setRecordset(m_document->fields(QStringLiteral("ChildCMD")).chapter());
 
-        DialogReady = false;
+        m_indexProposed = false;
         try {
-            m_adodc[1]->AddNew();
+            m_document->addNew();
         } catch (const Error& error) {
-            MsgBox(error.description());
+            msgBox(error.description());
         }
 
-        const SelectionState& selection = Selection();
-        if (selection.CurrentCategoryId != 0) {
+        const SelectionState& state = selection();
+        if (state.currentCategoryId != 0) {
             // The category's change fills the subcategory list before its value is set.
-            m_category->SetValue(selection.CurrentCategoryId);
-            if (selection.CurrentSubCategoryId != 0)
-                m_subCategory->SetValue(selection.CurrentSubCategoryId);
+            m_category->setValue(state.currentCategoryId);
+            if (state.currentSubCategoryId != 0)
+                m_subCategory->setValue(state.currentSubCategoryId);
         }
 
-        m_txtFields[3]->setText(MakeRegIndex(m_category->Value()));
-        DialogReady = true;
+        m_regIndex->setText(makeRegIndex(m_category->value()));
+        m_indexProposed = true;
 
-        m_option[1]->setChecked(true);
+        m_inner->setChecked(true);
 
         const QString today = QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat);
-        m_txtFields[1]->setText(today);
-        m_txtFields[2]->setText(today);
+        m_sentReceivedDate->setText(today);
+        m_registrationDate->setText(today);
 
-        m_tickler->SetColumnHidden(0, true);
-        m_tickler->SetColumnHidden(2, true);
-        m_tickler->SetColumnCaption(1, QStringLiteral("Date"));
-        m_tickler->SetColumnWidth(1, 1000);
-        m_tickler->SetColumnCaption(3, QStringLiteral("Text"));
-        m_tickler->SetColumnWidth(3, 5200);
+        m_tickler->setColumnHidden(0, true);
+        m_tickler->setColumnHidden(2, true);
+        m_tickler->setColumnCaption(1, QStringLiteral("Date"));
+        m_tickler->setColumnWidth(1, 1000);
+        m_tickler->setColumnCaption(3, QStringLiteral("Text"));
+        m_tickler->setColumnWidth(3, 5200);
     } catch (const Error&) {
         // Silently: the steps that didn't run leave their effect undone.
     }
 }
 
-void NewDocumentDialog::SetLocation(const QString& path)
+void NewDocumentDialog::setLocation(const QString& path)
 {
-    m_txtFields[5]->setText(path);
+    m_location->setText(path);
 }
 
-void NewDocumentDialog::cmbCategory_Change()
+void NewDocumentDialog::onCategoryChanged()
 {
-    const QString category = m_category->Value();
+    const QString category = m_category->value();
     if (category.isEmpty())
         return;
     try {
-        m_adodc[4]->Close();
-        m_adodc[4]->Open(SubCategorySource + category, m_listConnection);
+        m_subCategories->close();
+        m_subCategories->open(SubCategorySource + category, m_listConnection);
         // A subcategory never survives a change of category.
-        m_subCategory->SetValue(QString());
+        m_subCategory->setValue(QString());
         QCoreApplication::processEvents();
-        if (DialogReady)
-            m_txtFields[3]->setText(MakeRegIndex(category));
+        if (m_indexProposed)
+            m_regIndex->setText(makeRegIndex(category));
     } catch (const Error&) {
         // The rest of the change is skipped.
     }
 }
 
-void NewDocumentDialog::Option_Click(int index)
+void NewDocumentDialog::onDirectionChosen(int index)
 {
-    m_txtFields[7]->setText(QString::number(index));
+    m_directionCode->setText(QString::number(index));
 }
 
-void NewDocumentDialog::cmdWord_Click()
+void NewDocumentDialog::createWithWord()
 {
-    CreateDocument({QStringLiteral("Unable to create a New Word Document"), QStringLiteral("DokTemplates"),
-        QStringLiteral("SubDokTemplates"), &CreateWordDocument});
+    createDocument({QStringLiteral("Unable to create a New Word Document"), QStringLiteral("DokTemplates"),
+        QStringLiteral("SubDokTemplates"), &createWordDocument});
 }
 
-void NewDocumentDialog::cmdExcel_Click()
+void NewDocumentDialog::createWithExcel()
 {
-    CreateDocument({QStringLiteral("Unable to create a New Excel Document"),
-        QStringLiteral("DokTemplatesExel"), QStringLiteral("SubDokTemplatesExel"), &CreateExcelDocument});
+    createDocument({QStringLiteral("Unable to create a New Excel Document"),
+        QStringLiteral("DokTemplatesExel"), QStringLiteral("SubDokTemplatesExel"), &createExcelDocument});
 }
 
-void NewDocumentDialog::cmdPower_Click()
+void NewDocumentDialog::createWithPowerPoint()
 {
-    CreateDocument(
+    createDocument(
         {QStringLiteral("Unable to create a New PowerPoint Document"), QStringLiteral("DokTemplatesPowPoint"),
-            QStringLiteral("SubDokTemplatesPowPoint"), &CreatePowerPointDocument});
+            QStringLiteral("SubDokTemplatesPowPoint"), &createPowerPointDocument});
 }
 
-void NewDocumentDialog::CreateDocument(const CreatingButton& button)
+void NewDocumentDialog::createDocument(const CreatingButton& button)
 {
     const QString directory = QDir::currentPath();
     const int warning = MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation;
-    const QString category = m_category->Value();
+    const QString category = m_category->value();
     if (category.isEmpty()) {
-        MsgBox(QStringLiteral("Select any Category, please!"), warning, button.title);
+        msgBox(QStringLiteral("Select any Category, please!"), warning, button.title);
         return;
     }
-    if (m_txtFields[4]->text().isEmpty()) {
-        MsgBox(QStringLiteral("Document Description Required!"), warning, button.title);
+    if (m_description->text().isEmpty()) {
+        msgBox(QStringLiteral("Document Description Required!"), warning, button.title);
         return;
     }
     // A failure (the office program missing, the save refused) ends here without a word,
     // leaving the current directory as it was left.
     try {
-        if (m_txtFields[5]->text().isEmpty()) {
-            const QString subCategory = m_subCategory->Value();
+        if (m_location->text().isEmpty()) {
+            const QString subCategory = m_subCategory->value();
             // A subcategory's own template, or none: never its category's.
             const QVariant templatePath = subCategory.isEmpty()
-                ? GetFieldValue(QStringLiteral("KategID"), button.categoryField,
-                    QStringLiteral("tbl_Document_Categories"), ToLong(category))
-                : GetFieldValue(QStringLiteral("SubKategID"), button.subCategoryField,
-                    QStringLiteral("tbl_Sub_Categories"), ToLong(subCategory));
-            const QVariant folder = GetDocumentFolder(category, subCategory);
+                ? getFieldValue(QStringLiteral("KategID"), button.categoryField,
+                    QStringLiteral("tbl_Document_Categories"), toLong(category))
+                : getFieldValue(QStringLiteral("SubKategID"), button.subCategoryField,
+                    QStringLiteral("tbl_Sub_Categories"), toLong(subCategory));
+            const QVariant folder = getDocumentFolder(category, subCategory);
             const OfficeDocumentRequest request {
-                m_txtFields[4]->text(), folder, templatePath, category, m_txtFields[3]->text()};
+                m_description->text(), folder, templatePath, category, m_regIndex->text()};
             const BusyCursor busy;
-            button.create(request, [this](const QString& path) { SetLocation(path); });
+            button.create(request, [this](const QString& path) { setLocation(path); });
         }
         QDir::setCurrent(directory);
     } catch (const Error&) { }
 }
 
-void NewDocumentDialog::cmdAddExisting_Click()
+void NewDocumentDialog::addExistingFile()
 {
     const QString directory = QDir::currentPath();
-    const QString file = ShowOpenDialog({QStringLiteral("Select Document"), directory,
+    const QString file = showOpenDialog({QStringLiteral("Select Document"), directory,
         QStringLiteral("All files (*.*)"), QStringLiteral("*.*")});
     if (file.isEmpty())
         return;
-    SetLocation(file);
+    setLocation(file);
     QDir::setCurrent(directory);
 }
 
-void NewDocumentDialog::cmdOK_Click()
+void NewDocumentDialog::save()
 {
     // The row and its reminders in one go; a refused save keeps the dialog and the day's
     // number as they were.
     try {
-        m_binder->Validate();
-        m_adodc[1]->UpdateBatch(AffectEnum::All);
+        m_binder->validate();
+        m_document->updateBatch(AffectEnum::All);
     } catch (const Error& error) {
-        MsgBox(error.description());
+        msgBox(error.description());
         return;
     }
     try {
-        const int next = LeadingInteger16(GetRegValue(QStringLiteral("TodayNumber"))) + 1;
-        SetRegValue(QStringLiteral("TodayNumber"), QString::number(next));
+        const int next = leadingInteger16(getRegValue(QStringLiteral("TodayNumber"))) + 1;
+        setRegValue(QStringLiteral("TodayNumber"), QString::number(next));
     } catch (const Error& error) {
-        MsgBox(error.description());
+        msgBox(error.description());
     }
     accept();
 }
 
-void NewDocumentDialog::cmdCancel_Click()
+void NewDocumentDialog::cancel()
 {
     reject();
 }
 
 void NewDocumentDialog::done(int result)
 {
-    DialogReady = false;
+    m_indexProposed = false;
     while (QGuiApplication::overrideCursor())
         QGuiApplication::restoreOverrideCursor();
     QDialog::done(result);
 }
 
-void NewDocumentDialog::grdTickler_Enter()
+void NewDocumentDialog::onReminderGridEnter()
 {
     // On to the next cell: from the text, down to the next row's and right.
     m_grid->setFocus(Qt::OtherFocusReason);
     if (m_grid->currentIndex().column() == 3)
-        EnterAsTab::SendKey(m_grid, Qt::Key_Down);
-    EnterAsTab::SendKey(m_grid, Qt::Key_Right);
+        EnterAsTab::sendKey(m_grid, Qt::Key_Down);
+    EnterAsTab::sendKey(m_grid, Qt::Key_Right);
 }
 
 } // namespace kartella

@@ -4,8 +4,6 @@
 
 #include <QDialog>
 
-#include <array>
-
 class QGroupBox;
 class QLineEdit;
 class QPlainTextEdit;
@@ -26,7 +24,7 @@ class RecordsetModel;
 // shaped recordset of the documents and their reminders (opened in batch mode, so nothing
 // is written yet), selects the current category and proposes a registration index. The
 // buttons under "Create With" make the document's file at once (or attach an existing
-// one); OK stores the row and the reminders typed in the grid with one UpdateBatch and
+// one); OK stores the row and the reminders typed in the grid with one updateBatch and
 // raises the day's number; Cancel (Esc) drops them, leaving a file already made on disk.
 class NewDocumentDialog : public QDialog
 {
@@ -37,23 +35,20 @@ public:
     explicit NewDocumentDialog(QWidget* parent = nullptr);
     ~NewDocumentDialog() override;
 
-    // The data controls: 1 the row and its reminders, 2 contacts, 3 categories,
-    // 4 subcategories of the chosen category.
-    Recordset* Adodc(int number) const { return m_adodc.at(std::size_t(number)); }
     // Writes path into the Location box, as a file dropped on the document list does.
-    void SetLocation(const QString& path);
+    void setLocation(const QString& path);
     // Set once the load sequence has proposed an index.
-    bool DialogReady = false;
+    bool indexProposed() const { return m_indexProposed; }
 
 public Q_SLOTS:
-    void cmbCategory_Change();
-    void Option_Click(int index);
-    void cmdWord_Click();
-    void cmdExcel_Click();
-    void cmdPower_Click();
-    void cmdAddExisting_Click();
-    void cmdOK_Click();
-    void cmdCancel_Click();
+    void onCategoryChanged();
+    void onDirectionChosen(int index);
+    void createWithWord();
+    void createWithExcel();
+    void createWithPowerPoint();
+    void addExistingFile();
+    void save();
+    void cancel();
 
 protected:
     void done(int result) override;
@@ -71,16 +66,33 @@ private:
     QWidget* buildGeneralTab();
     QGroupBox* buildCreateWith();
     void bindControls();
-    void Form_Load();
-    void CreateDocument(const CreatingButton& button);
-    void grdTickler_Enter();
+    void load();
+    void createDocument(const CreatingButton& button);
+    void onReminderGridEnter();
     QLineEdit* addTextBox(int index);
 
-    std::array<Recordset*, 5> m_adodc = {};
+    // The new row with its reminders, and the rows of the three lists.
+    Recordset* m_document = nullptr;
+    Recordset* m_contacts = nullptr;
+    Recordset* m_categories = nullptr;
+    Recordset* m_subCategories = nullptr;
     QString m_listConnection;
-    std::array<QLineEdit*, 8> m_txtFields = {}; // index 6 is the Notes box, m_notes
+    bool m_indexProposed = false;
+
+    // The row's key and its direction code are in boxes nobody sees.
+    QLineEdit* m_documentId = nullptr;
+    QLineEdit* m_directionCode = nullptr;
+    QLineEdit* m_description = nullptr;
+    QLineEdit* m_location = nullptr;
+    QLineEdit* m_sentReceivedDate = nullptr;
+    QLineEdit* m_registrationDate = nullptr;
+    QLineEdit* m_regIndex = nullptr;
     QPlainTextEdit* m_notes = nullptr;
-    std::array<QRadioButton*, 5> m_option = {}; // 1 to 4, the direction codes
+    // The direction codes 1 to 4.
+    QRadioButton* m_inner = nullptr;
+    QRadioButton* m_outgoing = nullptr;
+    QRadioButton* m_incoming = nullptr;
+    QRadioButton* m_otherDirection = nullptr;
     BoundList* m_sender = nullptr;
     BoundList* m_category = nullptr;
     BoundList* m_subCategory = nullptr;

@@ -18,11 +18,11 @@ using LocationSetter = std::function<void(const QString&)>;
 QString newFilePath(const OfficeDocumentRequest& request, const QString& extension, const QString& takenTitle)
 {
     const QString path
-        = MakeNewFileName(request.description, extension, request.folder, request.category, request.regIndex);
+        = makeNewFileName(request.description, extension, request.folder, request.category, request.regIndex);
     if (path.isEmpty())
         return {};
     if (QFileInfo::exists(path)) {
-        MsgBox(FileExistsMessage(path), MsgBoxStyle::OkOnly | MsgBoxStyle::Critical, takenTitle);
+        msgBox(fileExistsMessage(path), MsgBoxStyle::OkOnly | MsgBoxStyle::Critical, takenTitle);
         return {};
     }
     return path;
@@ -30,7 +30,7 @@ QString newFilePath(const OfficeDocumentRequest& request, const QString& extensi
 
 QString templateText(const QVariant& templatePath)
 {
-    return IsNull(templatePath) ? QString() : templatePath.toString();
+    return isNull(templatePath) ? QString() : templatePath.toString();
 }
 
 // Word and Excel: the template is used when its file is there; a missing one is left out if
@@ -40,7 +40,7 @@ bool chooseTemplate(const QVariant& templatePath, QString& chosen)
     chosen = templateText(templatePath);
     if (chosen.isEmpty() || QFileInfo::exists(chosen))
         return true;
-    const int answer = MsgBox(QStringLiteral("Can't achieve desired template ") % chosen
+    const int answer = msgBox(QStringLiteral("Can't achieve desired template ") % chosen
             % QStringLiteral(".\r\rIf you want to continue without template click OK"),
         MsgBoxStyle::OkCancel | MsgBoxStyle::Critical | MsgBoxStyle::DefaultButton2,
         QStringLiteral("Warning: Desired template not found"));
@@ -60,26 +60,26 @@ void createFromTemplate(OfficeSuite::Kind kind, const QString& extension, const 
     if (!chooseTemplate(request.templatePath, templatePath))
         return;
     OfficeSuite& suite = OfficeSuite::instance();
-    suite.Create(kind, templatePath, path);
+    suite.create(kind, templatePath, path);
     setLocation(path);
-    suite.Show(path);
+    suite.show(path);
 }
 
 } // namespace
 
-void CreateWordDocument(const OfficeDocumentRequest& request, const LocationSetter& setLocation)
+void createWordDocument(const OfficeDocumentRequest& request, const LocationSetter& setLocation)
 {
     createFromTemplate(OfficeSuite::Kind::Word, QStringLiteral(".doc"), QStringLiteral("Can't create a file"),
         request, setLocation);
 }
 
-void CreateExcelDocument(const OfficeDocumentRequest& request, const LocationSetter& setLocation)
+void createExcelDocument(const OfficeDocumentRequest& request, const LocationSetter& setLocation)
 {
     createFromTemplate(OfficeSuite::Kind::Excel, QStringLiteral(".xls"),
         QStringLiteral("Can't create a file. Try again."), request, setLocation);
 }
 
-void CreatePowerPointDocument(const OfficeDocumentRequest& request, const LocationSetter& setLocation)
+void createPowerPointDocument(const OfficeDocumentRequest& request, const LocationSetter& setLocation)
 {
     // The presentation is saved empty: a template would only be applied in the running
     // application, after the save.
@@ -87,9 +87,9 @@ void CreatePowerPointDocument(const OfficeDocumentRequest& request, const Locati
     if (path.isEmpty())
         return;
     OfficeSuite& suite = OfficeSuite::instance();
-    suite.Create(OfficeSuite::Kind::PowerPoint, QString(), path);
+    suite.create(OfficeSuite::Kind::PowerPoint, QString(), path);
     setLocation(path);
-    suite.Show(path);
+    suite.show(path);
 }
 
 } // namespace kartella

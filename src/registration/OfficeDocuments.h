@@ -25,11 +25,11 @@ struct OfficeDocumentRequest
 // Word and Excel make the document from the template; a template whose file is missing is
 // offered to be left out (OK) or the creation to be stopped (Cancel). PowerPoint makes an
 // empty presentation and asks nothing about the template.
-void CreateWordDocument(
+void createWordDocument(
     const OfficeDocumentRequest& request, const std::function<void(const QString&)>& setLocation);
-void CreateExcelDocument(
+void createExcelDocument(
     const OfficeDocumentRequest& request, const std::function<void(const QString&)>& setLocation);
-void CreatePowerPointDocument(
+void createPowerPointDocument(
     const OfficeDocumentRequest& request, const std::function<void(const QString&)>& setLocation);
 
 } // namespace kartella

@@ -11,7 +11,7 @@ namespace {
 
 QString option(const char* name)
 {
-    return GetRegValue(QLatin1String(name));
+    return getRegValue(QLatin1String(name));
 }
 
 // Mnemonic (when there is one to use) and Separator1, date text, Separator2, number.
@@ -19,8 +19,8 @@ QString compose(const QString& mnemonic, const QDate& date, const QString& numbe
 {
     const QString separator1 = option("Separator1");
     const QString separator2 = option("Separator2");
-    const bool useMnemonic = ToTruthValue(option("UseMnemonic"));
-    const QString dateText = FormatIndexDate(date, ToLong(option("IndexStyle")));
+    const bool useMnemonic = toTruthValue(option("UseMnemonic"));
+    const QString dateText = formatIndexDate(date, toLong(option("IndexStyle")));
     if (useMnemonic && !mnemonic.isEmpty())
         return mnemonic % separator1 % dateText % separator2 % number;
     return dateText % separator2 % number;
@@ -28,7 +28,7 @@ QString compose(const QString& mnemonic, const QDate& date, const QString& numbe
 
 } // namespace
 
-QString FormatIndexDate(const QDate& date, int style)
+QString formatIndexDate(const QDate& date, int style)
 {
     const QString yyyy = date.toString(QStringLiteral("yyyy"));
     const QString yy = date.toString(QStringLiteral("yy"));
@@ -52,37 +52,37 @@ QString FormatIndexDate(const QDate& date, int style)
     }
 }
 
-void ResetTodayNumber(const QDate& today)
+void resetTodayNumber(const QDate& today)
 {
-    SetRegValue(QStringLiteral("Date"), StoredDateText(today));
-    SetRegValue(QStringLiteral("TodayNumber"), QStringLiteral("1"));
+    setRegValue(QStringLiteral("Date"), storedDateText(today));
+    setRegValue(QStringLiteral("TodayNumber"), QStringLiteral("1"));
 }
 
-QString MakeRegIndex(const QVariant& category, const QDate& today)
+QString makeRegIndex(const QVariant& category, const QDate& today)
 {
-    const QDate stored = ToStoredDate(option("Date"));
-    const bool automatic = ToTruthValue(option("AutoRegIndex"));
+    const QDate stored = toStoredDate(option("Date"));
+    const bool automatic = toTruthValue(option("AutoRegIndex"));
     if (!automatic)
         return {};
 
     QDate date = stored;
     qint16 number = 1;
     if (today != stored) {
-        ResetTodayNumber(today);
+        resetTodayNumber(today);
         date = today;
     } else {
-        number = LeadingInteger16(option("TodayNumber"));
+        number = leadingInteger16(option("TodayNumber"));
     }
 
-    const QVariant mnemonic = CategoryField(ToLong(category), QStringLiteral("Mnemonic"));
-    return compose(NullToDefault(mnemonic, QString()).toString(), date, QString::number(number));
+    const QVariant mnemonic = categoryField(toLong(category), QStringLiteral("Mnemonic"));
+    return compose(nullToDefault(mnemonic, QString()).toString(), date, QString::number(number));
 }
 
-QString RegIndexSample(const QDate& today)
+QString regIndexSample(const QDate& today)
 {
-    const QDate stored = ToStoredDate(option("Date"));
+    const QDate stored = toStoredDate(option("Date"));
     if (today != stored)
-        ResetTodayNumber(today);
+        resetTodayNumber(today);
     return compose(QStringLiteral("AGR"), today, QStringLiteral("1"));
 }
 

@@ -15,7 +15,7 @@ bool renameOnly(const QString& source, const QString& target)
 {
     if (QFileInfo::exists(target) || QFileInfo(target).isSymLink())
         return false;
-    return MoveFileContents(source, target);
+    return moveFileContents(source, target);
 }
 
 // Tries operation on target; when that fails, once more on target taken as a folder.
@@ -24,47 +24,47 @@ bool intoFolderOnFailure(const QString& source, QString& target, Operation opera
 {
     if (operation(source, target))
         return true;
-    target = NormalizePath(target) % GetFileBaseExt(source);
+    target = normalizePath(target) % getFileBaseExt(source);
     return operation(source, target);
 }
 
 } // namespace
 
-bool CopyFileWithoutShell(const QString& source, QString& target)
+bool copyFileWithoutShell(const QString& source, QString& target)
 {
     return intoFolderOnFailure(
-        source, target, [](const QString& from, const QString& to) { return CopyFileContents(from, to); });
+        source, target, [](const QString& from, const QString& to) { return copyFileContents(from, to); });
 }
 
-bool MoveFileWithoutShell(const QString& source, QString& target)
+bool moveFileWithoutShell(const QString& source, QString& target)
 {
     return intoFolderOnFailure(source, target, renameOnly);
 }
 
-bool DeleteFileWithoutShell(const QString& path)
+bool deleteFileWithoutShell(const QString& path)
 {
     return QFile::remove(path);
 }
 
-bool ShellCopyFile(const QString& source, QString& target, [[maybe_unused]] int options)
+bool shellCopyFile(const QString& source, QString& target, [[maybe_unused]] int options)
 {
-    if (HasShell())
-        return Shell::instance().CopyFile(source, target);
-    return CopyFileWithoutShell(source, target);
+    if (hasShell())
+        return Shell::instance().copyFile(source, target);
+    return copyFileWithoutShell(source, target);
 }
 
-bool ShellMoveFile(const QString& source, QString& target, [[maybe_unused]] int options)
+bool shellMoveFile(const QString& source, QString& target, [[maybe_unused]] int options)
 {
-    if (HasShell())
-        return Shell::instance().MoveFile(source, target);
-    return MoveFileWithoutShell(source, target);
+    if (hasShell())
+        return Shell::instance().moveFile(source, target);
+    return moveFileWithoutShell(source, target);
 }
 
-bool ShellDeleteFile(const QString& path, [[maybe_unused]] int options)
+bool shellDeleteFile(const QString& path, [[maybe_unused]] int options)
 {
-    if (HasShell())
-        return Shell::instance().DeleteFile(path);
-    return DeleteFileWithoutShell(path);
+    if (hasShell())
+        return Shell::instance().deleteFile(path);
+    return deleteFileWithoutShell(path);
 }
 
 } // namespace kartella

@@ -5,7 +5,7 @@
 namespace kartella {
 
 // The file routines of the copy, move and delete commands. Each returns true for success.
-// Where the program has a desktop shell (HasShell) they go through Shell::instance(), which
+// Where the program has a desktop shell (hasShell) they go through Shell::instance(), which
 // asks before replacing or deleting a file, shows its progress, and deletes for good; else
 // they work on the file system directly, without a question.
 //
@@ -13,16 +13,16 @@ namespace kartella {
 // shell's defaults; the program always passes 0, and the shell here has only its defaults.
 
 // Copies source to target. Without the shell a failed copy is tried once more with target
-// taken as a folder: target becomes NormalizePath(target) followed by the source's name.
-bool ShellCopyFile(const QString& source, QString& target, int options = 0);
+// taken as a folder: target becomes normalizePath(target) followed by the source's name.
+bool shellCopyFile(const QString& source, QString& target, int options = 0);
 // Moves source to target; without the shell a rename, retried into a folder as a copy is.
-bool ShellMoveFile(const QString& source, QString& target, int options = 0);
+bool shellMoveFile(const QString& source, QString& target, int options = 0);
 // Deletes path.
-bool ShellDeleteFile(const QString& path, int options = 0);
+bool shellDeleteFile(const QString& path, int options = 0);
 
 // The ways without the shell, on their own.
-bool CopyFileWithoutShell(const QString& source, QString& target);
-bool MoveFileWithoutShell(const QString& source, QString& target);
-bool DeleteFileWithoutShell(const QString& path);
+bool copyFileWithoutShell(const QString& source, QString& target);
+bool moveFileWithoutShell(const QString& source, QString& target);
+bool deleteFileWithoutShell(const QString& path);
 
 } // namespace kartella

@@ -3,28 +3,28 @@
 
 namespace kartella {
 
-QString PlainConnectionString(const QString& provider, const QString& location)
+QString plainConnectionString(const QString& provider, const QString& location)
 {
     return QStringLiteral("Provider=") + provider + QStringLiteral(";Data Source= ") + location;
 }
 
-QString UpperConnectionString(const QString& provider, const QString& location)
+QString upperConnectionString(const QString& provider, const QString& location)
 {
     return QStringLiteral("PROVIDER=") + provider + QStringLiteral(";Data Source= ") + location;
 }
 
-QString ShapeConnectionString(const QString& provider, const QString& location)
+QString shapeConnectionString(const QString& provider, const QString& location)
 {
     return QStringLiteral("PROVIDER=MSDataShape;Data Provider=") + provider + QStringLiteral(";Data Source= ")
         + location;
 }
 
-QString ShapePrefixConnectionString(const QString& provider, const QString& location)
+QString shapePrefixConnectionString(const QString& provider, const QString& location)
 {
-    return QStringLiteral("PROVIDER=MSDataShape;Data ") + PlainConnectionString(provider, location);
+    return QStringLiteral("PROVIDER=MSDataShape;Data ") + plainConnectionString(provider, location);
 }
 
-QString ShapeUpperConnectionString(const QString& provider, const QString& location)
+QString shapeUpperConnectionString(const QString& provider, const QString& location)
 {
     return QStringLiteral("PROVIDER=MSDataShape;Data PROVIDER=") + provider + QStringLiteral(";Data Source= ")
         + location + u';';
@@ -36,34 +36,34 @@ using Form = QString (*)(const QString&, const QString&);
 // A form from the options as they stand now: Provider is read before DbLocation.
 QString fromOptions(Form form)
 {
-    const QString provider = GetRegValue(QStringLiteral("Provider"));
-    return form(provider, GetRegValue(QStringLiteral("DbLocation")));
+    const QString provider = getRegValue(QStringLiteral("Provider"));
+    return form(provider, getRegValue(QStringLiteral("DbLocation")));
 }
 } // namespace
 
-QString PlainConnectionString()
+QString plainConnectionString()
 {
-    return fromOptions(&PlainConnectionString);
+    return fromOptions(&plainConnectionString);
 }
 
-QString UpperConnectionString()
+QString upperConnectionString()
 {
-    return fromOptions(&UpperConnectionString);
+    return fromOptions(&upperConnectionString);
 }
 
-QString ShapeConnectionString()
+QString shapeConnectionString()
 {
-    return fromOptions(&ShapeConnectionString);
+    return fromOptions(&shapeConnectionString);
 }
 
-QString ShapePrefixConnectionString()
+QString shapePrefixConnectionString()
 {
-    return fromOptions(&ShapePrefixConnectionString);
+    return fromOptions(&shapePrefixConnectionString);
 }
 
-QString ShapeUpperConnectionString()
+QString shapeUpperConnectionString()
 {
-    return fromOptions(&ShapeUpperConnectionString);
+    return fromOptions(&shapeUpperConnectionString);
 }
 
 } // namespace kartella

@@ -1,14 +1,14 @@
 #include "store/InsertBatch.h"
 
+#include "base/Error.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Value.h"
-#include "support/Error.h"
 
 namespace kartella {
 
-QString SqlLiteral(const QVariant& value)
+QString sqlLiteral(const QVariant& value)
 {
-    if (IsNull(value))
+    if (isNull(value))
         return QStringLiteral("Null");
     switch (value.typeId()) {
     case QMetaType::Bool:
@@ -58,7 +58,7 @@ void InsertBatch::add(const QVariantList& values)
     for (int i = 0; i < values.size(); ++i) {
         if (i > 0)
             m_sql += u',';
-        m_sql += SqlLiteral(values.at(i));
+        m_sql += sqlLiteral(values.at(i));
     }
     m_sql += u')';
     if (++m_pending >= m_rowsPerStatement)
@@ -69,7 +69,7 @@ void InsertBatch::flush()
 {
     if (m_pending == 0)
         return;
-    m_connection.Execute(m_sql);
+    m_connection.execute(m_sql);
     m_written += m_pending;
     m_pending = 0;
     m_sql.clear();

@@ -11,7 +11,7 @@ class Connection;
 
 // A value as a literal of Jet's dialect: Null, a number, 'text' with quotes doubled,
 // #m/d/yyyy# for a date, -1/0 for a truth value.
-QString SqlLiteral(const QVariant& value);
+QString sqlLiteral(const QVariant& value);
 
 // Collects rows for one table and writes them as multi-row INSERT statements, a few
 // hundred rows at a time, through Connection::Execute.

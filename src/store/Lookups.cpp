@@ -10,55 +10,55 @@ namespace {
 
 // Opens a connection of its own, reads `field` of the first row of sql and closes
 // everything again; Null when the statement gives no row.
-QVariant FirstRowValue(const QString& sql, const QString& field, int mode)
+QVariant firstRowValue(const QString& sql, const QString& field, int mode)
 {
     Connection connection;
-    connection.SetConnectionString(PlainConnectionString());
+    connection.setConnectionString(plainConnectionString());
     if (mode != ConnectModeEnum::Unknown)
-        connection.SetMode(mode);
-    connection.Open();
+        connection.setMode(mode);
+    connection.open();
     Recordset recordset;
-    recordset.Open(sql, connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified, -1);
-    const QVariant value = recordset.Eof() ? NullValue() : recordset.Fields(field).Value();
-    recordset.Close();
-    connection.Close();
+    recordset.open(sql, connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified, -1);
+    const QVariant value = recordset.eof() ? nullValue() : recordset.fields(field).value();
+    recordset.close();
+    connection.close();
     return value;
 }
 
-QString IdText(const QVariant& id)
+QString idText(const QVariant& id)
 {
     return QString::number(id.toLongLong());
 }
 
 } // namespace
 
-QVariant GetFieldValue(const QString& keyField, const QString& valueField, const QString& table, qint32 id)
+QVariant getFieldValue(const QString& keyField, const QString& valueField, const QString& table, qint32 id)
 {
     const QString sql = QStringLiteral("SELECT ") + keyField + u',' + valueField + QStringLiteral(" FROM ")
         + table + QStringLiteral(" WHERE ") + keyField + u'=' + QString::number(id);
-    return FirstRowValue(sql, valueField, ConnectModeEnum::Unknown);
+    return firstRowValue(sql, valueField, ConnectModeEnum::Unknown);
 }
 
-QString GetContactName(const QVariant& contactId)
+QString getContactName(const QVariant& contactId)
 {
-    if (IsNull(contactId))
+    if (isNull(contactId))
         return NullMark;
     const QString sql = QStringLiteral("SELECT tbl_Contacts.ContactID, tbl_Contacts.FullName ")
         + QStringLiteral("FROM tbl_Contacts ") + QStringLiteral("WHERE tbl_Contacts.ContactID=")
-        + IdText(contactId);
-    return NullToMark(FirstRowValue(sql, QStringLiteral("FullName"), ConnectModeEnum::ShareDenyNone))
+        + idText(contactId);
+    return nullToMark(firstRowValue(sql, QStringLiteral("FullName"), ConnectModeEnum::ShareDenyNone))
         .toString();
 }
 
-QString GetCategoryName(const QVariant& categoryId)
+QString getCategoryName(const QVariant& categoryId)
 {
-    if (IsNull(categoryId))
+    if (isNull(categoryId))
         return NullMark;
     const QString sql
         = QStringLiteral("SELECT tbl_Document_Categories.KategID, tbl_Document_Categories.DokKategorija ")
         + QStringLiteral("FROM tbl_Document_Categories ")
-        + QStringLiteral("WHERE tbl_Document_Categories.KategID=") + IdText(categoryId);
-    return NullToMark(FirstRowValue(sql, QStringLiteral("DokKategorija"), ConnectModeEnum::ShareDenyNone))
+        + QStringLiteral("WHERE tbl_Document_Categories.KategID=") + idText(categoryId);
+    return nullToMark(firstRowValue(sql, QStringLiteral("DokKategorija"), ConnectModeEnum::ShareDenyNone))
         .toString();
 }
 

@@ -10,11 +10,11 @@ namespace kartella {
 
 // "SELECT <key>,<field> FROM <table> WHERE <key>=<id>": the field of the first row, or
 // Null when no row has that id.
-QVariant GetFieldValue(const QString& keyField, const QString& valueField, const QString& table, qint32 id);
+QVariant getFieldValue(const QString& keyField, const QString& valueField, const QString& table, qint32 id);
 // FullName of a contact; "*_*_*_*" for a Null id (without touching the database) or a
 // Null name.
-QString GetContactName(const QVariant& contactId);
+QString getContactName(const QVariant& contactId);
 // DokKategorija of a category, likewise.
-QString GetCategoryName(const QVariant& categoryId);
+QString getCategoryName(const QVariant& categoryId);
 
 } // namespace kartella

@@ -5,19 +5,19 @@
 
 namespace kartella {
 
-QVariant NullToMark(const QVariant& value)
+QVariant nullToMark(const QVariant& value)
 {
-    return IsNull(value) ? QVariant(NullMark) : value;
+    return isNull(value) ? QVariant(NullMark) : value;
 }
 
-QVariant NullToDefault(const QVariant& value, const QVariant& defaultValue)
+QVariant nullToDefault(const QVariant& value, const QVariant& defaultValue)
 {
-    return IsNull(value) ? defaultValue : value;
+    return isNull(value) ? defaultValue : value;
 }
 
-QString DisplayText(const QVariant& value)
+QString displayText(const QVariant& value)
 {
-    if (IsNull(value))
+    if (isNull(value))
         return NullMark;
     switch (value.typeId()) {
     case QMetaType::QDate:

@@ -11,7 +11,7 @@ QString S(const char* utf8)
     return QString::fromUtf8(utf8);
 }
 
-QList<QString> List(std::initializer_list<const char*> items)
+QList<QString> list(std::initializer_list<const char*> items)
 {
     QList<QString> out;
     out.reserve(qsizetype(items.size()));
@@ -22,49 +22,49 @@ QList<QString> List(std::initializer_list<const char*> items)
 
 } // namespace
 
-const QList<CategoryEntry>& Categories()
+const QList<CategoryEntry>& sampleCategories()
 {
     static const QList<CategoryEntry> categories = {
         {S("Sutartys"), S("SUT"), S("Sutartys"),
             {{S("Nuomos sutartys"), S("Sutartys/Nuoma")}, {S("Paslaugų sutartys"), {}},
                 {S("Darbo sutartys"), S("Sutartys/Darbo")}},
-            List({"Nuomos sutartis", "Paslaugų teikimo sutartis", "Darbo sutartis", "Sutarties pakeitimas",
+            list({"Nuomos sutartis", "Paslaugų teikimo sutartis", "Darbo sutartis", "Sutarties pakeitimas",
                 "Pirkimo–pardavimo sutartis"})},
         {S("Įsakymai"), S("ISK"), S("Įsakymai"), {},
-            List({"Įsakymas dėl atostogų", "Įsakymas dėl komandiruotės", "Įsakymas dėl priėmimo į darbą",
+            list({"Įsakymas dėl atostogų", "Įsakymas dėl komandiruotės", "Įsakymas dėl priėmimo į darbą",
                 "Įsakymas dėl inventorizacijos"})},
         {S("Raštai"), S("RAS"), S("Raštai"),
             {{S("Gaunami raštai"), S("Raštai/Gaunami")}, {S("Siunčiami raštai"), S("Raštai/Siunčiami")}},
-            List({"Raštas dėl duomenų pateikimo", "Atsakymas į paklausimą",
+            list({"Raštas dėl duomenų pateikimo", "Atsakymas į paklausimą",
                 "Pranešimas apie pasikeitusius rekvizitus", "Paklausimas dėl kainų",
                 "Pretenzija dėl pristatymo"})},
         {S("Sąskaitos faktūros"), S("SF"), S("Sąskaitos"),
             {{S("Gautos sąskaitos"), S("Sąskaitos/Gautos")}, {S("Išrašytos sąskaitos"), {}}},
-            List({"PVM sąskaita faktūra", "Išankstinė sąskaita", "Kreditinė sąskaita",
+            list({"PVM sąskaita faktūra", "Išankstinė sąskaita", "Kreditinė sąskaita",
                 "Sąskaita už paslaugas"})},
         {S("Ataskaitos"), S("ATA"), S("Ataskaitos"),
             {{S("Metinės ataskaitos"), {}}, {S("Ketvirtinės ataskaitos"), {}},
                 {S("Mėnesinės ataskaitos"), {}}},
-            List({"Ketvirčio finansinė ataskaita", "Veiklos ataskaita", "Metinė ataskaita",
+            list({"Ketvirčio finansinė ataskaita", "Veiklos ataskaita", "Metinė ataskaita",
                 "Mokesčių deklaracija"})},
         {S("Prašymai"), {}, S("Prašymai"), {},
-            List({"Prašymas dėl atostogų", "Prašymas išduoti pažymą", "Prašymas dėl darbo laiko",
+            list({"Prašymas dėl atostogų", "Prašymas išduoti pažymą", "Prašymas dėl darbo laiko",
                 "Prašymas grąžinti permoką"})},
         {S("Protokolai"), S("PRT"), {},
             {{S("Valdybos posėdžiai"), S("Protokolai/Valdyba")}, {S("Susirinkimai"), {}}},
-            List({"Posėdžio protokolas", "Visuotinio susirinkimo protokolas",
+            list({"Posėdžio protokolas", "Visuotinio susirinkimo protokolas",
                 "Komisijos posėdžio protokolas"})},
         {S("Žemės nuoma"), S("ZEM"), S("Žemė"), {},
-            List({"Žemės sklypo nuomos sutartis", "Sklypo planas", "Nuomos mokesčio skaičiavimas"})},
-        {S("Čekiai ir kvitai"), {}, {}, {}, List({"Kasos čekis", "Mokėjimo kvitas", "Banko išrašas"})},
+            list({"Žemės sklypo nuomos sutartis", "Sklypo planas", "Nuomos mokesčio skaičiavimas"})},
+        {S("Čekiai ir kvitai"), {}, {}, {}, list({"Kasos čekis", "Mokėjimo kvitas", "Banko išrašas"})},
         {S("Pirkimai"), S("PIR"), S("Pirkimai"), {{S("Mažos vertės pirkimai"), S("Pirkimai/Mažos vertės")}},
-            List({"Pirkimo paraiška", "Tiekėjo pasiūlymas", "Pirkimo dokumentai", "Pirkimo sutartis"})},
-        {S("Kvietimai"), {}, {}, {}, List({"Kvietimas į seminarą", "Kvietimas į parodą", "Padėka"})},
+            list({"Pirkimo paraiška", "Tiekėjo pasiūlymas", "Pirkimo dokumentai", "Pirkimo sutartis"})},
+        {S("Kvietimai"), {}, {}, {}, list({"Kvietimas į seminarą", "Kvietimas į parodą", "Padėka"})},
     };
     return categories;
 }
 
-const QList<ContactEntry>& Contacts()
+const QList<ContactEntry>& sampleContacts()
 {
     static const QList<ContactEntry> contacts = [] {
         const QStringList people = {
@@ -141,7 +141,7 @@ const QList<ContactEntry>& Contacts()
     return contacts;
 }
 
-const QList<CityEntry>& Cities()
+const QList<CityEntry>& sampleCities()
 {
     static const QList<CityEntry> cities = {
         {S("Vilnius"), S("Vilniaus apskr."), S("Aukštaitija"), S("LT-0"), S("5")},
@@ -156,25 +156,25 @@ const QList<CityEntry>& Cities()
     return cities;
 }
 
-const QList<QString>& Streets()
+const QList<QString>& sampleStreets()
 {
     static const QList<QString> streets
-        = List({"Gedimino pr.", "Laisvės al.", "Vilniaus g.", "Taikos pr.", "Žalgirio g.", "Savanorių pr.",
+        = list({"Gedimino pr.", "Laisvės al.", "Vilniaus g.", "Taikos pr.", "Žalgirio g.", "Savanorių pr.",
             "Ąžuolyno g.", "Pramonės g.", "Basanavičiaus g.", "Šilo g.", "Čiurlionio g.", "Liepų g."});
     return streets;
 }
 
-const QList<QString>& Companies()
+const QList<QString>& sampleCompanies()
 {
-    static const QList<QString> companies = List({"UAB „Ąžuolo dirbtuvės“", "UAB „Baltijos statyba“",
+    static const QList<QString> companies = list({"UAB „Ąžuolo dirbtuvės“", "UAB „Baltijos statyba“",
         "AB „Nemuno energija“", "UAB „Šiaurės logistika“", "UAB „Vilniaus apskaita“",
         "Kauno technikos kolegija", "UAB „Gintarinė jūra“", "UAB „Medžio linija“"});
     return companies;
 }
 
-const QList<QString>& Notes()
+const QList<QString>& sampleNotes()
 {
-    static const QList<QString> notes = List({
+    static const QList<QString> notes = list({
         "Originalas saugomas archyve.",
         "Reikia pasirašyti iki mėnesio pabaigos.",
         "Kopija išsiųsta buhalterijai.",
@@ -187,29 +187,29 @@ const QList<QString>& Notes()
     return notes;
 }
 
-const QList<QString>& Reminders()
+const QList<QString>& sampleReminders()
 {
     static const QList<QString> reminders
-        = List({"Priminti apie apmokėjimą", "Patikrinti, ar gautas atsakymas", "Pratęsti sutartį",
+        = list({"Priminti apie apmokėjimą", "Patikrinti, ar gautas atsakymas", "Pratęsti sutartį",
             "Pateikti ataskaitą", "Paskambinti dėl susitikimo", "Perduoti archyvui"});
     return reminders;
 }
 
-const QList<QString>& RelatedDescriptions()
+const QList<QString>& sampleRelatedDescriptions()
 {
-    static const QList<QString> descriptions = List({"Priedas Nr. 1", "Priedas Nr. 2", "Sąmata", "Lydraštis",
+    static const QList<QString> descriptions = list({"Priedas Nr. 1", "Priedas Nr. 2", "Sąmata", "Lydraštis",
         "Atsakymas", "Patikslinta versija", "Paaiškinimas", "Įgaliojimas"});
     return descriptions;
 }
 
-const QList<QString>& Executors()
+const QList<QString>& sampleExecutors()
 {
     static const QList<QString> executors
-        = List({"J. Petrauskas", "R. Jonaitienė", "A. Kazlauskas", "Ž. Pocienė", "T. Baranauskas"});
+        = list({"J. Petrauskas", "R. Jonaitienė", "A. Kazlauskas", "Ž. Pocienė", "T. Baranauskas"});
     return executors;
 }
 
-QString AsciiSlug(const QString& text)
+QString asciiSlug(const QString& text)
 {
     static const QString from = S("ąčęėįšųūžĄČĘĖĮŠŲŪŽáé");
     static const QString to = QStringLiteral("aceeisuuzACEEISUUZae");
@@ -226,7 +226,7 @@ QString AsciiSlug(const QString& text)
     return out;
 }
 
-QString Vocative(const QString& firstName)
+QString vocative(const QString& firstName)
 {
     if (firstName.endsWith(QStringLiteral("as")))
         return firstName.chopped(2) + QStringLiteral("ai");
@@ -239,7 +239,7 @@ QString Vocative(const QString& firstName)
     return firstName;
 }
 
-bool IsWomansName(const QString& firstName)
+bool isWomansName(const QString& firstName)
 {
     return firstName.endsWith(u'a') || firstName.endsWith(QChar(0x0117));
 }

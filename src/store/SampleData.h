@@ -62,21 +62,21 @@ struct CityEntry
 };
 
 // The fixed material the sample register is made of.
-const QList<CategoryEntry>& Categories();
-const QList<ContactEntry>& Contacts();
-const QList<CityEntry>& Cities();
-const QList<QString>& Streets();
-const QList<QString>& Companies();
-const QList<QString>& Notes();
-const QList<QString>& Reminders();
-const QList<QString>& RelatedDescriptions();
-const QList<QString>& Executors();
+const QList<CategoryEntry>& sampleCategories();
+const QList<ContactEntry>& sampleContacts();
+const QList<CityEntry>& sampleCities();
+const QList<QString>& sampleStreets();
+const QList<QString>& sampleCompanies();
+const QList<QString>& sampleNotes();
+const QList<QString>& sampleReminders();
+const QList<QString>& sampleRelatedDescriptions();
+const QList<QString>& sampleExecutors();
 
 // A name as plain lower-case ASCII, for mail addresses and web pages: "Šarūnas" -> "sarunas".
-QString AsciiSlug(const QString& text);
+QString asciiSlug(const QString& text);
 // A Lithuanian first name as it is addressed: "Antanas" -> "Antanai", "Aistė" -> "Aiste".
-QString Vocative(const QString& firstName);
+QString vocative(const QString& firstName);
 // Whether a Lithuanian first name is a woman's (ends in -a or -ė).
-bool IsWomansName(const QString& firstName);
+bool isWomansName(const QString& firstName);
 
 } // namespace kartella::sample

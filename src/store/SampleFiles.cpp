@@ -8,7 +8,7 @@ namespace kartella::sample {
 
 namespace {
 
-QString PlainBody(const FileContent& content)
+QString plainBody(const FileContent& content)
 {
     QString body = content.title + u'\n';
     if (!content.index.isEmpty())
@@ -17,10 +17,10 @@ QString PlainBody(const FileContent& content)
     return body;
 }
 
-QByteArray RtfBody(const FileContent& content)
+QByteArray rtfBody(const FileContent& content)
 {
     QByteArray rtf = "{\\rtf1\\ansi\\ansicpg1257\\deff0{\\fonttbl{\\f0 Times New Roman;}}\\f0\\fs24 ";
-    const QString body = PlainBody(content);
+    const QString body = plainBody(content);
     for (const QChar c : body) {
         if (c == u'\n')
             rtf += "\\par\n";
@@ -35,7 +35,7 @@ QByteArray RtfBody(const FileContent& content)
 }
 
 // Latin letters keep their base letter in the PDF's standard font; others show as "?".
-char PdfChar(QChar c)
+char pdfChar(QChar c)
 {
     if (c.unicode() < 128)
         return char(c.unicode());
@@ -46,14 +46,14 @@ char PdfChar(QChar c)
 }
 
 // A one-page PDF that shows the title and the date.
-QByteArray PdfBody(const FileContent& content)
+QByteArray pdfBody(const FileContent& content)
 {
     QByteArray title;
     const QString line = content.title + QStringLiteral("  ") + content.date.toString(Qt::ISODate);
     for (const QChar c : line) {
         if (c == u'(' || c == u')' || c == u'\\')
             title += '\\';
-        title += PdfChar(c);
+        title += pdfChar(c);
     }
     const QByteArray stream = "BT /F1 14 Tf 72 760 Td (" + title + ") Tj ET";
     const QList<QByteArray> objects = {
@@ -81,7 +81,7 @@ QByteArray PdfBody(const FileContent& content)
 
 } // namespace
 
-bool WriteSampleFile(const QString& path, const FileContent& content)
+bool writeSampleFile(const QString& path, const FileContent& content)
 {
     const QFileInfo info(path);
     if (!QDir().mkpath(info.absolutePath()))
@@ -89,11 +89,11 @@ bool WriteSampleFile(const QString& path, const FileContent& content)
     const QString suffix = info.suffix().toLower();
     QByteArray bytes;
     if (suffix == u"doc")
-        bytes = RtfBody(content);
+        bytes = rtfBody(content);
     else if (suffix == u"pdf")
-        bytes = PdfBody(content);
+        bytes = pdfBody(content);
     else
-        bytes = PlainBody(content).toUtf8();
+        bytes = plainBody(content).toUtf8();
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         return false;

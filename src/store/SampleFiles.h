@@ -16,6 +16,6 @@ struct FileContent
 
 // Writes a small file of the type its extension names: an RTF body for .doc, a one-page
 // PDF for .pdf, plain text for the others. Creates the folder. False when it can't write.
-bool WriteSampleFile(const QString& path, const FileContent& content);
+bool writeSampleFile(const QString& path, const FileContent& content);
 
 } // namespace kartella::sample

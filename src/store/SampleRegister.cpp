@@ -1,12 +1,12 @@
 #include "store/SampleRegister.h"
 
+#include "base/Error.h"
 #include "store/InsertBatch.h"
 #include "store/SampleData.h"
 #include "store/SampleFiles.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
-#include "support/Error.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -30,24 +30,24 @@ const QStringList Tables = {
     QStringLiteral("tbl_Tickler"),
 };
 
-QVariant TextOrNull(const QString& text)
+QVariant textOrNull(const QString& text)
 {
-    return text.isEmpty() ? NullValue() : QVariant(text);
+    return text.isEmpty() ? nullValue() : QVariant(text);
 }
 
 // "UAB „Baltijos statyba“" -> "baltijos-statyba.lt".
-QString WebDomain(const QString& company)
+QString webDomain(const QString& company)
 {
     const qsizetype open = company.indexOf(u'„');
     const QString name = open >= 0 ? company.mid(open + 1) : company;
-    return AsciiSlug(name).replace(u'.', u'-') + QStringLiteral(".lt");
+    return asciiSlug(name).replace(u'.', u'-') + QStringLiteral(".lt");
 }
 
 // Takes exactly `needed` of `total` items, each with the same chance, in one pass.
-class Selection
+class selection
 {
 public:
-    Selection(int needed, int total)
+    selection(int needed, int total)
         : m_needed(needed)
         , m_remaining(total)
     { }
@@ -131,16 +131,16 @@ private:
                 QStringLiteral("SubPathToFiles"), QStringLiteral("SubDokTemplates"),
                 QStringLiteral("SubDokTemplatesExel"), QStringLiteral("SubDokTemplatesPowPoint")});
         int subId = 0;
-        for (const CategoryEntry& entry : Categories()) {
+        for (const CategoryEntry& entry : sampleCategories()) {
             CategoryRow row {int(m_categories.size()) + 1,
                 entry.mnemonic.isEmpty() ? entry.title.left(3) : entry.mnemonic, absoluteFolder(entry.folder),
                 {}, &entry};
-            categories.add({row.id, entry.title, TextOrNull(entry.mnemonic), TextOrNull(row.folder),
-                NullValue(), NullValue(), NullValue()});
+            categories.add({row.id, entry.title, textOrNull(entry.mnemonic), textOrNull(row.folder),
+                nullValue(), nullValue(), nullValue()});
             for (const SubCategoryEntry& sub : entry.subCategories) {
                 const SubCategoryRow subRow {++subId, absoluteFolder(sub.folder)};
-                subCategories.add({subRow.id, row.id, sub.title, TextOrNull(subRow.folder), NullValue(),
-                    NullValue(), NullValue()});
+                subCategories.add({subRow.id, row.id, sub.title, textOrNull(subRow.folder), nullValue(),
+                    nullValue(), nullValue()});
                 row.subCategories << subRow;
             }
             m_categories << row;
@@ -165,16 +165,17 @@ private:
                 QStringLiteral("HomeWWW")});
         int phoneId = 0;
         int pageId = 0;
-        const QList<ContactEntry>& entries = Contacts();
+        const QList<ContactEntry>& entries = sampleContacts();
         for (int i = 0; i < entries.size(); ++i) {
             const ContactEntry& entry = entries.at(i);
             const int id = i + 1;
             const bool person = !entry.fullName.isEmpty();
-            const QString company
-                = person ? (m_random.percent(50) ? m_random.pick(Companies()) : QString()) : entry.company;
+            const QString company = person
+                ? (m_random.percent(50) ? m_random.pick(sampleCompanies()) : QString())
+                : entry.company;
             const QString firstName = entry.fullName.section(u' ', 0, 0);
-            const bool woman = IsWomansName(firstName);
-            const CityEntry& city = m_random.pick(Cities());
+            const bool woman = isWomansName(firstName);
+            const CityEntry& city = m_random.pick(sampleCities());
             QString title;
             if (person && !company.isEmpty()) {
                 static const QStringList men = {QStringLiteral("Direktorius"), QStringLiteral("Vadybininkas"),
@@ -185,20 +186,20 @@ private:
             }
             const QString dear = person
                 ? (woman ? QStringLiteral("Gerbiamoji ") : QStringLiteral("Gerbiamasis "))
-                    + Vocative(firstName)
+                    + vocative(firstName)
                 : QString();
-            const QString slug = AsciiSlug(entry.fullName);
-            const QString domain = company.isEmpty() ? QStringLiteral("pastas.lt") : WebDomain(company);
+            const QString slug = asciiSlug(entry.fullName);
+            const QString domain = company.isEmpty() ? QStringLiteral("pastas.lt") : webDomain(company);
             const QString email
                 = m_random.percent(85) ? (person ? slug : QStringLiteral("info")) + u'@' + domain : QString();
             const QString address
-                = m_random.pick(Streets()) + u' ' + QString::number(m_random.between(1, 120));
+                = m_random.pick(sampleStreets()) + u' ' + QString::number(m_random.between(1, 120));
             const QString postal = city.postalPrefix + QString::number(m_random.between(1000, 9999));
             const QString region = m_random.percent(40) ? city.region : QString();
-            const QString notes = m_random.percent(20) ? m_random.pick(Notes()) : QString();
-            contacts.add({id, TextOrNull(company), TextOrNull(title), TextOrNull(dear),
-                TextOrNull(entry.fullName), address, city.city, city.county, postal, TextOrNull(region),
-                QStringLiteral("Lietuva"), TextOrNull(email), TextOrNull(notes)});
+            const QString notes = m_random.percent(20) ? m_random.pick(sampleNotes()) : QString();
+            contacts.add({id, textOrNull(company), textOrNull(title), textOrNull(dear),
+                textOrNull(entry.fullName), address, city.city, city.county, postal, textOrNull(region),
+                QStringLiteral("Lietuva"), textOrNull(email), textOrNull(notes)});
 
             // Every twelfth contact has no phone, every fifth no web page.
             if (i % 12 != 7) {
@@ -308,13 +309,13 @@ void SampleWriter::writeDocuments()
         = m_options.filesOnDisk >= 0 ? qMin(m_options.filesOnDisk, count) : qMin(count * 3 / 10, 150);
     const int missing = qMin(count / 10, 3 + withFiles / 50);
     m_relatedFileCap = withFiles == 0 ? 0 : qMax(1, withFiles / 3);
-    Selection fileSelection(withFiles, count);
-    Selection missingSelection(missing, count - withFiles);
+    selection fileSelection(withFiles, count);
+    selection missingSelection(missing, count - withFiles);
 
     const QDate today = m_options.today;
     const QDate first = today.addMonths(-3).addDays(1);
     const qint64 span = first.daysTo(today) + 1;
-    const int contactCount = int(Contacts().size());
+    const int contactCount = int(sampleContacts().size());
     QDate day;
     int dayNumber = 0;
 
@@ -333,7 +334,7 @@ void SampleWriter::writeDocuments()
             ? &category->subCategories.at(m_random.below(int(category->subCategories.size())))
             : nullptr;
         const QVariant contact
-            = (i % 13 == 3 || m_random.percent(8)) ? NullValue() : QVariant(m_random.below(contactCount) + 1);
+            = (i % 13 == 3 || m_random.percent(8)) ? nullValue() : QVariant(m_random.below(contactCount) + 1);
 
         const QString mnemonic = category ? category->entry->mnemonic : QString();
         const QString index = (mnemonic.isEmpty() ? QString() : mnemonic + u'-')
@@ -346,11 +347,11 @@ void SampleWriter::writeDocuments()
             if (m_random.percent(50))
                 description += QStringLiteral(" Nr. ") + QString::number(m_random.between(1, 250));
         }
-        const QString executor = m_random.percent(30) ? m_random.pick(Executors()) : QString();
+        const QString executor = m_random.percent(30) ? m_random.pick(sampleExecutors()) : QString();
         const QString mark = executor.isEmpty() ? QString()
             : m_random.percent(60)              ? QStringLiteral("Įvykdyta")
                                                 : QStringLiteral("Vykdoma");
-        const QString notes = (i % 7 != 2 && m_random.percent(40)) ? m_random.pick(Notes()) : QString();
+        const QString notes = (i % 7 != 2 && m_random.percent(40)) ? m_random.pick(sampleNotes()) : QString();
 
         const QString folder = sub && !sub->folder.isEmpty() ? sub->folder
             : category                                       ? category->folder
@@ -364,9 +365,9 @@ void SampleWriter::writeDocuments()
             path = newFilePath(folder, prefix, extension()); // named, never written
         }
 
-        documents.add({id, received, registered, index, TextOrNull(description), TextOrNull(executor),
-            TextOrNull(mark), TextOrNull(path), contact, category ? QVariant(category->id) : NullValue(),
-            sub ? QVariant(sub->id) : NullValue(), TextOrNull(notes), direction});
+        documents.add({id, received, registered, index, textOrNull(description), textOrNull(executor),
+            textOrNull(mark), textOrNull(path), contact, category ? QVariant(category->id) : nullValue(),
+            sub ? QVariant(sub->id) : nullValue(), textOrNull(notes), direction});
 
         if (i % 10 == 1 || m_random.percent(6))
             addRelated(related, {id, registered, index, description, folder, contact});
@@ -383,16 +384,16 @@ void SampleWriter::addRelated(InsertBatch& related, const DocumentFacts& documen
     const int count = m_random.between(1, 3);
     for (int k = 0; k < count; ++k) {
         ++m_relatedId;
-        const QString text = m_random.pick(RelatedDescriptions());
+        const QString text = m_random.pick(sampleRelatedDescriptions());
         QString path;
         if (m_relatedId % 3 == 1 && m_relatedFiles < m_relatedFileCap) {
             ++m_relatedFiles;
             path = newFilePath(document.folder, QStringLiteral("Priedas"), extension());
             m_files << PendingFile {path, {text, document.index, document.registered, document.description}};
         }
-        const QVariant contact = m_random.percent(20) ? NullValue() : document.contact;
+        const QVariant contact = m_random.percent(20) ? nullValue() : document.contact;
         const QDate date = qMin(m_options.today, document.registered.addDays(m_random.below(8)));
-        related.add({m_relatedId, document.id, text, contact, TextOrNull(path), date});
+        related.add({m_relatedId, document.id, text, contact, textOrNull(path), date});
     }
 }
 
@@ -401,15 +402,15 @@ void SampleWriter::addReminders(InsertBatch& reminders, int documentId, const QD
     const int count = m_random.between(1, 2);
     for (int k = 0; k < count; ++k)
         reminders.add({++m_reminderId, documentId, registered.addDays(m_random.between(3, 40)),
-            m_random.pick(Reminders())});
+            m_random.pick(sampleReminders())});
 }
 
-bool RegisterIsEmpty(Connection& connection)
+bool registerIsEmpty(Connection& connection)
 {
     for (const QString& table : Tables) {
         Recordset count;
-        count.Open(QStringLiteral("SELECT COUNT(*) AS N FROM ") + table, connection);
-        if (count.Fields(QStringLiteral("N")).Value().toLongLong() != 0)
+        count.open(QStringLiteral("SELECT COUNT(*) AS N FROM ") + table, connection);
+        if (count.fields(QStringLiteral("N")).value().toLongLong() != 0)
             return false;
     }
     return true;
@@ -417,46 +418,46 @@ bool RegisterIsEmpty(Connection& connection)
 
 } // namespace
 
-QString SampleFilesFolder(const QString& registerPath)
+QString sampleFilesFolder(const QString& registerPath)
 {
     const QFileInfo info(registerPath);
     return info.absolutePath() + u'/' + info.completeBaseName() + QStringLiteral(" files");
 }
 
-void FillSampleRegister(const QString& registerPath, const SampleOptions& options)
+void fillSampleRegister(const QString& registerPath, const SampleOptions& options)
 {
     if (!options.today.isValid())
         throw Error(ErrorNumber::IllegalOperation,
             QStringLiteral("The sample needs a valid day to count back from."));
     const QString path = QFileInfo(registerPath).absoluteFilePath();
     Connection connection;
-    connection.Open(PlainConnectionString(JetProvider, path));
-    if (!RegisterIsEmpty(connection))
+    connection.open(plainConnectionString(JetProvider, path));
+    if (!registerIsEmpty(connection))
         throw Error(ErrorNumber::IllegalOperation,
             QStringLiteral("The register \"") + path
                 + QStringLiteral("\" already holds data; a sample goes into an empty one."));
 
-    SampleWriter writer(connection, options, SampleFilesFolder(path));
-    connection.BeginTrans();
+    SampleWriter writer(connection, options, sampleFilesFolder(path));
+    connection.beginTrans();
     try {
         writer.writeRows();
-        connection.CommitTrans();
+        connection.commitTrans();
     } catch (...) {
-        connection.RollbackTrans();
+        connection.rollbackTrans();
         throw;
     }
-    connection.Close();
+    connection.close();
 
     // The files come after the rows are stored, so a failed fill leaves none behind.
     QStringList folders = writer.folders();
-    folders.prepend(SampleFilesFolder(path));
+    folders.prepend(sampleFilesFolder(path));
     for (const QString& folder : std::as_const(folders)) {
         if (!QDir().mkpath(folder))
             throw Error(
                 ErrorNumber::PathFileAccess, QStringLiteral("Can't create the folder \"") + folder + u'"');
     }
     for (const PendingFile& file : writer.files()) {
-        if (!WriteSampleFile(file.path, file.content))
+        if (!writeSampleFile(file.path, file.content))
             throw Error(
                 ErrorNumber::PathFileAccess, QStringLiteral("Can't write the file \"") + file.path + u'"');
     }

@@ -19,12 +19,12 @@ struct SampleOptions
 };
 
 // The folder beside a register that holds its sample files: "<folder>/<base name> files".
-QString SampleFilesFolder(const QString& registerPath);
+QString sampleFilesFolder(const QString& registerPath);
 
-// Fills an existing, empty register (made by CreateRegister) with realistic data:
+// Fills an existing, empty register (made by createRegister) with realistic data:
 // categories with mnemonics, folders and subcategories; contacts with Lithuanian names,
 // phones and web pages; documents in all four directions, some without contact, file,
 // category or notes; related documents; reminders. Throws kartella::Error on failure.
-void FillSampleRegister(const QString& registerPath, const SampleOptions& options = {});
+void fillSampleRegister(const QString& registerPath, const SampleOptions& options = {});
 
 } // namespace kartella

@@ -1,8 +1,8 @@
 #include "store/Schema.h"
 
+#include "base/Error.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
-#include "support/Error.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -121,7 +121,7 @@ QString subCategoryTrigger()
 
 } // namespace
 
-void CreateRegisterSchema(Connection& connection)
+void createRegisterSchema(Connection& connection)
 {
     QStringList statements = tableStatements();
     statements += indexStatements();
@@ -130,10 +130,10 @@ void CreateRegisterSchema(Connection& connection)
     statements << QStringLiteral("PRAGMA application_id = ") + QString::number(ApplicationId);
     statements << QStringLiteral("PRAGMA user_version = ") + QString::number(SchemaVersion);
     for (const QString& sql : std::as_const(statements))
-        connection.Execute(sql);
+        connection.execute(sql);
 }
 
-void CreateRegister(const QString& path)
+void createRegister(const QString& path)
 {
     const QString nativePath = QFileInfo(path).absoluteFilePath();
     if (QFileInfo::exists(nativePath))
@@ -149,11 +149,11 @@ void CreateRegister(const QString& path)
 
     try {
         Connection connection;
-        connection.Open(PlainConnectionString(JetProvider, nativePath));
-        connection.BeginTrans();
-        CreateRegisterSchema(connection);
-        connection.CommitTrans();
-        connection.Close();
+        connection.open(plainConnectionString(JetProvider, nativePath));
+        connection.beginTrans();
+        createRegisterSchema(connection);
+        connection.commitTrans();
+        connection.close();
     } catch (...) {
         QFile::remove(nativePath);
         throw;

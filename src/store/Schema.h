@@ -11,10 +11,10 @@ class Connection;
 inline constexpr const char* NameCollation = "NAMEFOLD";
 
 // Makes the register's tables, keys, views and triggers on an open, empty connection.
-void CreateRegisterSchema(Connection& connection);
+void createRegisterSchema(Connection& connection);
 
 // Creates a new, empty register file at path; refuses (kartella::Error) when a file is
 // already there or the folder can't be written.
-void CreateRegister(const QString& path);
+void createRegister(const QString& path);
 
 } // namespace kartella

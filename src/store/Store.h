@@ -9,27 +9,27 @@ namespace kartella {
 
 // The connection string forms, each built from the options Provider and DbLocation as
 // they stand at the moment of the call. Note the blank after "Data Source=".
-QString PlainConnectionString(); // "Provider=P;Data Source= L"
-QString UpperConnectionString(); // "PROVIDER=P;Data Source= L"
-QString ShapeConnectionString(); // "PROVIDER=MSDataShape;Data Provider=P;Data Source= L"
-QString ShapePrefixConnectionString(); // "PROVIDER=MSDataShape;Data " + the plain form
-QString ShapeUpperConnectionString(); // "PROVIDER=MSDataShape;Data PROVIDER=P;Data Source= L;"
+QString plainConnectionString(); // "Provider=P;Data Source= L"
+QString upperConnectionString(); // "PROVIDER=P;Data Source= L"
+QString shapeConnectionString(); // "PROVIDER=MSDataShape;Data Provider=P;Data Source= L"
+QString shapePrefixConnectionString(); // "PROVIDER=MSDataShape;Data " + the plain form
+QString shapeUpperConnectionString(); // "PROVIDER=MSDataShape;Data PROVIDER=P;Data Source= L;"
 
 // The same forms from given values.
-QString PlainConnectionString(const QString& provider, const QString& location);
-QString UpperConnectionString(const QString& provider, const QString& location);
-QString ShapeConnectionString(const QString& provider, const QString& location);
-QString ShapePrefixConnectionString(const QString& provider, const QString& location);
-QString ShapeUpperConnectionString(const QString& provider, const QString& location);
+QString plainConnectionString(const QString& provider, const QString& location);
+QString upperConnectionString(const QString& provider, const QString& location);
+QString shapeConnectionString(const QString& provider, const QString& location);
+QString shapePrefixConnectionString(const QString& provider, const QString& location);
+QString shapeUpperConnectionString(const QString& provider, const QString& location);
 
 // The mark a database Null shows as in a list.
 inline const QString NullMark = QStringLiteral("*_*_*_*");
 
 // value itself, or "*_*_*_*" for Null.
-QVariant NullToMark(const QVariant& value);
+QVariant nullToMark(const QVariant& value);
 // value itself, or defaultValue for Null.
-QVariant NullToDefault(const QVariant& value, const QVariant& defaultValue);
+QVariant nullToDefault(const QVariant& value, const QVariant& defaultValue);
 // The text of a value for a list: Null as the mark, dates in the system's short date form.
-QString DisplayText(const QVariant& value);
+QString displayText(const QVariant& value);
 
 } // namespace kartella

@@ -16,7 +16,7 @@ BoundList::BoundList(QComboBox* box, QObject* parent)
     connect(m_box, &QComboBox::activated, this, &BoundList::onActivated);
 }
 
-void BoundList::SetRowSource(Recordset* rows, const QString& listField, const QString& boundColumn)
+void BoundList::setRowSource(Recordset* rows, const QString& listField, const QString& boundColumn)
 {
     if (m_rows)
         disconnect(m_rows, nullptr, this, nullptr);
@@ -24,16 +24,16 @@ void BoundList::SetRowSource(Recordset* rows, const QString& listField, const QS
     m_listField = listField;
     m_boundColumn = boundColumn;
     if (m_rows)
-        connect(m_rows, &Recordset::RecordsetChangeComplete, this, &BoundList::Refill);
-    Refill();
+        connect(m_rows, &Recordset::recordsetChangeComplete, this, &BoundList::refill);
+    refill();
 }
 
-void BoundList::Refill()
+void BoundList::refill()
 {
     m_filling = true;
     m_box->clear();
-    if (m_rows && m_rows->IsOpen()) {
-        const QStringList names = m_rows->FieldNames();
+    if (m_rows && m_rows->isOpen()) {
+        const QStringList names = m_rows->fieldNames();
         const auto column = [&names](const QString& name) {
             for (int i = 0; i < names.size(); ++i) {
                 if (names[i].compare(name, Qt::CaseInsensitive) == 0)
@@ -44,11 +44,11 @@ void BoundList::Refill()
         const int shown = column(m_listField);
         const int bound = column(m_boundColumn);
         if (shown >= 0 && bound >= 0) {
-            const int count = m_rows->RecordCount();
+            const int count = m_rows->recordCount();
             for (int row = 0; row < count; ++row) {
-                const QVariant text = m_rows->RowValue(row, shown);
+                const QVariant text = m_rows->rowValue(row, shown);
                 m_box->addItem(
-                    IsNull(text) ? QString() : text.toString(), keyText(m_rows->RowValue(row, bound)));
+                    isNull(text) ? QString() : text.toString(), keyText(m_rows->rowValue(row, bound)));
             }
         }
     }
@@ -56,7 +56,7 @@ void BoundList::Refill()
     m_filling = false;
 }
 
-void BoundList::SetValue(const QVariant& key)
+void BoundList::setValue(const QVariant& key)
 {
     const QString text = keyText(key);
     if (text == m_value) {
@@ -65,10 +65,10 @@ void BoundList::SetValue(const QVariant& key)
     }
     m_value = text;
     showValue();
-    Q_EMIT Change();
+    Q_EMIT changed();
 }
 
-QString BoundList::Text() const
+QString BoundList::text() const
 {
     return m_box->currentIndex() >= 0 ? m_box->currentText() : QString();
 }
@@ -77,7 +77,7 @@ void BoundList::onActivated(int index)
 {
     if (m_filling || index < 0)
         return;
-    SetValue(m_box->itemData(index));
+    setValue(m_box->itemData(index));
 }
 
 void BoundList::showValue()
@@ -89,7 +89,7 @@ void BoundList::showValue()
 
 QString BoundList::keyText(const QVariant& key)
 {
-    return IsNull(key) ? QString() : key.toString().trimmed();
+    return isNull(key) ? QString() : key.toString().trimmed();
 }
 
 } // namespace kartella

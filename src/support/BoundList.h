@@ -20,8 +20,8 @@ namespace kartella {
 // the value to a field of the row being edited.
 //
 //     auto* category = new BoundList(cmbCategory, this);
-//     category->SetRowSource(adodc3, "DokKategorija", "KategID");
-//     connect(category, &BoundList::Change, this, &Dialog::cmbCategory_Change);
+//     category->setRowSource(adodc3, "DokKategorija", "KategID");
+//     connect(category, &BoundList::changed, this, &Dialog::onCategoryChanged);
 class BoundList : public QObject
 {
     Q_OBJECT
@@ -33,21 +33,21 @@ public:
     QComboBox* box() const { return m_box; }
 
     // Fills the box from rows (not owned): listField is shown, boundColumn is the value.
-    void SetRowSource(Recordset* rows, const QString& listField, const QString& boundColumn);
+    void setRowSource(Recordset* rows, const QString& listField, const QString& boundColumn);
     // Fills the box again from the row source as it stands; the value stays.
-    void Refill();
+    void refill();
 
     // The key chosen, as text; empty text for none.
-    QString Value() const { return m_value; }
+    QString value() const { return m_value; }
     // Chooses the item of key (a number or text; Null or empty text for none). Raises Change
     // when the value differs.
-    void SetValue(const QVariant& key);
+    void setValue(const QVariant& key);
     // The shown text of the chosen item; empty when none.
-    QString Text() const;
+    QString text() const;
 
 Q_SIGNALS:
-    // The value changed, by the user's choice or by SetValue.
-    void Change();
+    // The value changed, by the user's choice or by setValue.
+    void changed();
 
 private:
     void onActivated(int index);

@@ -23,12 +23,12 @@ EnterAsTab::EnterAsTab(QWidget* dialog)
     dialog->installEventFilter(this);
 }
 
-void EnterAsTab::Watch(QWidget* box)
+void EnterAsTab::watch(QWidget* box)
 {
-    OnEnter(box, [box] { FocusNext(box); });
+    onEnter(box, [box] { focusNext(box); });
 }
 
-void EnterAsTab::OnEnter(QWidget* widget, std::function<void()> handler)
+void EnterAsTab::onEnter(QWidget* widget, std::function<void()> handler)
 {
     if (!m_enter.contains(widget)) {
         widget->installEventFilter(this);
@@ -37,7 +37,7 @@ void EnterAsTab::OnEnter(QWidget* widget, std::function<void()> handler)
     m_enter.insert(widget, std::move(handler));
 }
 
-void EnterAsTab::OnEscape(std::function<bool()> handler)
+void EnterAsTab::onEscape(std::function<bool()> handler)
 {
     m_escape = std::move(handler);
 }
@@ -47,7 +47,7 @@ void EnterAsTab::forget(QObject* widget)
     m_enter.remove(widget);
 }
 
-void EnterAsTab::SendKey(QWidget* widget, int key, Qt::KeyboardModifiers modifiers)
+void EnterAsTab::sendKey(QWidget* widget, int key, Qt::KeyboardModifiers modifiers)
 {
     QKeyEvent press(QEvent::KeyPress, key, modifiers);
     QCoreApplication::sendEvent(widget, &press);
@@ -55,11 +55,11 @@ void EnterAsTab::SendKey(QWidget* widget, int key, Qt::KeyboardModifiers modifie
     QCoreApplication::sendEvent(widget, &release);
 }
 
-void EnterAsTab::FocusNext(QWidget* widget)
+void EnterAsTab::focusNext(QWidget* widget)
 {
     // The window moves the focus on a Tab it receives itself, whatever the focused box would
     // do with one (a multi-line box would insert it).
-    SendKey(widget->window(), Qt::Key_Tab);
+    sendKey(widget->window(), Qt::Key_Tab);
 }
 
 bool EnterAsTab::eventFilter(QObject* watched, QEvent* event)

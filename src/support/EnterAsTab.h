@@ -16,8 +16,8 @@ namespace kartella {
 //
 //     auto* keys = new EnterAsTab(this);
 //     keys->Watch(txtDescription);
-//     keys->OnEnter(grid, [this] { moveToNextCell(); });
-//     keys->OnEscape([this] { return askBeforeClosing(); });
+//     keys->onEnter(grid, [this] { moveToNextCell(); });
+//     keys->onEscape([this] { return askBeforeClosing(); });
 class EnterAsTab : public QObject
 {
     Q_OBJECT
@@ -27,17 +27,17 @@ public:
     explicit EnterAsTab(QWidget* dialog);
 
     // Enter in box acts as Tab.
-    void Watch(QWidget* box);
+    void watch(QWidget* box);
     // Enter in widget (or in an editor inside it that leaves the key alone) runs handler.
-    void OnEnter(QWidget* widget, std::function<void()> handler);
+    void onEnter(QWidget* widget, std::function<void()> handler);
     // Esc in the dialog runs handler; true from it drops the key, false leaves the key to the
     // dialog (whose own Esc rejects it).
-    void OnEscape(std::function<bool()> handler);
+    void onEscape(std::function<bool()> handler);
 
     // Sends one key press and release to widget, as if typed there.
-    static void SendKey(QWidget* widget, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    static void sendKey(QWidget* widget, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     // Moves the focus of widget's window on, as Tab does.
-    static void FocusNext(QWidget* widget);
+    static void focusNext(QWidget* widget);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

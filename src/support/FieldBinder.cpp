@@ -1,9 +1,9 @@
 #include "support/FieldBinder.h"
 
+#include "base/Error.h"
 #include "store/engine/Recordset.h"
 #include "store/engine/Value.h"
 #include "support/BoundList.h"
-#include "support/Error.h"
 
 #include <QComboBox>
 #include <QDate>
@@ -37,7 +37,7 @@ struct FieldBinder::Binding
         case Kind::RichText:
             return static_cast<QTextEdit*>(target.data())->toPlainText();
         case Kind::List:
-            return static_cast<BoundList*>(target.data())->Value();
+            return static_cast<BoundList*>(target.data())->value();
         }
         return {};
     }
@@ -56,7 +56,7 @@ struct FieldBinder::Binding
             static_cast<QTextEdit*>(target.data())->setPlainText(text);
             break;
         case Kind::List:
-            static_cast<BoundList*>(target.data())->SetValue(text);
+            static_cast<BoundList*>(target.data())->setValue(text);
             break;
         }
     }
@@ -71,7 +71,7 @@ struct FieldBinder::Binding
     // The field's value as the box shows it.
     QString display(const QVariant& value) const
     {
-        if (IsNull(value))
+        if (isNull(value))
             return {};
         if (kind == Kind::Date && value.typeId() == QMetaType::QDate)
             return value.toDate().toString(format);
@@ -100,9 +100,9 @@ FieldBinder::FieldBinder(Recordset* recordset, QObject* parent)
 {
     if (!recordset)
         return;
-    connect(recordset, &Recordset::MoveComplete, this, &FieldBinder::Show);
-    connect(recordset, &Recordset::RecordsetChangeComplete, this, &FieldBinder::Show);
-    connect(recordset, &Recordset::FieldChangeComplete, this, &FieldBinder::onFieldChanged);
+    connect(recordset, &Recordset::moveComplete, this, &FieldBinder::show);
+    connect(recordset, &Recordset::recordsetChangeComplete, this, &FieldBinder::show);
+    connect(recordset, &Recordset::fieldChangeComplete, this, &FieldBinder::onFieldChanged);
 }
 
 FieldBinder::~FieldBinder()
@@ -110,35 +110,35 @@ FieldBinder::~FieldBinder()
     qDeleteAll(m_bindings);
 }
 
-void FieldBinder::Bind(QLineEdit* box, const QString& field)
+void FieldBinder::bind(QLineEdit* box, const QString& field)
 {
     add(new Binding {Binding::Kind::Line, box, field, {}, {}});
     connect(box, &QLineEdit::textChanged, this, [this, binding = m_bindings.last()] { write(*binding); });
 }
 
-void FieldBinder::BindDate(QLineEdit* box, const QString& field, const QString& displayFormat)
+void FieldBinder::bindDate(QLineEdit* box, const QString& field, const QString& displayFormat)
 {
     add(new Binding {Binding::Kind::Date, box, field, displayFormat, {}});
     connect(box, &QLineEdit::textChanged, this, [this, binding = m_bindings.last()] { write(*binding); });
 }
 
-void FieldBinder::Bind(QPlainTextEdit* box, const QString& field)
+void FieldBinder::bind(QPlainTextEdit* box, const QString& field)
 {
     add(new Binding {Binding::Kind::PlainText, box, field, {}, {}});
     connect(
         box, &QPlainTextEdit::textChanged, this, [this, binding = m_bindings.last()] { write(*binding); });
 }
 
-void FieldBinder::Bind(QTextEdit* box, const QString& field)
+void FieldBinder::bind(QTextEdit* box, const QString& field)
 {
     add(new Binding {Binding::Kind::RichText, box, field, {}, {}});
     connect(box, &QTextEdit::textChanged, this, [this, binding = m_bindings.last()] { write(*binding); });
 }
 
-void FieldBinder::Bind(BoundList* list, const QString& field)
+void FieldBinder::bind(BoundList* list, const QString& field)
 {
     add(new Binding {Binding::Kind::List, list, field, {}, {}});
-    connect(list, &BoundList::Change, this, [this, binding = m_bindings.last()] { write(*binding); });
+    connect(list, &BoundList::changed, this, [this, binding = m_bindings.last()] { write(*binding); });
 }
 
 void FieldBinder::add(Binding* binding)
@@ -147,7 +147,7 @@ void FieldBinder::add(Binding* binding)
     showBinding(*binding);
 }
 
-void FieldBinder::Show()
+void FieldBinder::show()
 {
     for (Binding* binding : std::as_const(m_bindings))
         showBinding(*binding);
@@ -158,9 +158,9 @@ void FieldBinder::showBinding(Binding& binding)
     if (!binding.target)
         return;
     QVariant value;
-    if (m_recordset && m_recordset->IsOpen() && !m_recordset->Eof() && !m_recordset->Bof()) {
+    if (m_recordset && m_recordset->isOpen() && !m_recordset->eof() && !m_recordset->bof()) {
         try {
-            value = m_recordset->Fields(binding.field).Value();
+            value = m_recordset->fields(binding.field).value();
         } catch (const Error&) {
             value = QVariant(); // a deleted row or an unknown field shows as empty
         }
@@ -180,12 +180,12 @@ void FieldBinder::write(Binding& binding)
     QVariant value;
     binding.problem.clear();
     if (binding.kind == Binding::Kind::Date && !text.trimmed().isEmpty()) {
-        const QDate date = ReadDate(text, binding.format);
+        const QDate date = readDate(text, binding.format);
         if (!date.isValid()) {
             binding.problem = QStringLiteral("\"") % text % QStringLiteral("\" in \"")
                 % labelOf(binding.widget()) % QStringLiteral("\" isn't a date. Type the date as ")
                 % binding.format % QStringLiteral(", please.");
-            Q_EMIT Changed();
+            Q_EMIT changed();
             return;
         }
         value = date;
@@ -195,12 +195,12 @@ void FieldBinder::write(Binding& binding)
     Binding* const outer = m_writing;
     m_writing = &binding;
     try {
-        m_recordset->Fields(binding.field).SetValue(value);
+        m_recordset->fields(binding.field).setValue(value);
     } catch (const Error& error) {
         binding.problem = labelOf(binding.widget()) % QStringLiteral(": ") % error.description();
     }
     m_writing = outer;
-    Q_EMIT Changed();
+    Q_EMIT changed();
 }
 
 void FieldBinder::onFieldChanged(const QString& name)
@@ -211,7 +211,7 @@ void FieldBinder::onFieldChanged(const QString& name)
     }
 }
 
-void FieldBinder::Validate() const
+void FieldBinder::validate() const
 {
     for (const Binding* binding : m_bindings) {
         if (binding->target && !binding->problem.isEmpty())
@@ -219,7 +219,7 @@ void FieldBinder::Validate() const
     }
 }
 
-bool FieldBinder::IsValid() const
+bool FieldBinder::isValid() const
 {
     for (const Binding* binding : m_bindings) {
         if (binding->target && !binding->problem.isEmpty())
@@ -228,7 +228,7 @@ bool FieldBinder::IsValid() const
     return true;
 }
 
-QDate FieldBinder::ReadDate(const QString& text, const QString& displayFormat)
+QDate FieldBinder::readDate(const QString& text, const QString& displayFormat)
 {
     const QString trimmed = text.trimmed();
     if (trimmed.isEmpty())

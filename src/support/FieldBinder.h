@@ -19,8 +19,8 @@ class BoundList;
 
 // Binds the boxes of a dialog to the fields of its row recordset, by field name: each box
 // shows the field of the current row and follows the recordset when it moves or its rows
-// change; what is typed (or set by code) goes straight into the field with Field::SetValue,
-// so that Update or UpdateBatch store it. Boxes may be hidden (key fields, codes).
+// change; what is typed (or set by code) goes straight into the field with Field::setValue,
+// so that update or updateBatch store it. Boxes may be hidden (key fields, codes).
 //
 // A date box shows its field in a display format ("yyyy.MM.dd") and reads typed text in
 // that format or in the other forms a date may be typed in (the system's short form, ISO).
@@ -29,11 +29,11 @@ class BoundList;
 //
 //     FieldBinder binder(rowRecordset);
 //     binder.Bind(txtDescription, "DokAntraste");
-//     binder.BindDate(txtDate, "DokRegistracData", "yyyy.MM.dd");
+//     binder.bindDate(txtDate, "DokRegistracData", "yyyy.MM.dd");
 //     binder.Bind(categoryList, "KategID");
 //     ...
 //     binder.Validate();  // throws kartella::Error 13 for an unreadable date
-//     rowRecordset->UpdateBatch(AffectEnum::All);
+//     rowRecordset->updateBatch(AffectEnum::All);
 class FieldBinder : public QObject
 {
     Q_OBJECT
@@ -44,29 +44,29 @@ public:
 
     Recordset* recordset() const { return m_recordset; }
 
-    void Bind(QLineEdit* box, const QString& field);
-    void Bind(QPlainTextEdit* box, const QString& field);
-    void Bind(QTextEdit* box, const QString& field);
-    void Bind(BoundList* list, const QString& field);
-    void BindDate(QLineEdit* box, const QString& field, const QString& displayFormat);
+    void bind(QLineEdit* box, const QString& field);
+    void bind(QPlainTextEdit* box, const QString& field);
+    void bind(QTextEdit* box, const QString& field);
+    void bind(BoundList* list, const QString& field);
+    void bindDate(QLineEdit* box, const QString& field, const QString& displayFormat);
 
     // Shows the current row's values in every bound box (empty boxes when there is none).
-    void Show();
+    void show();
     // Throws kartella::Error 13 (type mismatch) naming the first box whose text its field
     // couldn't take.
-    void Validate() const;
+    void validate() const;
     // Whether every bound box's text went into its field.
-    bool IsValid() const;
+    bool isValid() const;
 
     // The date of text as a date box reads it: the display format first, then ISO
     // ("yyyy-MM-dd"), "yyyy.MM.dd", the short date forms of the system's and of the
     // application's locale (a two-digit year as 1930 to 2029), "M/d/yyyy". Invalid when
     // none reads it.
-    static QDate ReadDate(const QString& text, const QString& displayFormat);
+    static QDate readDate(const QString& text, const QString& displayFormat);
 
 Q_SIGNALS:
     // A bound box's value changed by typing or by code (not by showing a row).
-    void Changed();
+    void changed();
 
 private:
     struct Binding;

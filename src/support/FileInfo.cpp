@@ -106,12 +106,12 @@ QIcon iconFromEntry(const QString& entry)
 
 } // namespace
 
-void CFileInfo::clear()
+void FileInfo::clear()
 {
-    *this = CFileInfo();
+    *this = FileInfo();
 }
 
-void CFileInfo::describe(const QFileInfo& info, bool byFileItself)
+void FileInfo::describe(const QFileInfo& info, bool byFileItself)
 {
     m_isFolder = info.isDir();
     m_displayName = QFileInfo(QDir::cleanPath(info.filePath())).fileName();
@@ -134,7 +134,7 @@ void CFileInfo::describe(const QFileInfo& info, bool byFileItself)
     m_typeName = type.comment();
 }
 
-void CFileInfo::CreateFromFile(const QString& path)
+void FileInfo::createFromFile(const QString& path)
 {
     clear();
     if (path.isEmpty())
@@ -147,7 +147,7 @@ void CFileInfo::CreateFromFile(const QString& path)
     m_itemType = FileOrFolder;
 }
 
-void CFileInfo::SetItem(const QString& path)
+void FileInfo::setItem(const QString& path)
 {
     clear();
     if (path.isEmpty())
@@ -159,10 +159,10 @@ void CFileInfo::SetItem(const QString& path)
         describe(info, false);
     } else {
         QString searched = path;
-        DenormalizePath(searched);
+        denormalizePath(searched);
         const QFileInfo info(searched);
         if (!info.exists())
-            MsgBox(QStringLiteral("API Error"), MsgBoxStyle::OkOnly | MsgBoxStyle::Critical,
+            msgBox(QStringLiteral("API Error"), MsgBoxStyle::OkOnly | MsgBoxStyle::Critical,
                 QStringLiteral("Operating System Error"));
         describe(info, false);
     }
@@ -170,21 +170,21 @@ void CFileInfo::SetItem(const QString& path)
     m_itemType = FileOrFolder;
 }
 
-QString CFileInfo::DisplayName() const
+QString FileInfo::displayName() const
 {
     if (m_itemType == Nothing || m_displayName.isEmpty())
         return QStringLiteral("Unknown");
     return m_displayName;
 }
 
-QString CFileInfo::TypeName() const
+QString FileInfo::typeName() const
 {
     if (m_itemType == Nothing || m_typeName.isEmpty())
         return QStringLiteral("None");
     return m_typeName;
 }
 
-QIcon CFileInfo::typeIcon() const
+QIcon FileInfo::typeIcon() const
 {
     if (!m_launcherIcon.isEmpty()) {
         const QIcon own = iconFromEntry(m_launcherIcon);
@@ -202,7 +202,7 @@ QIcon CFileInfo::typeIcon() const
     return plainIcon(m_isFolder);
 }
 
-QIcon CFileInfo::icon(int size) const
+QIcon FileInfo::icon(int size) const
 {
     if (m_itemType == Nothing)
         return {};
@@ -211,31 +211,31 @@ QIcon CFileInfo::icon(int size) const
     return pixmap.isNull() ? base : QIcon(pixmap);
 }
 
-QIcon CFileInfo::SmallIcon() const
+QIcon FileInfo::smallIcon() const
 {
     return icon(SmallSize);
 }
 
-QIcon CFileInfo::LargeIcon() const
+QIcon FileInfo::largeIcon() const
 {
     return icon(LargeSize);
 }
 
-QIcon CFileInfo::ShellIcon() const
+QIcon FileInfo::shellIcon() const
 {
     return icon(ShellSize);
 }
 
-CFileInfo* GetFileInfoObject(const QString& path)
+FileInfo* getFileInfoObject(const QString& path)
 {
     if (path.isEmpty() || !QFileInfo::exists(path))
         return nullptr;
-    static CFileInfo shared;
-    shared.CreateFromFile(path);
+    static FileInfo shared;
+    shared.createFromFile(path);
     return &shared;
 }
 
-void UseIconThemeFallback()
+void useIconThemeFallback()
 {
     const QString adwaita = QStringLiteral("Adwaita");
     QIcon::setFallbackThemeName(adwaita);
@@ -253,7 +253,7 @@ void UseIconThemeFallback()
     QIcon::setThemeSearchPaths(searchPaths);
 }
 
-QString NoFileIconPath()
+QString noFileIconPath()
 {
     return QCoreApplication::applicationDirPath() % QStringLiteral("/snow.ico");
 }

@@ -11,8 +11,8 @@ namespace kartella {
 // is the name a file manager shows; the type name is the comment of the file's MIME type
 // (found by name, by content only when the name tells nothing); the icons come from the
 // icon theme. A desktop launcher (.desktop file) stands for a shortcut: its type name is
-// "Shortcut" and, read through CreateFromFile, its icon is its own.
-class CFileInfo
+// "Shortcut" and, read through createFromFile, its icon is its own.
+class FileInfo
 {
 public:
     // What the object describes.
@@ -20,26 +20,26 @@ public:
 
     // Describes an existing file by the file itself (a launcher gets its own icon). A
     // path that isn't there leaves the object empty.
-    void CreateFromFile(const QString& path);
+    void createFromFile(const QString& path);
 
     // Describes path by its name and kind, the icon being that of its type. One trailing
     // separator is ignored. A path that isn't there is reported ("API Error", title
     // "Operating System Error") and then described by its name alone. A drive root
     // ("C:\", or "/" here) isn't searched for.
-    void SetItem(const QString& path);
+    void setItem(const QString& path);
 
-    QString Item() const { return m_item; }
-    int ItemType() const { return m_itemType; }
+    QString item() const { return m_item; }
+    int itemType() const { return m_itemType; }
     // "Unknown" when empty or when the object describes nothing.
-    QString DisplayName() const;
+    QString displayName() const;
     // "None" when empty or when the object describes nothing.
-    QString TypeName() const;
+    QString typeName() const;
 
     // 16 pixels, 32 pixels, and the size the desktop uses for shell items (32); a null
     // icon when the object describes nothing.
-    QIcon SmallIcon() const;
-    QIcon LargeIcon() const;
-    QIcon ShellIcon() const;
+    QIcon smallIcon() const;
+    QIcon largeIcon() const;
+    QIcon shellIcon() const;
 
 private:
     void clear();
@@ -56,16 +56,16 @@ private:
     bool m_isFolder = false;
 };
 
-// The one shared object, filled by CreateFromFile for path; nullptr when path isn't
+// The one shared object, filled by createFromFile for path; nullptr when path isn't
 // there. Each call overwrites what the last one read.
-CFileInfo* GetFileInfoObject(const QString& path);
+FileInfo* getFileInfoObject(const QString& path);
 
 // Makes "Adwaita" the theme in which icons missing from the current theme are looked for
 // (and the theme itself where the platform names none), and lets the icon loader search
 // the system's icon folders. Called once at start-up.
-void UseIconThemeFallback();
+void useIconThemeFallback();
 
 // The picture of a document whose file can't be reached: snow.ico in the program's folder.
-QString NoFileIconPath();
+QString noFileIconPath();
 
 } // namespace kartella

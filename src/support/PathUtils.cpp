@@ -1,6 +1,6 @@
 #include "support/PathUtils.h"
 
-#include "support/Error.h"
+#include "base/Error.h"
 
 #include <QDir>
 
@@ -31,7 +31,7 @@ int findRootEnd(const QString& full)
     if (isSeparator(first)) {
         // A network name: two separators, the server, then the separator that ends the root.
         if (full.size() < 2 || !isSeparator(full.at(1)))
-            RaiseApiError(BadPathName);
+            raiseApiError(BadPathName);
         for (qsizetype i = 2; i < full.size(); ++i) {
             if (isSeparator(full.at(i)))
                 return int(i);
@@ -39,7 +39,7 @@ int findRootEnd(const QString& full)
         return int(full.size()) - 1;
     }
     if (first > QLatin1Char('Z'))
-        RaiseApiError(BadPathName);
+        raiseApiError(BadPathName);
     return -1;
 }
 
@@ -47,7 +47,7 @@ QString expand(const QString& path)
 {
     const QString base = QDir::currentPath();
     if (QDir::isRelativePath(path) && base.isEmpty())
-        RaiseApiError(PathNotFound);
+        raiseApiError(PathNotFound);
     QString full = QDir::cleanPath(QDir(base).absoluteFilePath(path));
     if (isSeparator(path.back()) && !full.endsWith(QLatin1Char('/')))
         full += QLatin1Char('/');
@@ -56,25 +56,25 @@ QString expand(const QString& path)
 
 } // namespace
 
-bool HasShell()
+bool hasShell()
 {
     return true;
 }
 
-QString NormalizePath(const QString& path)
+QString normalizePath(const QString& path)
 {
     if (path.isEmpty() || path.back() != QDir::separator())
         return path % QDir::separator();
     return path;
 }
 
-void DenormalizePath(QString& path)
+void denormalizePath(QString& path)
 {
     if (!path.isEmpty() && path.back() == QDir::separator())
         path.chop(1);
 }
 
-QString GetFullPath(const QString& path, FullPathParts& parts)
+QString getFullPath(const QString& path, FullPathParts& parts)
 {
     if (path.isEmpty())
         return {};
@@ -98,31 +98,31 @@ QString GetFullPath(const QString& path, FullPathParts& parts)
     return full;
 }
 
-QString GetFullPath(const QString& path, int& namePosition, int& extensionPosition, int& rootEnd)
+QString getFullPath(const QString& path, int& namePosition, int& extensionPosition, int& rootEnd)
 {
     FullPathParts parts {namePosition, extensionPosition, rootEnd};
-    QString full = GetFullPath(path, parts);
+    QString full = getFullPath(path, parts);
     namePosition = parts.name;
     extensionPosition = parts.extension;
     rootEnd = parts.rootEnd;
     return full;
 }
 
-QString GetFileBaseExt(const QString& path)
+QString getFileBaseExt(const QString& path)
 {
     if (path.isEmpty())
         return {};
     FullPathParts parts;
-    return GetFullPath(path, parts).mid(parts.name);
+    return getFullPath(path, parts).mid(parts.name);
 }
 
-QString TrimAtNull(const QString& text)
+QString trimAtNull(const QString& text)
 {
     const qsizetype at = text.indexOf(QChar(0));
     return at < 0 ? text : text.left(at);
 }
 
-QString ApiErrorText(qint32 code)
+QString apiErrorText(qint32 code)
 {
     switch (code) {
     case 2:
@@ -142,14 +142,14 @@ QString ApiErrorText(qint32 code)
     }
 }
 
-long ApiErrorNumber(qint32 code)
+long apiErrorNumber(qint32 code)
 {
     return long(qint32(quint32(code) + 0x80047148u));
 }
 
-void RaiseApiError(qint32 code)
+void raiseApiError(qint32 code)
 {
-    throw Error(ApiErrorNumber(code), ApiErrorText(code), QStringLiteral("Kartella.Windows"));
+    throw Error(apiErrorNumber(code), apiErrorText(code), QStringLiteral("Kartella.Windows"));
 }
 
 } // namespace kartella

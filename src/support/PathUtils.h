@@ -7,16 +7,16 @@ namespace kartella {
 // Path routines over the platform's separator (QDir::separator(): "/" here, "\" on Windows).
 
 // Whether file operations go through the desktop shell: always, where the program runs.
-bool HasShell();
+bool hasShell();
 
 // The path with one separator at its end: one is added when the last character isn't a
 // separator; an empty path gives a single separator.
-QString NormalizePath(const QString& path);
+QString normalizePath(const QString& path);
 
 // Removes one separator from the end of path, if there is one (only one).
-void DenormalizePath(QString& path);
+void denormalizePath(QString& path);
 
-// Positions found by GetFullPath, as indexes into its result.
+// Positions found by getFullPath, as indexes into its result.
 struct FullPathParts
 {
     int name = 0; // first character of the name (the length for a path ending in a separator)
@@ -27,23 +27,23 @@ struct FullPathParts
 // The absolute form of path: relative to the current folder, "." and ".." resolved, a
 // trailing separator kept. An empty path gives empty text and leaves parts alone.
 // Throws kartella::Error when the path can't be expanded.
-QString GetFullPath(const QString& path, FullPathParts& parts);
-QString GetFullPath(const QString& path, int& namePosition, int& extensionPosition, int& rootEnd);
+QString getFullPath(const QString& path, FullPathParts& parts);
+QString getFullPath(const QString& path, int& namePosition, int& extensionPosition, int& rootEnd);
 
 // The file name with its extension: what follows the last separator of the full path.
 // Empty for an empty path and for a folder path with a final separator.
-QString GetFileBaseExt(const QString& path);
+QString getFileBaseExt(const QString& path);
 
 // The text before its first NUL character; all of it when there is none.
-QString TrimAtNull(const QString& text);
+QString trimAtNull(const QString& text);
 
 // The system's text for an error code of the operating system's file interface
 // (2, 3, 5, 123, 161, 206); empty for a code it doesn't know.
-QString ApiErrorText(qint32 code);
+QString apiErrorText(qint32 code);
 // The number that an operating system error travels under: code + 0x80047148.
-long ApiErrorNumber(qint32 code);
-// Throws kartella::Error for an operating system error code: ApiErrorNumber(code), the
+long apiErrorNumber(qint32 code);
+// Throws kartella::Error for an operating system error code: apiErrorNumber(code), the
 // code's text, source "Kartella.Windows".
-[[noreturn]] void RaiseApiError(qint32 code);
+[[noreturn]] void raiseApiError(qint32 code);
 
 } // namespace kartella

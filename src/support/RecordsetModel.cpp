@@ -1,9 +1,9 @@
 #include "support/RecordsetModel.h"
 
+#include "base/Error.h"
 #include "platform/Prompter.h"
 #include "store/engine/Recordset.h"
 #include "store/engine/Value.h"
-#include "support/Error.h"
 
 #include <QDate>
 #include <QDateTime>
@@ -18,22 +18,22 @@ RecordsetModel::RecordsetModel(QObject* parent)
     , m_dateFormat(QLocale::system().dateFormat(QLocale::ShortFormat))
 { }
 
-void RecordsetModel::SetRecordset(Recordset* recordset)
+void RecordsetModel::setRecordset(Recordset* recordset)
 {
     if (m_recordset)
         disconnect(m_recordset, nullptr, this, nullptr);
     beginResetModel();
     m_recordset = recordset;
-    m_fields = recordset && recordset->IsOpen() ? recordset->FieldNames() : QStringList();
+    m_fields = recordset && recordset->isOpen() ? recordset->fieldNames() : QStringList();
     endResetModel();
     if (!recordset)
         return;
-    connect(recordset, &Recordset::RecordsetChangeComplete, this, [this] {
+    connect(recordset, &Recordset::recordsetChangeComplete, this, [this] {
         if (!m_self)
             reload();
     });
-    connect(recordset, &Recordset::FieldChangeComplete, this, &RecordsetModel::onFieldChanged);
-    connect(recordset, &Recordset::MoveComplete, this, &RecordsetModel::onMoved);
+    connect(recordset, &Recordset::fieldChangeComplete, this, &RecordsetModel::onFieldChanged);
+    connect(recordset, &Recordset::moveComplete, this, &RecordsetModel::onMoved);
     connect(recordset, &QObject::destroyed, this, &RecordsetModel::reload);
     onMoved();
 }
@@ -41,29 +41,29 @@ void RecordsetModel::SetRecordset(Recordset* recordset)
 void RecordsetModel::reload()
 {
     beginResetModel();
-    m_fields = m_recordset && m_recordset->IsOpen() ? m_recordset->FieldNames() : QStringList();
+    m_fields = m_recordset && m_recordset->isOpen() ? m_recordset->fieldNames() : QStringList();
     endResetModel();
 }
 
-void RecordsetModel::SetColumnCaption(int column, const QString& caption)
+void RecordsetModel::setColumnCaption(int column, const QString& caption)
 {
     m_captions.insert(column, caption);
     Q_EMIT headerDataChanged(Qt::Horizontal, column, column);
 }
 
-void RecordsetModel::SetColumnWidth(int column, int twips)
+void RecordsetModel::setColumnWidth(int column, int twips)
 {
     m_widths.insert(column, twips);
     applyColumns();
 }
 
-void RecordsetModel::SetColumnHidden(int column, bool hidden)
+void RecordsetModel::setColumnHidden(int column, bool hidden)
 {
     m_hidden.insert(column, hidden);
     applyColumns();
 }
 
-void RecordsetModel::SetAllowAddNew(bool allow)
+void RecordsetModel::setAllowAddNew(bool allow)
 {
     if (allow == m_allowAddNew)
         return;
@@ -72,21 +72,21 @@ void RecordsetModel::SetAllowAddNew(bool allow)
     endResetModel();
 }
 
-bool RecordsetModel::IsNewRowLine(int row) const
+bool RecordsetModel::isNewRowLine(int row) const
 {
     return row == dataRows() && rowCount() > dataRows();
 }
 
 int RecordsetModel::dataRows() const
 {
-    return m_recordset && m_recordset->IsOpen() ? m_recordset->RecordCount() : 0;
+    return m_recordset && m_recordset->isOpen() ? m_recordset->recordCount() : 0;
 }
 
 int RecordsetModel::rowCount(const QModelIndex& parent) const
 {
-    if (parent.isValid() || !m_recordset || !m_recordset->IsOpen())
+    if (parent.isValid() || !m_recordset || !m_recordset->isOpen())
         return 0;
-    return dataRows() + (m_allowAddNew && m_recordset->IsUpdatable() ? 1 : 0);
+    return dataRows() + (m_allowAddNew && m_recordset->isUpdatable() ? 1 : 0);
 }
 
 int RecordsetModel::columnCount(const QModelIndex& parent) const
@@ -96,7 +96,7 @@ int RecordsetModel::columnCount(const QModelIndex& parent) const
 
 QString RecordsetModel::displayText(const QVariant& value) const
 {
-    if (IsNull(value))
+    if (isNull(value))
         return {};
     if (value.typeId() == QMetaType::QDate)
         return value.toDate().toString(m_dateFormat);
@@ -114,7 +114,7 @@ QVariant RecordsetModel::data(const QModelIndex& index, int role) const
         return {};
     if (index.row() >= dataRows())
         return QString();
-    return displayText(m_recordset->RowValue(index.row(), index.column()));
+    return displayText(m_recordset->rowValue(index.row(), index.column()));
 }
 
 QVariant RecordsetModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -122,7 +122,7 @@ QVariant RecordsetModel::headerData(int section, Qt::Orientation orientation, in
     if (role != Qt::DisplayRole)
         return {};
     if (orientation == Qt::Vertical)
-        return IsNewRowLine(section) ? QStringLiteral("*") : QString::number(section + 1);
+        return isNewRowLine(section) ? QStringLiteral("*") : QString::number(section + 1);
     return m_captions.contains(section) ? m_captions.value(section) : m_fields.value(section);
 }
 
@@ -133,11 +133,11 @@ Qt::ItemFlags RecordsetModel::flags(const QModelIndex& index) const
     Qt::ItemFlags result = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
     bool chapter = false;
     try {
-        chapter = m_recordset->Fields(index.column()).IsChapter();
+        chapter = m_recordset->fields(index.column()).isChapter();
     } catch (const Error&) {
         chapter = true;
     }
-    if (m_recordset->IsUpdatable() && !chapter)
+    if (m_recordset->isUpdatable() && !chapter)
         result |= Qt::ItemIsEditable;
     return result;
 }
@@ -146,12 +146,12 @@ bool RecordsetModel::setData(const QModelIndex& index, const QVariant& value, in
 {
     if (!index.isValid() || role != Qt::EditRole || !(flags(index) & Qt::ItemIsEditable))
         return false;
-    const bool adding = IsNewRowLine(index.row());
+    const bool adding = isNewRowLine(index.row());
     if (adding && value.toString().isEmpty())
         return false; // nothing typed: no row
     const bool done = adding ? addRow(index.column(), value) : setCell(index.row(), index.column(), value);
     if (done)
-        Q_EMIT Edited();
+        Q_EMIT edited();
     return done;
 }
 
@@ -162,12 +162,12 @@ bool RecordsetModel::addRow(int column, const QVariant& value)
     beginInsertRows({}, row + 1, row + 1);
     m_self = true;
     try {
-        m_recordset->AddNew();
+        m_recordset->addNew();
     } catch (const Error& error) {
         m_self = false;
         endInsertRows();
         reload();
-        MsgBox(error.description());
+        msgBox(error.description());
         return false;
     }
     m_self = false;
@@ -177,7 +177,7 @@ bool RecordsetModel::addRow(int column, const QVariant& value)
     beginRemoveRows({}, row + 1, row + 1);
     m_self = true;
     try {
-        m_recordset->CancelUpdate();
+        m_recordset->cancelUpdate();
     } catch (const Error&) {
         // The row was never more than an edit; nothing is left to undo.
     }
@@ -191,15 +191,15 @@ bool RecordsetModel::setCell(int row, int column, const QVariant& value)
 {
     m_self = true;
     try {
-        if (m_recordset->CurrentRow() != row)
-            m_recordset->SetAbsolutePosition(row + 1);
+        if (m_recordset->currentRow() != row)
+            m_recordset->setAbsolutePosition(row + 1);
         const QString text = value.toString();
-        m_recordset->Fields(column).SetValue(text.isEmpty() ? QVariant() : value);
-        if (m_recordset->EditMode() != EditModeEnum::None)
-            m_recordset->Update();
+        m_recordset->fields(column).setValue(text.isEmpty() ? QVariant() : value);
+        if (m_recordset->editMode() != EditModeEnum::None)
+            m_recordset->update();
     } catch (const Error& error) {
         m_self = false;
-        MsgBox(error.description());
+        msgBox(error.description());
         return false;
     }
     m_self = false;
@@ -211,7 +211,7 @@ void RecordsetModel::onFieldChanged(const QString& name)
 {
     if (m_self || !m_recordset)
         return;
-    const int row = m_recordset->CurrentRow();
+    const int row = m_recordset->currentRow();
     const int column = int(m_fields.indexOf(name));
     if (row >= 0 && column >= 0)
         Q_EMIT dataChanged(index(row, column), index(row, column));
@@ -221,7 +221,7 @@ void RecordsetModel::onMoved()
 {
     if (!m_view || !m_recordset || m_syncing)
         return;
-    const int row = m_recordset->CurrentRow();
+    const int row = m_recordset->currentRow();
     const QModelIndex current = m_view->currentIndex();
     if (row < 0 || current.row() == row)
         return;
@@ -237,18 +237,18 @@ void RecordsetModel::onViewCurrentChanged(const QModelIndex& current)
 {
     if (m_syncing || !m_recordset || !current.isValid() || current.row() >= dataRows())
         return;
-    if (m_recordset->CurrentRow() == current.row())
+    if (m_recordset->currentRow() == current.row())
         return;
     m_syncing = true;
     try {
-        m_recordset->SetAbsolutePosition(current.row() + 1);
+        m_recordset->setAbsolutePosition(current.row() + 1);
     } catch (const Error& error) {
-        MsgBox(error.description());
+        msgBox(error.description());
     }
     m_syncing = false;
 }
 
-void RecordsetModel::AttachView(QTableView* view)
+void RecordsetModel::attachView(QTableView* view)
 {
     m_view = view;
     view->setModel(this);
@@ -267,12 +267,12 @@ void RecordsetModel::applyColumns()
     if (!m_view)
         return;
     for (auto it = m_widths.cbegin(); it != m_widths.cend(); ++it)
-        m_view->setColumnWidth(it.key(), TwipsToPixels(it.value(), m_view));
+        m_view->setColumnWidth(it.key(), twipsToPixels(it.value(), m_view));
     for (int column = 0; column < columnCount(); ++column)
         m_view->setColumnHidden(column, m_hidden.value(column, false));
 }
 
-int RecordsetModel::TwipsToPixels(int twips, const QWidget* widget)
+int RecordsetModel::twipsToPixels(int twips, const QWidget* widget)
 {
     const int dpi = widget ? widget->logicalDpiX() : 96;
     return (twips * dpi + 720) / 1440;

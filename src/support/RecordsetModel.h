@@ -13,20 +13,20 @@ namespace kartella {
 // The rows of a Recordset (a SHAPE chapter too) as a table for a QTableView grid: one
 // column per field, by position, with captions, widths and hidden columns set by position.
 // Cells of an updatable recordset can be edited: a typed value goes into the field of that
-// row (the recordset moves there) and Update keeps it; with AllowAddNew a new-row line
-// follows the rows, and typing in it starts a row with AddNew, the way a data grid adds
+// row (the recordset moves there) and update keeps it; with allowAddNew a new-row line
+// follows the rows, and typing in it starts a row with addNew, the way a data grid adds
 // rows. A refused value is told in a message box and leaves the row as it was.
 //
 // The model follows the recordset: rows added, deleted, requeried or replaced (a chapter
 // whose parent moved) and fields set by code show at once.
 //
 //     auto* model = new RecordsetModel(this);
-//     model->SetRecordset(shaped->Chapter("ChildCMD"));
-//     model->SetAllowAddNew(true);
-//     model->AttachView(grdTickler);
-//     model->SetColumnHidden(0, true);
-//     model->SetColumnCaption(1, "Date");
-//     model->SetColumnWidth(1, 1000);
+//     model->setRecordset(shaped->chapter("ChildCMD"));
+//     model->setAllowAddNew(true);
+//     model->attachView(grdTickler);
+//     model->setColumnHidden(0, true);
+//     model->setColumnCaption(1, "Date");
+//     model->setColumnWidth(1, 1000);
 class RecordsetModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -35,27 +35,27 @@ public:
     explicit RecordsetModel(QObject* parent = nullptr);
 
     // Shows recordset (not owned); null shows nothing.
-    void SetRecordset(Recordset* recordset);
+    void setRecordset(Recordset* recordset);
     Recordset* recordset() const { return m_recordset; }
 
     // Column settings by zero-based position; they last across changes of the rows.
-    void SetColumnCaption(int column, const QString& caption);
+    void setColumnCaption(int column, const QString& caption);
     // Width in twips (1440 an inch).
-    void SetColumnWidth(int column, int twips);
-    void SetColumnHidden(int column, bool hidden);
-    bool IsColumnHidden(int column) const { return m_hidden.value(column, false); }
+    void setColumnWidth(int column, int twips);
+    void setColumnHidden(int column, bool hidden);
+    bool isColumnHidden(int column) const { return m_hidden.value(column, false); }
     // How date values show and are offered for editing; the system's short date form by
     // default.
-    void SetDateFormat(const QString& format) { m_dateFormat = format; }
+    void setDateFormat(const QString& format) { m_dateFormat = format; }
 
     // Whether the last line adds rows.
-    void SetAllowAddNew(bool allow);
-    bool AllowAddNew() const { return m_allowAddNew; }
-    bool IsNewRowLine(int row) const;
+    void setAllowAddNew(bool allow);
+    bool allowAddNew() const { return m_allowAddNew; }
+    bool isNewRowLine(int row) const;
 
     // Makes view show this model with its column settings, and keeps the view's current row
     // and the recordset's current row together.
-    void AttachView(QTableView* view);
+    void attachView(QTableView* view);
     QTableView* view() const { return m_view; }
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -66,11 +66,11 @@ public:
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
 
     // Pixels of a width in twips on widget's screen.
-    static int TwipsToPixels(int twips, const QWidget* widget);
+    static int twipsToPixels(int twips, const QWidget* widget);
 
 Q_SIGNALS:
     // A cell was edited and its value taken (a new row included).
-    void Edited();
+    void edited();
 
 private:
     int dataRows() const;

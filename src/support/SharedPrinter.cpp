@@ -4,7 +4,7 @@
 
 namespace kartella {
 
-QPrinter& SharedPrinter()
+QPrinter& sharedPrinter()
 {
     static QPrinter printer(QPrinter::HighResolution);
     return printer;

@@ -8,7 +8,7 @@ namespace kartella {
 namespace {
 
 // The text without its trailing blanks (other white space stays).
-QString TrimTrailingBlanks(const QString& text)
+QString trimTrailingBlanks(const QString& text)
 {
     qsizetype end = text.size();
     while (end > 0 && text.at(end - 1) == QLatin1Char(' '))
@@ -18,20 +18,20 @@ QString TrimTrailingBlanks(const QString& text)
 
 } // namespace
 
-QString ShowOpenDialog(const OpenFileRecord& record)
+QString showOpenDialog(const OpenFileRecord& record)
 {
     const Prompter::OpenFileRequest request {
-        TrimTrailingBlanks(TrimAtNull(record.title)),
-        TrimTrailingBlanks(TrimAtNull(record.startFolder)),
-        TrimTrailingBlanks(TrimAtNull(record.filterLabel)),
-        TrimTrailingBlanks(TrimAtNull(record.pattern)),
+        trimTrailingBlanks(trimAtNull(record.title)),
+        trimTrailingBlanks(trimAtNull(record.startFolder)),
+        trimTrailingBlanks(trimAtNull(record.filterLabel)),
+        trimTrailingBlanks(trimAtNull(record.pattern)),
     };
-    return TrimAtNull(Prompter::instance().OpenFile(request));
+    return trimAtNull(Prompter::instance().openFile(request));
 }
 
-QString ChooseFolder(const QString& prompt)
+QString chooseFolder(const QString& prompt)
 {
-    return TrimAtNull(Prompter::instance().ChooseFolder(prompt));
+    return trimAtNull(Prompter::instance().chooseFolder(prompt));
 }
 
 } // namespace kartella

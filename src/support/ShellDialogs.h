@@ -17,10 +17,10 @@ struct OpenFileRecord
 // Asks the user for one existing file through the installed Prompter. Title, start
 // folder and filter lose their trailing blanks first. Returns the chosen path; Cancel
 // gives empty text.
-QString ShowOpenDialog(const OpenFileRecord& record);
+QString showOpenDialog(const OpenFileRecord& record);
 
 // Asks the user for a folder, prompt as the chooser's title. Returns the chosen folder;
 // Cancel gives empty text.
-QString ChooseFolder(const QString& prompt);
+QString chooseFolder(const QString& prompt);
 
 } // namespace kartella

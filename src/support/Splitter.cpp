@@ -11,11 +11,11 @@ namespace {
 constexpr int EdgePixels = 20;
 }
 
-CSplitter::CSplitter(QObject* parent)
+Splitter::Splitter(QObject* parent)
     : QObject(parent)
 { }
 
-void CSplitter::Create(QSplitter* splitter, bool vertical, int barPixels, int percent)
+void Splitter::create(QSplitter* splitter, bool vertical, int barPixels, int percent)
 {
     m_splitter = splitter;
     m_vertical = vertical;
@@ -28,30 +28,30 @@ void CSplitter::Create(QSplitter* splitter, bool vertical, int barPixels, int pe
     for (int i = 0; i < splitter->count(); ++i) {
         QWidget* pane = splitter->widget(i);
         if (vertical)
-            pane->setMinimumWidth(qMax(pane->minimumWidth(), MinimumDistance() - m_barPixels / 2));
+            pane->setMinimumWidth(qMax(pane->minimumWidth(), minimumDistance() - m_barPixels / 2));
         else
-            pane->setMinimumHeight(qMax(pane->minimumHeight(), MinimumDistance() - m_barPixels / 2));
+            pane->setMinimumHeight(qMax(pane->minimumHeight(), minimumDistance() - m_barPixels / 2));
     }
     // The split is laid out once the container has its real size.
     splitter->installEventFilter(this);
     if (splitter->isVisible())
-        SetSplitPercent(m_percent);
+        setSplitPercent(m_percent);
 }
 
-bool CSplitter::eventFilter(QObject* watched, QEvent* event)
+bool Splitter::eventFilter(QObject* watched, QEvent* event)
 {
     const bool laidOut = event->type() == QEvent::Resize || event->type() == QEvent::Show;
     if (watched == m_splitter && laidOut && !m_applied && m_splitter->isVisible())
-        SetSplitPercent(m_percent);
+        setSplitPercent(m_percent);
     return QObject::eventFilter(watched, event);
 }
 
-int CSplitter::MinimumDistance() const
+int Splitter::minimumDistance() const
 {
     return EdgePixels;
 }
 
-int CSplitter::extent() const
+int Splitter::extent() const
 {
     if (!m_splitter)
         return 0;
@@ -59,12 +59,12 @@ int CSplitter::extent() const
     return qMax(1, size);
 }
 
-int CSplitter::LeastPercent() const
+int Splitter::leastPercent() const
 {
-    return qMax(1, int(std::lround(100.0 * (MinimumDistance() - m_barPixels / 2.0) / extent())));
+    return qMax(1, int(std::lround(100.0 * (minimumDistance() - m_barPixels / 2.0) / extent())));
 }
 
-int CSplitter::SplitPercent() const
+int Splitter::splitPercent() const
 {
     if (!m_splitter || m_splitter->count() < 2)
         return m_percent;
@@ -73,9 +73,9 @@ int CSplitter::SplitPercent() const
     return int(std::lround(100.0 * (sizes.value(0) + m_barPixels / 2.0) / qMax(1, total)));
 }
 
-void CSplitter::SetSplitPercent(int percent)
+void Splitter::setSplitPercent(int percent)
 {
-    const int least = qMin(LeastPercent(), 50);
+    const int least = qMin(leastPercent(), 50);
     m_percent = qBound(least, percent, 100 - least);
     if (!m_splitter || m_splitter->count() < 2)
         return;

@@ -10,26 +10,26 @@ namespace kartella {
 // split is given in percent (limited to 1..99, and further so that each boundary keeps a
 // minimum distance from the container's edges), no pane ever goes below that distance or
 // collapses, and a vertical bar stands between panes side by side.
-class CSplitter : public QObject
+class Splitter : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit CSplitter(QObject* parent = nullptr);
+    explicit Splitter(QObject* parent = nullptr);
 
     // barPixels 0 gives a bar of 4 pixels. percent is limited to 1..99.
-    void Create(QSplitter* splitter, bool vertical, int barPixels, int percent);
-    bool Created() const { return m_splitter != nullptr; }
+    void create(QSplitter* splitter, bool vertical, int barPixels, int percent);
+    bool created() const { return m_splitter != nullptr; }
 
-    int SplitterSize() const { return m_barPixels; }
+    int splitterSize() const { return m_barPixels; }
     // The first pane's share of the container, in percent.
-    int SplitPercent() const;
-    void SetSplitPercent(int percent);
+    int splitPercent() const;
+    void setSplitPercent(int percent);
     // The least percent a boundary may take at the container's present size.
-    int LeastPercent() const;
+    int leastPercent() const;
     // How near an edge a boundary may come, in pixels.
-    int MinimumDistance() const;
-    int Percent() const { return m_percent; }
+    int minimumDistance() const;
+    int percent() const { return m_percent; }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -10,15 +10,15 @@ namespace kartella::test {
 EngineRegister::EngineRegister()
 {
     m_path = m_dir.filePath(QStringLiteral("Register.mdb"));
-    CreateRegister(m_path);
+    createRegister(m_path);
     m_connection = std::make_unique<Connection>(connectionString());
-    m_connection->Open();
+    m_connection->open();
     m_valid = true;
 }
 
 QString EngineRegister::connectionString() const
 {
-    return PlainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"), m_path);
+    return plainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"), m_path);
 }
 
 void EngineRegister::fillSmall()
@@ -37,23 +37,23 @@ void EngineRegister::fillSmall()
 QVariant EngineRegister::scalar(const QString& sql)
 {
     Recordset recordset;
-    recordset.Open(sql, *m_connection);
-    return recordset.Eof() ? QVariant() : recordset.Fields(0).Value();
+    recordset.open(sql, *m_connection);
+    return recordset.eof() ? QVariant() : recordset.fields(0).value();
 }
 
-QStringList Rows(Recordset& recordset, const QStringList& fields)
+QStringList rows(Recordset& recordset, const QStringList& fields)
 {
     QStringList rows;
-    while (!recordset.Eof()) {
+    while (!recordset.eof()) {
         QStringList values;
         for (const QString& field : fields) {
-            const QVariant value = recordset.Fields(field).Value();
-            values << (IsNull(value)                     ? QStringLiteral("-")
+            const QVariant value = recordset.fields(field).value();
+            values << (isNull(value)                     ? QStringLiteral("-")
                     : value.typeId() == QMetaType::QDate ? value.toDate().toString(Qt::ISODate)
                                                          : value.toString());
         }
         rows << values.join(u'|');
-        recordset.MoveNext();
+        recordset.moveNext();
     }
     return rows;
 }

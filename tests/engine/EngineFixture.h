@@ -10,7 +10,7 @@
 
 namespace kartella::test {
 
-// A register in a temporary folder, made by CreateRegister, with a connection open on it.
+// A register in a temporary folder, made by createRegister, with a connection open on it.
 class EngineRegister
 {
 public:
@@ -21,7 +21,7 @@ public:
     QString folder() const { return m_dir.path(); }
     QString connectionString() const;
     Connection& connection() { return *m_connection; }
-    void execute(const QString& sql) { m_connection->Execute(sql); }
+    void execute(const QString& sql) { m_connection->execute(sql); }
 
     // Contacts 1 "Petras", 2 "Ąžuolas", 3 "Šarūnas", 4 "šilas", 5 "Saulius"; documents 1..3
     // of contact 1 (1, 2) and none (3), in categories 7, 7, 8; reminders 1, 2 of document 1.
@@ -38,6 +38,6 @@ private:
 };
 
 // The fields of each row from the current one to the end, joined by "|", Null as "-".
-QStringList Rows(Recordset& recordset, const QStringList& fields);
+QStringList rows(Recordset& recordset, const QStringList& fields);
 
 } // namespace kartella::test

@@ -1,19 +1,19 @@
 // The engine's tests, one class after the other.
 #include <QCoreApplication>
 
-int RunDialectTest(int argc, char** argv);
-int RunConnectionTest(int argc, char** argv);
-int RunRecordsetTest(int argc, char** argv);
-int RunEditTest(int argc, char** argv);
-int RunShapeTest(int argc, char** argv);
-int RunStatementsTest(int argc, char** argv);
+int runDialectTest(int argc, char** argv);
+int runConnectionTest(int argc, char** argv);
+int runRecordsetTest(int argc, char** argv);
+int runEditTest(int argc, char** argv);
+int runShapeTest(int argc, char** argv);
+int runStatementsTest(int argc, char** argv);
 
 int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
     int failures = 0;
     for (const auto run :
-        {RunDialectTest, RunConnectionTest, RunRecordsetTest, RunEditTest, RunShapeTest, RunStatementsTest})
+        {runDialectTest, runConnectionTest, runRecordsetTest, runEditTest, runShapeTest, runStatementsTest})
         failures += run(argc, argv);
     return failures;
 }

@@ -1,8 +1,8 @@
 #include "EngineFixture.h"
+#include "base/Error.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
-#include "support/Error.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -21,7 +21,7 @@ std::pair<long, QString> openError(const QString& connectionString)
 {
     try {
         Connection connection;
-        connection.Open(connectionString);
+        connection.open(connectionString);
         return {-1, QString()};
     } catch (const Error& error) {
         return {error.number(), error.description()};
@@ -47,11 +47,11 @@ private Q_SLOTS:
         QTest::addColumn<QString>("form");
         const QString jet = QStringLiteral("Microsoft.Jet.OLEDB.4.0");
         const QString old = QStringLiteral("microsoft.jet.oledb.3.51");
-        QTest::newRow("plain") << PlainConnectionString(jet, QStringLiteral("%1"));
-        QTest::newRow("upper") << UpperConnectionString(old, QStringLiteral("%1"));
-        QTest::newRow("shape") << ShapeConnectionString(jet, QStringLiteral("%1"));
-        QTest::newRow("shape prefix") << ShapePrefixConnectionString(old, QStringLiteral("%1"));
-        QTest::newRow("shape upper") << ShapeUpperConnectionString(jet, QStringLiteral("%1"));
+        QTest::newRow("plain") << plainConnectionString(jet, QStringLiteral("%1"));
+        QTest::newRow("upper") << upperConnectionString(old, QStringLiteral("%1"));
+        QTest::newRow("shape") << shapeConnectionString(jet, QStringLiteral("%1"));
+        QTest::newRow("shape prefix") << shapePrefixConnectionString(old, QStringLiteral("%1"));
+        QTest::newRow("shape upper") << shapeUpperConnectionString(jet, QStringLiteral("%1"));
         QTest::newRow("odd case and blanks")
             << QStringLiteral("provider = MICROSOFT.JET.OLEDB.4.0 ;data source=  %1  ");
     }
@@ -65,11 +65,11 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(QFileInfo(spaced).path()));
         QVERIFY(QFile::copy(reg.path(), spaced));
         Connection connection;
-        connection.Open(form.arg(spaced));
-        QVERIFY(connection.IsOpen());
-        connection.Execute(QStringLiteral("INSERT INTO tbl_Contacts (FullName) VALUES ('x')"));
-        connection.Close();
-        QVERIFY(!connection.IsOpen());
+        connection.open(form.arg(spaced));
+        QVERIFY(connection.isOpen());
+        connection.execute(QStringLiteral("INSERT INTO tbl_Contacts (FullName) VALUES ('x')"));
+        connection.close();
+        QVERIFY(!connection.isOpen());
     }
 
     void openFailures_data()
@@ -126,9 +126,9 @@ private Q_SLOTS:
         writeFile(dir + "/other.db", QByteArray());
         Connection other(
             QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source= ") + dir + "/other.db");
-        other.Open();
-        other.Execute("CREATE TABLE other (a)");
-        other.Close();
+        other.open();
+        other.execute("CREATE TABLE other (a)");
+        other.close();
 
         const auto [number, description] = openError(QString(connectionString).replace("{dir}", dir));
         QCOMPARE(number, ErrorNumber::ConnectionFailed);
@@ -150,7 +150,7 @@ private Q_SLOTS:
                 error.description().contains("DELETE tbl_Nothing.* FROM tbl_Nothing WHERE tbl_Nothing.ID=1"));
         }
         Connection closed;
-        QVERIFY_THROWS_EXCEPTION(Error, closed.Execute("SELECT 1"));
+        QVERIFY_THROWS_EXCEPTION(Error, closed.execute("SELECT 1"));
     }
 
     // The statements of the program in Jet's dialect change the rows they name.
@@ -187,13 +187,13 @@ private Q_SLOTS:
         QThread* holder = QThread::create([&] {
             try {
                 Connection other(reg.connectionString());
-                other.Open();
-                other.BeginTrans();
-                other.Execute("INSERT INTO tbl_Contacts (FullName) VALUES ('first')");
+                other.open();
+                other.beginTrans();
+                other.execute("INSERT INTO tbl_Contacts (FullName) VALUES ('first')");
                 locked.release();
                 release.acquire();
                 QThread::msleep(700);
-                other.CommitTrans();
+                other.commitTrans();
             } catch (const Error& error) {
                 threadError = error.description();
                 locked.release();
@@ -217,18 +217,18 @@ private Q_SLOTS:
     void transactions()
     {
         EngineRegister reg;
-        reg.connection().BeginTrans();
+        reg.connection().beginTrans();
         reg.execute("INSERT INTO tbl_Contacts (FullName) VALUES ('kept')");
-        reg.connection().CommitTrans();
-        reg.connection().BeginTrans();
+        reg.connection().commitTrans();
+        reg.connection().beginTrans();
         reg.execute("INSERT INTO tbl_Contacts (FullName) VALUES ('dropped')");
-        reg.connection().RollbackTrans();
+        reg.connection().rollbackTrans();
         QCOMPARE(reg.scalar("SELECT group_concat(FullName) FROM tbl_Contacts").toString(), QString("kept"));
-        QVERIFY_THROWS_EXCEPTION(Error, reg.connection().CommitTrans());
+        QVERIFY_THROWS_EXCEPTION(Error, reg.connection().commitTrans());
     }
 };
 
-int RunConnectionTest(int argc, char** argv)
+int runConnectionTest(int argc, char** argv)
 {
     ConnectionTest test;
     return QTest::qExec(&test, argc, argv);

@@ -76,14 +76,14 @@ private Q_SLOTS:
     {
         QFETCH(QString, jet);
         QFETCH(QString, sqlite);
-        QCOMPARE(engine::TranslateJetToSqlite(jet), sqlite);
+        QCOMPARE(engine::translateJetToSqlite(jet), sqlite);
     }
 
     void dateLiteralIsMonthFirstInAnyLocale()
     {
         const QLocale previous;
         QLocale::setDefault(QLocale(QStringLiteral("lt_LT")));
-        const QString translated = engine::TranslateJetToSqlite(QStringLiteral("SELECT #3/5/2024#"));
+        const QString translated = engine::translateJetToSqlite(QStringLiteral("SELECT #3/5/2024#"));
         QLocale::setDefault(previous);
         QCOMPARE(translated, QStringLiteral("SELECT '2024-03-05'"));
     }
@@ -116,10 +116,10 @@ private Q_SLOTS:
             QStringLiteral("INSERT INTO tbl_Contacts (FullName) VALUES ('Šarūnas'), ('šilas'), ('Saulius'), "
                            "('Ąžuolas'), ('sąžinė'), ('ЖУКОВ'), ('Жуков'), ('über'), (Null)"));
         Recordset recordset;
-        recordset.Open(QStringLiteral("SELECT FullName FROM tbl_Contacts WHERE FullName Like '") + pattern
+        recordset.open(QStringLiteral("SELECT FullName FROM tbl_Contacts WHERE FullName Like '") + pattern
                 + QStringLiteral("' ORDER BY ContactID"),
             reg.connection());
-        QStringList found = Rows(recordset, {QStringLiteral("FullName")});
+        QStringList found = rows(recordset, {QStringLiteral("FullName")});
         found.sort();
         names.sort();
         QCOMPARE(found, names);
@@ -131,7 +131,7 @@ private Q_SLOTS:
         QCOMPARE(reg.scalar(QStringLiteral("SELECT '50%' LIKE '50!%' ESCAPE '!'")).toInt(), 1);
         QCOMPARE(reg.scalar(QStringLiteral("SELECT '500' LIKE '50!%' ESCAPE '!'")).toInt(), 0);
         QCOMPARE(reg.scalar(QStringLiteral("SELECT '' LIKE '%'")).toInt(), 1);
-        QVERIFY(IsNull(reg.scalar(QStringLiteral("SELECT NULL LIKE '%'"))));
+        QVERIFY(isNull(reg.scalar(QStringLiteral("SELECT NULL LIKE '%'"))));
     }
 
     void nameOrder()
@@ -142,17 +142,17 @@ private Q_SLOTS:
                            "('antanas'), ('Žygimantas'), ('Antanas'), ('Zita'), ('Čepas'), ('Cezaris'), "
                            "('Ūla'), ('Ugnė'), ('Yoda'), ('Ėglė'), ('Eglė'), ('Daiva')"));
         Recordset recordset;
-        recordset.Open(
+        recordset.open(
             QStringLiteral("SELECT FullName FROM tbl_Contacts ORDER BY FullName"), reg.connection());
         // Folded equal names keep a fixed order by their bytes: "Antanas" before "antanas",
         // "Eglė" before "Ėglė".
-        QCOMPARE(Rows(recordset, {QStringLiteral("FullName")}),
+        QCOMPARE(rows(recordset, {QStringLiteral("FullName")}),
             QStringList({"Antanas", "antanas", "Ąžuolas", "Benas", "Čepas", "Cezaris", "Daiva", "Eglė",
                 "Ėglė", "Ugnė", "Ūla", "Yla", "Yoda", "Zita", "Žygimantas"}));
     }
 };
 
-int RunDialectTest(int argc, char** argv)
+int runDialectTest(int argc, char** argv)
 {
     DialectTest test;
     return QTest::qExec(&test, argc, argv);

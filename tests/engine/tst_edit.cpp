@@ -1,6 +1,6 @@
 #include "EngineFixture.h"
+#include "base/Error.h"
 #include "store/engine/Recordset.h"
-#include "support/Error.h"
 
 #include <QLocale>
 #include <QSignalSpy>
@@ -46,37 +46,37 @@ private Q_SLOTS:
         EngineRegister reg;
         reg.fillSmall();
         Recordset recordset;
-        recordset.Open(Contacts, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
-        recordset.AddNew();
-        QCOMPARE(recordset.EditMode(), int(EditModeEnum::Add));
-        recordset.Fields("FullName").SetValue(QStringLiteral("Naujas"));
-        recordset.Update();
-        QCOMPARE(recordset.EditMode(), int(EditModeEnum::None));
-        recordset.AddNew();
-        recordset.Fields("FullName").SetValue(QStringLiteral("Kitas"));
-        recordset.MoveFirst();
-        recordset.Fields("City").SetValue(QStringLiteral("Vilnius"));
-        recordset.MoveLast();
-        QVERIFY(recordset.HasPendingChanges());
-        QCOMPARE(recordset.RecordCount(), 7);
+        recordset.open(Contacts, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
+        recordset.addNew();
+        QCOMPARE(recordset.editMode(), int(EditModeEnum::Add));
+        recordset.fields("FullName").setValue(QStringLiteral("Naujas"));
+        recordset.update();
+        QCOMPARE(recordset.editMode(), int(EditModeEnum::None));
+        recordset.addNew();
+        recordset.fields("FullName").setValue(QStringLiteral("Kitas"));
+        recordset.moveFirst();
+        recordset.fields("City").setValue(QStringLiteral("Vilnius"));
+        recordset.moveLast();
+        QVERIFY(recordset.hasPendingChanges());
+        QCOMPARE(recordset.recordCount(), 7);
         QCOMPARE(names(reg), QString("Petras,Ąžuolas,Šarūnas,šilas,Saulius"));
-        QVERIFY(IsNull(recordset.Fields("ContactID").Value()));
+        QVERIFY(isNull(recordset.fields("ContactID").value()));
 
         // Current: only "Kitas", which gets its key back.
-        recordset.UpdateBatch(AffectEnum::Current);
+        recordset.updateBatch(AffectEnum::Current);
         QCOMPARE(names(reg), QString("Petras,Ąžuolas,Šarūnas,šilas,Saulius,Kitas"));
-        QCOMPARE(recordset.Fields("ContactID").Value().toInt(), 6);
-        QCOMPARE(recordset.Fields("FullName").UnderlyingValue().toString(), QString("Kitas"));
-        QVERIFY(recordset.HasPendingChanges());
-        QVERIFY(IsNull(reg.scalar("SELECT City FROM tbl_Contacts WHERE ContactID=1")));
+        QCOMPARE(recordset.fields("ContactID").value().toInt(), 6);
+        QCOMPARE(recordset.fields("FullName").underlyingValue().toString(), QString("Kitas"));
+        QVERIFY(recordset.hasPendingChanges());
+        QVERIFY(isNull(reg.scalar("SELECT City FROM tbl_Contacts WHERE ContactID=1")));
 
-        recordset.UpdateBatch(AffectEnum::All);
-        QVERIFY(!recordset.HasPendingChanges());
+        recordset.updateBatch(AffectEnum::All);
+        QVERIFY(!recordset.hasPendingChanges());
         QCOMPARE(names(reg), QString("Petras,Ąžuolas,Šarūnas,šilas,Saulius,Kitas,Naujas"));
         QCOMPARE(
             reg.scalar("SELECT City FROM tbl_Contacts WHERE ContactID=1").toString(), QString("Vilnius"));
-        recordset.MovePrevious();
-        QCOMPARE(recordset.Collect("ContactID").toInt(), 7);
+        recordset.movePrevious();
+        QCOMPARE(recordset.collect("ContactID").toInt(), 7);
     }
 
     void closeAndDestroyWriteNothing()
@@ -85,17 +85,17 @@ private Q_SLOTS:
         reg.fillSmall();
         {
             Recordset recordset;
-            recordset.Open(Contacts, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
-            recordset.AddNew();
-            recordset.Fields("FullName").SetValue(QStringLiteral("Dingęs"));
-            recordset.Update();
-            recordset.MoveFirst();
-            recordset.Delete();
-            recordset.Close();
-            QVERIFY(!recordset.IsOpen());
-            recordset.Open(Contacts, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
-            recordset.Fields("FullName").SetValue(QStringLiteral("Pakeistas"));
-            recordset.MoveNext();
+            recordset.open(Contacts, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
+            recordset.addNew();
+            recordset.fields("FullName").setValue(QStringLiteral("Dingęs"));
+            recordset.update();
+            recordset.moveFirst();
+            recordset.deleteRecord();
+            recordset.close();
+            QVERIFY(!recordset.isOpen());
+            recordset.open(Contacts, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
+            recordset.fields("FullName").setValue(QStringLiteral("Pakeistas"));
+            recordset.moveNext();
         }
         QCOMPARE(names(reg), QString("Petras,Ąžuolas,Šarūnas,šilas,Saulius"));
     }
@@ -105,37 +105,37 @@ private Q_SLOTS:
         EngineRegister reg;
         reg.fillSmall();
         Recordset recordset;
-        QSignalSpy fieldChanged(&recordset, &Recordset::FieldChangeComplete);
-        recordset.Open(Contacts, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::Optimistic);
-        recordset.AddNew();
-        recordset.Fields("FullName").SetValue(QStringLiteral("Jonas"));
+        QSignalSpy fieldChanged(&recordset, &Recordset::fieldChangeComplete);
+        recordset.open(Contacts, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::Optimistic);
+        recordset.addNew();
+        recordset.fields("FullName").setValue(QStringLiteral("Jonas"));
         QCOMPARE(fieldChanged.count(), 1);
         QCOMPARE(fieldChanged.front().front().toString(), QString("FullName"));
-        recordset.Update();
-        QCOMPARE(recordset.Collect("ContactID").toInt(), 6);
+        recordset.update();
+        QCOMPARE(recordset.collect("ContactID").toInt(), 6);
         QCOMPARE(names(reg), QString("Petras,Ąžuolas,Šarūnas,šilas,Saulius,Jonas"));
 
-        // A change written by a move, another dropped by CancelUpdate.
-        recordset.MoveFirst();
-        recordset.Fields("City").SetValue(QStringLiteral("Kaunas"));
-        QCOMPARE(recordset.EditMode(), int(EditModeEnum::InProgress));
-        QVERIFY(IsNull(recordset.Fields("City").UnderlyingValue()));
-        recordset.MoveNext();
+        // A change written by a move, another dropped by cancelUpdate.
+        recordset.moveFirst();
+        recordset.fields("City").setValue(QStringLiteral("Kaunas"));
+        QCOMPARE(recordset.editMode(), int(EditModeEnum::InProgress));
+        QVERIFY(isNull(recordset.fields("City").underlyingValue()));
+        recordset.moveNext();
         QCOMPARE(reg.scalar("SELECT City FROM tbl_Contacts WHERE ContactID=1").toString(), QString("Kaunas"));
-        recordset.Fields("City").SetValue(QStringLiteral("Alytus"));
-        recordset.CancelUpdate();
-        QVERIFY(IsNull(recordset.Collect("City")));
-        QVERIFY(!recordset.HasPendingChanges());
+        recordset.fields("City").setValue(QStringLiteral("Alytus"));
+        recordset.cancelUpdate();
+        QVERIFY(isNull(recordset.collect("City")));
+        QVERIFY(!recordset.hasPendingChanges());
 
         // A deleted row stays current until a move, without fields.
-        recordset.Delete();
+        recordset.deleteRecord();
         QCOMPARE(names(reg), QString("Petras,Šarūnas,šilas,Saulius,Jonas"));
-        QCOMPARE(recordset.RecordCount(), 5);
-        QCOMPARE(errorOf([&] { recordset.Collect("FullName"); }), ErrorNumber::NoCurrentRecord);
-        recordset.MoveNext();
-        QCOMPARE(recordset.Collect("FullName").toString(), QString("Šarūnas"));
-        recordset.MoveFirst();
-        QCOMPARE(recordset.Collect("FullName").toString(), QString("Petras"));
+        QCOMPARE(recordset.recordCount(), 5);
+        QCOMPARE(errorOf([&] { recordset.collect("FullName"); }), ErrorNumber::NoCurrentRecord);
+        recordset.moveNext();
+        QCOMPARE(recordset.collect("FullName").toString(), QString("Šarūnas"));
+        recordset.moveFirst();
+        QCOMPARE(recordset.collect("FullName").toString(), QString("Petras"));
     }
 
     void batchDeleteAndCancelBatch()
@@ -143,25 +143,25 @@ private Q_SLOTS:
         EngineRegister reg;
         reg.fillSmall();
         Recordset recordset;
-        recordset.Open(Contacts, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
-        recordset.Move(1);
-        recordset.Delete();
-        recordset.MoveNext();
-        recordset.Fields("FullName").SetValue(QStringLiteral("Pakeistas"));
-        recordset.AddNew();
-        recordset.Fields("FullName").SetValue(QStringLiteral("Naujas"));
-        QCOMPARE(recordset.RecordCount(), 5);
-        recordset.CancelBatch();
-        QVERIFY(!recordset.HasPendingChanges());
-        QCOMPARE(recordset.RecordCount(), 5);
-        recordset.MoveFirst();
+        recordset.open(Contacts, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
+        recordset.move(1);
+        recordset.deleteRecord();
+        recordset.moveNext();
+        recordset.fields("FullName").setValue(QStringLiteral("Pakeistas"));
+        recordset.addNew();
+        recordset.fields("FullName").setValue(QStringLiteral("Naujas"));
+        QCOMPARE(recordset.recordCount(), 5);
+        recordset.cancelBatch();
+        QVERIFY(!recordset.hasPendingChanges());
+        QCOMPARE(recordset.recordCount(), 5);
+        recordset.moveFirst();
         QCOMPARE(
-            Rows(recordset, {"FullName"}), QStringList({"Petras", "Ąžuolas", "Šarūnas", "šilas", "Saulius"}));
+            rows(recordset, {"FullName"}), QStringList({"Petras", "Ąžuolas", "Šarūnas", "šilas", "Saulius"}));
 
-        recordset.MoveFirst();
-        recordset.Delete();
-        recordset.MoveNext();
-        recordset.UpdateBatch();
+        recordset.moveFirst();
+        recordset.deleteRecord();
+        recordset.moveNext();
+        recordset.updateBatch();
         QCOMPARE(names(reg), QString("Ąžuolas,Šarūnas,šilas,Saulius"));
     }
 
@@ -190,25 +190,25 @@ private Q_SLOTS:
         EngineRegister reg;
         reg.fillSmall();
         Recordset recordset;
-        recordset.Open("SELECT RastasID, DokRegistracData, KategID FROM tbl_Documents WHERE RastasID=1",
+        recordset.open("SELECT RastasID, DokRegistracData, KategID FROM tbl_Documents WHERE RastasID=1",
             reg.connection(), CursorTypeEnum::Static, LockTypeEnum::Optimistic);
         QString description;
         const long error
-            = errorOf([&] { recordset.Fields("DokRegistracData").SetValue(input); }, &description);
+            = errorOf([&] { recordset.fields("DokRegistracData").setValue(input); }, &description);
         if (stored.typeId() == QMetaType::Int) {
             QCOMPARE(error, long(stored.toInt()));
             QVERIFY2(description.contains("DokRegistracData"), qPrintable(description));
-            QCOMPARE(recordset.EditMode(), int(EditModeEnum::None));
+            QCOMPARE(recordset.editMode(), int(EditModeEnum::None));
             QCOMPARE(reg.scalar("SELECT DokRegistracData FROM tbl_Documents WHERE RastasID=1").toString(),
                 QString("2024-03-01"));
             return;
         }
         QCOMPARE(error, 0L);
-        recordset.Update();
+        recordset.update();
         QCOMPARE(
             reg.scalar("SELECT CAST(DokRegistracData AS TEXT) FROM tbl_Documents WHERE RastasID=1"), stored);
-        recordset.Requery();
-        QCOMPARE(IsNull(recordset.Collect("DokRegistracData")), IsNull(stored));
+        recordset.requery();
+        QCOMPARE(isNull(recordset.collect("DokRegistracData")), isNull(stored));
     }
 
     // A date typed in the application's short form, day first, reads as that day.
@@ -219,11 +219,11 @@ private Q_SLOTS:
         const QLocale previous;
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
         Recordset recordset;
-        recordset.Open("SELECT RastasID, DokRegistracData FROM tbl_Documents WHERE RastasID=1",
+        recordset.open("SELECT RastasID, DokRegistracData FROM tbl_Documents WHERE RastasID=1",
             reg.connection(), CursorTypeEnum::Static, LockTypeEnum::Optimistic);
-        recordset.Fields("DokRegistracData").SetValue(QStringLiteral("05/03/2024"));
+        recordset.fields("DokRegistracData").setValue(QStringLiteral("05/03/2024"));
         QLocale::setDefault(previous);
-        QCOMPARE(recordset.Collect("DokRegistracData"), QVariant(QDate(2024, 3, 5)));
+        QCOMPARE(recordset.collect("DokRegistracData"), QVariant(QDate(2024, 3, 5)));
     }
 
     // Of a field selected twice, both copies change, and the row is written once.
@@ -235,16 +235,16 @@ private Q_SLOTS:
             "INSERT INTO tbl_Sub_Documents (SubRastasID, RastasID, SubDocDescript) VALUES (1, 1, 'a'), "
             "(2, 1, 'b')");
         Recordset recordset;
-        recordset.Open("SELECT tbl_Sub_Documents.*, tbl_Sub_Documents.RastasID FROM tbl_Sub_Documents WHERE "
+        recordset.open("SELECT tbl_Sub_Documents.*, tbl_Sub_Documents.RastasID FROM tbl_Sub_Documents WHERE "
                        "tbl_Sub_Documents.RastasID=1",
             reg.connection(), CursorTypeEnum::Static, LockTypeEnum::Optimistic);
-        QCOMPARE(recordset.FieldCount(), 7);
-        QVERIFY(recordset.IsUpdatable());
-        recordset.Fields(6).SetValue(2);
-        QCOMPARE(recordset.Collect("RastasID").toInt(), 2);
-        recordset.Update();
-        recordset.MoveNext();
-        recordset.Delete();
+        QCOMPARE(recordset.fieldCount(), 7);
+        QVERIFY(recordset.isUpdatable());
+        recordset.fields(6).setValue(2);
+        QCOMPARE(recordset.collect("RastasID").toInt(), 2);
+        recordset.update();
+        recordset.moveNext();
+        recordset.deleteRecord();
         QCOMPARE(reg.scalar("SELECT group_concat(SubRastasID || ':' || RastasID) FROM tbl_Sub_Documents")
                      .toString(),
             QString("1:2"));
@@ -255,17 +255,17 @@ private Q_SLOTS:
         EngineRegister reg;
         reg.fillSmall();
         Recordset recordset;
-        recordset.Open("SELECT RastasID, KategID FROM tbl_Documents WHERE RastasID=1", reg.connection(),
+        recordset.open("SELECT RastasID, KategID FROM tbl_Documents WHERE RastasID=1", reg.connection(),
             CursorTypeEnum::Static, LockTypeEnum::Optimistic);
-        recordset.Fields("KategID").SetValue(QStringLiteral(" 12 "));
-        QCOMPARE(recordset.Collect("KategID"), QVariant(12));
-        recordset.Fields("KategID").SetValue(QStringLiteral(""));
-        QVERIFY(IsNull(recordset.Collect("KategID")));
-        QCOMPARE(errorOf([&] { recordset.Fields("KategID").SetValue(QStringLiteral("abc")); }),
+        recordset.fields("KategID").setValue(QStringLiteral(" 12 "));
+        QCOMPARE(recordset.collect("KategID"), QVariant(12));
+        recordset.fields("KategID").setValue(QStringLiteral(""));
+        QVERIFY(isNull(recordset.collect("KategID")));
+        QCOMPARE(errorOf([&] { recordset.fields("KategID").setValue(QStringLiteral("abc")); }),
             ErrorNumber::TypeMismatch);
-        recordset.Update();
-        QVERIFY(IsNull(reg.scalar("SELECT KategID FROM tbl_Documents WHERE RastasID=1")));
-        QCOMPARE(errorOf([&] { recordset.Fields("RastasID").SetValue(5); }), 3251L);
+        recordset.update();
+        QVERIFY(isNull(reg.scalar("SELECT KategID FROM tbl_Documents WHERE RastasID=1")));
+        QCOMPARE(errorOf([&] { recordset.fields("RastasID").setValue(5); }), 3251L);
     }
 
     // A recordset whose connection was closed refuses to write, with an error.
@@ -274,14 +274,14 @@ private Q_SLOTS:
         EngineRegister reg;
         reg.fillSmall();
         Recordset recordset;
-        recordset.Open(Contacts, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::Optimistic);
-        reg.connection().Close();
-        QCOMPARE(recordset.Collect("FullName").toString(), QString("Petras"));
-        recordset.Fields("City").SetValue("Vilnius");
+        recordset.open(Contacts, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::Optimistic);
+        reg.connection().close();
+        QCOMPARE(recordset.collect("FullName").toString(), QString("Petras"));
+        recordset.fields("City").setValue("Vilnius");
         QString description;
-        QCOMPARE(errorOf([&] { recordset.Update(); }, &description), 3704L);
-        QCOMPARE(recordset.EditMode(), int(EditModeEnum::InProgress));
-        QCOMPARE(errorOf([&] { recordset.Requery(); }), 3704L);
+        QCOMPARE(errorOf([&] { recordset.update(); }, &description), 3704L);
+        QCOMPARE(recordset.editMode(), int(EditModeEnum::InProgress));
+        QCOMPARE(errorOf([&] { recordset.requery(); }), 3704L);
     }
 
     void readOnlyRecordsets()
@@ -289,20 +289,20 @@ private Q_SLOTS:
         EngineRegister reg;
         reg.fillSmall();
         Recordset join;
-        join.Open(
+        join.open(
             "SELECT tbl_Documents.RastasID, tbl_Contacts.FullName FROM tbl_Documents INNER JOIN tbl_Contacts "
             "ON tbl_Contacts.ContactID = tbl_Documents.ContactID",
             reg.connection(), CursorTypeEnum::Static, LockTypeEnum::Optimistic);
-        QVERIFY(!join.IsUpdatable());
+        QVERIFY(!join.isUpdatable());
         QString description;
-        QCOMPARE(errorOf([&] { join.Fields("FullName").SetValue("x"); }, &description), 3251L);
+        QCOMPARE(errorOf([&] { join.fields("FullName").setValue("x"); }, &description), 3251L);
         QVERIFY2(description.contains("more than one table"), qPrintable(description));
-        QCOMPARE(errorOf([&] { join.AddNew(); }), 3251L);
-        QCOMPARE(errorOf([&] { join.Delete(); }), 3251L);
+        QCOMPARE(errorOf([&] { join.addNew(); }), 3251L);
+        QCOMPARE(errorOf([&] { join.deleteRecord(); }), 3251L);
 
         Recordset readOnly;
-        readOnly.Open(Contacts, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::ReadOnly);
-        QCOMPARE(errorOf([&] { readOnly.Fields("FullName").SetValue("x"); }), 3251L);
+        readOnly.open(Contacts, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::ReadOnly);
+        QCOMPARE(errorOf([&] { readOnly.fields("FullName").setValue("x"); }), 3251L);
     }
 
     // Without the key among its columns, a recordset reads the row key hidden.
@@ -311,13 +311,13 @@ private Q_SLOTS:
         EngineRegister reg;
         reg.fillSmall();
         Recordset recordset;
-        recordset.Open("SELECT FullName FROM tbl_Contacts WHERE FullName Like 'š%'", reg.connection(),
+        recordset.open("SELECT FullName FROM tbl_Contacts WHERE FullName Like 'š%'", reg.connection(),
             CursorTypeEnum::Static, LockTypeEnum::Optimistic);
-        QCOMPARE(recordset.FieldNames(), QStringList {"FullName"});
-        QVERIFY(recordset.IsUpdatable());
-        recordset.MoveLast();
-        recordset.Fields("FullName").SetValue(QStringLiteral("Šilas"));
-        recordset.Update();
+        QCOMPARE(recordset.fieldNames(), QStringList {"FullName"});
+        QVERIFY(recordset.isUpdatable());
+        recordset.moveLast();
+        recordset.fields("FullName").setValue(QStringLiteral("Šilas"));
+        recordset.update();
         QCOMPARE(names(reg), QString("Petras,Ąžuolas,Šarūnas,Šilas,Saulius"));
     }
 
@@ -327,36 +327,36 @@ private Q_SLOTS:
         EngineRegister reg;
         reg.execute("CREATE TABLE strict (id INTEGER PRIMARY KEY AUTOINCREMENT, name TEXT NOT NULL)");
         Recordset recordset;
-        recordset.Open("SELECT id, name FROM strict", reg.connection(), CursorTypeEnum::Static,
+        recordset.open("SELECT id, name FROM strict", reg.connection(), CursorTypeEnum::Static,
             LockTypeEnum::BatchOptimistic);
-        recordset.AddNew();
-        recordset.Fields("name").SetValue("first");
-        recordset.AddNew();
+        recordset.addNew();
+        recordset.fields("name").setValue("first");
+        recordset.addNew();
         QString description;
-        QCOMPARE(errorOf([&] { recordset.UpdateBatch(); }, &description), ErrorNumber::CommandFailed);
+        QCOMPARE(errorOf([&] { recordset.updateBatch(); }, &description), ErrorNumber::CommandFailed);
         QVERIFY2(description.contains("NOT NULL"), qPrintable(description));
         QCOMPARE(reg.scalar("SELECT count(*) FROM strict").toInt(), 0);
-        QVERIFY(recordset.HasPendingChanges());
-        QVERIFY(IsNull(recordset.Collect("id")));
-        recordset.Fields("name").SetValue("second");
-        recordset.UpdateBatch();
+        QVERIFY(recordset.hasPendingChanges());
+        QVERIFY(isNull(recordset.collect("id")));
+        recordset.fields("name").setValue("second");
+        recordset.updateBatch();
         QCOMPARE(
             reg.scalar("SELECT group_concat(id || name) FROM strict").toString(), QString("1first,2second"));
 
         // An immediate Update that fails keeps the edit.
-        recordset.Close();
-        recordset.Open("SELECT id, name FROM strict", reg.connection(), CursorTypeEnum::Static,
+        recordset.close();
+        recordset.open("SELECT id, name FROM strict", reg.connection(), CursorTypeEnum::Static,
             LockTypeEnum::Optimistic);
-        recordset.AddNew();
-        QCOMPARE(errorOf([&] { recordset.Update(); }), ErrorNumber::CommandFailed);
-        QCOMPARE(recordset.EditMode(), int(EditModeEnum::Add));
-        recordset.Fields("name").SetValue("third");
-        recordset.Update();
-        QCOMPARE(recordset.Collect("id").toInt(), 3);
+        recordset.addNew();
+        QCOMPARE(errorOf([&] { recordset.update(); }), ErrorNumber::CommandFailed);
+        QCOMPARE(recordset.editMode(), int(EditModeEnum::Add));
+        recordset.fields("name").setValue("third");
+        recordset.update();
+        QCOMPARE(recordset.collect("id").toInt(), 3);
     }
 };
 
-int RunEditTest(int argc, char** argv)
+int runEditTest(int argc, char** argv)
 {
     EditTest test;
     return QTest::qExec(&test, argc, argv);

@@ -1,7 +1,7 @@
 #include "EngineFixture.h"
+#include "base/Error.h"
 #include "explorer/DocumentQueries.h"
 #include "store/engine/Recordset.h"
-#include "support/Error.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -31,8 +31,8 @@ void fillEight(EngineRegister& reg)
 
 QStringList ids(Recordset& recordset)
 {
-    recordset.MoveFirst();
-    return Rows(recordset, {QStringLiteral("RastasID")});
+    recordset.moveFirst();
+    return rows(recordset, {QStringLiteral("RastasID")});
 }
 
 } // namespace
@@ -48,35 +48,35 @@ private Q_SLOTS:
         reg.fillSmall();
         reg.execute("UPDATE tbl_Documents SET DokGavSiuntData = '2024-03-02 10:15:00' WHERE RastasID = 2");
         Recordset recordset;
-        recordset.Open(DocumentSql() + "ORDER BY tbl_Documents.DokRegistracData DESC", reg.connection(),
+        recordset.open(documentSql() + "ORDER BY tbl_Documents.DokRegistracData DESC", reg.connection(),
             CursorTypeEnum::Static, LockTypeEnum::Unspecified);
-        QCOMPARE(recordset.FieldCount(), 12);
-        QCOMPARE(recordset.RecordCount(), 3);
-        QVERIFY(!recordset.IsUpdatable());
-        QCOMPARE(Rows(recordset, {"RastasID", "DokRegistracData", "FullName", "KategID", "DokPastaba"}),
+        QCOMPARE(recordset.fieldCount(), 12);
+        QCOMPARE(recordset.recordCount(), 3);
+        QVERIFY(!recordset.isUpdatable());
+        QCOMPARE(rows(recordset, {"RastasID", "DokRegistracData", "FullName", "KategID", "DokPastaba"}),
             QStringList({"3|2024-04-02|-|8|-", "2|2024-03-05|Petras|7|-", "1|2024-03-01|Petras|7|-"}));
-        recordset.MoveFirst();
-        const QVariant date = recordset.Fields("dokregistracdata").Value();
+        recordset.moveFirst();
+        const QVariant date = recordset.fields("dokregistracdata").value();
         QCOMPARE(date.typeId(), int(QMetaType::QDate));
-        recordset.MoveNext();
-        QCOMPARE(recordset.Collect("DokGavSiuntData"), QVariant(QDateTime(QDate(2024, 3, 2), QTime(10, 15))));
-        QCOMPARE(recordset.Fields("RastasID").Value().toInt(), 2);
-        QCOMPARE(recordset.RowValue(0, 0).toInt(), 3);
-        QCOMPARE(recordset.CurrentRow(), 1);
-        QVERIFY(IsNull(recordset.RowValue(7, 0)));
-        QVERIFY(recordset.HasField("FULLNAME"));
-        QVERIFY(!recordset.HasField("Nothing"));
+        recordset.moveNext();
+        QCOMPARE(recordset.collect("DokGavSiuntData"), QVariant(QDateTime(QDate(2024, 3, 2), QTime(10, 15))));
+        QCOMPARE(recordset.fields("RastasID").value().toInt(), 2);
+        QCOMPARE(recordset.rowValue(0, 0).toInt(), 3);
+        QCOMPARE(recordset.currentRow(), 1);
+        QVERIFY(isNull(recordset.rowValue(7, 0)));
+        QVERIFY(recordset.hasField("FULLNAME"));
+        QVERIFY(!recordset.hasField("Nothing"));
         try {
-            recordset.Fields("Nothing");
+            recordset.fields("Nothing");
             QFAIL("no error");
         } catch (const Error& error) {
             QCOMPARE(error.number(), ErrorNumber::ItemNotFound);
         }
         // A table name reads the whole table.
         Recordset table;
-        table.Open("tbl_Tickler", reg.connection());
-        QCOMPARE(table.RecordCount(), 2);
-        QVERIFY(table.IsUpdatable());
+        table.open("tbl_Tickler", reg.connection());
+        QCOMPARE(table.recordCount(), 2);
+        QVERIFY(table.isUpdatable());
     }
 
     void navigation()
@@ -84,46 +84,46 @@ private Q_SLOTS:
         EngineRegister reg;
         fillEight(reg);
         Recordset recordset;
-        recordset.Open("SELECT RastasID FROM tbl_Documents ORDER BY RastasID", reg.connection());
-        QCOMPARE(recordset.RecordCount(), 8);
-        QVERIFY(!recordset.Bof() && !recordset.Eof());
-        QCOMPARE(recordset.AbsolutePosition(), 1);
-        recordset.MovePrevious();
-        QVERIFY(recordset.Bof());
-        QCOMPARE(recordset.AbsolutePosition(), int(PositionEnum::BOF));
-        QCOMPARE(recordset.CurrentRow(), -1);
-        QVERIFY_THROWS_EXCEPTION(Error, recordset.MovePrevious());
-        QVERIFY_THROWS_EXCEPTION(Error, recordset.Fields("RastasID").Value());
-        recordset.MoveNext();
-        recordset.Move(3);
-        QCOMPARE(recordset.Collect("RastasID").toInt(), 4);
-        recordset.Move(-2);
-        QCOMPARE(recordset.AbsolutePosition(), 2);
-        recordset.MoveLast();
-        QCOMPARE(recordset.Collect("RastasID").toInt(), 8);
-        recordset.MoveNext();
-        QVERIFY(recordset.Eof());
-        QCOMPARE(recordset.AbsolutePosition(), int(PositionEnum::EOF_));
+        recordset.open("SELECT RastasID FROM tbl_Documents ORDER BY RastasID", reg.connection());
+        QCOMPARE(recordset.recordCount(), 8);
+        QVERIFY(!recordset.bof() && !recordset.eof());
+        QCOMPARE(recordset.absolutePosition(), 1);
+        recordset.movePrevious();
+        QVERIFY(recordset.bof());
+        QCOMPARE(recordset.absolutePosition(), int(PositionEnum::BOF));
+        QCOMPARE(recordset.currentRow(), -1);
+        QVERIFY_THROWS_EXCEPTION(Error, recordset.movePrevious());
+        QVERIFY_THROWS_EXCEPTION(Error, recordset.fields("RastasID").value());
+        recordset.moveNext();
+        recordset.move(3);
+        QCOMPARE(recordset.collect("RastasID").toInt(), 4);
+        recordset.move(-2);
+        QCOMPARE(recordset.absolutePosition(), 2);
+        recordset.moveLast();
+        QCOMPARE(recordset.collect("RastasID").toInt(), 8);
+        recordset.moveNext();
+        QVERIFY(recordset.eof());
+        QCOMPARE(recordset.absolutePosition(), int(PositionEnum::EOF_));
         try {
-            recordset.MoveNext();
+            recordset.moveNext();
             QFAIL("no error");
         } catch (const Error& error) {
             QCOMPARE(error.number(), ErrorNumber::NoCurrentRecord);
         }
-        recordset.Move(-20);
-        QVERIFY(recordset.Bof());
-        recordset.SetAbsolutePosition(6);
-        QCOMPARE(recordset.Collect("RastasID").toInt(), 6);
-        QVERIFY_THROWS_EXCEPTION(Error, recordset.SetAbsolutePosition(9));
+        recordset.move(-20);
+        QVERIFY(recordset.bof());
+        recordset.setAbsolutePosition(6);
+        QCOMPARE(recordset.collect("RastasID").toInt(), 6);
+        QVERIFY_THROWS_EXCEPTION(Error, recordset.setAbsolutePosition(9));
 
         Recordset empty;
-        empty.Open("SELECT * FROM tbl_Documents WHERE RastasID > 100", reg.connection());
-        QVERIFY(empty.Bof() && empty.Eof());
-        QCOMPARE(empty.RecordCount(), 0);
-        QCOMPARE(empty.AbsolutePosition(), int(PositionEnum::Unknown));
-        empty.MoveFirst();
-        empty.MoveLast();
-        QVERIFY(empty.Eof());
+        empty.open("SELECT * FROM tbl_Documents WHERE RastasID > 100", reg.connection());
+        QVERIFY(empty.bof() && empty.eof());
+        QCOMPARE(empty.recordCount(), 0);
+        QCOMPARE(empty.absolutePosition(), int(PositionEnum::Unknown));
+        empty.moveFirst();
+        empty.moveLast();
+        QVERIFY(empty.eof());
     }
 
     void bookmarkRoundTrip()
@@ -131,20 +131,20 @@ private Q_SLOTS:
         EngineRegister reg;
         fillEight(reg);
         Recordset recordset;
-        recordset.Open("SELECT RastasID FROM tbl_Documents ORDER BY RastasID", reg.connection());
-        recordset.Move(4);
-        const QVariant bookmark = recordset.Bookmark();
-        recordset.MoveFirst();
-        recordset.SetBookmark(bookmark);
-        QCOMPARE(recordset.Collect("RastasID").toInt(), 5);
+        recordset.open("SELECT RastasID FROM tbl_Documents ORDER BY RastasID", reg.connection());
+        recordset.move(4);
+        const QVariant bookmark = recordset.bookmark();
+        recordset.moveFirst();
+        recordset.setBookmark(bookmark);
+        QCOMPARE(recordset.collect("RastasID").toInt(), 5);
         // Hidden by a filter, the row can't be reached; after a requery the bookmark is stale.
-        recordset.SetFilter("RastasID<3");
-        QVERIFY_THROWS_EXCEPTION(Error, recordset.SetBookmark(bookmark));
-        recordset.SetFilter("");
-        recordset.SetBookmark(bookmark);
-        QCOMPARE(recordset.Collect("RastasID").toInt(), 5);
-        recordset.Requery();
-        QVERIFY_THROWS_EXCEPTION(Error, recordset.SetBookmark(bookmark));
+        recordset.setFilter("RastasID<3");
+        QVERIFY_THROWS_EXCEPTION(Error, recordset.setBookmark(bookmark));
+        recordset.setFilter("");
+        recordset.setBookmark(bookmark);
+        QCOMPARE(recordset.collect("RastasID").toInt(), 5);
+        recordset.requery();
+        QVERIFY_THROWS_EXCEPTION(Error, recordset.setBookmark(bookmark));
     }
 
     void filter_data()
@@ -175,18 +175,18 @@ private Q_SLOTS:
         EngineRegister reg;
         fillEight(reg);
         Recordset recordset;
-        recordset.Open("SELECT * FROM tbl_Documents ORDER BY RastasID", reg.connection());
-        recordset.Move(6);
-        recordset.SetFilter(criteria);
-        QCOMPARE(recordset.Filter(), criteria);
-        QCOMPARE(recordset.RecordCount(), expected.size());
-        QCOMPARE(recordset.Eof(), expected.isEmpty());
+        recordset.open("SELECT * FROM tbl_Documents ORDER BY RastasID", reg.connection());
+        recordset.move(6);
+        recordset.setFilter(criteria);
+        QCOMPARE(recordset.filter(), criteria);
+        QCOMPARE(recordset.recordCount(), expected.size());
+        QCOMPARE(recordset.eof(), expected.isEmpty());
         if (!expected.isEmpty())
-            QCOMPARE(recordset.Collect("RastasID").toString(), expected.front());
-        QCOMPARE(Rows(recordset, {"RastasID"}), expected);
-        recordset.SetFilter(QString());
-        QCOMPARE(recordset.RecordCount(), 8);
-        QCOMPARE(recordset.AbsolutePosition(), 1);
+            QCOMPARE(recordset.collect("RastasID").toString(), expected.front());
+        QCOMPARE(rows(recordset, {"RastasID"}), expected);
+        recordset.setFilter(QString());
+        QCOMPARE(recordset.recordCount(), 8);
+        QCOMPARE(recordset.absolutePosition(), 1);
     }
 
     void badFilter()
@@ -194,11 +194,11 @@ private Q_SLOTS:
         EngineRegister reg;
         fillEight(reg);
         Recordset recordset;
-        recordset.Open("SELECT * FROM tbl_Documents", reg.connection());
+        recordset.open("SELECT * FROM tbl_Documents", reg.connection());
         for (const char* criteria :
             {"Nothing=1", "RastasID==1", "(RastasID=1", "RastasID=1 AND", "RastasID ~ 2"}) {
-            QVERIFY_THROWS_EXCEPTION(Error, recordset.SetFilter(criteria));
-            QCOMPARE(recordset.RecordCount(), 8);
+            QVERIFY_THROWS_EXCEPTION(Error, recordset.setFilter(criteria));
+            QCOMPARE(recordset.recordCount(), 8);
         }
     }
 
@@ -207,51 +207,51 @@ private Q_SLOTS:
         EngineRegister reg;
         fillEight(reg);
         Recordset recordset;
-        recordset.Open(
+        recordset.open(
             "SELECT RastasID FROM tbl_Documents WHERE KategID=2 ORDER BY RastasID", reg.connection());
-        recordset.MoveLast();
+        recordset.moveLast();
         reg.execute("INSERT INTO tbl_Documents (RastasID, KategID) VALUES (10, 2)");
         reg.execute("DELETE FROM tbl_Documents WHERE RastasID=4");
-        QSignalSpy moved(&recordset, &Recordset::MoveComplete);
-        QSignalSpy changed(&recordset, &Recordset::RecordsetChangeComplete);
-        recordset.Requery();
-        QCOMPARE(recordset.AbsolutePosition(), 1);
+        QSignalSpy moved(&recordset, &Recordset::moveComplete);
+        QSignalSpy changed(&recordset, &Recordset::recordsetChangeComplete);
+        recordset.requery();
+        QCOMPARE(recordset.absolutePosition(), 1);
         QCOMPARE(ids(recordset), QStringList({"2", "6", "8", "10"}));
         QCOMPARE(changed.count(), 1);
         QVERIFY(moved.count() >= 1);
     }
 
-    // MoveComplete tells every change of the current row, and only those.
+    // moveComplete tells every change of the current row, and only those.
     void moveCompleteFires()
     {
         EngineRegister reg;
         fillEight(reg);
         Recordset recordset;
-        QSignalSpy moved(&recordset, &Recordset::MoveComplete);
-        recordset.Open("SELECT * FROM tbl_Documents", reg.connection(), CursorTypeEnum::Static,
+        QSignalSpy moved(&recordset, &Recordset::moveComplete);
+        recordset.open("SELECT * FROM tbl_Documents", reg.connection(), CursorTypeEnum::Static,
             LockTypeEnum::Optimistic);
         QCOMPARE(moved.count(), 1);
-        recordset.MoveNext();
-        recordset.MovePrevious();
-        recordset.MoveLast();
-        recordset.MoveFirst();
-        recordset.Move(2);
-        recordset.SetAbsolutePosition(1);
+        recordset.moveNext();
+        recordset.movePrevious();
+        recordset.moveLast();
+        recordset.moveFirst();
+        recordset.move(2);
+        recordset.setAbsolutePosition(1);
         QCOMPARE(moved.count(), 7);
-        recordset.Bookmark();
-        recordset.RecordCount();
-        recordset.Fields("DokAntraste").Value();
+        recordset.bookmark();
+        recordset.recordCount();
+        recordset.fields("DokAntraste").value();
         QCOMPARE(moved.count(), 7);
-        recordset.SetFilter("KategID=1");
+        recordset.setFilter("KategID=1");
         QCOMPARE(moved.count(), 8);
-        recordset.AddNew();
+        recordset.addNew();
         QCOMPARE(moved.count(), 9);
-        recordset.CancelUpdate();
+        recordset.cancelUpdate();
         QCOMPARE(moved.count(), 10);
     }
 };
 
-int RunRecordsetTest(int argc, char** argv)
+int runRecordsetTest(int argc, char** argv)
 {
     RecordsetTest test;
     return QTest::qExec(&test, argc, argv);

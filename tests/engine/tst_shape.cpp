@@ -1,6 +1,6 @@
 #include "EngineFixture.h"
+#include "base/Error.h"
 #include "store/engine/Recordset.h"
-#include "support/Error.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -37,28 +37,28 @@ private Q_SLOTS:
         EngineRegister reg;
         reg.fillSmall();
         Recordset parent;
-        parent.Open(NewDocumentShape, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::Optimistic);
-        QCOMPARE(parent.FieldCount(), 12);
-        const Field chapterField = parent.Fields("ChildCMD");
-        QVERIFY(chapterField.IsChapter());
-        QVERIFY(!parent.Fields("RastasID").IsChapter());
-        Recordset* child = chapterField.Chapter();
+        parent.open(NewDocumentShape, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::Optimistic);
+        QCOMPARE(parent.fieldCount(), 12);
+        const Field chapterField = parent.fields("ChildCMD");
+        QVERIFY(chapterField.isChapter());
+        QVERIFY(!parent.fields("RastasID").isChapter());
+        Recordset* child = chapterField.chapter();
         QVERIFY(child);
-        QCOMPARE(parent.Chapter("childcmd"), child);
-        QCOMPARE(child->FieldNames(), QStringList({"RastasID", "TicklerDate", "TicklerID", "TicklerText"}));
-        QCOMPARE(Rows(*child, {"TicklerText", "TicklerDate"}),
+        QCOMPARE(parent.chapter("childcmd"), child);
+        QCOMPARE(child->fieldNames(), QStringList({"RastasID", "TicklerDate", "TicklerID", "TicklerText"}));
+        QCOMPARE(rows(*child, {"TicklerText", "TicklerDate"}),
             QStringList({"Call|2024-03-15", "Write|2024-03-20"}));
 
-        QSignalSpy childMoved(child, &Recordset::MoveComplete);
-        parent.MoveNext();
+        QSignalSpy childMoved(child, &Recordset::moveComplete);
+        parent.moveNext();
         QCOMPARE(childMoved.count(), 1);
-        QCOMPARE(child->RecordCount(), 0);
-        QVERIFY(child->Eof());
-        parent.MoveFirst();
-        QCOMPARE(child->RecordCount(), 2);
-        parent.MoveLast();
-        parent.MoveNext();
-        QCOMPARE(child->RecordCount(), 0);
+        QCOMPARE(child->recordCount(), 0);
+        QVERIFY(child->eof());
+        parent.moveFirst();
+        QCOMPARE(child->recordCount(), 2);
+        parent.moveLast();
+        parent.moveNext();
+        QCOMPARE(child->recordCount(), 0);
     }
 
     // A reminder added under a stored document takes its key at once.
@@ -67,53 +67,53 @@ private Q_SLOTS:
         EngineRegister reg;
         reg.fillSmall();
         Recordset parent;
-        parent.Open(
+        parent.open(
             "SHAPE {select RastasID from tbl_Documents WHERE RastasID=2} AS ParentCMD APPEND ({select "
             "RastasID,TicklerDate,TicklerID,TicklerText from tbl_Tickler } AS ChildCMD RELATE RastasID TO "
             "RastasID) AS ChildCMD",
             reg.connection(), CursorTypeEnum::Static, LockTypeEnum::Optimistic);
-        Recordset* child = parent.Chapter("ChildCMD");
-        QCOMPARE(child->RecordCount(), 0);
-        child->AddNew();
-        QCOMPARE(child->Collect("RastasID").toInt(), 2);
-        child->Fields("TicklerText").SetValue("Pay");
-        child->Fields("TicklerDate").SetValue("2024.05.01");
-        child->Update();
+        Recordset* child = parent.chapter("ChildCMD");
+        QCOMPARE(child->recordCount(), 0);
+        child->addNew();
+        QCOMPARE(child->collect("RastasID").toInt(), 2);
+        child->fields("TicklerText").setValue("Pay");
+        child->fields("TicklerDate").setValue("2024.05.01");
+        child->update();
         QCOMPARE(reminders(reg), QString("1:Call,1:Write,2:Pay"));
-        QCOMPARE(child->Collect("TicklerID").toInt(), 3);
+        QCOMPARE(child->collect("TicklerID").toInt(), 3);
     }
 
-    // The New Document dialog: a new row and its reminders stored by one UpdateBatch(All).
+    // The New Document dialog: a new row and its reminders stored by one updateBatch(All).
     void newParentIsWrittenFirst()
     {
         EngineRegister reg;
         reg.fillSmall();
         Recordset parent;
-        parent.Open(NewDocumentShape, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::Optimistic);
-        Recordset* child = parent.Chapter("ChildCMD");
-        parent.AddNew();
-        QCOMPARE(child->RecordCount(), 0);
-        parent.Fields("DokAntraste").SetValue("Sutartis");
-        parent.Fields("DokRegistracData").SetValue(QDate(2024, 6, 1));
+        parent.open(NewDocumentShape, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::Optimistic);
+        Recordset* child = parent.chapter("ChildCMD");
+        parent.addNew();
+        QCOMPARE(child->recordCount(), 0);
+        parent.fields("DokAntraste").setValue("Sutartis");
+        parent.fields("DokRegistracData").setValue(QDate(2024, 6, 1));
         for (const char* text : {"One", "Two"}) {
-            child->AddNew();
-            QVERIFY(IsNull(child->Collect("RastasID")));
-            child->Fields("TicklerText").SetValue(text);
+            child->addNew();
+            QVERIFY(isNull(child->collect("RastasID")));
+            child->fields("TicklerText").setValue(text);
         }
-        child->MoveFirst();
+        child->moveFirst();
         // Not written before the parent exists, even with an optimistic lock.
         QCOMPARE(reminders(reg), QString("1:Call,1:Write"));
-        QCOMPARE(child->RecordCount(), 2);
-        parent.UpdateBatch(AffectEnum::All);
-        QCOMPARE(parent.Collect("RastasID").toInt(), 4);
+        QCOMPARE(child->recordCount(), 2);
+        parent.updateBatch(AffectEnum::All);
+        QCOMPARE(parent.collect("RastasID").toInt(), 4);
         QCOMPARE(reg.scalar("SELECT DokAntraste FROM tbl_Documents WHERE RastasID=4").toString(),
             QString("Sutartis"));
         QCOMPARE(reminders(reg), QString("1:Call,1:Write,4:One,4:Two"));
-        QCOMPARE(child->Collect("RastasID").toInt(), 4);
-        QVERIFY(!parent.HasPendingChanges());
-        parent.MoveFirst();
-        parent.MoveLast();
-        QCOMPARE(Rows(*child, {"TicklerText"}), QStringList({"One", "Two"}));
+        QCOMPARE(child->collect("RastasID").toInt(), 4);
+        QVERIFY(!parent.hasPendingChanges());
+        parent.moveFirst();
+        parent.moveLast();
+        QCOMPARE(rows(*child, {"TicklerText"}), QStringList({"One", "Two"}));
     }
 
     // The contact editor: the new contact is stored first, then its phones go in at once.
@@ -122,26 +122,26 @@ private Q_SLOTS:
         EngineRegister reg;
         reg.fillSmall();
         Recordset contacts;
-        contacts.Open(
+        contacts.open(
             "SHAPE {select ContactID,CompanyName,Title,Dear,FullName,Address,City,StateOrProvince,"
             "PostalCode,Country,EmailName,Notes from tbl_Contacts} AS ParentCMD APPEND ({select ContactID,"
             "PhoneID,PhoneName,PhoneNumber from tbl_Phones } AS ChildCMD RELATE ContactID TO ContactID) AS "
             "ChildCMD",
             reg.connection(), CursorTypeEnum::Static, LockTypeEnum::Optimistic);
-        Recordset* phones = contacts.Chapter("ChildCMD");
-        contacts.AddNew();
-        contacts.Fields("FullName").SetValue("Rūta");
-        contacts.UpdateBatch(AffectEnum::All);
-        contacts.MoveLast();
-        QCOMPARE(contacts.Collect("ContactID").toInt(), 6);
-        phones->AddNew();
-        phones->Fields("PhoneName").SetValue("Mobile");
-        phones->Update();
+        Recordset* phones = contacts.chapter("ChildCMD");
+        contacts.addNew();
+        contacts.fields("FullName").setValue("Rūta");
+        contacts.updateBatch(AffectEnum::All);
+        contacts.moveLast();
+        QCOMPARE(contacts.collect("ContactID").toInt(), 6);
+        phones->addNew();
+        phones->fields("PhoneName").setValue("Mobile");
+        phones->update();
         QCOMPARE(reg.scalar("SELECT ContactID || PhoneName FROM tbl_Phones").toString(), QString("6Mobile"));
-        contacts.MoveFirst();
-        QCOMPARE(phones->RecordCount(), 0);
-        contacts.MoveLast();
-        QCOMPARE(phones->RecordCount(), 1);
+        contacts.moveFirst();
+        QCOMPARE(phones->recordCount(), 0);
+        contacts.moveLast();
+        QCOMPARE(phones->recordCount(), 1);
     }
 
     void requeryKeepsTheChapter()
@@ -149,52 +149,52 @@ private Q_SLOTS:
         EngineRegister reg;
         reg.fillSmall();
         Recordset parent;
-        parent.Open(NewDocumentShape, reg.connection());
-        Recordset* child = parent.Chapter("ChildCMD");
-        child->SetFilter("TicklerText = 'write'");
-        QCOMPARE(Rows(*child, {"TicklerID"}), QStringList {"2"});
+        parent.open(NewDocumentShape, reg.connection());
+        Recordset* child = parent.chapter("ChildCMD");
+        child->setFilter("TicklerText = 'write'");
+        QCOMPARE(rows(*child, {"TicklerID"}), QStringList {"2"});
         reg.execute("INSERT INTO tbl_Tickler (RastasID, TicklerText) VALUES (1, 'Read'), (3, 'Sign')");
-        parent.Requery();
-        QCOMPARE(parent.Chapter("ChildCMD"), child);
-        child->SetFilter(QString());
-        QCOMPARE(Rows(*child, {"TicklerText"}), QStringList({"Call", "Write", "Read"}));
-        parent.MoveLast();
-        QCOMPARE(Rows(*child, {"TicklerText"}), QStringList {"Sign"});
+        parent.requery();
+        QCOMPARE(parent.chapter("ChildCMD"), child);
+        child->setFilter(QString());
+        QCOMPARE(rows(*child, {"TicklerText"}), QStringList({"Call", "Write", "Read"}));
+        parent.moveLast();
+        QCOMPARE(rows(*child, {"TicklerText"}), QStringList {"Sign"});
     }
 
-    // UpdateBatch(Current) writes the current parent with its own reminders only;
-    // CancelBatch drops the rest, reminders included.
+    // updateBatch(Current) writes the current parent with its own reminders only;
+    // cancelBatch drops the rest, reminders included.
     void currentParentOnly()
     {
         EngineRegister reg;
         reg.fillSmall();
         Recordset parent;
-        parent.Open(
+        parent.open(
             NewDocumentShape, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
-        Recordset* child = parent.Chapter("ChildCMD");
+        Recordset* child = parent.chapter("ChildCMD");
         for (const char* title : {"A", "B"}) {
-            parent.AddNew();
-            parent.Fields("DokAntraste").SetValue(title);
-            child->AddNew();
-            child->Fields("TicklerText").SetValue(QString(QString(title) + QStringLiteral(" note")));
+            parent.addNew();
+            parent.fields("DokAntraste").setValue(title);
+            child->addNew();
+            child->fields("TicklerText").setValue(QString(QString(title) + QStringLiteral(" note")));
         }
-        parent.MoveFirst();
-        child->AddNew();
-        child->Fields("TicklerText").SetValue("Old note");
-        parent.MoveLast();
-        parent.UpdateBatch(AffectEnum::Current);
+        parent.moveFirst();
+        child->addNew();
+        child->fields("TicklerText").setValue("Old note");
+        parent.moveLast();
+        parent.updateBatch(AffectEnum::Current);
         QCOMPARE(
             reg.scalar("SELECT group_concat(DokAntraste) FROM tbl_Documents WHERE RastasID > 3").toString(),
             QString("B"));
         QCOMPARE(reminders(reg), QString("1:Call,1:Write,4:B note"));
-        QVERIFY(parent.HasPendingChanges());
-        parent.CancelBatch();
-        QVERIFY(!parent.HasPendingChanges());
-        QVERIFY(!child->HasPendingChanges());
-        parent.UpdateBatch(AffectEnum::All);
+        QVERIFY(parent.hasPendingChanges());
+        parent.cancelBatch();
+        QVERIFY(!parent.hasPendingChanges());
+        QVERIFY(!child->hasPendingChanges());
+        parent.updateBatch(AffectEnum::All);
         QCOMPARE(reminders(reg), QString("1:Call,1:Write,4:B note"));
-        parent.MoveFirst();
-        QCOMPARE(Rows(*child, {"TicklerText"}), QStringList({"Call", "Write"}));
+        parent.moveFirst();
+        QCOMPARE(rows(*child, {"TicklerText"}), QStringList({"Call", "Write"}));
     }
 
     void cancelledParentDropsItsChildren()
@@ -203,13 +203,13 @@ private Q_SLOTS:
         reg.fillSmall();
         {
             Recordset parent;
-            parent.Open(
+            parent.open(
                 NewDocumentShape, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
-            parent.AddNew();
-            parent.Chapter("ChildCMD")->AddNew();
-            parent.Chapter("ChildCMD")->Fields("TicklerText").SetValue("Lost");
-            parent.Chapter("ChildCMD")->UpdateBatch();
-            QVERIFY(parent.HasPendingChanges());
+            parent.addNew();
+            parent.chapter("ChildCMD")->addNew();
+            parent.chapter("ChildCMD")->fields("TicklerText").setValue("Lost");
+            parent.chapter("ChildCMD")->updateBatch();
+            QVERIFY(parent.hasPendingChanges());
         }
         QCOMPARE(reminders(reg), QString("1:Call,1:Write"));
         QCOMPARE(reg.scalar("SELECT count(*) FROM tbl_Documents").toInt(), 3);
@@ -223,7 +223,7 @@ private Q_SLOTS:
                     "(1, 'Business', '2'), (3, 'Mobile', '3')");
         reg.execute("INSERT INTO tbl_HomePages (ContactID, Description, HomeWWW) VALUES (3, 'Own', 'x.lt')");
         Recordset contacts;
-        contacts.Open(
+        contacts.open(
             "SHAPE {SELECT ContactID, FullName, CompanyName FROM tbl_Contacts ORDER BY FullName, "
             "CompanyName}  AS Contacts APPEND ({SELECT PhoneID, ContactID, PhoneName, PhoneNumber FROM "
             "tbl_Phones ORDER BY PhoneName}  AS Phones RELATE 'ContactID' TO 'ContactID') AS Phones,"
@@ -231,12 +231,12 @@ private Q_SLOTS:
             "HomePages RELATE 'ContactID' TO 'ContactID') AS HomePages",
             reg.connection());
         QStringList seen;
-        while (!contacts.Eof()) {
-            Recordset* phones = contacts.Fields("Phones").Value().value<Recordset*>();
-            Recordset* pages = contacts.Chapter("HomePages");
-            seen << contacts.Collect("FullName").toString() + u':' + Rows(*phones, {"PhoneName"}).join(u',')
-                    + u':' + Rows(*pages, {"HomeWWW"}).join(u',');
-            contacts.MoveNext();
+        while (!contacts.eof()) {
+            Recordset* phones = contacts.fields("Phones").value().value<Recordset*>();
+            Recordset* pages = contacts.chapter("HomePages");
+            seen << contacts.collect("FullName").toString() + u':' + rows(*phones, {"PhoneName"}).join(u',')
+                    + u':' + rows(*pages, {"HomeWWW"}).join(u',');
+            contacts.moveNext();
         }
         QCOMPARE(seen,
             QStringList(
@@ -251,7 +251,7 @@ private Q_SLOTS:
                     "(8, 'Aktai')");
         reg.execute("INSERT INTO tbl_Documents (RastasID, ContactID, KategID) VALUES (4, 3, 8), (5, 1, 8)");
         Recordset groups;
-        groups.Open(
+        groups.open(
             "SHAPE {SELECT tbl_Contacts.ContactID, tbl_Contacts.FullName, tbl_Contacts.CompanyName, "
             "tbl_Documents.RastasID, tbl_Documents.DokRegistracIndeksas, tbl_Documents.DokRegistracData, "
             "tbl_Documents.DokAntraste, tbl_Documents.KategID, tbl_Document_Categories.DokKategorija FROM "
@@ -260,15 +260,15 @@ private Q_SLOTS:
             "tbl_Contacts.FullName}  AS DocByCor COMPUTE DocByCor, COUNT(DocByCor.'RastasID') AS Aggr1 BY "
             "'ContactID','FullName'",
             reg.connection());
-        QCOMPARE(groups.FieldNames(), QStringList({"ContactID", "FullName", "Aggr1", "DocByCor"}));
+        QCOMPARE(groups.fieldNames(), QStringList({"ContactID", "FullName", "Aggr1", "DocByCor"}));
         QStringList seen;
-        while (!groups.Eof()) {
-            Recordset* rows = groups.Chapter("DocByCor");
-            QStringList documents = Rows(*rows, {"RastasID"});
+        while (!groups.eof()) {
+            Recordset* chapter = groups.chapter("DocByCor");
+            QStringList documents = rows(*chapter, {"RastasID"});
             documents.sort();
-            seen << groups.Collect("FullName").toString() + u'=' + groups.Collect("Aggr1").toString() + u':'
+            seen << groups.collect("FullName").toString() + u'=' + groups.collect("Aggr1").toString() + u':'
                     + documents.join(u',');
-            groups.MoveNext();
+            groups.moveNext();
         }
         QCOMPARE(seen, QStringList({"Petras=3:1,2,5", "Šarūnas=1:4"}));
     }
@@ -281,7 +281,7 @@ private Q_SLOTS:
         reg.execute("INSERT INTO tbl_Document_Categories (KategID, DokKategorija) VALUES (7, 'Sutartys'), "
                     "(8, 'Aktai')");
         Recordset groups;
-        groups.Open(
+        groups.open(
             "SHAPE {SELECT tbl_Documents.RastasID, tbl_Documents.DokRegistracData, "
             "tbl_Documents.DokRegistracIndeksas, tbl_Documents.DokAntraste, tbl_Documents.ContactID, "
             "tbl_Contacts.FullName, tbl_Documents.KategID, tbl_Document_Categories.DokKategorija\r\nFROM "
@@ -290,12 +290,12 @@ private Q_SLOTS:
             "tbl_Contacts.ContactID=tbl_Documents.ContactID\r\n}  AS Command2 COMPUTE Command2 BY "
             "'FullName'",
             reg.connection());
-        QCOMPARE(groups.RecordCount(), 2);
+        QCOMPARE(groups.recordCount(), 2);
         QStringList seen;
-        while (!groups.Eof()) {
-            seen << groups.Collect("FullName").toString() + u':'
-                    + QString::number(groups.Chapter("Command2")->RecordCount());
-            groups.MoveNext();
+        while (!groups.eof()) {
+            seen << groups.collect("FullName").toString() + u':'
+                    + QString::number(groups.chapter("Command2")->recordCount());
+            groups.moveNext();
         }
         seen.sort();
         QCOMPARE(seen, QStringList({":1", "Petras:2"}));
@@ -323,17 +323,17 @@ private Q_SLOTS:
         EngineRegister reg;
         Recordset recordset;
         try {
-            recordset.Open(command, reg.connection());
+            recordset.open(command, reg.connection());
             QFAIL("no error");
         } catch (const Error& error) {
             QCOMPARE(error.number(), ErrorNumber::CommandFailed);
             QVERIFY2(error.description().contains("SHAPE"), qPrintable(error.description()));
         }
-        QVERIFY(!recordset.IsOpen());
+        QVERIFY(!recordset.isOpen());
     }
 };
 
-int RunShapeTest(int argc, char** argv)
+int runShapeTest(int argc, char** argv)
 {
     ShapeTest test;
     return QTest::qExec(&test, argc, argv);

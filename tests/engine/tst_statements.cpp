@@ -120,8 +120,8 @@ private Q_SLOTS:
         EngineRegister reg;
         fillRegister(reg);
         Recordset recordset;
-        recordset.Open(sql, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::Unspecified);
-        QCOMPARE(recordset.RecordCount(), rows);
+        recordset.open(sql, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::Unspecified);
+        QCOMPARE(recordset.recordCount(), rows);
     }
 
     // The report commands, each as parent rows with their chapter.
@@ -207,12 +207,12 @@ private Q_SLOTS:
         EngineRegister reg;
         fillRegister(reg);
         Recordset recordset;
-        recordset.Open(command, reg.connection());
+        recordset.open(command, reg.connection());
         QStringList seen;
-        while (!recordset.Eof()) {
-            seen << recordset.Collect(parentField).toString() + u':'
-                    + QString::number(recordset.Chapter(chapter)->RecordCount());
-            recordset.MoveNext();
+        while (!recordset.eof()) {
+            seen << recordset.collect(parentField).toString() + u':'
+                    + QString::number(recordset.chapter(chapter)->recordCount());
+            recordset.moveNext();
         }
         QCOMPARE(seen, groups);
     }
@@ -223,7 +223,7 @@ private Q_SLOTS:
         EngineRegister reg;
         fillRegister(reg);
         Recordset recordset;
-        recordset.Open("SHAPE {SELECT tbl_Documents.RastasID, tbl_Documents.DokRegistracData, "
+        recordset.open("SHAPE {SELECT tbl_Documents.RastasID, tbl_Documents.DokRegistracData, "
                        "tbl_Documents.DokRegistracIndeksas, "
                        "tbl_Documents.DokAntraste, tbl_Documents.ContactID, tbl_Contacts.FullName, "
                        "tbl_Documents.KategID, "
@@ -234,19 +234,19 @@ private Q_SLOTS:
                        "'KategID','DokKategorija'",
             reg.connection());
         QStringList seen;
-        while (!recordset.Eof()) {
-            Recordset* rows = recordset.Chapter("Command2");
-            QStringList names = Rows(*rows, {"RastasID", "FullName"});
+        while (!recordset.eof()) {
+            Recordset* chapter = recordset.chapter("Command2");
+            QStringList names = rows(*chapter, {"RastasID", "FullName"});
             names.sort();
-            seen << recordset.Collect("DokKategorija").toString() + u'=' + names.join(u',');
-            recordset.MoveNext();
+            seen << recordset.collect("DokKategorija").toString() + u'=' + names.join(u',');
+            recordset.moveNext();
         }
         seen.sort();
         QCOMPARE(seen, QStringList({"Aktai=3|-", "Sutartys=1|Petras,2|Petras"}));
     }
 };
 
-int RunStatementsTest(int argc, char** argv)
+int runStatementsTest(int argc, char** argv)
 {
     StatementsTest test;
     return QTest::qExec(&test, argc, argv);

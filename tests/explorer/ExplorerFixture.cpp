@@ -2,8 +2,8 @@
 
 #include "explorer/DocumentFills.h"
 #include "explorer/ExplorerList.h"
-#include "explorer/Form2.h"
 #include "explorer/ListModel.h"
+#include "explorer/MainWindow.h"
 #include "explorer/NavigationTree.h"
 
 #include <QCoreApplication>
@@ -73,13 +73,13 @@ ExplorerFixture::ExplorerFixture()
 
 ExplorerFixture::~ExplorerFixture() = default;
 
-Form2& ExplorerFixture::window()
+MainWindow& ExplorerFixture::window()
 {
     if (!m_window) {
-        m_window = std::make_unique<Form2>();
+        m_window = std::make_unique<MainWindow>();
         m_window->resize(1000, 700);
         m_window->show();
-        m_window->Form_Load();
+        m_window->load();
         if (!QTest::qWaitForWindowExposed(m_window.get()))
             qWarning("window not exposed");
     }
@@ -134,7 +134,7 @@ void ExplorerFixture::clickNode(const QString& key)
 
 void ExplorerFixture::clickDocument(const QString& name)
 {
-    const int row = documents().rowOfKey(DocumentFills::ItemKey(id.value(name)));
+    const int row = documents().rowOfKey(DocumentFills::itemKey(id.value(name)));
     QVERIFY2(row >= 0, qPrintable("no document " + name));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     QTreeView* view = m_window->documentList()->detailsView();

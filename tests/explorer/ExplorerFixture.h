@@ -11,7 +11,7 @@
 class QTreeWidgetItem;
 
 namespace kartella {
-class Form2;
+class MainWindow;
 class ListModel;
 } // namespace kartella
 
@@ -33,7 +33,7 @@ public:
     QDate lastMonth; // the 10th of the previous month
 
     // Creates and loads the main window.
-    Form2& window();
+    MainWindow& window();
     ListModel& documents() const;
     ListModel& related() const;
     QStringList documentTexts() const;
@@ -45,7 +45,7 @@ public:
     QString countText() const;
 
 private:
-    std::unique_ptr<Form2> m_window;
+    std::unique_ptr<MainWindow> m_window;
 };
 
 } // namespace kartella::test

@@ -1,12 +1,12 @@
 #include "explorer/DocumentFills.h"
 #include "explorer/ExplorerFixture.h"
 #include "explorer/ExplorerList.h"
-#include "explorer/Form2.h"
 #include "explorer/ListModel.h"
+#include "explorer/MainWindow.h"
 #include "explorer/NavigationTree.h"
-#include "explorer/SelectionState.h"
 #include "harness/ScriptedPrompter.h"
 #include "harness/ScriptedShell.h"
+#include "support/SelectionState.h"
 #include "support/Splitter.h"
 
 #include <QAction>
@@ -35,9 +35,9 @@ struct CommandsFixture : ExplorerFixture
     QStringList opened;
     QList<QMenu*> popups;
 
-    Form2& load()
+    MainWindow& load()
     {
-        Form2& w = window();
+        MainWindow& w = window();
         for (const QString& name : Dialogs)
             w.setDialog(name, [this, name](const QString& file) {
                 opened << name + (file.isEmpty() ? QString() : QString(":" + file));
@@ -82,13 +82,13 @@ class CommandsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { Selection() = SelectionState(); }
+    void init() { selection() = SelectionState(); }
 
     void enablingFollowsTheSelection()
     {
         CommandsFixture fx;
         ScriptedPrompter prompter;
-        Form2& w = fx.load();
+        MainWindow& w = fx.load();
         // Start: document commands disabled in the menus, every toolbar button enabled.
         for (const QString& name : DocumentCommands + QStringList {"mnuDeleteCategory", "mnuCategoryOptions"})
             QVERIFY2(!fx.enabled(name), qPrintable(name));
@@ -117,7 +117,7 @@ private Q_SLOTS:
             QVERIFY(!fx.toolbarEnabled(position));
         QVERIFY(fx.toolbarEnabled(6) && fx.toolbarEnabled(9));
         // A related document: no related document of a related one.
-        w.ListSusieti_ItemClick(fx.related().rowOfKey(DocumentFills::ItemKey(fx.id["copy"])));
+        w.onRelatedClicked(fx.related().rowOfKey(DocumentFills::itemKey(fx.id["copy"])));
         QVERIFY(!fx.enabled("mnuRelated"));
         QVERIFY(fx.enabled("mnuShowDetails") && fx.enabled("mnuOpen") && fx.enabled("mnuPopOpen"));
 
@@ -137,18 +137,18 @@ private Q_SLOTS:
         fx.clickDocument("letter");
         fx.reg.exec("DELETE FROM tbl_Documents");
         fx.clickNode("a" + QString::number(fx.id["Raštai"]));
-        w.ListDokSarasas_ItemClick(0);
+        w.onDocumentClicked(0);
         for (const QString& name : DocumentCommands)
             QVERIFY2(!fx.enabled(name), qPrintable(name));
         QVERIFY(fx.enabled("mnuPopOpen"));
-        QVERIFY(Selection().SelectedFilePath.isEmpty());
+        QVERIFY(selection().selectedFilePath.isEmpty());
         QVERIFY(prompter.prompts().isEmpty());
     }
 
     void commandsWithoutTheirDialogWait()
     {
         ExplorerFixture fx;
-        Form2& w = fx.window();
+        MainWindow& w = fx.window();
         QAction* addressBook = w.action("mnuAddressBook");
         QVERIFY(!addressBook->isEnabled());
         QVERIFY(addressBook->toolTip().contains("not available"));
@@ -176,7 +176,7 @@ private Q_SLOTS:
         CommandsFixture fx;
         ScriptedPrompter prompter;
         ScriptedShell shell;
-        Form2& w = fx.load();
+        MainWindow& w = fx.load();
         // Before any click the toolbar is on and the path is empty.
         prompter.answer(MsgBoxResult::Ok);
         w.action("btnOpen")->trigger();
@@ -198,7 +198,7 @@ private Q_SLOTS:
         w.action("mnuProperties")->trigger();
         QTreeView* view = w.documentList()->detailsView();
         const QModelIndex index
-            = fx.documents().index(fx.documents().rowOfKey(DocumentFills::ItemKey(fx.id["letter"])), 0);
+            = fx.documents().index(fx.documents().rowOfKey(DocumentFills::itemKey(fx.id["letter"])), 0);
         QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(index).center());
         const QList<ScriptedShell::Call> calls = shell.take();
         QCOMPARE(calls.size(), 4);
@@ -237,7 +237,7 @@ private Q_SLOTS:
             path = fx.reg.dir() + "/nowhere.doc";
         if (!path.isEmpty())
             fx.setPath("tbl_Documents", "RastasID", fx.id["work"], "RastoKel", path);
-        Form2& w = fx.load();
+        MainWindow& w = fx.load();
         fx.clickNode("a" + QString::number(fx.id["Sutartys"]));
         fx.clickDocument("work");
         if (answer == 1)
@@ -264,7 +264,7 @@ private Q_SLOTS:
         const QString annex = fx.makeFile("annex.doc");
         fx.setPath("tbl_Documents", "RastasID", fx.id["contract"], "RastoKel", own);
         fx.setPath("tbl_Sub_Documents", "SubRastasID", fx.id["annex"], "SubRastoKelias", annex);
-        Form2& w = fx.load();
+        MainWindow& w = fx.load();
         fx.clickNode("b" + QString::number(fx.id["Nuomos"]));
         fx.clickDocument("contract");
         QVERIFY(w.relatedList()->isVisible());
@@ -304,10 +304,10 @@ private Q_SLOTS:
         ScriptedShell shell;
         const QString annex = fx.makeFile("annex.doc");
         fx.setPath("tbl_Sub_Documents", "SubRastasID", fx.id["annex"], "SubRastoKelias", annex);
-        Form2& w = fx.load();
+        MainWindow& w = fx.load();
         fx.clickDocument("contract");
-        const int annexRow = fx.related().rowOfKey(DocumentFills::ItemKey(fx.id["annex"]));
-        w.ListSusieti_ItemClick(annexRow);
+        const int annexRow = fx.related().rowOfKey(DocumentFills::itemKey(fx.id["annex"]));
+        w.onRelatedClicked(annexRow);
         shell.refuse();
         w.action("mnuDelete")->trigger();
         QCOMPARE(fx.rowCount("tbl_Sub_Documents"), 2);
@@ -326,7 +326,7 @@ private Q_SLOTS:
     {
         CommandsFixture fx;
         ScriptedPrompter prompter;
-        Form2& w = fx.load();
+        MainWindow& w = fx.load();
         prompter.answer(MsgBoxResult::Ok);
         w.action("btnDelete")->trigger();
         QCOMPARE(prompter.texts(), QStringList {"Select document, please!"});
@@ -355,7 +355,7 @@ private Q_SLOTS:
         QFETCH(int, subCategories);
         CommandsFixture fx;
         ScriptedPrompter prompter;
-        Form2& w = fx.load();
+        MainWindow& w = fx.load();
         fx.clickNode(node.left(1) + QString::number(fx.id[node.mid(1)]));
         prompter.answer(MsgBoxResult::No);
         w.action("mnuDeleteCategory")->trigger();
@@ -376,7 +376,7 @@ private Q_SLOTS:
     void columnSortAlternates()
     {
         CommandsFixture fx;
-        Form2& w = fx.load();
+        MainWindow& w = fx.load();
         auto column = [&](int c) {
             QStringList out;
             for (int row = 0; row < fx.documents().itemCount(); ++row)
@@ -387,11 +387,11 @@ private Q_SLOTS:
         ascending.sort(Qt::CaseInsensitive);
         QStringList descending = ascending;
         std::reverse(descending.begin(), descending.end());
-        w.ListDokSarasas_ColumnClick(0);
+        w.onDocumentColumnClicked(0);
         QCOMPARE(column(0), ascending);
-        w.ListDokSarasas_ColumnClick(0);
+        w.onDocumentColumnClicked(0);
         QCOMPARE(column(0), descending);
-        w.ListDokSarasas_ColumnClick(0);
+        w.onDocumentColumnClicked(0);
         QCOMPARE(column(0), ascending);
         // Another column starts ascending; the sort stays across a refill.
         w.action("mnubyCorrespondent")->trigger();
@@ -409,35 +409,35 @@ private Q_SLOTS:
         fx.reg.exec("DELETE FROM tbl_Documents");
         fx.clickNode("ALL");
         w.action("mnubyRegIndex")->trigger();
-        w.ListDokSarasas_ColumnClick(4);
+        w.onDocumentColumnClicked(4);
         QCOMPARE(fx.documents().sortKey(), 3);
     }
 
     void viewModesApplyToBothLists()
     {
         CommandsFixture fx;
-        Form2& w = fx.load();
+        MainWindow& w = fx.load();
         const QStringList menu = {"mnuLargeIcons", "mnuSmallIcons", "mnuList", "mnuDetails"};
         const QStringList toolbar = {"btnLarge", "btnSmall", "btnList", "btnDetailsV"};
         for (int view = 0; view < 4; ++view) {
             for (const QStringList* source : {&menu, &toolbar}) {
                 w.action(source->at((view + 1) % 4))->trigger();
                 w.action(source->at(view))->trigger();
-                QCOMPARE(w.documentList()->View(), view);
-                QCOMPARE(w.relatedList()->View(), view);
+                QCOMPARE(w.documentList()->view(), view);
+                QCOMPARE(w.relatedList()->view(), view);
                 for (int other = 0; other < 4; ++other)
                     QCOMPARE(w.action(menu[other])->isChecked(), other == view);
             }
         }
         // The view button's face does nothing.
         w.action("btnView")->trigger();
-        QCOMPARE(w.documentList()->View(), 3);
+        QCOMPARE(w.documentList()->view(), 3);
     }
 
     void rightButtonMenus()
     {
         CommandsFixture fx;
-        Form2& w = fx.load();
+        MainWindow& w = fx.load();
         QWidget* documents = w.documentList()->detailsView()->viewport();
         QWidget* related = w.relatedList()->detailsView()->viewport();
         // Nothing selected yet: no menu.
@@ -445,7 +445,7 @@ private Q_SLOTS:
         QVERIFY(fx.popups.isEmpty());
         fx.clickDocument("contract");
         fx.rightClick(documents);
-        QCOMPARE(fx.popups, QList<QMenu*> {w.popUpMenu()});
+        QCOMPARE(fx.popups, QList<QMenu*> {w.documentContextMenu()});
         QVERIFY(w.action("mnuPopRelated")->isVisible());
         fx.rightClick(related);
         QCOMPARE(fx.popups.size(), 2);
@@ -454,7 +454,7 @@ private Q_SLOTS:
         fx.rightClick(documents);
         QVERIFY(w.action("mnuPopRelated")->isVisible());
         // The right button doesn't move the selection: the menu acts on the last click.
-        QCOMPARE(Selection().SelectedDocumentId, fx.id["contract"]);
+        QCOMPARE(selection().selectedDocumentId, fx.id["contract"]);
 
         // The tree: no menu while no category is current; the category menu otherwise.
         fx.popups.clear();
@@ -463,7 +463,7 @@ private Q_SLOTS:
         QVERIFY(!fx.enabled("mnuCategoryOptions"));
         fx.clickNode("a" + QString::number(fx.id["Raštai"]));
         fx.rightClick(w.tree()->viewport());
-        QCOMPARE(fx.popups, QList<QMenu*> {w.popCatMenu()});
+        QCOMPARE(fx.popups, QList<QMenu*> {w.categoryContextMenu()});
         w.action("mnuPopCatNewDoc")->trigger();
         QCOMPARE(fx.opened, QStringList {"frmNewDocument"});
         // Not in the contact view.
@@ -484,28 +484,28 @@ private Q_SLOTS:
     {
         CommandsFixture fx;
         ScriptedPrompter prompter;
-        Form2& w = fx.load();
+        MainWindow& w = fx.load();
         fx.clickNode("a" + QString::number(fx.id["Raštai"]));
-        const int last = w.LastNodeIndex;
+        const int last = w.lastNodeIndex();
         fx.reg.insert("tbl_Document_Categories", {{"DokKategorija", "Aktai"}});
         w.action("mnuRefresh")->trigger();
-        QCOMPARE(w.LastNodeIndex, last);
+        QCOMPARE(w.lastNodeIndex(), last);
         QCOMPARE(w.tree()->nodeByIndex(2)->text(0), QString("Aktai"));
         QCOMPARE(fx.documentTexts(), QStringList({"letter", "note"})); // the list stays
 
         w.action("mnuByContacts")->trigger();
         QVERIFY(w.action("mnuByContacts")->isChecked());
         QVERIFY(!w.action("mnuByCategory")->isChecked());
-        QVERIFY(!w.CategoryView);
-        QCOMPARE(w.LastNodeIndex, 0);
+        QVERIFY(!w.isCategoryView());
+        QCOMPARE(w.lastNodeIndex(), 0);
         QCOMPARE(w.tree()->nodeByIndex(1)->text(0), QString("CONTACTS"));
         // After the switch any click acts, the root's too.
         fx.clickNode("ALL");
         QCOMPARE(fx.documents().itemCount(), 5);
         w.action("mnuByContacts")->trigger();
-        QCOMPARE(w.LastNodeIndex, 0);
+        QCOMPARE(w.lastNodeIndex(), 0);
         w.action("mnuByCategory")->trigger();
-        QVERIFY(w.CategoryView);
+        QVERIFY(w.isCategoryView());
         QVERIFY(prompter.prompts().isEmpty());
     }
 
@@ -531,23 +531,23 @@ private Q_SLOTS:
         splitter.addWidget(new QWidget);
         splitter.resize(400, 300);
         splitter.show();
-        CSplitter gap;
-        gap.Create(&splitter, true, 0, 0);
-        QCOMPARE(gap.SplitterSize(), 4);
-        QCOMPARE(gap.Percent(), gap.LeastPercent());
-        QVERIFY(splitter.sizes().first() >= gap.MinimumDistance() - 2);
-        gap.Create(&splitter, true, 6, 120);
-        QCOMPARE(gap.Percent(), 100 - gap.LeastPercent());
-        QVERIFY(splitter.sizes().last() >= gap.MinimumDistance() - 3);
-        gap.SetSplitPercent(50);
-        QVERIFY(qAbs(gap.SplitPercent() - 50) <= 1);
+        Splitter gap;
+        gap.create(&splitter, true, 0, 0);
+        QCOMPARE(gap.splitterSize(), 4);
+        QCOMPARE(gap.percent(), gap.leastPercent());
+        QVERIFY(splitter.sizes().first() >= gap.minimumDistance() - 2);
+        gap.create(&splitter, true, 6, 120);
+        QCOMPARE(gap.percent(), 100 - gap.leastPercent());
+        QVERIFY(splitter.sizes().last() >= gap.minimumDistance() - 3);
+        gap.setSplitPercent(50);
+        QVERIFY(qAbs(gap.splitPercent() - 50) <= 1);
         // A drag past the edge stops at the panes' least size: none collapses.
         splitter.setSizes({0, 400});
         QVERIFY(splitter.sizes().first() > 0);
 
         // The related list: 0.8 of the height after each fill that shows it, whatever was dragged.
         CommandsFixture fx;
-        Form2& w = fx.load();
+        MainWindow& w = fx.load();
         fx.clickDocument("contract");
         auto* lists = w.findChild<QSplitter*>("splitLists");
         lists->setSizes({100, lists->height() - 100});
@@ -559,8 +559,8 @@ private Q_SLOTS:
     void droppedFilesOpenTheDialogOneByOne()
     {
         CommandsFixture fx;
-        Form2& w = fx.load();
-        w.ListDokSarasas_OLEDragDrop({"/tmp/a.doc", "/tmp/b.xls", "/tmp/c.pdf"});
+        MainWindow& w = fx.load();
+        w.onFilesDropped({"/tmp/a.doc", "/tmp/b.xls", "/tmp/c.pdf"});
         QCOMPARE(fx.opened,
             QStringList(
                 {"frmNewDocument:/tmp/a.doc", "frmNewDocument:/tmp/b.xls", "frmNewDocument:/tmp/c.pdf"}));

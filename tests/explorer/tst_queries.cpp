@@ -18,8 +18,8 @@ const QString Base = QStringLiteral(
 const QString Range
     = QStringLiteral("WHERE tbl_Documents.DokRegistracData between #3/1/2024# and #4/1/2024#");
 const QString Order = QStringLiteral(" ORDER BY tbl_Documents.DokRegistracData");
-const QDate Start(2024, 3, 1);
-const QDate End(2024, 4, 1);
+const QDate rangeStart(2024, 3, 1);
+const QDate rangeEnd(2024, 4, 1);
 
 } // namespace
 
@@ -30,16 +30,16 @@ class QueriesTest : public QObject
 private Q_SLOTS:
     void workedExample()
     {
-        QCOMPARE(CategoryListSql(7, 3, true, Start, End),
+        QCOMPARE(categoryListSql(7, 3, true, rangeStart, rangeEnd),
             QString(Base
                 + "WHERE tbl_Documents.DokRegistracData between #3/1/2024# and #4/1/2024# AND "
                   "tbl_Documents.KategID=7 AND tbl_Documents.KryptisID=3 ORDER BY "
                   "tbl_Documents.DokRegistracData"));
-        QCOMPARE(DatedDocumentSql(Start, End), QString(Base + Range));
+        QCOMPARE(datedDocumentSql(rangeStart, rangeEnd), QString(Base + Range));
     }
 
-    // Builders: A CategoryListSql, B CategoryDatedListSql, C SubCategoryListSql, D SubCategoryDatedListSql,
-    // E ContactDocumentSql, F ContactDatedDocumentSql. "tail" follows the base text.
+    // Builders: A categoryListSql, B categoryDatedListSql, C subCategoryListSql, D subCategoryDatedListSql,
+    // E contactDocumentSql, F contactDatedDocumentSql. "tail" follows the base text.
     void builders_data()
     {
         QTest::addColumn<char>("rule");
@@ -95,17 +95,17 @@ private Q_SLOTS:
         QFETCH(QString, tail);
         QString sql;
         if (rule == 'A')
-            sql = CategoryListSql(category, direction, filterOn, Start, End);
+            sql = categoryListSql(category, direction, filterOn, rangeStart, rangeEnd);
         else if (rule == 'B')
-            sql = CategoryDatedListSql(category, direction, Start, End);
+            sql = categoryDatedListSql(category, direction, rangeStart, rangeEnd);
         else if (rule == 'C')
-            sql = SubCategoryListSql(category, subCategory, direction, filterOn, Start, End);
+            sql = subCategoryListSql(category, subCategory, direction, filterOn, rangeStart, rangeEnd);
         else if (rule == 'D')
-            sql = SubCategoryDatedListSql(category, subCategory, direction, Start, End);
+            sql = subCategoryDatedListSql(category, subCategory, direction, rangeStart, rangeEnd);
         else if (rule == 'E')
-            sql = ContactDocumentSql(direction, filterOn, Start, End);
+            sql = contactDocumentSql(direction, filterOn, rangeStart, rangeEnd);
         else
-            sql = ContactDatedDocumentSql(direction, Start, End);
+            sql = contactDatedDocumentSql(direction, rangeStart, rangeEnd);
         QCOMPARE(sql, QString(Base + tail));
     }
 
@@ -123,7 +123,7 @@ private Q_SLOTS:
         QFETCH(QDate, date);
         QFETCH(QString, text);
         QLocale::setDefault(QLocale(QLocale::Lithuanian, QLocale::Lithuania));
-        const QString sql = DatedDocumentSql(date, date);
+        const QString sql = datedDocumentSql(date, date);
         QLocale::setDefault(QLocale::c());
         QCOMPARE(sql,
             QString(Base + "WHERE tbl_Documents.DokRegistracData between #" + text + "# and #" + text + "#"));
@@ -148,10 +148,10 @@ private Q_SLOTS:
         QFETCH(bool, on);
         QTemporaryDir config;
         qputenv("XDG_CONFIG_HOME", config.path().toUtf8());
-        QVERIFY(WriteRegValue(Hive::CurrentUser, OptionsKeyPath(), "Provider", "x"));
+        QVERIFY(writeRegValue(Hive::CurrentUser, optionsKeyPath(), "Provider", "x"));
         if (!stored.isNull())
-            SetRegValue("Filter", stored);
-        QCOMPARE(FilterOptionOn(), on);
+            setRegValue("Filter", stored);
+        QCOMPARE(filterOptionOn(), on);
     }
 };
 

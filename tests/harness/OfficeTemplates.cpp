@@ -12,9 +12,9 @@ namespace kartella::test {
 
 using Kind = OfficeSuite::Kind;
 
-QByteArray FlatDocument(Kind kind, const QByteArray& text)
+QByteArray flatDocument(Kind kind, const QByteArray& text)
 {
-    QByteArray body = LibreOfficeSuite::SeedDocument(kind);
+    QByteArray body = LibreOfficeSuite::seedDocument(kind);
     const QByteArray paragraph = "<text:p>" + text + "</text:p>";
     if (kind == Kind::Word) {
         body.replace("<text:p/>", paragraph);
@@ -33,14 +33,14 @@ QByteArray FlatDocument(Kind kind, const QByteArray& text)
     return body;
 }
 
-QString MakeOfficeTemplate(Kind kind, const QString& folder, const QString& name)
+QString makeOfficeTemplate(Kind kind, const QString& folder, const QString& name)
 {
     static const char* const filters[]
         = {"dot:MS Word 97 Vorlage", "xlt:MS Excel 97 Vorlage/Template", "pot:MS PowerPoint 97 Vorlage"};
     const QString filter = QLatin1String(filters[int(kind)]);
     const QDir dir(folder);
-    const QString source = dir.filePath(name + "." + LibreOfficeSuite::SeedExtension(kind));
-    const QByteArray body = FlatDocument(kind, "Template marker " + name.toUtf8());
+    const QString source = dir.filePath(name + "." + LibreOfficeSuite::seedExtension(kind));
+    const QByteArray body = flatDocument(kind, "Template marker " + name.toUtf8());
     QFile file(source);
     if (!file.open(QIODevice::WriteOnly) || file.write(body) != body.size())
         return {};
@@ -55,7 +55,7 @@ QString MakeOfficeTemplate(Kind kind, const QString& folder, const QString& name
     return QFile::exists(made) ? made : QString();
 }
 
-bool FileHoldsText(const QString& path, const QString& text)
+bool fileHoldsText(const QString& path, const QString& text)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))

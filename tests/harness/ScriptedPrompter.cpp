@@ -53,18 +53,18 @@ QList<ScriptedPrompter::Prompt> ScriptedPrompter::take()
     return std::exchange(m_prompts, {});
 }
 
-int ScriptedPrompter::MsgBox(const QString& prompt, int style, const QString& title)
+int ScriptedPrompter::msgBox(const QString& prompt, int style, const QString& title)
 {
-    m_prompts.append({prompt, title.isEmpty() ? ProgramTitle() : title, style});
+    m_prompts.append({prompt, title.isEmpty() ? programTitle() : title, style});
     if (m_answers.isEmpty()) {
         QTest::qFail(
             qPrintable(QStringLiteral("Unexpected message box: \"%1\"").arg(prompt)), __FILE__, __LINE__);
-        return EscapeResult(style) ? EscapeResult(style) : DefaultResult(style);
+        return escapeResult(style) ? escapeResult(style) : defaultResult(style);
     }
     return m_answers.dequeue();
 }
 
-QString ScriptedPrompter::OpenFile(const OpenFileRequest& request)
+QString ScriptedPrompter::openFile(const OpenFileRequest& request)
 {
     fileRequests.append(request);
     if (m_files.isEmpty()) {
@@ -75,7 +75,7 @@ QString ScriptedPrompter::OpenFile(const OpenFileRequest& request)
     return m_files.dequeue();
 }
 
-QString ScriptedPrompter::ChooseFolder(const QString& prompt)
+QString ScriptedPrompter::chooseFolder(const QString& prompt)
 {
     folderPrompts.append(prompt);
     if (m_folders.isEmpty()) {

@@ -36,9 +36,9 @@ public:
     QList<Prompt> take();
     bool allAnswered() const { return m_answers.isEmpty() && m_files.isEmpty() && m_folders.isEmpty(); }
 
-    int MsgBox(const QString& prompt, int style, const QString& title) override;
-    QString OpenFile(const OpenFileRequest& request) override;
-    QString ChooseFolder(const QString& prompt) override;
+    int msgBox(const QString& prompt, int style, const QString& title) override;
+    QString openFile(const OpenFileRequest& request) override;
+    QString chooseFolder(const QString& prompt) override;
 
     QList<OpenFileRequest> fileRequests;
     QStringList folderPrompts;

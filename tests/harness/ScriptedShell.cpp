@@ -49,44 +49,44 @@ bool ScriptedShell::record(Kind kind, const QString& path, const QString& target
     return result;
 }
 
-bool ScriptedShell::Open(const QString& path)
+bool ScriptedShell::open(const QString& path)
 {
     return record(Kind::Open, path, {}, m_openResult);
 }
 
-bool ScriptedShell::Print(const QString& path)
+bool ScriptedShell::print(const QString& path)
 {
     return record(Kind::Print, path, {}, m_printResult);
 }
 
-void ScriptedShell::ShowProperties(const QString& path)
+void ScriptedShell::showProperties(const QString& path)
 {
     record(Kind::Properties, path, {}, true);
 }
 
 // The call is recorded before it runs, so that a question it asks comes after it.
-bool ScriptedShell::DeleteFile(const QString& path)
+bool ScriptedShell::deleteFile(const QString& path)
 {
     const qsizetype at = m_calls.size();
     record(Kind::Delete, path, {}, false);
-    return m_calls[at].result = FileShell::DeleteFile(path);
+    return m_calls[at].result = FileShell::deleteFile(path);
 }
 
-bool ScriptedShell::CopyFile(const QString& source, const QString& target)
+bool ScriptedShell::copyFile(const QString& source, const QString& target)
 {
     const qsizetype at = m_calls.size();
     record(Kind::Copy, source, target, false);
-    return m_calls[at].result = FileShell::CopyFile(source, target);
+    return m_calls[at].result = FileShell::copyFile(source, target);
 }
 
-bool ScriptedShell::MoveFile(const QString& source, const QString& target)
+bool ScriptedShell::moveFile(const QString& source, const QString& target)
 {
     const qsizetype at = m_calls.size();
     record(Kind::Move, source, target, false);
-    return m_calls[at].result = FileShell::MoveFile(source, target);
+    return m_calls[at].result = FileShell::moveFile(source, target);
 }
 
-int ScriptedShell::Ask(const QString& prompt, int style, const QString& title)
+int ScriptedShell::ask(const QString& prompt, int style, const QString& title)
 {
     m_questions.append({prompt, title, style});
     if ((style & MsgBoxStyle::ButtonMask) == MsgBoxStyle::OkOnly)

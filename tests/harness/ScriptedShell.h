@@ -8,15 +8,15 @@
 namespace kartella::test {
 
 // A shell for tests. It installs itself while it lives and records every call. Open, Print
-// and ShowProperties only record (Open and Print answer true, or what setResult gave).
-// DeleteFile, CopyFile and MoveFile act on the real file system once their question is
+// and showProperties only record (Open and Print answer true, or what setResult gave).
+// deleteFile, copyFile and moveFile act on the real file system once their question is
 // answered: confirm() and refuse() queue the answers, and a question that nobody scripted
 // fails the running test with its text (and is refused). Notices of failures need no
 // answer; they are recorded with the questions.
 //
 //     ScriptedShell shell;
 //     shell.confirm();
-//     QVERIFY(ShellDeleteFile(path));
+//     QVERIFY(shellDeleteFile(path));
 //     QCOMPARE(shell.take().first().kind, ScriptedShell::Kind::Delete);
 class ScriptedShell final : public FileShell
 {
@@ -56,15 +56,15 @@ public:
     const QList<Question>& questions() const { return m_questions; }
     bool allAnswered() const { return m_answers.isEmpty(); }
 
-    bool Open(const QString& path) override;
-    bool Print(const QString& path) override;
-    void ShowProperties(const QString& path) override;
-    bool DeleteFile(const QString& path) override;
-    bool CopyFile(const QString& source, const QString& target) override;
-    bool MoveFile(const QString& source, const QString& target) override;
+    bool open(const QString& path) override;
+    bool print(const QString& path) override;
+    void showProperties(const QString& path) override;
+    bool deleteFile(const QString& path) override;
+    bool copyFile(const QString& source, const QString& target) override;
+    bool moveFile(const QString& source, const QString& target) override;
 
 protected:
-    int Ask(const QString& prompt, int style, const QString& title) override;
+    int ask(const QString& prompt, int style, const QString& title) override;
 
 private:
     bool record(Kind kind, const QString& path, const QString& target, bool result);

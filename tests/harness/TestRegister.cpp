@@ -1,5 +1,6 @@
 #include "harness/TestRegister.h"
 
+#include "base/Error.h"
 #include "options/FirstRun.h"
 #include "options/OptionStore.h"
 #include "store/InsertBatch.h"
@@ -7,7 +8,6 @@
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
-#include "support/Error.h"
 
 #include <QHash>
 
@@ -17,7 +17,7 @@ namespace {
 
 const QString Provider = QStringLiteral("Microsoft.Jet.OLEDB.4.0");
 
-QString KeyOf(const QString& table)
+QString keyOf(const QString& table)
 {
     static const QHash<QString, QString> keys = {
         {QStringLiteral("tbl_documents"), QStringLiteral("RastasID")},
@@ -46,10 +46,10 @@ TestRegister::TestRegister(const QString& fileName)
         throw Error(ErrorNumber::PathFileAccess, QStringLiteral("Can't make a temporary folder"));
     qputenv("XDG_CONFIG_HOME", m_dir.filePath(QStringLiteral("config")).toUtf8());
     try {
-        SeedOptionsIfMissing();
-        CreateRegister(m_path);
-        SetRegValue(QStringLiteral("DbLocation"), m_path);
-        SetRegValue(QStringLiteral("Provider"), Provider);
+        seedOptionsIfMissing();
+        createRegister(m_path);
+        setRegValue(QStringLiteral("DbLocation"), m_path);
+        setRegValue(QStringLiteral("Provider"), Provider);
     } catch (...) {
         restoreConfig();
         throw;
@@ -71,52 +71,52 @@ void TestRegister::restoreConfig() const
 
 QString TestRegister::connectionString() const
 {
-    return PlainConnectionString(Provider, m_path);
+    return plainConnectionString(Provider, m_path);
 }
 
 void TestRegister::exec(const QString& sql) const
 {
     Connection connection(connectionString());
-    connection.Open();
-    connection.Execute(sql);
+    connection.open();
+    connection.execute(sql);
 }
 
 QVariant TestRegister::scalar(const QString& sql) const
 {
     Connection connection(connectionString());
-    connection.Open();
+    connection.open();
     Recordset recordset;
-    recordset.Open(sql, connection);
-    return recordset.Eof() || recordset.FieldCount() == 0 ? QVariant() : recordset.Fields(0).Value();
+    recordset.open(sql, connection);
+    return recordset.eof() || recordset.fieldCount() == 0 ? QVariant() : recordset.fields(0).value();
 }
 
 qint32 TestRegister::insert(const QString& table, const QVariantMap& values) const
 {
-    const QString key = KeyOf(table);
+    const QString key = keyOf(table);
     QStringList fields;
     QStringList literals;
     for (auto it = values.cbegin(); it != values.cend(); ++it) {
         fields << it.key();
-        literals << SqlLiteral(it.value());
+        literals << sqlLiteral(it.value());
     }
     QString sql = QStringLiteral("INSERT INTO ") + table;
     sql += fields.isEmpty() ? QStringLiteral(" DEFAULT VALUES")
                             : QStringLiteral(" (") + fields.join(u',') + QStringLiteral(") VALUES (")
             + literals.join(u',') + u')';
     Connection connection(connectionString());
-    connection.Open();
-    connection.Execute(sql);
+    connection.open();
+    connection.execute(sql);
     // A given key is the new one; otherwise the generator's latest.
     if (values.contains(key))
         return values.value(key).toInt();
     Recordset last;
-    last.Open(QStringLiteral("SELECT MAX(") + key + QStringLiteral(") AS NewKey FROM ") + table, connection);
-    return last.Fields(QStringLiteral("NewKey")).Value().toInt();
+    last.open(QStringLiteral("SELECT MAX(") + key + QStringLiteral(") AS NewKey FROM ") + table, connection);
+    return last.fields(QStringLiteral("NewKey")).value().toInt();
 }
 
 void TestRegister::fillSample(const SampleOptions& options) const
 {
-    FillSampleRegister(m_path, options);
+    fillSampleRegister(m_path, options);
 }
 
 } // namespace kartella::test

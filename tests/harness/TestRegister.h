@@ -39,7 +39,7 @@ public:
     // Adds one row of the given field values (Null as an invalid QVariant, dates as QDate)
     // and returns its new key.
     qint32 insert(const QString& table, const QVariantMap& values) const;
-    // Fills the register with sample data (files in SampleFilesFolder(path())).
+    // Fills the register with sample data (files in sampleFilesFolder(path())).
     void fillSample(const SampleOptions& options = {}) const;
 
 private:

@@ -21,14 +21,14 @@ private:
 
     static QString optionsText()
     {
-        QFile file(OptionsFilePath());
+        QFile file(optionsFilePath());
         return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
     }
 
     static void writeOptionsFile(const QByteArray& content)
     {
-        QDir().mkpath(QFileInfo(OptionsFilePath()).absolutePath());
-        QFile file(OptionsFilePath());
+        QDir().mkpath(QFileInfo(optionsFilePath()).absolutePath());
+        QFile file(optionsFilePath());
         QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
         file.write(content);
     }
@@ -43,15 +43,15 @@ private Q_SLOTS:
 
     void optionsLiveInTheConfigFolder()
     {
-        QCOMPARE(OptionsFilePath(), m_config->path() + "/Kartella/Options.ini");
-        QCOMPARE(IniFilePath(), m_config->path() + "/kartella.ini");
+        QCOMPARE(optionsFilePath(), m_config->path() + "/Kartella/Options.ini");
+        QCOMPARE(iniFilePath(), m_config->path() + "/kartella.ini");
     }
 
     void missingKeyOnRead()
     {
         ScriptedPrompter prompter;
         prompter.answer(MsgBoxResult::Ok);
-        QCOMPARE(GetRegValue("DbLocation"), QString());
+        QCOMPARE(getRegValue("DbLocation"), QString());
         QCOMPARE(prompter.prompts().size(), 1);
         const auto prompt = prompter.prompts().first();
         QCOMPARE(
@@ -63,11 +63,11 @@ private Q_SLOTS:
     void missingKeyOnWriteIsSilentAndCreatesNothing()
     {
         ScriptedPrompter prompter;
-        SetRegValue("DbLocation", QString("/tmp/x.mdb"));
-        SetRegValue("TodayNumber", 3);
+        setRegValue("DbLocation", QString("/tmp/x.mdb"));
+        setRegValue("TodayNumber", 3);
         QVERIFY(prompter.prompts().isEmpty());
-        QVERIFY(!QFile::exists(OptionsFilePath()));
-        QVERIFY(!OptionsKeyExists());
+        QVERIFY(!QFile::exists(optionsFilePath()));
+        QVERIFY(!optionsKeyExists());
     }
 
     void valuesRoundTrip_data()
@@ -100,60 +100,60 @@ private Q_SLOTS:
     {
         QFETCH(QString, written);
         QFETCH(QString, read);
-        QVERIFY(SeedOptionsIfMissing());
+        QVERIFY(seedOptionsIfMissing());
         ScriptedPrompter prompter;
-        SetRegValue("Separator1", written);
-        QCOMPARE(GetRegValue("Separator1"), read);
+        setRegValue("Separator1", written);
+        QCOMPARE(getRegValue("Separator1"), read);
         QVERIFY(prompter.prompts().isEmpty());
     }
 
     void absentValueReadsNotFound()
     {
-        QVERIFY(SeedOptionsIfMissing());
+        QVERIFY(seedOptionsIfMissing());
         ScriptedPrompter prompter;
-        QCOMPARE(GetRegValue("DbLocation"), QString("Not Found"));
+        QCOMPARE(getRegValue("DbLocation"), QString("Not Found"));
         QVERIFY(prompter.prompts().isEmpty());
     }
 
     void namesIgnoreCase()
     {
-        QVERIFY(SeedOptionsIfMissing());
-        SetRegValue("Dblocation", QString("/data/one.mdb"));
-        SetRegValue("DBLOCATION", QString("/data/two.mdb"));
-        QCOMPARE(GetRegValue("DbLocation"), QString("/data/two.mdb"));
-        QCOMPARE(GetRegValue("dblocation"), QString("/data/two.mdb"));
+        QVERIFY(seedOptionsIfMissing());
+        setRegValue("Dblocation", QString("/data/one.mdb"));
+        setRegValue("DBLOCATION", QString("/data/two.mdb"));
+        QCOMPARE(getRegValue("DbLocation"), QString("/data/two.mdb"));
+        QCOMPARE(getRegValue("dblocation"), QString("/data/two.mdb"));
         QCOMPARE(optionsText().count("=/data/"), 1);
-        SetRegValue("separator1", QString("#"));
-        QCOMPARE(GetRegValue("Separator1"), QString("#"));
+        setRegValue("separator1", QString("#"));
+        QCOMPARE(getRegValue("Separator1"), QString("#"));
         QCOMPARE(optionsText().count("eparator1="), 1);
     }
 
     void integersAreStoredAsText()
     {
-        QVERIFY(SeedOptionsIfMissing());
-        SetRegValue("TodayNumber", 5);
-        QCOMPARE(GetRegValue("TodayNumber"), QString("5"));
-        SetRegValue("TodayNumber", qint16(-3));
-        QCOMPARE(GetRegValue("TodayNumber"), QString("-3"));
+        QVERIFY(seedOptionsIfMissing());
+        setRegValue("TodayNumber", 5);
+        QCOMPARE(getRegValue("TodayNumber"), QString("5"));
+        setRegValue("TodayNumber", qint16(-3));
+        QCOMPARE(getRegValue("TodayNumber"), QString("-3"));
         QVERIFY(optionsText().contains("TodayNumber=-3\n"));
     }
 
     void noCacheBetweenReads()
     {
-        QVERIFY(SeedOptionsIfMissing());
-        QCOMPARE(GetRegValue("Filter"), QString("0"));
+        QVERIFY(seedOptionsIfMissing());
+        QCOMPARE(getRegValue("Filter"), QString("0"));
         // Another program (or window) changes the file: the next read sees it.
         writeOptionsFile("[Options]\nFilter=1\n");
-        QCOMPARE(GetRegValue("Filter"), QString("1"));
-        QCOMPARE(GetRegValue("Provider"), QString("Not Found"));
+        QCOMPARE(getRegValue("Filter"), QString("1"));
+        QCOMPARE(getRegValue("Provider"), QString("Not Found"));
     }
 
     void foreignLinesAreKept()
     {
         writeOptionsFile("; written by hand\n[Other]\nFilter=9\n\n[Options]\nProvider=X\n");
-        SetRegValue("Filter", 1);
-        QCOMPARE(GetRegValue("Filter"), QString("1"));
-        QCOMPARE(GetRegValue("Provider"), QString("X"));
+        setRegValue("Filter", 1);
+        QCOMPARE(getRegValue("Filter"), QString("1"));
+        QCOMPARE(getRegValue("Provider"), QString("X"));
         const QString text = optionsText();
         QVERIFY(text.startsWith("; written by hand\n[Other]\nFilter=9\n"));
         QVERIFY(text.contains("[Options]\nProvider=X\nFilter=1\n"));
@@ -162,16 +162,16 @@ private Q_SLOTS:
     void unreadableKeyIsARuntimeError()
     {
         // A folder where the options file should be: the key is there, but can't be read.
-        QVERIFY(QDir().mkpath(OptionsFilePath()));
+        QVERIFY(QDir().mkpath(optionsFilePath()));
         ScriptedPrompter prompter;
         prompter.answer(MsgBoxResult::Ok);
-        QCOMPARE(GetRegValue("Filter"), QString());
+        QCOMPARE(getRegValue("Filter"), QString());
         QCOMPARE(prompter.texts(), QStringList {"ERROR # 75 : 0\rPlease exit and try again."});
 
         // On write the run-time error comes first, then the failed write's own message.
         prompter.take();
         prompter.answer(MsgBoxResult::Ok).answer(MsgBoxResult::Ok);
-        SetRegValue("Filter", 1);
+        setRegValue("Filter", 1);
         QCOMPARE(prompter.texts(),
             QStringList({"ERROR # 75 : 0\rPlease exit and try again.",
                 "Unable to set Registry Value SOFTWARE\\Kartella\\Options\\Filter"}));
@@ -180,44 +180,44 @@ private Q_SLOTS:
     void refusedWriteKeepsTheOldValue()
     {
         // A key the file system won't write, even for root: a link to a read-only kernel file.
-        QDir().mkpath(QFileInfo(OptionsFilePath()).absolutePath());
-        QVERIFY(QFile::link("/proc/version", OptionsFilePath()));
+        QDir().mkpath(QFileInfo(optionsFilePath()).absolutePath());
+        QVERIFY(QFile::link("/proc/version", optionsFilePath()));
         ScriptedPrompter prompter;
         prompter.answer(MsgBoxResult::Ok);
-        SetRegValue("Filter", 1);
+        setRegValue("Filter", 1);
         QCOMPARE(prompter.texts(),
             QStringList {"Unable to set Registry Value SOFTWARE\\Kartella\\Options\\Filter"});
         QCOMPARE(prompter.prompts().first().style, MsgBoxStyle::OkOnly);
-        QCOMPARE(GetRegValue("Filter"), QString("Not Found"));
+        QCOMPARE(getRegValue("Filter"), QString("Not Found"));
     }
 
     void iniValues()
     {
         ScriptedPrompter prompter;
         // No file at all.
-        QCOMPARE(GetIniValue("AllDocs"), QDir::homePath() + "/");
-        QVERIFY(WriteIniValue("Company", "UAB Kartella"));
-        QVERIFY(WriteIniValue("AllDocs", ""));
-        QVERIFY(WriteIniValue("FilterByDateOn", " 1"));
+        QCOMPARE(getIniValue("AllDocs"), QDir::homePath() + "/");
+        QVERIFY(writeIniValue("Company", "UAB Kartella"));
+        QVERIFY(writeIniValue("AllDocs", ""));
+        QVERIFY(writeIniValue("FilterByDateOn", " 1"));
         // Key missing, key present and empty, keys in other case.
-        QCOMPARE(GetIniValue("Name"), QDir::homePath() + "/");
-        QCOMPARE(GetIniValue("AllDocs"), QString());
-        QCOMPARE(GetIniValue("company"), QString("UAB Kartella"));
-        QCOMPARE(GetIniValue("FilterByDateOn"), QString(" 1"));
-        QFile file(IniFilePath());
+        QCOMPARE(getIniValue("Name"), QDir::homePath() + "/");
+        QCOMPARE(getIniValue("AllDocs"), QString());
+        QCOMPARE(getIniValue("company"), QString("UAB Kartella"));
+        QCOMPARE(getIniValue("FilterByDateOn"), QString(" 1"));
+        QFile file(iniFilePath());
         QVERIFY(file.open(QIODevice::ReadOnly));
         QVERIFY(file.readAll().startsWith("[DocContr]\nCompany=UAB Kartella\n"));
         // A long value is cut to what the reader's buffer holds.
-        QVERIFY(WriteIniValue("Address", QString(300, 'a')));
-        QCOMPARE(GetIniValue("Address"), QString(254, 'a'));
+        QVERIFY(writeIniValue("Address", QString(300, 'a')));
+        QCOMPARE(getIniValue("Address"), QString(254, 'a'));
         QVERIFY(prompter.prompts().isEmpty());
     }
 
     void firstStartSeedsOnce()
     {
-        QVERIFY(!OptionsKeyExists());
-        QVERIFY(SeedOptionsIfMissing(QDate(2024, 3, 5)));
-        QVERIFY(OptionsKeyExists());
+        QVERIFY(!optionsKeyExists());
+        QVERIFY(seedOptionsIfMissing(QDate(2024, 3, 5)));
+        QVERIFY(optionsKeyExists());
         const QList<QPair<QString, QString>> expected = {
             {"Provider", "Microsoft.Jet.OLEDB.4.0"},
             {"Filter", "0"},
@@ -233,13 +233,13 @@ private Q_SLOTS:
             {"FileNumber", " 1"},
         };
         for (const auto& [name, value] : expected)
-            QCOMPARE(GetRegValue(name), value);
-        QCOMPARE(GetRegValue("DbLocation"), QString("Not Found"));
+            QCOMPARE(getRegValue(name), value);
+        QCOMPARE(getRegValue("DbLocation"), QString("Not Found"));
 
-        SetRegValue("TodayNumber", 7);
-        QVERIFY(!SeedOptionsIfMissing(QDate(2024, 3, 6)));
-        QCOMPARE(GetRegValue("TodayNumber"), QString("7"));
-        QCOMPARE(GetRegValue("Date"), QString("2024 03 05"));
+        setRegValue("TodayNumber", 7);
+        QVERIFY(!seedOptionsIfMissing(QDate(2024, 3, 6)));
+        QCOMPARE(getRegValue("TodayNumber"), QString("7"));
+        QCOMPARE(getRegValue("Date"), QString("2024 03 05"));
     }
 };
 

@@ -1,6 +1,6 @@
+#include "base/Error.h"
 #include "harness/ScriptedPrompter.h"
 #include "platform/Application.h"
-#include "support/Error.h"
 
 #include <QTest>
 

@@ -1,7 +1,7 @@
+#include "base/Error.h"
 #include "harness/OfficeTemplates.h"
 #include "harness/ScriptedShell.h"
 #include "platform/LibreOfficeSuite.h"
-#include "support/Error.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -110,31 +110,31 @@ private Q_SLOTS:
         QFETCH(QString, filter);
         QFETCH(QString, stream);
         const QString name = QTest::currentDataTag();
-        const QString templatePath = test::MakeOfficeTemplate(kind, m_templates.path(), name);
+        const QString templatePath = test::makeOfficeTemplate(kind, m_templates.path(), name);
         QVERIFY2(!templatePath.isEmpty(), "LibreOffice made no template");
         QTemporaryDir out;
-        const QString extension = "." + LibreOfficeSuite::Extension(kind);
+        const QString extension = "." + LibreOfficeSuite::extension(kind);
         const QString fromTemplate = out.filePath("From template" + extension);
         const QString empty = out.filePath("Empty" + extension);
         LibreOfficeSuite suite;
 
-        QCOMPARE(errorOf([&] { suite.Create(kind, templatePath, fromTemplate); }), "no error");
-        QCOMPARE(errorOf([&] { suite.Create(kind, QString(), empty); }), "no error");
+        QCOMPARE(errorOf([&] { suite.create(kind, templatePath, fromTemplate); }), "no error");
+        QCOMPARE(errorOf([&] { suite.create(kind, QString(), empty); }), "no error");
         const QMimeDatabase mime;
         for (const QString& made : {fromTemplate, empty}) {
             const QMimeType type = mime.mimeTypeForFile(made, QMimeDatabase::MatchContent);
             QVERIFY2(type.inherits("application/x-ole-storage"), qPrintable(type.name()));
-            QVERIFY(test::FileHoldsText(made, stream));
+            QVERIFY(test::fileHoldsText(made, stream));
         }
         const QString marker = "Template marker " + name;
-        QVERIFY(test::FileHoldsText(fromTemplate, marker));
-        QVERIFY(!test::FileHoldsText(empty, marker));
+        QVERIFY(test::fileHoldsText(fromTemplate, marker));
+        QVERIFY(!test::fileHoldsText(empty, marker));
         // Nothing but the new file is left in the target's folder.
         QCOMPARE(QDir(out.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
 
         long number = 0;
         const QByteArray before = readFile(empty);
-        QVERIFY(errorOf([&] { suite.Create(kind, QString(), empty); }, &number).contains("already exists"));
+        QVERIFY(errorOf([&] { suite.create(kind, QString(), empty); }, &number).contains("already exists"));
         QCOMPARE(number, OfficeErrorNumber::FileExists);
         QCOMPARE(readFile(empty), before);
     }
@@ -152,7 +152,7 @@ private Q_SLOTS:
         QTemporaryDir out;
         LibreOfficeSuite suite;
         const QString target = out.filePath("a.doc");
-        const QString error = errorOf([&] { suite.Create(Kind::Word, QString(), target); });
+        const QString error = errorOf([&] { suite.create(Kind::Word, QString(), target); });
         // The launcher may be gone already; the office it started is still in its group.
         ::kill(-group, SIGKILL);
         user.waitForFinished();
@@ -168,23 +168,23 @@ private Q_SLOTS:
         long number = 0;
         {
             PathOverride path("");
-            const QString error = errorOf([&] { suite.Create(Kind::Word, QString(), target); }, &number);
+            const QString error = errorOf([&] { suite.create(Kind::Word, QString(), target); }, &number);
             QVERIFY2(
                 error.contains("libreoffice-writer-nogui") && error.contains("soffice"), qPrintable(error));
             QCOMPARE(number, OfficeErrorNumber::NotInstalled);
         }
         QVERIFY(errorOf([&] {
-            suite.Create(Kind::Word, dir.filePath("none.dot"), target);
+            suite.create(Kind::Word, dir.filePath("none.dot"), target);
         }).contains("none.dot"));
         {
             PathOverride path(fakeOffice(dir, "echo 'Error: source file could not be loaded'\nexit 0\n"));
-            const QString error = errorOf([&] { suite.Create(Kind::Excel, QString(), target); }, &number);
+            const QString error = errorOf([&] { suite.create(Kind::Excel, QString(), target); }, &number);
             QVERIFY2(error.contains("source file could not be loaded"), qPrintable(error));
             QCOMPARE(number, OfficeErrorNumber::Failed);
         }
         {
             PathOverride path(fakeOffice(dir, "echo 'broken profile' >&2\nexit 3\n"));
-            const QString error = errorOf([&] { suite.Create(Kind::Word, QString(), target); }, &number);
+            const QString error = errorOf([&] { suite.create(Kind::Word, QString(), target); }, &number);
             QVERIFY2(error.contains("broken profile") && error.contains("3"), qPrintable(error));
         }
         // On timeout the whole process tree is stopped.
@@ -196,7 +196,7 @@ private Q_SLOTS:
             QElapsedTimer clock;
             clock.start();
             const QString error
-                = errorOf([&] { suite.Create(Kind::PowerPoint, QString(), target); }, &number);
+                = errorOf([&] { suite.create(Kind::PowerPoint, QString(), target); }, &number);
             QVERIFY2(error.contains("1.5 seconds"), qPrintable(error));
             QCOMPARE(number, OfficeErrorNumber::TimedOut);
             QVERIFY(clock.elapsed() < 10000);
@@ -211,12 +211,12 @@ private Q_SLOTS:
     {
         test::ScriptedShell shell;
         LibreOfficeSuite suite;
-        suite.Show("/docs/a.doc");
+        suite.show("/docs/a.doc");
         QCOMPARE(shell.calls().size(), 1);
         QCOMPARE(shell.calls().first().kind, test::ScriptedShell::Kind::Open);
         QCOMPARE(shell.calls().first().path, "/docs/a.doc");
         shell.setResult(test::ScriptedShell::Kind::Open, false);
-        QVERIFY(errorOf([&] { suite.Show("/docs/a.doc"); }).contains("a.doc"));
+        QVERIFY(errorOf([&] { suite.show("/docs/a.doc"); }).contains("a.doc"));
     }
 };
 

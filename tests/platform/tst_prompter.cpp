@@ -52,7 +52,7 @@ private Q_SLOTS:
         QFETCH(int, defaultResult);
         QFETCH(int, escapeResult);
 
-        const auto box = BuildMessageBox("Question?", style, {});
+        const auto box = buildMessageBox("Question?", style, {});
         QCOMPARE(box->windowTitle(), QString("Kartella"));
         QCOMPARE(box->icon(), icon);
         QList<int> shown;
@@ -99,16 +99,16 @@ private Q_SLOTS:
                 QTest::keyClick(box, press == 0 ? Qt::Key_Return : Qt::Key_Escape);
             }
         });
-        const int result = prompter.MsgBox("Line one\rLine two", style, "Own title");
+        const int result = prompter.msgBox("Line one\rLine two", style, "Own title");
         const int expected = press > 0 ? press
-            : press == 0               ? DefaultResult(style)
+            : press == 0               ? defaultResult(style)
                                        : int(MsgBoxResult::Cancel);
         QCOMPARE(result, expected);
     }
 
     void carriageReturnBreaksTheLine()
     {
-        const auto box = BuildMessageBox("Error: 1 x\rSelect correct database type and file, please!", 16,
+        const auto box = buildMessageBox("Error: 1 x\rSelect correct database type and file, please!", 16,
             "Connection to database error:");
         QCOMPARE(box->text(), QString("Error: 1 x\nSelect correct database type and file, please!"));
         QCOMPARE(box->windowTitle(), QString("Connection to database error:"));
@@ -138,17 +138,17 @@ private Q_SLOTS:
         QFETCH(QString, label);
         QFETCH(QString, pattern);
         QFETCH(QString, filter);
-        QCOMPARE(FileDialogFilter(label, pattern), filter);
+        QCOMPARE(fileDialogFilter(label, pattern), filter);
     }
 
     void scriptedPrompterRecordsAndAnswers()
     {
         test::ScriptedPrompter scripted;
         scripted.answer(MsgBoxResult::No).answerFile("/tmp/a.doc").answerFolder("");
-        QCOMPARE(MsgBox("Delete?", 4 + 32, "Confirm Deletion"), int(MsgBoxResult::No));
-        QCOMPARE(Prompter::instance().OpenFile({"Select Document", "/tmp", "All files (*.*)", "*.*"}),
+        QCOMPARE(msgBox("Delete?", 4 + 32, "Confirm Deletion"), int(MsgBoxResult::No));
+        QCOMPARE(Prompter::instance().openFile({"Select Document", "/tmp", "All files (*.*)", "*.*"}),
             QString("/tmp/a.doc"));
-        QCOMPARE(Prompter::instance().ChooseFolder("Pick"), QString());
+        QCOMPARE(Prompter::instance().chooseFolder("Pick"), QString());
         QCOMPARE(scripted.prompts().size(), 1);
         QCOMPARE(scripted.prompts().first().title, QString("Confirm Deletion"));
         QCOMPARE(scripted.prompts().first().style, 36);

@@ -82,7 +82,7 @@ private Q_SLOTS:
         else if (answer == "no")
             shell.refuse();
 
-        QCOMPARE(Shell::instance().DeleteFile(path), result);
+        QCOMPARE(Shell::instance().deleteFile(path), result);
         QCOMPARE(QFile::exists(path), exists && !result);
         QVERIFY(shell.allAnswered());
         QCOMPARE(shell.calls().size(), 1);
@@ -108,12 +108,12 @@ private Q_SLOTS:
         writeFile(path, "a");
         ScriptedPrompter prompter;
         prompter.answer(MsgBoxResult::No).answer(MsgBoxResult::Yes);
-        QVERIFY(!Shell::instance().DeleteFile(path));
-        QVERIFY(Shell::instance().DeleteFile(path));
+        QVERIFY(!Shell::instance().deleteFile(path));
+        QVERIFY(Shell::instance().deleteFile(path));
         QVERIFY(!QFile::exists(path));
         QCOMPARE(prompter.texts(), QStringList(2, "Do you want to permanently delete the file 'a.txt'?"));
         QCOMPARE(prompter.prompts().first().title, "Delete File");
-        QVERIFY(!Shell::instance().Open(path));
+        QVERIFY(!Shell::instance().open(path));
     }
 
     // A question to replace comes with an answer; a failure without one is told in a notice.
@@ -169,7 +169,7 @@ private Q_SLOTS:
             shell.refuse();
 
         const bool done
-            = moving ? Shell::instance().MoveFile(source, to) : Shell::instance().CopyFile(source, to);
+            = moving ? Shell::instance().moveFile(source, to) : Shell::instance().copyFile(source, to);
         QCOMPARE(done, result);
         QVERIFY(shell.allAnswered());
         // The source goes only with a completed move; the target has the source's content
@@ -219,7 +219,7 @@ private Q_SLOTS:
             QVERIFY(file.setFileTime(modified, QFileDevice::FileModificationTime));
         }
         ScriptedShell shell;
-        QVERIFY(Shell::instance().MoveFile(source, there.path()));
+        QVERIFY(Shell::instance().moveFile(source, there.path()));
         QVERIFY(!QFile::exists(source));
         const QString moved = there.filePath("a.doc");
         QCOMPARE(readFile(moved), content);
@@ -238,9 +238,9 @@ private Q_SLOTS:
         DesktopShell shell;
         shell.setProgressThreshold(1 << 20);
 
-        QVERIFY(shell.CopyFile(small, dir.filePath("small copy.doc")));
+        QVERIFY(shell.copyFile(small, dir.filePath("small copy.doc")));
         QCOMPARE(shell.progressShown(), 0);
-        QVERIFY(shell.CopyFile(large, dir.filePath("large copy.doc")));
+        QVERIFY(shell.copyFile(large, dir.filePath("large copy.doc")));
         QCOMPARE(shell.progressShown(), 1);
         QCOMPARE(readFile(dir.filePath("large copy.doc")), readFile(large));
 
@@ -253,7 +253,7 @@ private Q_SLOTS:
                 }
             }
         });
-        QVERIFY(!shell.CopyFile(large, dir.filePath("cancelled.doc")));
+        QVERIFY(!shell.copyFile(large, dir.filePath("cancelled.doc")));
         QVERIFY(cancelled);
         QVERIFY(!QFile::exists(dir.filePath("cancelled.doc")));
         QCOMPARE(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden).size(), 4);
@@ -275,7 +275,7 @@ private Q_SLOTS:
         QFETCH(QString, file);
         QFETCH(QString, program);
         const QString path = QDir::temp().filePath(file);
-        const ShellCommand command = DesktopShell::PrintCommand(path);
+        const ShellCommand command = DesktopShell::printCommand(path);
         QCOMPARE(command.program, program);
         QCOMPARE(command.arguments.last(), path);
         if (program == "soffice")
@@ -288,11 +288,11 @@ private Q_SLOTS:
         QTemporaryDir dir;
         const QString path = dir.filePath("a.pdf");
         DesktopShell shell;
-        QVERIFY(!shell.Print(path));
+        QVERIFY(!shell.print(path));
         writeFile(path, "%PDF-1.4");
         const QByteArray oldPath = qgetenv("PATH");
         qputenv("PATH", "");
-        const bool printed = shell.Print(path);
+        const bool printed = shell.print(path);
         qputenv("PATH", oldPath);
         QVERIFY(!printed);
     }
@@ -321,7 +321,7 @@ private Q_SLOTS:
         QCOMPARE(field("txtType"), QMimeDatabase().mimeTypeForName("text/plain").comment());
         QCOMPARE(field("txtSize"), "5 bytes");
         QCOMPARE(field("txtFolder"), QDir::toNativeSeparators(dir.path()));
-        QCOMPARE(field("txtModified"), FilePropertiesDialog::DateText(modified));
+        QCOMPARE(field("txtModified"), FilePropertiesDialog::dateText(modified));
         QVERIFY(field("txtModified").contains("2024"));
         QVERIFY(!field("txtCreated").isEmpty());
         QCOMPARE(field("txtPermissions"), "Read and write (rw-r-----)");
@@ -348,17 +348,17 @@ private Q_SLOTS:
         writeFile(source, "a");
         ScriptedShell shell;
         QString copy = dir.filePath("b.doc");
-        QVERIFY(ShellCopyFile(source, copy));
+        QVERIFY(shellCopyFile(source, copy));
         QString moved = dir.filePath("c.doc");
-        QVERIFY(ShellMoveFile(copy, moved));
+        QVERIFY(shellMoveFile(copy, moved));
         shell.refuse().confirm();
-        QVERIFY(!ShellDeleteFile(moved));
-        QVERIFY(ShellDeleteFile(moved));
+        QVERIFY(!shellDeleteFile(moved));
+        QVERIFY(shellDeleteFile(moved));
         QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList {"a.doc"});
-        QVERIFY(Shell::instance().Open(source));
+        QVERIFY(Shell::instance().open(source));
         shell.setResult(Kind::Print, false);
-        QVERIFY(!Shell::instance().Print(source));
-        Shell::instance().ShowProperties(source);
+        QVERIFY(!Shell::instance().print(source));
+        Shell::instance().showProperties(source);
 
         const QList<ScriptedShell::Call> calls = shell.take();
         QList<Kind> kinds;
@@ -409,14 +409,14 @@ private Q_SLOTS:
         writeFile(source, "source");
         writeFile(dir.filePath("old.doc"), "old");
         QString to = dir.filePath(target);
-        QCOMPARE(moving ? MoveFileWithoutShell(source, to) : CopyFileWithoutShell(source, to), result);
+        QCOMPARE(moving ? moveFileWithoutShell(source, to) : copyFileWithoutShell(source, to), result);
         QCOMPARE(to, QDir::toNativeSeparators(dir.filePath(targetAfter)));
         if (!landing.isEmpty())
             QCOMPARE(readFile(dir.filePath(landing)), "source");
         QCOMPARE(QFile::exists(source), !(moving && result));
         QCOMPARE(readFile(dir.filePath("old.doc")), landing == "old.doc" ? "source" : "old");
-        QVERIFY(DeleteFileWithoutShell(dir.filePath("old.doc")));
-        QVERIFY(!DeleteFileWithoutShell(dir.filePath("old.doc")));
+        QVERIFY(deleteFileWithoutShell(dir.filePath("old.doc")));
+        QVERIFY(!deleteFileWithoutShell(dir.filePath("old.doc")));
     }
 };
 

@@ -1,6 +1,5 @@
 #include "explorer/ExplorerList.h"
-#include "explorer/Form2.h"
-#include "explorer/SelectionState.h"
+#include "explorer/MainWindow.h"
 #include "harness/OfficeTemplates.h"
 #include "harness/ScriptedPrompter.h"
 #include "harness/ScriptedShell.h"
@@ -9,6 +8,7 @@
 #include "platform/LibreOfficeSuite.h"
 #include "registration/FileNaming.h"
 #include "registration/NewDocumentDialog.h"
+#include "support/SelectionState.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -50,13 +50,13 @@ public:
     RecordingSuite() { OfficeSuite::setInstance(this); }
     ~RecordingSuite() override { OfficeSuite::setInstance(nullptr); }
 
-    void Create(Kind kind, const QString& templatePath, const QString& target) override
+    void create(Kind kind, const QString& templatePath, const QString& target) override
     {
         const QCursor* cursor = QGuiApplication::overrideCursor();
         calls.append({templatePath, target, cursor && cursor->shape() == Qt::WaitCursor});
-        m_real.Create(kind, templatePath, target);
+        m_real.create(kind, templatePath, target);
     }
-    void Show(const QString& path) override { m_real.Show(path); }
+    void show(const QString& path) override { m_real.show(path); }
 
     QList<Call> calls;
 
@@ -100,10 +100,10 @@ struct Fixture
             {{"KategID", contracts}, {"DokSubKategorija", "Leases"}, {"SubPathToFiles", leaseFolder}});
         reg.insert("tbl_Contacts", {{"FullName", "Ona Petraitiene"}});
         QDir().mkpath(leaseFolder);
-        Selection() = SelectionState();
-        Selection().CurrentCategoryId = contracts;
+        selection() = SelectionState();
+        selection().currentCategoryId = contracts;
     }
-    ~Fixture() { Selection() = SelectionState(); }
+    ~Fixture() { selection() = SelectionState(); }
 
     int documents() const { return reg.scalar("SELECT COUNT(*) FROM tbl_Documents").toInt(); }
     QVariant stored(const QString& field) const
@@ -161,9 +161,9 @@ private Q_SLOTS:
     {
         if (QStandardPaths::findExecutable("soffice").isEmpty())
             QSKIP("LibreOffice isn't installed");
-        m_templatePaths = {test::MakeOfficeTemplate(Kind::Word, m_templates.path(), "Word"),
-            test::MakeOfficeTemplate(Kind::Excel, m_templates.path(), "Excel"),
-            test::MakeOfficeTemplate(Kind::PowerPoint, m_templates.path(), "PowerPoint")};
+        m_templatePaths = {test::makeOfficeTemplate(Kind::Word, m_templates.path(), "Word"),
+            test::makeOfficeTemplate(Kind::Excel, m_templates.path(), "Excel"),
+            test::makeOfficeTemplate(Kind::PowerPoint, m_templates.path(), "PowerPoint")};
         QVERIFY2(!m_templatePaths.contains(QString()), "LibreOffice made no template");
     }
 
@@ -198,7 +198,7 @@ private Q_SLOTS:
         d.click(ok ? "cmdOK" : "cmdCancel");
         QVERIFY(!d.dialog.isVisible());
         QCOMPARE(fx.documents(), ok ? 1 : 0);
-        QCOMPARE(GetRegValue("TodayNumber"), ok ? "2" : "1");
+        QCOMPARE(getRegValue("TodayNumber"), ok ? "2" : "1");
         QVERIFY(QFile::exists(existing));
         QVERIFY(fx.suite.calls.isEmpty());
         if (!ok)
@@ -251,9 +251,9 @@ private Q_SLOTS:
         QVERIFY(!QGuiApplication::overrideCursor());
         const QMimeType type = QMimeDatabase().mimeTypeForFile(path, QMimeDatabase::MatchContent);
         QVERIFY2(type.inherits("application/x-ole-storage"), qPrintable(type.name()));
-        QVERIFY(test::FileHoldsText(path, stream));
+        QVERIFY(test::fileHoldsText(path, stream));
         if (templateText)
-            QVERIFY(test::FileHoldsText(path, "Template marker " + button.mid(3, 4)));
+            QVERIFY(test::fileHoldsText(path, "Template marker " + button.mid(3, 4)));
         QCOMPARE(fx.shell.calls().size(), 1);
         QCOMPARE(fx.shell.calls().first().path, path);
 
@@ -264,7 +264,7 @@ private Q_SLOTS:
         d.click(ok ? "cmdOK" : "cmdCancel");
         QVERIFY(QFile::exists(path));
         QCOMPARE(fx.documents(), ok ? 1 : 0);
-        QCOMPARE(GetRegValue("TodayNumber"), ok ? "2" : "1");
+        QCOMPARE(getRegValue("TodayNumber"), ok ? "2" : "1");
         if (ok) {
             QCOMPARE(fx.stored("RastoKel").toString(), path);
             QCOMPARE(fx.stored("DokAntraste").toString(), "Lease of the yard");
@@ -320,7 +320,7 @@ private Q_SLOTS:
         QFETCH(QString, button);
         QFETCH(QString, title);
         Fixture fx(m_templatePaths);
-        Selection().CurrentCategoryId = 0;
+        selection().currentCategoryId = 0;
         Dialog d;
         fx.prompter.answer(MsgBoxResult::Ok).answer(MsgBoxResult::Ok);
         d.click(qPrintable(button));
@@ -335,7 +335,7 @@ private Q_SLOTS:
             QCOMPARE(prompt.style, MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation);
         }
         d.type(4, "Lease");
-        d.dialog.SetLocation("/tmp/dropped.doc");
+        d.dialog.setLocation("/tmp/dropped.doc");
         d.click(qPrintable(button));
         QVERIFY(fx.prompter.prompts().isEmpty());
         QVERIFY(fx.suite.calls.isEmpty());
@@ -355,11 +355,11 @@ private Q_SLOTS:
         d.click("cmdWord");
         auto prompt = fx.prompter.take();
         QCOMPARE(prompt.size(), 1);
-        QCOMPARE(prompt.first().text, FileExistsMessage(taken));
+        QCOMPARE(prompt.first().text, fileExistsMessage(taken));
         QCOMPARE(prompt.first().title, "Can't create a file");
         QCOMPARE(readFile(taken), QByteArray());
 
-        SetRegValue("FileName", "2");
+        setRegValue("FileName", "2");
         d.type(3, QString());
         fx.prompter.answer(MsgBoxResult::Ok);
         d.click("cmdWord");
@@ -378,7 +378,7 @@ private Q_SLOTS:
     void subCategoryWithoutTemplate()
     {
         Fixture fx(m_templatePaths);
-        Selection().CurrentSubCategoryId = fx.lease;
+        selection().currentSubCategoryId = fx.lease;
         Dialog d;
         QCOMPARE(d.combo("cmbSubCategory")->currentText(), "Leases");
         d.type(4, "Yard");
@@ -387,8 +387,8 @@ private Q_SLOTS:
         QCOMPARE(d.box(5)->text(), path);
         QCOMPARE(fx.suite.calls.size(), 1);
         QCOMPARE(fx.suite.calls.first().templatePath, QString());
-        QVERIFY(test::FileHoldsText(path, "WordDocument"));
-        QVERIFY(!test::FileHoldsText(path, "Template marker"));
+        QVERIFY(test::fileHoldsText(path, "WordDocument"));
+        QVERIFY(!test::fileHoldsText(path, "Template marker"));
     }
 
     // With no category chosen in the tree: with AutoRegIndex on the load stops at the index
@@ -405,10 +405,10 @@ private Q_SLOTS:
     {
         QFETCH(bool, autoIndex);
         Fixture fx;
-        Selection().CurrentCategoryId = 0;
-        SetRegValue("AutoRegIndex", autoIndex ? "1" : "0");
+        selection().currentCategoryId = 0;
+        setRegValue("AutoRegIndex", autoIndex ? "1" : "0");
         Dialog d;
-        QCOMPARE(d.dialog.DialogReady, !autoIndex);
+        QCOMPARE(d.dialog.indexProposed(), !autoIndex);
         QCOMPARE(d.box(3)->text(), QString());
         QCOMPARE(d.box(1)->text().isEmpty(), autoIndex);
         QCOMPARE(d.dialog.findChild<QRadioButton*>("Option_1")->isChecked(), !autoIndex);
@@ -425,7 +425,7 @@ private Q_SLOTS:
         QCOMPARE(fx.stored("KategID").toInt(), fx.contracts);
         QCOMPARE(fx.stored("KryptisID").isNull(), autoIndex);
         QCOMPARE(fx.stored("DokRegistracData").isNull(), autoIndex);
-        QCOMPARE(GetRegValue("TodayNumber"), "2");
+        QCOMPARE(getRegValue("TodayNumber"), "2");
     }
 
     // Proposals reserve nothing; a change of category proposes anew and clears the
@@ -433,7 +433,7 @@ private Q_SLOTS:
     void indexProposals()
     {
         Fixture fx;
-        Selection().CurrentSubCategoryId = fx.lease;
+        selection().currentSubCategoryId = fx.lease;
         const QString first = "AGR-" + today("yyyyMMdd") + "/1";
         {
             Dialog d;
@@ -453,15 +453,15 @@ private Q_SLOTS:
         }
         QCOMPARE(fx.documents(), 0);
 
-        SetRegValue("Date", QDate::currentDate().addDays(-1).toString("yyyy MM dd"));
-        SetRegValue("TodayNumber", "7");
+        setRegValue("Date", QDate::currentDate().addDays(-1).toString("yyyy MM dd"));
+        setRegValue("TodayNumber", "7");
         {
             Dialog d;
             QCOMPARE(d.box(3)->text(), first);
-            QCOMPARE(GetRegValue("Date"), today("yyyy MM dd"));
+            QCOMPARE(getRegValue("Date"), today("yyyy MM dd"));
             d.click("cmdOK");
         }
-        QCOMPARE(GetRegValue("TodayNumber"), "2");
+        QCOMPARE(getRegValue("TodayNumber"), "2");
         QCOMPARE(fx.stored("SubKategID").toInt(), fx.lease);
         Dialog d;
         QCOMPARE(d.box(3)->text(), "AGR-" + today("yyyyMMdd") + "/2");
@@ -536,13 +536,13 @@ private Q_SLOTS:
         QCOMPARE(prompt.first().style, MsgBoxStyle::OkOnly);
         QVERIFY(d.dialog.isVisible());
         QCOMPARE(fx.documents(), 0);
-        QCOMPARE(GetRegValue("TodayNumber"), "1");
+        QCOMPARE(getRegValue("TodayNumber"), "1");
 
         d.type(1, "2024.09.30");
         d.click("cmdOK");
         QVERIFY(!d.dialog.isVisible());
         QCOMPARE(fx.stored("DokGavSiuntData").toDate(), QDate(2024, 9, 30));
-        QCOMPARE(GetRegValue("TodayNumber"), "2");
+        QCOMPARE(getRegValue("TodayNumber"), "2");
     }
 
     // Three files dropped on the main window's document list open the dialog three times, one
@@ -550,8 +550,8 @@ private Q_SLOTS:
     void dropOnTheDocumentList()
     {
         Fixture fx;
-        Form2 window;
-        window.Form_Load();
+        MainWindow window;
+        window.load();
         window.show();
         QStringList paths;
         for (const char* name : {"a.doc", "b.xls", "c.pdf"})

@@ -28,10 +28,10 @@ using Operation = void (*)(const OfficeDocumentRequest&, const std::function<voi
 Operation operationOf(const QString& kind)
 {
     if (kind == "Word")
-        return CreateWordDocument;
+        return createWordDocument;
     if (kind == "Excel")
-        return CreateExcelDocument;
-    return CreatePowerPointDocument;
+        return createExcelDocument;
+    return createPowerPointDocument;
 }
 
 QByteArray readFile(const QString& path)
@@ -59,15 +59,15 @@ struct Fixture
     Fixture()
     {
         QDir().mkpath(docs);
-        SetRegValue("FileName", "0");
-        SetRegValue("FileNumber", " 12");
+        setRegValue("FileName", "0");
+        setRegValue("FileNumber", " 12");
         category = reg.insert("tbl_Document_Categories",
             {{"DokKategorija", "Sutartys"}, {"Mnemonic", "AGR"}, {"DokKategDaug", docs}});
     }
 
     QString templateFile(const QString& extension)
     {
-        QByteArray seed = LibreOfficeSuite::SeedDocument(
+        QByteArray seed = LibreOfficeSuite::seedDocument(
             extension == ".xlt" ? OfficeSuite::Kind::Excel : OfficeSuite::Kind::Word);
         const QByteArray paragraph = "<text:p>" + Marker.toLatin1() + "</text:p>";
         if (extension == ".xlt") {
@@ -115,7 +115,7 @@ class OfficeDocumentsTest : public QObject
         QCOMPARE(calls.first().kind, ScriptedShell::Kind::Open);
         QCOMPARE(calls.first().path, path);
         QVERIFY(QFile::exists(path));
-        QCOMPARE(test::FileHoldsText(path, Marker), withTemplate);
+        QCOMPARE(test::fileHoldsText(path, Marker), withTemplate);
         fx.locations.clear();
         fx.callsAtLocation.clear();
     }
@@ -167,7 +167,7 @@ private Q_SLOTS:
             file.write("mine");
         }
         if (situation == "no index")
-            SetRegValue("FileName", "2");
+            setRegValue("FileName", "2");
         fx.prompter.answer(situation == "cancel" ? MsgBoxResult::Cancel : MsgBoxResult::Ok);
 
         fx.run(kind, situation == "cancel" ? QVariant(missing) : QVariant(),
@@ -178,7 +178,7 @@ private Q_SLOTS:
         QCOMPARE(prompt.style, style);
         QCOMPARE(prompt.title, title);
         if (situation == "taken")
-            QCOMPARE(prompt.text, FileExistsMessage(taken));
+            QCOMPARE(prompt.text, fileExistsMessage(taken));
         else if (situation == "cancel")
             QCOMPARE(prompt.text,
                 "Can't achieve desired template " + missing
@@ -189,7 +189,7 @@ private Q_SLOTS:
             fx.files(), situation == "taken" ? QStringList {QFileInfo(taken).fileName()} : QStringList());
         if (situation == "taken")
             QCOMPARE(readFile(taken), "mine");
-        QCOMPARE(GetRegValue("FileNumber"), " 13");
+        QCOMPARE(getRegValue("FileNumber"), " 13");
     }
 
     void word()
@@ -208,7 +208,7 @@ private Q_SLOTS:
         // Null and empty text both mean no template: no question.
         fx.run("Word", QString(""));
         verifyMade(fx, "AGR00014.doc", false);
-        QCOMPARE(GetRegValue("FileNumber"), " 15");
+        QCOMPARE(getRegValue("FileNumber"), " 15");
         QVERIFY(fx.prompter.allAnswered());
     }
 
@@ -218,7 +218,7 @@ private Q_SLOTS:
         fx.run("Excel", fx.templateFile(".xlt"));
         QVERIFY(fx.prompter.prompts().isEmpty());
         verifyMade(fx, "AGR00012.xls", true);
-        QCOMPARE(GetRegValue("FileNumber"), " 13");
+        QCOMPARE(getRegValue("FileNumber"), " 13");
     }
 
     // The presentation is saved without its template, and a missing one draws no question.

@@ -1,10 +1,10 @@
+#include "base/Error.h"
 #include "harness/ScriptedPrompter.h"
 #include "harness/TestRegister.h"
 #include "options/OptionStore.h"
 #include "registration/FileNaming.h"
 #include "registration/RegIndex.h"
 #include "store/engine/Value.h"
-#include "support/Error.h"
 
 #include <QDir>
 #include <QRegularExpression>
@@ -18,16 +18,16 @@ using kartella::test::TestRegister;
 
 namespace kartella {
 
-struct DocFileNameProbe
+struct DocumentFileNameProbe
 {
-    static QString clean(const QString& text) { return CDocFileName::CleanFileName(text); }
+    static QString clean(const QString& text) { return DocumentFileName::cleanFileName(text); }
 };
 
 } // namespace kartella
 
 namespace {
 
-const QDate Today(2024, 3, 5);
+const QDate today(2024, 3, 5);
 const QString Folder = QStringLiteral("/srv/Docs");
 
 // The number of the kartella::Error that call throws; 0 when none.
@@ -56,7 +56,7 @@ void setExampleOptions()
         = {{"Date", "2024 03 05"}, {"TodayNumber", "7"}, {"AutoRegIndex", "1"}, {"IndexStyle", "1"},
             {"Separator1", "-"}, {"Separator2", "/"}, {"UseMnemonic", "1"}, {"FileNumber", " 12"}};
     for (const auto& [name, value] : options)
-        SetRegValue(name, value);
+        setRegValue(name, value);
 }
 
 // "known" in a test row stands for the category of the test's register.
@@ -78,7 +78,7 @@ private Q_SLOTS:
         const QStringList expected
             = {"", "20240305", "03052024", "05032024", "240305", "030524", "050324", ""};
         for (int style = 0; style < expected.size(); ++style)
-            QCOMPARE(FormatIndexDate(Today, style), expected.at(style));
+            QCOMPARE(kartella::formatIndexDate(today, style), expected.at(style));
         QLocale::setDefault(QLocale::c());
     }
 
@@ -123,16 +123,16 @@ private Q_SLOTS:
         const qint32 category = addCategory(reg, QString("Sutartys"), mnemonic);
         setExampleOptions();
         if (option == "Separators") {
-            SetRegValue("Separator1", value);
-            SetRegValue("Separator2", value);
+            setRegValue("Separator1", value);
+            setRegValue("Separator2", value);
         } else if (!option.isEmpty()) {
-            SetRegValue(option, value);
+            setRegValue(option, value);
         }
-        QCOMPARE(MakeRegIndex(QString::number(category), Today), index);
-        QCOMPARE(GetRegValue("TodayNumber"), numberAfter);
-        QCOMPARE(GetRegValue("Date"), numberAfter == "1" || option != "Date" ? QString("2024 03 05") : value);
+        QCOMPARE(makeRegIndex(QString::number(category), today), index);
+        QCOMPARE(getRegValue("TodayNumber"), numberAfter);
+        QCOMPARE(getRegValue("Date"), numberAfter == "1" || option != "Date" ? QString("2024 03 05") : value);
         // A proposal reserves nothing: the next one is the same.
-        QCOMPARE(MakeRegIndex(category, Today), index);
+        QCOMPARE(makeRegIndex(category, today), index);
     }
 
     void regIndexFailures_data()
@@ -170,24 +170,24 @@ private Q_SLOTS:
         const qint32 known = addCategory(reg, QString("Sutartys"), QString("AGR"));
         setExampleOptions();
         if (!option.isEmpty())
-            SetRegValue(option, value);
-        QCOMPARE(errorOf([&] { MakeRegIndex(categoryArgument(category, known), Today); }), error);
-        QCOMPARE(GetRegValue("TodayNumber"), option == "TodayNumber" ? value : QString("7"));
-        QCOMPARE(GetRegValue("Date"), option == "Date" ? value : QString("2024 03 05"));
+            setRegValue(option, value);
+        QCOMPARE(errorOf([&] { makeRegIndex(categoryArgument(category, known), today); }), error);
+        QCOMPARE(getRegValue("TodayNumber"), option == "TodayNumber" ? value : QString("7"));
+        QCOMPARE(getRegValue("Date"), option == "Date" ? value : QString("2024 03 05"));
     }
 
     void regIndexOffLooksAtNothingElse()
     {
         TestRegister reg;
         setExampleOptions();
-        SetRegValue("AutoRegIndex", QString("0"));
-        SetRegValue("Date", QString("2024 01 02"));
-        QCOMPARE(MakeRegIndex(QString(), Today), QString());
-        QCOMPARE(GetRegValue("Date"), QString("2024 01 02"));
+        setRegValue("AutoRegIndex", QString("0"));
+        setRegValue("Date", QString("2024 01 02"));
+        QCOMPARE(makeRegIndex(QString(), today), QString());
+        QCOMPARE(getRegValue("Date"), QString("2024 01 02"));
         // Without a register the lookup's own error comes through.
-        SetRegValue("AutoRegIndex", QString("1"));
-        SetRegValue("DbLocation", reg.dir() + "/none.mdb");
-        const long error = errorOf([] { MakeRegIndex(1, Today); });
+        setRegValue("AutoRegIndex", QString("1"));
+        setRegValue("DbLocation", reg.dir() + "/none.mdb");
+        const long error = errorOf([] { makeRegIndex(1, today); });
         QVERIFY(error != 0 && error != 3021);
     }
 
@@ -195,23 +195,23 @@ private Q_SLOTS:
     {
         TestRegister reg;
         setExampleOptions();
-        QCOMPARE(RegIndexSample(Today), QString("AGR-20240305/1"));
-        SetRegValue("UseMnemonic", QString("0"));
-        SetRegValue("IndexStyle", QString("3"));
-        QCOMPARE(RegIndexSample(Today), QString("05032024/1"));
-        QCOMPARE(GetRegValue("TodayNumber"), QString("7"));
+        QCOMPARE(regIndexSample(today), QString("AGR-20240305/1"));
+        setRegValue("UseMnemonic", QString("0"));
+        setRegValue("IndexStyle", QString("3"));
+        QCOMPARE(regIndexSample(today), QString("05032024/1"));
+        QCOMPARE(getRegValue("TodayNumber"), QString("7"));
         // A new day restarts the count even with AutoRegIndex off.
-        SetRegValue("AutoRegIndex", QString("0"));
-        SetRegValue("Date", QString("2024 02 28"));
-        QCOMPARE(RegIndexSample(Today), QString("05032024/1"));
-        QCOMPARE(GetRegValue("Date"), QString("2024 03 05"));
-        QCOMPARE(GetRegValue("TodayNumber"), QString("1"));
-        SetRegValue("Date", QString("yesterday"));
-        QCOMPARE(errorOf([] { RegIndexSample(Today); }), 13L);
+        setRegValue("AutoRegIndex", QString("0"));
+        setRegValue("Date", QString("2024 02 28"));
+        QCOMPARE(regIndexSample(today), QString("05032024/1"));
+        QCOMPARE(getRegValue("Date"), QString("2024 03 05"));
+        QCOMPARE(getRegValue("TodayNumber"), QString("1"));
+        setRegValue("Date", QString("yesterday"));
+        QCOMPARE(errorOf([] { regIndexSample(today); }), 13L);
         QLocale::setDefault(QLocale(QLocale::Lithuanian, QLocale::Lithuania));
-        ResetTodayNumber(QDate(2025, 1, 9));
+        resetTodayNumber(QDate(2025, 1, 9));
         QLocale::setDefault(QLocale::c());
-        QCOMPARE(GetRegValue("Date"), QString("2025 01 09"));
+        QCOMPARE(getRegValue("Date"), QString("2025 01 09"));
     }
 
     void fileNames_data()
@@ -233,13 +233,13 @@ private Q_SLOTS:
         TestRegister reg;
         const qint32 category = addCategory(reg, QString("Sutartys"), QString("AGR"));
         setExampleOptions();
-        SetRegValue("FileName", system);
+        setRegValue("FileName", system);
         const QString path
-            = MakeNewFileName("Sutartis", ".doc", Folder, QString::number(category), "AGR-20240305/7");
+            = makeNewFileName("Sutartis", ".doc", Folder, QString::number(category), "AGR-20240305/7");
         const QRegularExpression expected(QRegularExpression::anchoredPattern(
             QRegularExpression::escape(Folder + QDir::separator()) + pattern));
         QVERIFY2(expected.match(path).hasMatch(), qPrintable(path));
-        QCOMPARE(GetRegValue("FileNumber"), QString(" 13"));
+        QCOMPARE(getRegValue("FileNumber"), QString(" 13"));
     }
 
     void numberNames_data()
@@ -275,9 +275,9 @@ private Q_SLOTS:
         QFETCH(QString, fileNumberAfter);
         TestRegister reg;
         const qint32 category = addCategory(reg, title, mnemonic);
-        SetRegValue("FileNumber", fileNumber);
-        QCOMPARE(MakeFileNumberName(category), name);
-        QCOMPARE(GetRegValue("FileNumber"), fileNumberAfter);
+        setRegValue("FileNumber", fileNumber);
+        QCOMPARE(makeFileNumberName(category), name);
+        QCOMPARE(getRegValue("FileNumber"), fileNumberAfter);
     }
 
     void fileNameFailures_data()
@@ -305,10 +305,10 @@ private Q_SLOTS:
         QFETCH(long, error);
         TestRegister reg;
         const qint32 known = addCategory(reg, QString("Sutartys"), QString("AGR"));
-        SetRegValue("FileNumber", fileNumber);
+        setRegValue("FileNumber", fileNumber);
         const QVariant argument = categoryArgument(category, known);
-        QCOMPARE(errorOf([&] { MakeNewFileName("Sutartis", ".doc", Folder, argument, "A/1"); }), error);
-        QCOMPARE(GetRegValue("FileNumber"), fileNumber);
+        QCOMPARE(errorOf([&] { makeNewFileName("Sutartis", ".doc", Folder, argument, "A/1"); }), error);
+        QCOMPARE(getRegValue("FileNumber"), fileNumber);
     }
 
     void descriptionsAndCleaning()
@@ -317,16 +317,16 @@ private Q_SLOTS:
         const QStringList descriptions = {letters25, letters25 + "c", "Akt", "A.B, C/D"};
         const QStringList kept = {letters25, letters25, "Akt", "A.B, C/D"};
         for (int i = 0; i < descriptions.size(); ++i) {
-            const QString name = CDocFileName().DocFileName("1", descriptions.at(i), "AGR00012", "AGR-1");
+            const QString name = DocumentFileName().docFileName("1", descriptions.at(i), "AGR00012", "AGR-1");
             QVERIFY2(QRegularExpression(QRegularExpression::anchoredPattern(
                                             QRegularExpression::escape(kept.at(i)) + " [1-9][0-9]{0,2}"))
                          .match(name)
                          .hasMatch(),
                 qPrintable(name));
         }
-        QCOMPARE(DocFileNameProbe::clean("'!~@#$%^&/\\()<>.,:;"), QString(19, 'p'));
-        QCOMPARE(DocFileNameProbe::clean("A.B,C"), QString("ApBpC"));
-        QCOMPARE(DocFileNameProbe::clean("a*b?c\"d|e f_g-Šč"), QString("a*b?c\"d|e f_g-Šč"));
+        QCOMPARE(DocumentFileNameProbe::clean("'!~@#$%^&/\\()<>.,:;"), QString(19, 'p'));
+        QCOMPARE(DocumentFileNameProbe::clean("A.B,C"), QString("ApBpC"));
+        QCOMPARE(DocumentFileNameProbe::clean("a*b?c\"d|e f_g-Šč"), QString("a*b?c\"d|e f_g-Šč"));
     }
 
     void emptyIndexAndUnknownSystem()
@@ -334,20 +334,20 @@ private Q_SLOTS:
         TestRegister reg;
         const qint32 category = addCategory(reg, QString("Sutartys"), QString("AGR"));
         setExampleOptions();
-        SetRegValue("FileName", QString("2"));
+        setRegValue("FileName", QString("2"));
         ScriptedPrompter prompter;
         prompter.answer(MsgBoxResult::Ok);
-        QCOMPARE(MakeNewFileName("Sutartis", ".doc", Folder, category, ""), QString());
+        QCOMPARE(makeNewFileName("Sutartis", ".doc", Folder, category, ""), QString());
         QCOMPARE(prompter.prompts().size(), 1);
         QCOMPARE(prompter.prompts().first().title, QString("The file name must be like Registration Index"));
         QCOMPARE(prompter.prompts().first().text,
             QString("Can't create a file, because the Registration Index is "
                     "empty. Enter valid Registration Index, please."));
         QCOMPARE(prompter.prompts().first().style, 16);
-        QCOMPARE(GetRegValue("FileNumber"), QString(" 13"));
-        SetRegValue("FileName", QString("Not Found"));
-        QCOMPARE(MakeNewFileName("Sutartis", ".doc", Folder, category, "A/1"), QString());
-        QCOMPARE(GetRegValue("FileNumber"), QString(" 14"));
+        QCOMPARE(getRegValue("FileNumber"), QString(" 13"));
+        setRegValue("FileName", QString("Not Found"));
+        QCOMPARE(makeNewFileName("Sutartis", ".doc", Folder, category, "A/1"), QString());
+        QCOMPARE(getRegValue("FileNumber"), QString(" 14"));
     }
 
     void folders()
@@ -362,24 +362,24 @@ private Q_SLOTS:
         const qint32 subPath = sub(cat, QString("/srv/sub")), subEmpty = sub(cat, QString("")),
                      subNull = sub(cat, {});
         const qint32 subOfBare = sub(bare, {});
-        QCOMPARE(GetDocumentFolder(cat, subPath), QVariant(QString("/srv/sub")));
-        QCOMPARE(GetDocumentFolder(cat, QString::number(subEmpty)), QVariant(QString("")));
-        QCOMPARE(GetDocumentFolder(cat, subNull), QVariant(QString("/srv/cat")));
-        QCOMPARE(GetDocumentFolder(QString::number(cat), QString()), QVariant(QString("/srv/cat")));
-        QVERIFY(IsNull(GetDocumentFolder(bare, subOfBare)));
-        QCOMPARE(errorOf([] { GetDocumentFolder(QString(), QVariant()); }), 13L);
+        QCOMPARE(getDocumentFolder(cat, subPath), QVariant(QString("/srv/sub")));
+        QCOMPARE(getDocumentFolder(cat, QString::number(subEmpty)), QVariant(QString("")));
+        QCOMPARE(getDocumentFolder(cat, subNull), QVariant(QString("/srv/cat")));
+        QCOMPARE(getDocumentFolder(QString::number(cat), QString()), QVariant(QString("/srv/cat")));
+        QVERIFY(isNull(getDocumentFolder(bare, subOfBare)));
+        QCOMPARE(errorOf([] { getDocumentFolder(QString(), QVariant()); }), 13L);
 
         // A Null folder: the ini key "AllDocs", else the default folder, its separator kept.
-        SetRegValue("FileName", QString("0"));
-        SetRegValue("FileNumber", QString(" 1"));
-        QCOMPARE(MakeNewFileName("S", ".xls", QVariant(), bare, ""),
+        setRegValue("FileName", QString("0"));
+        setRegValue("FileNumber", QString(" 1"));
+        QCOMPARE(makeNewFileName("S", ".xls", QVariant(), bare, ""),
             QString(QDir::homePath() + "/" + QDir::separator() + "Raš00001.xls"));
-        QVERIFY(WriteIniValue("AllDocs", QDir::toNativeSeparators("/srv/all")));
-        QCOMPARE(MakeNewFileName("S", ".ppt", GetDocumentFolder(bare, subOfBare), bare, ""),
+        QVERIFY(writeIniValue("AllDocs", QDir::toNativeSeparators("/srv/all")));
+        QCOMPARE(makeNewFileName("S", ".ppt", getDocumentFolder(bare, subOfBare), bare, ""),
             QDir::toNativeSeparators("/srv/all/Raš00002.ppt"));
-        QCOMPARE(MakeNewFileName("S", ".doc", QString(Folder + QDir::separator()), cat, ""),
+        QCOMPARE(makeNewFileName("S", ".doc", QString(Folder + QDir::separator()), cat, ""),
             QString(Folder + QDir::separator() + QDir::separator() + "AGR00003.doc"));
-        QCOMPARE(FileExistsMessage("/d/A.doc"),
+        QCOMPARE(fileExistsMessage("/d/A.doc"),
             QString("The File with name /d/A.doc exist. Depending on the File "
                     "Name style, check Doc. Description, Registration Index or "
                     "other parameters."));

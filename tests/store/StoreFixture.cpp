@@ -1,19 +1,19 @@
 #include "StoreFixture.h"
 
+#include "base/Error.h"
 #include "harness/TestRegister.h"
-#include "support/Error.h"
 
 #include <QTest>
 
 namespace kartella::test {
 
-QDate FirstOfPreviousMonth()
+QDate firstOfPreviousMonth()
 {
     const QDate today = QDate::currentDate();
     return QDate(today.year(), today.month(), 1).addMonths(-1);
 }
 
-void BuildFixture(const TestRegister& reg)
+void buildFixture(const TestRegister& reg)
 {
     const auto category = [&](int id, const char* title, const QVariant& mnemonic, const QVariant& folder) {
         reg.insert("tbl_Document_Categories",
@@ -25,9 +25,9 @@ void BuildFixture(const TestRegister& reg)
     category(3, "Ataskaitos", {}, {});
     category(4, "čekiai", "CEK", "/f/Cek");
 
-    const auto sub = [&](int id, int kateg, const QVariant& title, const QVariant& folder) {
+    const auto sub = [&](int id, int categoryId, const QVariant& title, const QVariant& folder) {
         reg.insert("tbl_Sub_Categories",
-            {{"SubKategID", id}, {"KategID", kateg}, {"DokSubKategorija", title},
+            {{"SubKategID", id}, {"KategID", categoryId}, {"DokSubKategorija", title},
                 {"SubPathToFiles", folder}});
     };
     sub(1, 1, "Nuomos", "/f/Sut/Nuoma");
@@ -59,13 +59,13 @@ void BuildFixture(const TestRegister& reg)
             {"HomeWWW", "https://alfa.lt"}});
     reg.insert("tbl_HomePages", {{"HomeID", 2}, {"ContactID", 3}, {"HomeWWW", "https://beta.lt"}});
 
-    const auto document = [&](int id, QDate registered, const QVariant& contactId, const QVariant& kateg,
-                              const QVariant& subKateg, int direction, const QVariant& path) {
+    const auto document = [&](int id, QDate registered, const QVariant& contactId, const QVariant& category,
+                              const QVariant& subCategory, int direction, const QVariant& path) {
         reg.insert("tbl_Documents",
             {{"RastasID", id}, {"DokGavSiuntData", registered.addDays(-1)}, {"DokRegistracData", registered},
                 {"DokRegistracIndeksas", QString("IDX-" + QString::number(id))},
                 {"DokAntraste", QString("Dokumentas " + QString::number(id))}, {"RastoKel", path},
-                {"ContactID", contactId}, {"KategID", kateg}, {"SubKategID", subKateg},
+                {"ContactID", contactId}, {"KategID", category}, {"SubKategID", subCategory},
                 {"KryptisID", direction}});
     };
     document(1, {2024, 3, 5}, 1, 1, 1, 3, "/f/Sut/SUT-0001.doc");
@@ -75,7 +75,7 @@ void BuildFixture(const TestRegister& reg)
     document(5, {2024, 4, 15}, 3, {}, {}, 3, {});
     document(6, {2024, 3, 12}, 5, 4, {}, 3, {});
     document(7, QDate::currentDate(), 1, 2, {}, 1, {});
-    document(8, FirstOfPreviousMonth(), 5, 1, 1, 2, {});
+    document(8, firstOfPreviousMonth(), 5, 1, 1, 2, {});
 
     const auto related = [&](int id, int parent, const char* text, const QVariant& contactId,
                              const QVariant& path, QDate date) {
@@ -96,10 +96,10 @@ void BuildFixture(const TestRegister& reg)
     reminder(3, 4, {2024, 2, 20}, "Patikrinti");
 }
 
-bool TryOpen(Recordset& recordset, const QString& source, Connection& connection)
+bool tryOpen(Recordset& recordset, const QString& source, Connection& connection)
 {
     try {
-        recordset.Open(source, connection);
+        recordset.open(source, connection);
         return true;
     } catch (const Error& error) {
         QTest::qFail(qPrintable(error.description()), __FILE__, __LINE__);
@@ -107,12 +107,12 @@ bool TryOpen(Recordset& recordset, const QString& source, Connection& connection
     }
 }
 
-QString RenderRow(Recordset& recordset, const QStringList& fields)
+QString renderRow(Recordset& recordset, const QStringList& fields)
 {
     QStringList parts;
     for (const QString& field : fields) {
-        const QVariant value = recordset.Fields(field).Value();
-        if (IsNull(value))
+        const QVariant value = recordset.fields(field).value();
+        if (isNull(value))
             parts << "-";
         else if (value.typeId() == QMetaType::QDate)
             parts << value.toDate().toString(Qt::ISODate);
@@ -122,13 +122,13 @@ QString RenderRow(Recordset& recordset, const QStringList& fields)
     return parts.join('|');
 }
 
-QStringList RenderRows(Recordset& recordset, const QStringList& fields)
+QStringList renderRows(Recordset& recordset, const QStringList& fields)
 {
     QStringList rows;
-    if (recordset.RecordCount() == 0)
+    if (recordset.recordCount() == 0)
         return rows;
-    for (recordset.MoveFirst(); !recordset.Eof(); recordset.MoveNext())
-        rows << RenderRow(recordset, fields);
+    for (recordset.moveFirst(); !recordset.eof(); recordset.moveNext())
+        rows << renderRow(recordset, fields);
     return rows;
 }
 

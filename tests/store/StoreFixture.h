@@ -24,17 +24,17 @@ class TestRegister;
 //              (5 also no category); directions 1:3 2:2 3:1 4:4 5:3 6:3 7:1 8:2
 // related      1, 2 of document 1 (2 without contact and file); 3 of document 3
 // reminders    1 (Mar 15), 2 (Mar 1) of document 1; 3 (Feb 20) of document 4
-void BuildFixture(const TestRegister& reg);
+void buildFixture(const TestRegister& reg);
 
-QDate FirstOfPreviousMonth();
+QDate firstOfPreviousMonth();
 
 // Opens source on connection; a failure fails the running test (and gives false) instead
 // of ending the test program.
-bool TryOpen(Recordset& recordset, const QString& source, Connection& connection);
+bool tryOpen(Recordset& recordset, const QString& source, Connection& connection);
 
 // Field values of the current row joined by "|": Null as "-", dates as yyyy-MM-dd.
-QString RenderRow(Recordset& recordset, const QStringList& fields);
+QString renderRow(Recordset& recordset, const QStringList& fields);
 // All rows so rendered, from the first.
-QStringList RenderRows(Recordset& recordset, const QStringList& fields);
+QStringList renderRows(Recordset& recordset, const QStringList& fields);
 
 } // namespace kartella::test

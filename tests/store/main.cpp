@@ -2,17 +2,17 @@
 // kartella-db tool, run one class after the other.
 #include <QCoreApplication>
 
-int RunSchemaTest(int argc, char** argv);
-int RunLookupsTest(int argc, char** argv);
-int RunStatementsTest(int argc, char** argv);
-int RunSampleTest(int argc, char** argv);
-int RunToolTest(int argc, char** argv);
+int runSchemaTest(int argc, char** argv);
+int runLookupsTest(int argc, char** argv);
+int runStatementsTest(int argc, char** argv);
+int runSampleTest(int argc, char** argv);
+int runToolTest(int argc, char** argv);
 
 int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
     int failures = 0;
-    for (const auto run : {RunSchemaTest, RunLookupsTest, RunStatementsTest, RunSampleTest, RunToolTest})
+    for (const auto run : {runSchemaTest, runLookupsTest, runStatementsTest, runSampleTest, runToolTest})
         failures += run(argc, argv);
     return failures;
 }

@@ -1,9 +1,9 @@
 #include "StoreFixture.h"
+#include "base/Error.h"
 #include "harness/TestRegister.h"
 #include "options/OptionStore.h"
 #include "store/Lookups.h"
 #include "store/Store.h"
-#include "support/Error.h"
 
 #include <QTest>
 
@@ -50,52 +50,52 @@ private Q_SLOTS:
         QFETCH(int, id);
         QFETCH(QVariant, expected);
         TestRegister reg;
-        BuildFixture(reg);
-        const QVariant value = GetFieldValue(keyField, valueField, table, id);
-        QCOMPARE(IsNull(value), IsNull(expected));
-        if (!IsNull(expected))
+        buildFixture(reg);
+        const QVariant value = getFieldValue(keyField, valueField, table, id);
+        QCOMPARE(isNull(value), isNull(expected));
+        if (!isNull(expected))
             QCOMPARE(value.toString(), expected.toString());
     }
 
     void namesOrTheMark()
     {
         TestRegister reg;
-        BuildFixture(reg);
-        QCOMPARE(GetContactName(1), QString("Petras Jonaitis"));
-        QCOMPARE(GetContactName(qint64(2)), QString::fromUtf8("Ąžuolas Kazlauskas"));
-        QCOMPARE(GetContactName(3), NullMark); // a company without a name
-        QCOMPARE(GetContactName(99), NullMark);
-        QCOMPARE(GetContactName(QVariant()), NullMark);
-        QCOMPARE(GetCategoryName(2), QString::fromUtf8("Žemės nuoma"));
-        QCOMPARE(GetCategoryName(99), NullMark);
-        QCOMPARE(GetCategoryName(QVariant()), NullMark);
+        buildFixture(reg);
+        QCOMPARE(getContactName(1), QString("Petras Jonaitis"));
+        QCOMPARE(getContactName(qint64(2)), QString::fromUtf8("Ąžuolas Kazlauskas"));
+        QCOMPARE(getContactName(3), NullMark); // a company without a name
+        QCOMPARE(getContactName(99), NullMark);
+        QCOMPARE(getContactName(QVariant()), NullMark);
+        QCOMPARE(getCategoryName(2), QString::fromUtf8("Žemės nuoma"));
+        QCOMPARE(getCategoryName(99), NullMark);
+        QCOMPARE(getCategoryName(QVariant()), NullMark);
     }
 
     void lookupsFollowTheOptionsAndNullIdsTouchNothing()
     {
         TestRegister first;
-        BuildFixture(first);
+        buildFixture(first);
         TestRegister second("Other.mdb");
         second.insert("tbl_Contacts", {{"ContactID", 1}, {"FullName", "Kitas Žmogus"}});
         // second's options are in force: the lookups read its file.
-        QCOMPARE(GetContactName(1), QString::fromUtf8("Kitas Žmogus"));
-        SetRegValue("DbLocation", first.path());
-        QCOMPARE(GetContactName(1), QString("Petras Jonaitis"));
+        QCOMPARE(getContactName(1), QString::fromUtf8("Kitas Žmogus"));
+        setRegValue("DbLocation", first.path());
+        QCOMPARE(getContactName(1), QString("Petras Jonaitis"));
 
-        SetRegValue("DbLocation", second.dir() + "/nowhere/Kartella.mdb");
-        QCOMPARE(GetContactName(QVariant()), NullMark);
-        QCOMPARE(GetCategoryName(QVariant()), NullMark);
+        setRegValue("DbLocation", second.dir() + "/nowhere/Kartella.mdb");
+        QCOMPARE(getContactName(QVariant()), NullMark);
+        QCOMPARE(getCategoryName(QVariant()), NullMark);
         try {
-            GetContactName(1);
+            getContactName(1);
             QFAIL("a lookup on a missing register must fail");
         } catch (const Error& error) {
             QCOMPARE(error.number(), ErrorNumber::ConnectionFailed);
         }
-        QVERIFY_THROWS_EXCEPTION(Error, GetFieldValue("KategID", "Mnemonic", "tbl_Document_Categories", 1));
+        QVERIFY_THROWS_EXCEPTION(Error, getFieldValue("KategID", "Mnemonic", "tbl_Document_Categories", 1));
     }
 };
 
-int RunLookupsTest(int argc, char** argv)
+int runLookupsTest(int argc, char** argv)
 {
     LookupsTest test;
     return QTest::qExec(&test, argc, argv);

@@ -1,9 +1,9 @@
 #include "StoreFixture.h"
+#include "base/Error.h"
 #include "harness/TestRegister.h"
 #include "store/Schema.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
-#include "support/Error.h"
 
 #include <QFile>
 #include <QTest>
@@ -14,7 +14,7 @@ using namespace kartella::test;
 namespace {
 
 // The fields of each table, with a value of the field's type for a full row.
-QVariantMap FullRow(const QString& table)
+QVariantMap fullRow(const QString& table)
 {
     const QDate date(2024, 2, 29);
     if (table == "tbl_Documents")
@@ -48,15 +48,15 @@ QVariantMap FullRow(const QString& table)
     return {{"RastasID", 1}, {"TicklerDate", date}, {"TicklerText", "Priminti"}};
 }
 
-QStringList Keys(const TestRegister& reg, const QString& sql)
+QStringList keys(const TestRegister& reg, const QString& sql)
 {
     Connection connection(reg.connectionString());
-    connection.Open();
+    connection.open();
     Recordset recordset;
-    recordset.Open(sql, connection);
+    recordset.open(sql, connection);
     QStringList keys;
-    for (; !recordset.Eof(); recordset.MoveNext())
-        keys << recordset.Fields(0).Value().toString();
+    for (; !recordset.eof(); recordset.moveNext())
+        keys << recordset.fields(0).value().toString();
     return keys;
 }
 
@@ -94,25 +94,25 @@ private Q_SLOTS:
         QFETCH(QString, table);
         QFETCH(QString, key);
         TestRegister reg;
-        const QVariantMap row = FullRow(table);
+        const QVariantMap row = fullRow(table);
         // Keys come from the generator, one after the other.
         QCOMPARE(reg.insert(table, row), 1);
         QCOMPARE(reg.insert(table, row), 2);
 
         Connection connection(reg.connectionString());
-        connection.Open();
+        connection.open();
         Recordset recordset;
-        recordset.Open("SELECT * FROM " + table + " WHERE " + key + "=2", connection);
-        QCOMPARE(recordset.RecordCount(), 1);
+        recordset.open("SELECT * FROM " + table + " WHERE " + key + "=2", connection);
+        QCOMPARE(recordset.recordCount(), 1);
         QStringList expectedFields = row.keys();
         expectedFields << key;
-        QStringList fields = recordset.FieldNames();
+        QStringList fields = recordset.fieldNames();
         expectedFields.sort();
         fields.sort();
         QCOMPARE(fields, expectedFields);
-        QCOMPARE(recordset.Fields(key).Value().toInt(), 2);
+        QCOMPARE(recordset.fields(key).value().toInt(), 2);
         for (auto it = row.cbegin(); it != row.cend(); ++it) {
-            const QVariant value = recordset.Fields(it.key()).Value();
+            const QVariant value = recordset.fields(it.key()).value();
             if (it.value().typeId() == QMetaType::QDate) {
                 QCOMPARE(value.typeId(), QMetaType::QDate);
                 QCOMPARE(value.toDate(), it.value().toDate());
@@ -144,38 +144,38 @@ private Q_SLOTS:
         document(5, firstOfMonth.addMonths(-2), 1);
         document(6, firstOfMonth.addMonths(1), 1);
 
-        QCOMPARE(Keys(reg, "SELECT RastasID FROM qry_This_Month ORDER BY RastasID"), QStringList({"1", "2"}));
+        QCOMPARE(keys(reg, "SELECT RastasID FROM qry_This_Month ORDER BY RastasID"), QStringList({"1", "2"}));
         QCOMPARE(
-            Keys(reg, "SELECT RastasID FROM qry_Previous_Month ORDER BY RastasID"), QStringList({"3", "4"}));
+            keys(reg, "SELECT RastasID FROM qry_Previous_Month ORDER BY RastasID"), QStringList({"3", "4"}));
 
         Connection connection(reg.connectionString());
-        connection.Open();
+        connection.open();
         for (const char* view : {"qry_This_Month", "qry_Previous_Month"}) {
             Recordset recordset;
-            recordset.Open(QString("SELECT * FROM ") + view, connection);
-            QCOMPARE(recordset.FieldNames(),
+            recordset.open(QString("SELECT * FROM ") + view, connection);
+            QCOMPARE(recordset.fieldNames(),
                 QStringList({"DokKategorija", "KategID", "DokRegistracData", "DokRegistracIndeksas",
                     "DokAntraste", "FullName", "RastasID"}));
         }
         Recordset thisMonth;
-        thisMonth.Open("SELECT * FROM qry_This_Month ORDER BY RastasID", connection);
-        QCOMPARE(RenderRows(thisMonth,
+        thisMonth.open("SELECT * FROM qry_This_Month ORDER BY RastasID", connection);
+        QCOMPARE(renderRows(thisMonth,
                      {"RastasID", "DokKategorija", "FullName", "DokRegistracIndeksas", "DokAntraste"}),
             QStringList({"1|Sutartys|Ona Jonaitienė|I1|D1", "2|Sutartys|-|I2|D2"}));
-        thisMonth.MoveFirst();
-        QCOMPARE(thisMonth.Fields("DokRegistracData").Value().typeId(), QMetaType::QDate);
+        thisMonth.moveFirst();
+        QCOMPARE(thisMonth.fields("DokRegistracData").value().typeId(), QMetaType::QDate);
     }
 
     void phonesViewListsContactsWithPhones()
     {
         TestRegister reg;
-        BuildFixture(reg);
+        buildFixture(reg);
         Connection connection(reg.connectionString());
-        connection.Open();
+        connection.open();
         Recordset recordset;
-        recordset.Open("SELECT * FROM qry_Phones", connection);
-        QCOMPARE(recordset.FieldNames(), QStringList({"ContactID", "FullName", "PhoneName", "PhoneNumber"}));
-        QStringList rows = RenderRows(recordset, {"ContactID", "PhoneName"});
+        recordset.open("SELECT * FROM qry_Phones", connection);
+        QCOMPARE(recordset.fieldNames(), QStringList({"ContactID", "FullName", "PhoneName", "PhoneNumber"}));
+        QStringList rows = renderRows(recordset, {"ContactID", "PhoneName"});
         rows.sort();
         QCOMPARE(rows, QStringList({"1|Business", "1|Mobile", "2|Home", "3|Fax", "4|Mobile"}));
     }
@@ -183,10 +183,10 @@ private Q_SLOTS:
     void deletingACategoryTakesOnlyItsSubCategories()
     {
         TestRegister reg;
-        BuildFixture(reg);
+        buildFixture(reg);
         reg.exec("DELETE tbl_Document_Categories.* FROM tbl_Document_Categories WHERE "
                  "tbl_Document_Categories.KategID=1");
-        QCOMPARE(Keys(reg, "SELECT SubKategID FROM tbl_Sub_Categories ORDER BY SubKategID"),
+        QCOMPARE(keys(reg, "SELECT SubKategID FROM tbl_Sub_Categories ORDER BY SubKategID"),
             QStringList({"3", "4", "5"}));
         QCOMPARE(reg.scalar("SELECT COUNT(*) FROM tbl_Documents WHERE KategID=1").toInt(), 3);
         QCOMPARE(reg.scalar("SELECT COUNT(*) FROM tbl_Documents WHERE SubKategID=1").toInt(), 2);
@@ -225,7 +225,7 @@ private Q_SLOTS:
             = {"Zita", QString::fromUtf8("čiobrelis"), "Bronius", QString::fromUtf8("Ąžuolas")};
         for (const QString& name : names)
             reg.insert(table, {{field, name}});
-        QCOMPARE(Keys(reg, "SELECT " + field + " FROM " + table + " ORDER BY " + field),
+        QCOMPARE(keys(reg, "SELECT " + field + " FROM " + table + " ORDER BY " + field),
             QStringList({QString::fromUtf8("Ąžuolas"), "Bronius", QString::fromUtf8("čiobrelis"), "Zita"}));
     }
 
@@ -239,17 +239,17 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QByteArray before = file.readAll();
         file.close();
-        QVERIFY_THROWS_EXCEPTION(Error, CreateRegister(reg.path()));
+        QVERIFY_THROWS_EXCEPTION(Error, createRegister(reg.path()));
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.readAll(), before);
 
         const QString nowhere = reg.dir() + "/missing folder/Kartella.mdb";
-        QVERIFY_THROWS_EXCEPTION(Error, CreateRegister(nowhere));
+        QVERIFY_THROWS_EXCEPTION(Error, createRegister(nowhere));
         QVERIFY(!QFile::exists(nowhere));
     }
 };
 
-int RunSchemaTest(int argc, char** argv)
+int runSchemaTest(int argc, char** argv)
 {
     SchemaTest test;
     return QTest::qExec(&test, argc, argv);

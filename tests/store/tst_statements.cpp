@@ -37,17 +37,17 @@ const QString PhonesChild
       "AS ChildCMD RELATE ContactID TO ContactID) AS ChildCMD";
 const QString CRLF = "\r\n";
 
-QStringList Sorted(QStringList list)
+QStringList sorted(QStringList list)
 {
     list.sort();
     return list;
 }
 
 // Moves to the first row whose field has the value; false when there is none.
-bool MoveTo(Recordset& recordset, const QString& field, const QString& value)
+bool moveTo(Recordset& recordset, const QString& field, const QString& value)
 {
-    for (recordset.MoveFirst(); !recordset.Eof(); recordset.MoveNext()) {
-        if (recordset.Fields(field).Value().toString() == value)
+    for (recordset.moveFirst(); !recordset.eof(); recordset.moveNext()) {
+        if (recordset.fields(field).value().toString() == value)
             return true;
     }
     return false;
@@ -72,9 +72,9 @@ private Q_SLOTS:
     void initTestCase()
     {
         m_register = std::make_unique<TestRegister>();
-        BuildFixture(*m_register);
+        buildFixture(*m_register);
         m_connection = std::make_unique<Connection>(m_register->connectionString());
-        m_connection->Open();
+        m_connection->open();
     }
 
     void cleanupTestCase()
@@ -114,7 +114,7 @@ private Q_SLOTS:
             DocumentSql + " WHERE tbl_Documents.KategID=1" + Ordering, DocumentColumns,
             "RastasID,FullName,DokRegistracData",
             {"1|Petras Jonaitis|2024-03-05", "2|-|2024-03-20",
-                "8|Šarūnė Vaitkutė|" + FirstOfPreviousMonth().toString(Qt::ISODate)});
+                "8|Šarūnė Vaitkutė|" + firstOfPreviousMonth().toString(Qt::ISODate)});
         addSelect("date range, both ends included", DocumentSql + Dated + Ordering, DocumentColumns,
             "RastasID", {"1", "6", "2", "3"});
         addSelect("dates, category, direction",
@@ -235,15 +235,15 @@ private Q_SLOTS:
         QFETCH(QStringList, rows);
         QFETCH(bool, ordered);
         Recordset recordset;
-        if (!TryOpen(recordset, sql, *m_connection))
+        if (!tryOpen(recordset, sql, *m_connection))
             return;
-        QCOMPARE(recordset.FieldNames().mid(0, columns.size()), columns);
-        QCOMPARE(recordset.RecordCount(), rows.size());
-        const QStringList actual = RenderRows(recordset, probe);
+        QCOMPARE(recordset.fieldNames().mid(0, columns.size()), columns);
+        QCOMPARE(recordset.recordCount(), rows.size());
+        const QStringList actual = renderRows(recordset, probe);
         if (ordered)
             QCOMPARE(actual, rows);
         else
-            QCOMPARE(Sorted(actual), Sorted(rows));
+            QCOMPARE(sorted(actual), sorted(rows));
     }
 
     void shapes_data()
@@ -464,18 +464,18 @@ private Q_SLOTS:
         QFETCH(QStringList, chapterRows);
 
         Recordset recordset;
-        if (!TryOpen(recordset, shape, *m_connection))
+        if (!tryOpen(recordset, shape, *m_connection))
             return;
-        QCOMPARE(Sorted(recordset.FieldNames()), Sorted(parentColumns));
-        QVERIFY(recordset.Fields(chapter).IsChapter());
-        const QStringList actual = RenderRows(recordset, parentProbe);
-        QCOMPARE(ordered ? actual : Sorted(actual), ordered ? parentRows : Sorted(parentRows));
+        QCOMPARE(sorted(recordset.fieldNames()), sorted(parentColumns));
+        QVERIFY(recordset.fields(chapter).isChapter());
+        const QStringList actual = renderRows(recordset, parentProbe);
+        QCOMPARE(ordered ? actual : sorted(actual), ordered ? parentRows : sorted(parentRows));
 
-        QVERIFY(MoveTo(recordset, parentProbe.first(), parentKey));
-        Recordset* child = recordset.Chapter(chapter);
+        QVERIFY(moveTo(recordset, parentProbe.first(), parentKey));
+        Recordset* child = recordset.chapter(chapter);
         QVERIFY(child);
-        QCOMPARE(child->FieldNames(), chapterColumns);
-        QCOMPARE(RenderRows(*child, chapterProbe), chapterRows);
+        QCOMPARE(child->fieldNames(), chapterColumns);
+        QCOMPARE(renderRows(*child, chapterProbe), chapterRows);
     }
 
     // The statements that remove rows take exactly the rows named, and nothing else
@@ -521,13 +521,13 @@ private Q_SLOTS:
             {"tbl_Tickler", "TicklerID"},
         };
         TestRegister reg;
-        BuildFixture(reg);
+        buildFixture(reg);
         const auto keys = [&](const QString& table, const QString& key) {
             Connection connection(reg.connectionString());
-            connection.Open();
+            connection.open();
             Recordset recordset;
-            recordset.Open("SELECT " + key + " FROM " + table + " ORDER BY " + key, connection);
-            return RenderRows(recordset, {key}).join(',');
+            recordset.open("SELECT " + key + " FROM " + table + " ORDER BY " + key, connection);
+            return renderRows(recordset, {key}).join(',');
         };
         QMap<QString, QString> before;
         for (const auto& [table, key] : tables)
@@ -545,7 +545,7 @@ private Q_SLOTS:
     void moveRewritesOnePath()
     {
         TestRegister reg;
-        BuildFixture(reg);
+        buildFixture(reg);
         reg.exec("UPDATE tbl_Documents SET tbl_Documents.RastoKel = '/new place/Sąrašas.doc' WHERE "
                  "(((tbl_Documents.RastasID)=1));");
         QCOMPARE(reg.scalar("SELECT RastoKel FROM tbl_Documents WHERE RastasID=1").toString(),
@@ -554,7 +554,7 @@ private Q_SLOTS:
     }
 };
 
-int RunStatementsTest(int argc, char** argv)
+int runStatementsTest(int argc, char** argv)
 {
     StatementsTest test;
     return QTest::qExec(&test, argc, argv);

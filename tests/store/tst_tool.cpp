@@ -14,7 +14,7 @@ struct Run
     QString err;
 };
 
-Run RunTool(const QStringList& arguments)
+Run runTool(const QStringList& arguments)
 {
     QProcess process;
     process.start(QStringLiteral(KARTELLA_DB_PATH), arguments);
@@ -39,11 +39,11 @@ private Q_SLOTS:
     void createInfoAndRefusal()
     {
         const QString path = m_dir.filePath("Naujas registras.mdb");
-        Run run = RunTool({"create", path});
+        Run run = runTool({"create", path});
         QCOMPARE(run.exitCode, 0);
         QVERIFY(QFile::exists(path));
 
-        run = RunTool({"info", path});
+        run = runTool({"info", path});
         QCOMPARE(run.exitCode, 0);
         QCOMPARE(run.out.split('\n', Qt::SkipEmptyParts),
             QStringList({"tbl_Document_Categories: 0", "tbl_Sub_Categories: 0", "tbl_Documents: 0",
@@ -52,14 +52,14 @@ private Q_SLOTS:
 
         const qint64 size = QFileInfo(path).size();
         for (const char* command : {"create", "sample"}) {
-            run = RunTool({command, path});
+            run = runTool({command, path});
             QCOMPARE(run.exitCode, 1);
             QVERIFY2(run.err.startsWith("kartella-db: "), qPrintable(run.err));
             QCOMPARE(run.err.count('\n'), 1);
             QCOMPARE(QFileInfo(path).size(), size);
         }
 
-        run = RunTool({"info", m_dir.filePath("nera.mdb")});
+        run = runTool({"info", m_dir.filePath("nera.mdb")});
         QCOMPARE(run.exitCode, 1);
         QVERIFY(run.err.startsWith("kartella-db: "));
         QVERIFY(!QFile::exists(m_dir.filePath("nera.mdb")));
@@ -68,9 +68,9 @@ private Q_SLOTS:
     void sampleThenInfo()
     {
         const QString path = m_dir.filePath("Pavyzdys.mdb");
-        Run run = RunTool({"sample", path, "--documents", "50", "--seed=3"});
+        Run run = runTool({"sample", path, "--documents", "50", "--seed=3"});
         QCOMPARE(run.exitCode, 0);
-        run = RunTool({"info", path});
+        run = runTool({"info", path});
         QCOMPARE(run.exitCode, 0);
         const QStringList lines = run.out.split('\n', Qt::SkipEmptyParts);
         QCOMPARE(lines.size(), 8);
@@ -95,7 +95,7 @@ private Q_SLOTS:
     {
         QFETCH(QStringList, arguments);
         QDir::setCurrent(m_dir.path());
-        const Run run = RunTool(arguments);
+        const Run run = runTool(arguments);
         QCOMPARE(run.exitCode, 2);
         QVERIFY(run.err.startsWith("kartella-db: "));
         QVERIFY(run.err.contains("Usage: kartella-db create PATH"));
@@ -104,14 +104,14 @@ private Q_SLOTS:
 
     void help()
     {
-        const Run run = RunTool({"--help"});
+        const Run run = runTool({"--help"});
         QCOMPARE(run.exitCode, 0);
         QVERIFY(run.out.startsWith("Usage: kartella-db"));
         QVERIFY(run.err.isEmpty());
     }
 };
 
-int RunToolTest(int argc, char** argv)
+int runToolTest(int argc, char** argv)
 {
     ToolTest test;
     return QTest::qExec(&test, argc, argv);

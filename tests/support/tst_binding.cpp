@@ -1,9 +1,9 @@
+#include "base/Error.h"
 #include "harness/ScriptedPrompter.h"
 #include "harness/TestRegister.h"
 #include "store/engine/Recordset.h"
 #include "support/BoundList.h"
 #include "support/EnterAsTab.h"
-#include "support/Error.h"
 #include "support/FieldBinder.h"
 #include "support/RecordsetModel.h"
 
@@ -101,20 +101,20 @@ private Q_SLOTS:
     {
         Fixture fx;
         Recordset rows;
-        rows.Open(Documents, fx.source());
+        rows.open(Documents, fx.source());
         Form form;
         FieldBinder binder(&rows);
-        binder.Bind(form.description, "DokAntraste");
-        binder.BindDate(form.date, "DokRegistracData", "yyyy.MM.dd");
-        binder.Bind(form.notes, "DokPastaba");
-        binder.Bind(form.key, "RastasID");
-        QSignalSpy changed(&binder, &FieldBinder::Changed);
+        binder.bind(form.description, "DokAntraste");
+        binder.bindDate(form.date, "DokRegistracData", "yyyy.MM.dd");
+        binder.bind(form.notes, "DokPastaba");
+        binder.bind(form.key, "RastasID");
+        QSignalSpy changed(&binder, &FieldBinder::changed);
         QCOMPARE(form.description->text(), "Lease");
         QCOMPARE(form.date->text(), "2024.03.05");
         QCOMPARE(form.notes->toPlainText(), "Two pages");
         QCOMPARE(form.key->text(), QString::number(fx.first));
 
-        rows.MoveNext();
+        rows.moveNext();
         QCOMPARE(form.description->text(), "Invitation");
         QCOMPARE(form.date->text(), QString());
         QCOMPARE(form.notes->toPlainText(), QString());
@@ -124,13 +124,13 @@ private Q_SLOTS:
         form.description->selectAll();
         QTest::keyClicks(form.description, "Party");
         QTest::keyClicks(form.date, "2024.06.30");
-        QCOMPARE(rows.Fields("DokAntraste").Value().toString(), "Party");
-        QCOMPARE(rows.Fields("DokRegistracData").Value().toDate(), QDate(2024, 6, 30));
+        QCOMPARE(rows.fields("DokAntraste").value().toString(), "Party");
+        QCOMPARE(rows.fields("DokRegistracData").value().toDate(), QDate(2024, 6, 30));
         QVERIFY(changed.count() > 0);
         // A field set by code shows in its box.
-        rows.Fields("DokPastaba").SetValue("By hand");
+        rows.fields("DokPastaba").setValue("By hand");
         QCOMPARE(form.notes->toPlainText(), "By hand");
-        rows.Update();
+        rows.update();
         QCOMPARE(
             fx.reg.scalar(QString("SELECT DokAntraste FROM tbl_Documents WHERE RastasID=%1").arg(fx.second))
                 .toString(),
@@ -141,10 +141,10 @@ private Q_SLOTS:
             "By hand");
 
         // A new row shows empty boxes; emptying a box makes its field Null.
-        rows.MoveFirst();
+        rows.moveFirst();
         form.notes->clear();
-        QVERIFY(IsNull(rows.Fields("DokPastaba").Value()));
-        rows.AddNew();
+        QVERIFY(isNull(rows.fields("DokPastaba").value()));
+        rows.addNew();
         QCOMPARE(form.description->text(), QString());
         QCOMPARE(form.key->text(), QString());
     }
@@ -168,7 +168,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, text);
         QFETCH(QDate, date);
-        QCOMPARE(FieldBinder::ReadDate(text, "dd MMM yyyy"), date);
+        QCOMPARE(FieldBinder::readDate(text, "dd MMM yyyy"), date);
     }
 
     // An unreadable date stops the save with a message naming the box; the field and the row
@@ -177,27 +177,27 @@ private Q_SLOTS:
     {
         Fixture fx;
         Recordset rows;
-        rows.Open(Documents, fx.source(), CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
+        rows.open(Documents, fx.source(), CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
         Form form;
         FieldBinder binder(&rows);
-        binder.Bind(form.description, "DokAntraste");
-        binder.BindDate(form.date, "DokRegistracData", "yyyy.MM.dd");
+        binder.bind(form.description, "DokAntraste");
+        binder.bindDate(form.date, "DokRegistracData", "yyyy.MM.dd");
         QVERIFY(form.show());
         const auto save = [&] {
-            binder.Validate();
-            rows.UpdateBatch(AffectEnum::All);
+            binder.validate();
+            rows.updateBatch(AffectEnum::All);
         };
         const QString storedDate
             = QString("SELECT DokRegistracData FROM tbl_Documents WHERE RastasID=%1").arg(fx.first);
         form.description->setText("Lease, signed");
         form.date->selectAll();
         QTest::keyClicks(form.date, "2024.13.45");
-        QVERIFY(!binder.IsValid());
+        QVERIFY(!binder.isValid());
         const QString message = errorOf(save);
         QVERIFY2(message.contains("\"2024.13.45\"") && message.contains("Registration Date")
                 && message.contains("yyyy.MM.dd"),
             qPrintable(message));
-        QCOMPARE(rows.Fields("DokRegistracData").Value().toDate(), QDate(2024, 3, 5));
+        QCOMPARE(rows.fields("DokRegistracData").value().toDate(), QDate(2024, 3, 5));
         QCOMPARE(fx.reg.scalar(storedDate).toDate(), QDate(2024, 3, 5));
         QCOMPARE(
             fx.reg.scalar("SELECT COUNT(*) FROM tbl_Documents WHERE DokAntraste='Lease, signed'").toInt(), 0);
@@ -215,78 +215,78 @@ private Q_SLOTS:
     {
         Fixture fx;
         Recordset categories;
-        categories.Open(
+        categories.open(
             "select KategID,DokKategorija from tbl_Document_Categories order by DokKategorija", fx.source());
         Recordset rows;
-        rows.Open(Documents, fx.source());
+        rows.open(Documents, fx.source());
         Form form;
         BoundList list(form.category);
-        list.SetRowSource(&categories, "DokKategorija", "KategID");
+        list.setRowSource(&categories, "DokKategorija", "KategID");
         QCOMPARE(form.category->count(), 2);
         QCOMPARE(form.category->itemText(0), "Contracts");
         FieldBinder binder(&rows);
-        binder.Bind(&list, "KategID");
-        QCOMPARE(list.Value(), QString::number(fx.contracts));
-        QCOMPARE(list.Text(), "Contracts");
+        binder.bind(&list, "KategID");
+        QCOMPARE(list.value(), QString::number(fx.contracts));
+        QCOMPARE(list.text(), "Contracts");
 
-        QSignalSpy change(&list, &BoundList::Change);
-        rows.MoveNext();
-        QCOMPARE(list.Text(), "Letters");
+        QSignalSpy change(&list, &BoundList::changed);
+        rows.moveNext();
+        QCOMPARE(list.text(), "Letters");
         QCOMPARE(change.count(), 1); // the value changed with the row
 
         QVERIFY(form.show());
         form.category->setFocus();
         QTest::keyClick(form.category, Qt::Key_Up);
-        QCOMPARE(list.Value(), QString::number(fx.contracts));
-        QCOMPARE(rows.Fields("KategID").Value().toInt(), fx.contracts);
+        QCOMPARE(list.value(), QString::number(fx.contracts));
+        QCOMPARE(rows.fields("KategID").value().toInt(), fx.contracts);
         QCOMPARE(change.count(), 2);
 
-        list.SetValue(QString());
+        list.setValue(QString());
         QCOMPARE(form.category->currentIndex(), -1);
-        QVERIFY(IsNull(rows.Fields("KategID").Value()));
-        list.SetValue(fx.letters);
-        QCOMPARE(rows.Fields("KategID").Value().toInt(), fx.letters);
+        QVERIFY(isNull(rows.fields("KategID").value()));
+        list.setValue(fx.letters);
+        QCOMPARE(rows.fields("KategID").value().toInt(), fx.letters);
         QCOMPARE(change.count(), 4);
-        list.SetValue(QString::number(fx.letters));
+        list.setValue(QString::number(fx.letters));
         QCOMPARE(change.count(), 4); // the same key again is no change
 
         // Another source: the value stays, and shows only while the list holds it.
-        categories.Close();
-        categories.Open(QString("select KategID,DokKategorija from tbl_Document_Categories where KategID=%1")
+        categories.close();
+        categories.open(QString("select KategID,DokKategorija from tbl_Document_Categories where KategID=%1")
                             .arg(fx.contracts),
             fx.source());
         QCOMPARE(form.category->count(), 1);
-        QCOMPARE(list.Value(), QString::number(fx.letters));
-        QCOMPARE(list.Text(), QString());
-        list.SetValue(fx.contracts);
-        QCOMPARE(list.Text(), "Contracts");
+        QCOMPARE(list.value(), QString::number(fx.letters));
+        QCOMPARE(list.text(), QString());
+        list.setValue(fx.contracts);
+        QCOMPARE(list.text(), "Contracts");
     }
 
     // The grid model: rows of a chapter, captions and hidden columns, cells written through,
-    // and a new-row line whose row the parent's UpdateBatch stores with the parent's key.
+    // and a new-row line whose row the parent's updateBatch stores with the parent's key.
     void modelShowsEditsAndAddsRows()
     {
         Fixture fx;
         ScriptedPrompter prompter;
         Recordset documents;
-        documents.Open(Shaped, fx.source(), CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
+        documents.open(Shaped, fx.source(), CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
         RecordsetModel model;
         QDialog dialog;
         auto* grid = new QTableView(&dialog);
         new QVBoxLayout(&dialog);
         dialog.layout()->addWidget(grid);
-        model.SetRecordset(documents.Fields("ChildCMD").Chapter());
-        model.SetAllowAddNew(true);
-        model.SetDateFormat("yyyy.MM.dd");
-        model.AttachView(grid);
-        model.SetColumnHidden(0, true);
-        model.SetColumnHidden(2, true);
-        model.SetColumnCaption(1, "Date");
-        model.SetColumnWidth(3, 1440);
+        model.setRecordset(documents.fields("ChildCMD").chapter());
+        model.setAllowAddNew(true);
+        model.setDateFormat("yyyy.MM.dd");
+        model.attachView(grid);
+        model.setColumnHidden(0, true);
+        model.setColumnHidden(2, true);
+        model.setColumnCaption(1, "Date");
+        model.setColumnWidth(3, 1440);
 
         QCOMPARE(model.columnCount(), 4);
         QCOMPARE(model.rowCount(), 2); // the reminder and the new-row line
-        QVERIFY(model.IsNewRowLine(1));
+        QVERIFY(model.isNewRowLine(1));
         QCOMPARE(model.data(model.index(0, 1)).toString(), "2024.04.01");
         QCOMPARE(model.data(model.index(0, 3)).toString(), "Renew");
         QCOMPARE(model.headerData(1, Qt::Horizontal).toString(), "Date");
@@ -295,10 +295,10 @@ private Q_SLOTS:
         QCOMPARE(grid->columnWidth(3), grid->logicalDpiX());
 
         // The second document has no reminders; the grid follows the parent's moves.
-        documents.MoveNext();
+        documents.moveNext();
         QCOMPARE(model.rowCount(), 1);
         QVERIFY(grid->isColumnHidden(0));
-        documents.MoveFirst();
+        documents.moveFirst();
         QCOMPARE(model.rowCount(), 2);
 
         dialog.show();
@@ -312,7 +312,7 @@ private Q_SLOTS:
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         QTRY_COMPARE(model.rowCount(), 3);
         QCOMPARE(model.data(model.index(1, 3)).toString(), "Call back");
-        QVERIFY(model.IsNewRowLine(2));
+        QVERIFY(model.isNewRowLine(2));
         // A cell of a row already there.
         QVERIFY(model.setData(model.index(0, 3), "Renew the lease"));
         // A date that isn't one is refused with a message, and adds no row.
@@ -321,7 +321,7 @@ private Q_SLOTS:
         QCOMPARE(prompter.take().size(), 1);
         QCOMPARE(model.rowCount(), 3);
 
-        documents.UpdateBatch(AffectEnum::All);
+        documents.updateBatch(AffectEnum::All);
         QCOMPARE(fx.reg.scalar(QString("SELECT COUNT(*) FROM tbl_Tickler WHERE RastasID=%1").arg(fx.first))
                      .toInt(),
             2);
@@ -335,9 +335,9 @@ private Q_SLOTS:
 
         // Without batch mode a typed cell is written at once.
         Recordset reminders;
-        reminders.Open("select TicklerID,TicklerText from tbl_Tickler order by TicklerID", fx.source());
+        reminders.open("select TicklerID,TicklerText from tbl_Tickler order by TicklerID", fx.source());
         RecordsetModel plain;
-        plain.SetRecordset(&reminders);
+        plain.setRecordset(&reminders);
         QVERIFY(plain.setData(plain.index(0, 1), "Renewed"));
         QCOMPARE(
             fx.reg.scalar(QString("SELECT TicklerText FROM tbl_Tickler WHERE TicklerID=%1").arg(fx.reminder))
@@ -351,13 +351,13 @@ private Q_SLOTS:
     {
         Form form;
         auto* keys = new EnterAsTab(&form.dialog);
-        keys->Watch(form.description);
-        keys->Watch(form.date);
-        keys->Watch(form.notes);
+        keys->watch(form.description);
+        keys->watch(form.date);
+        keys->watch(form.notes);
         int comboEnters = 0;
-        keys->OnEnter(form.category, [&] { ++comboEnters; });
+        keys->onEnter(form.category, [&] { ++comboEnters; });
         int escapes = 0;
-        keys->OnEscape([&] {
+        keys->onEscape([&] {
             ++escapes;
             return true;
         });

@@ -1,5 +1,5 @@
+#include "base/Error.h"
 #include "harness/ScriptedPrompter.h"
-#include "support/Error.h"
 #include "support/FileInfo.h"
 #include "support/PathUtils.h"
 #include "support/ShellDialogs.h"
@@ -40,7 +40,7 @@ private:
     QString path(const QString& name) const { return m_dir.filePath(name); }
 
 private Q_SLOTS:
-    void initTestCase() { UseIconThemeFallback(); }
+    void initTestCase() { useIconThemeFallback(); }
     void cleanup() { QDir::setCurrent(m_home); }
 
     void separators_data()
@@ -63,9 +63,9 @@ private Q_SLOTS:
         QFETCH(QString, path);
         QFETCH(QString, normalized);
         QFETCH(QString, denormalized);
-        QCOMPARE(NormalizePath(native(path)), native(normalized));
+        QCOMPARE(normalizePath(native(path)), native(normalized));
         QString changed = native(path);
-        DenormalizePath(changed);
+        denormalizePath(changed);
         QCOMPARE(changed, native(denormalized));
     }
 
@@ -97,11 +97,11 @@ private Q_SLOTS:
         QFETCH(int, extension);
         QFETCH(QString, baseExt);
         int namePosition = -1, extensionPosition = -1, rootEnd = -1;
-        QCOMPARE(GetFullPath(native(path), namePosition, extensionPosition, rootEnd), native(full));
+        QCOMPARE(getFullPath(native(path), namePosition, extensionPosition, rootEnd), native(full));
         QCOMPARE(namePosition, name);
         QCOMPARE(extensionPosition, extension);
         QCOMPARE(rootEnd, 0);
-        QCOMPARE(GetFileBaseExt(native(path)), baseExt);
+        QCOMPARE(getFileBaseExt(native(path)), baseExt);
     }
 
     void relativeAndEmptyPaths()
@@ -109,13 +109,13 @@ private Q_SLOTS:
         QVERIFY(QDir::setCurrent(m_dir.path()));
         const QString current = native(QDir::currentPath());
         FullPathParts parts {7, 8, 9};
-        QCOMPARE(GetFullPath(QString(), parts), QString());
+        QCOMPARE(getFullPath(QString(), parts), QString());
         QCOMPARE(parts.name, 7); // left alone
-        QCOMPARE(GetFullPath("sub/", parts), QString(current + native("/sub/")));
+        QCOMPARE(getFullPath("sub/", parts), QString(current + native("/sub/")));
         QCOMPARE(parts.name, int(current.size()) + 5);
-        QCOMPARE(GetFileBaseExt("AGR00012.doc"), QString("AGR00012.doc"));
-        QCOMPARE(GetFileBaseExt("sub/AGR00012.doc"), QString("AGR00012.doc"));
-        QCOMPARE(GetFileBaseExt(QString()), QString());
+        QCOMPARE(getFileBaseExt("AGR00012.doc"), QString("AGR00012.doc"));
+        QCOMPARE(getFileBaseExt("sub/AGR00012.doc"), QString("AGR00012.doc"));
+        QCOMPARE(getFileBaseExt(QString()), QString());
     }
 
     void unreachableCurrentFolderIsAnError()
@@ -127,21 +127,21 @@ private Q_SLOTS:
         if (!QDir::currentPath().isEmpty())
             QSKIP("This system still names a removed current folder");
         try {
-            GetFileBaseExt("a.txt");
+            getFileBaseExt("a.txt");
             QFAIL("no error");
         } catch (const Error& e) {
             QCOMPARE(e.number(), -2147192501L); // 3 + 0x80047148
             QCOMPARE(e.description(), QString("The system cannot find the path specified."));
             QCOMPARE(e.source(), QString("Kartella.Windows"));
         }
-        QCOMPARE(GetFileBaseExt(native("/srv/a.txt")), QString("a.txt"));
+        QCOMPARE(getFileBaseExt(native("/srv/a.txt")), QString("a.txt"));
     }
 
     void trimAtNull()
     {
-        QCOMPARE(TrimAtNull("abc"), QString("abc"));
-        QCOMPARE(TrimAtNull(QChar(0) + QString("abc")), QString());
-        QCOMPARE(TrimAtNull(QString("ab") + QChar(0) + "cd" + QChar(0)), QString("ab"));
+        QCOMPARE(kartella::trimAtNull("abc"), QString("abc"));
+        QCOMPARE(kartella::trimAtNull(QChar(0) + QString("abc")), QString());
+        QCOMPARE(kartella::trimAtNull(QString("ab") + QChar(0) + "cd" + QChar(0)), QString("ab"));
     }
 
     void shellDialogs()
@@ -151,7 +151,7 @@ private Q_SLOTS:
             .answerFile(QString())
             .answerFolder("/srv/S")
             .answerFolder("");
-        QCOMPARE(ShowOpenDialog({"Select Document   ", " /srv/docs  ", "All files (*.*) ", "*.*\t "}),
+        QCOMPARE(showOpenDialog({"Select Document   ", " /srv/docs  ", "All files (*.*) ", "*.*\t "}),
             QString("/srv/docs/Sutartis.doc"));
         const auto& request = prompter.fileRequests.first();
         QCOMPARE(request.title, QString("Select Document"));
@@ -159,10 +159,10 @@ private Q_SLOTS:
         QCOMPARE(request.filterLabel, QString("All files (*.*)"));
         QCOMPARE(request.pattern, QString("*.*\t"));
         QCOMPARE(
-            ShowOpenDialog({"Select the Database File", "", "Access databases (*.mdb)", "*.mdb"}), QString());
+            showOpenDialog({"Select the Database File", "", "Access databases (*.mdb)", "*.mdb"}), QString());
         const QString prompt = "Select a folder in which to place the new files of - Sutartys - category:";
-        QCOMPARE(ChooseFolder(prompt), QString("/srv/S"));
-        QCOMPARE(ChooseFolder(prompt), QString());
+        QCOMPARE(chooseFolder(prompt), QString("/srv/S"));
+        QCOMPARE(chooseFolder(prompt), QString());
         QCOMPARE(prompter.folderPrompts.first(), prompt);
     }
 
@@ -195,54 +195,54 @@ private Q_SLOTS:
             = name.contains('.') || !content.isEmpty() ? writeFile(path(name), content) : path(name);
         QDir().mkpath(path("Sutartys"));
 
-        CFileInfo* info = GetFileInfoObject(file);
+        FileInfo* info = getFileInfoObject(file);
         QVERIFY(info);
-        QCOMPARE(info->ItemType(), 1);
-        QCOMPARE(info->Item(), file);
-        QCOMPARE(info->DisplayName(), displayName);
-        QCOMPARE(info->TypeName(), typeName);
+        QCOMPARE(info->itemType(), 1);
+        QCOMPARE(info->item(), file);
+        QCOMPARE(info->displayName(), displayName);
+        QCOMPARE(info->typeName(), typeName);
 
         // Described by name, a trailing separator ignored, and no message.
         ScriptedPrompter prompter;
-        CFileInfo byName;
-        byName.SetItem(name == "Sutartys" ? file + QDir::separator() : file);
-        QCOMPARE(byName.DisplayName(), displayName);
-        QCOMPARE(byName.TypeName(), typeName);
+        FileInfo byName;
+        byName.setItem(name == "Sutartys" ? file + QDir::separator() : file);
+        QCOMPARE(byName.displayName(), displayName);
+        QCOMPARE(byName.typeName(), typeName);
         if (QIcon::fromTheme("text-x-generic").isNull())
             QSKIP("No icon theme is installed");
-        QCOMPARE(info->SmallIcon().availableSizes().value(0), QSize(16, 16));
-        QCOMPARE(info->LargeIcon().availableSizes().value(0), QSize(32, 32));
-        QVERIFY(!byName.ShellIcon().isNull());
+        QCOMPARE(info->smallIcon().availableSizes().value(0), QSize(16, 16));
+        QCOMPARE(info->largeIcon().availableSizes().value(0), QSize(32, 32));
+        QVERIFY(!byName.shellIcon().isNull());
     }
 
     void emptyAndMissing()
     {
-        CFileInfo info;
-        QCOMPARE(info.DisplayName(), QString("Unknown"));
-        QCOMPARE(info.TypeName(), QString("None"));
-        QVERIFY(info.SmallIcon().isNull() && info.LargeIcon().isNull() && info.ShellIcon().isNull());
+        FileInfo info;
+        QCOMPARE(info.displayName(), QString("Unknown"));
+        QCOMPARE(info.typeName(), QString("None"));
+        QVERIFY(info.smallIcon().isNull() && info.largeIcon().isNull() && info.shellIcon().isNull());
 
         const QString missing = path("gone.doc");
-        QCOMPARE(GetFileInfoObject(missing), nullptr);
-        QCOMPARE(GetFileInfoObject(QString()), nullptr);
-        info.CreateFromFile(writeFile(path("here.txt")));
-        info.CreateFromFile(missing); // forgets the file before
-        QCOMPARE(info.ItemType(), 0);
-        QCOMPARE(info.DisplayName(), QString("Unknown"));
+        QCOMPARE(getFileInfoObject(missing), nullptr);
+        QCOMPARE(getFileInfoObject(QString()), nullptr);
+        info.createFromFile(writeFile(path("here.txt")));
+        info.createFromFile(missing); // forgets the file before
+        QCOMPARE(info.itemType(), 0);
+        QCOMPARE(info.displayName(), QString("Unknown"));
 
         ScriptedPrompter prompter;
         prompter.answer(MsgBoxResult::Ok);
-        info.SetItem(missing);
+        info.setItem(missing);
         QCOMPARE(prompter.prompts().size(), 1);
         QCOMPARE(prompter.prompts().first().text, QString("API Error"));
         QCOMPARE(prompter.prompts().first().title, QString("Operating System Error"));
         QCOMPARE(prompter.prompts().first().style, 16);
-        QCOMPARE(info.DisplayName(), QString("gone.doc"));
-        QCOMPARE(info.TypeName(), QString("Microsoft Word Document"));
+        QCOMPARE(info.displayName(), QString("gone.doc"));
+        QCOMPARE(info.typeName(), QString("Microsoft Word Document"));
 
-        info.SetItem(QDir::rootPath()); // a drive root isn't searched for
-        QCOMPARE(info.ItemType(), 1);
-        QCOMPARE(GetFileInfoObject(path("here.txt")), GetFileInfoObject(m_dir.path())); // one shared object
+        info.setItem(QDir::rootPath()); // a drive root isn't searched for
+        QCOMPARE(info.itemType(), 1);
+        QCOMPARE(getFileInfoObject(path("here.txt")), getFileInfoObject(m_dir.path())); // one shared object
     }
 
     void launcherHasItsOwnIcon()
@@ -255,18 +255,18 @@ private Q_SLOTS:
         const QString file
             = writeFile(path("Red.desktop"), "[Desktop Entry]\nName=Red\nIcon=" + path("red.png").toUtf8());
         auto centre = [](const QIcon& icon) { return icon.pixmap(32, 32).toImage().pixelColor(16, 16); };
-        QCOMPARE(centre(GetFileInfoObject(file)->LargeIcon()), QColor(Qt::red));
-        CFileInfo byName; // described by name: the icon of its type
-        byName.SetItem(file);
-        QVERIFY(!byName.LargeIcon().isNull());
-        QVERIFY(centre(byName.LargeIcon()) != QColor(Qt::red));
+        QCOMPARE(centre(getFileInfoObject(file)->largeIcon()), QColor(Qt::red));
+        FileInfo byName; // described by name: the icon of its type
+        byName.setItem(file);
+        QVERIFY(!byName.largeIcon().isNull());
+        QVERIFY(centre(byName.largeIcon()) != QColor(Qt::red));
         const QString lost = writeFile(path("Lost.desktop"), "[Desktop Entry]\nIcon=no-such-icon\n");
-        QVERIFY(!GetFileInfoObject(lost)->SmallIcon().isNull());
+        QVERIFY(!getFileInfoObject(lost)->smallIcon().isNull());
     }
 
     void noFileIcon()
     {
-        QCOMPARE(NoFileIconPath(), QString(QCoreApplication::applicationDirPath() + "/snow.ico"));
+        QCOMPARE(noFileIconPath(), QString(QCoreApplication::applicationDirPath() + "/snow.ico"));
         QVERIFY(!QIcon(KARTELLA_SNOW_ICON).isNull());
         QImageReader reader(KARTELLA_SNOW_ICON);
         const QImage image = reader.read();

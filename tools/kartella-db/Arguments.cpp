@@ -5,7 +5,7 @@ namespace kartella::tool {
 namespace {
 
 // "--name value" or "--name=value"; advances i past what it took.
-std::optional<QString> OptionValue(const QStringList& arguments, int& i, const QString& name)
+std::optional<QString> optionValue(const QStringList& arguments, int& i, const QString& name)
 {
     const QString& argument = arguments.at(i);
     if (argument.startsWith(name + u'='))
@@ -17,7 +17,7 @@ std::optional<QString> OptionValue(const QStringList& arguments, int& i, const Q
 
 } // namespace
 
-QString UsageText()
+QString usageText()
 {
     return QStringLiteral("Usage: kartella-db create PATH\n"
                           "       kartella-db sample PATH [--documents N] [--seed S]\n"
@@ -33,7 +33,7 @@ QString UsageText()
                           "Exit codes: 0 success, 1 failure, 2 usage error.\n");
 }
 
-std::optional<Invocation> ParseArguments(const QStringList& arguments, QString& problem)
+std::optional<Invocation> parseArguments(const QStringList& arguments, QString& problem)
 {
     if (arguments.isEmpty()) {
         problem = QStringLiteral("no command given");
@@ -70,13 +70,13 @@ std::optional<Invocation> ParseArguments(const QStringList& arguments, QString& 
             return std::nullopt;
         }
         bool ok = false;
-        if (const auto value = OptionValue(arguments, i, QStringLiteral("--documents"))) {
+        if (const auto value = optionValue(arguments, i, QStringLiteral("--documents"))) {
             invocation.documents = value->toInt(&ok);
             if (!ok || invocation.documents < 0) {
                 problem = QStringLiteral("--documents needs a whole number of 0 or more");
                 return std::nullopt;
             }
-        } else if (const auto seed = OptionValue(arguments, i, QStringLiteral("--seed"))) {
+        } else if (const auto seed = optionValue(arguments, i, QStringLiteral("--seed"))) {
             invocation.seed = seed->toUInt(&ok);
             if (!ok) {
                 problem = QStringLiteral("--seed needs a whole number from 0 to 4294967295");

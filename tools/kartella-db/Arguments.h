@@ -19,9 +19,9 @@ struct Invocation
 
 // Reads the arguments (without the program's name). On a usage error gives nothing and
 // sets problem to a one-line reason.
-std::optional<Invocation> ParseArguments(const QStringList& arguments, QString& problem);
+std::optional<Invocation> parseArguments(const QStringList& arguments, QString& problem);
 
 // The usage text, ending in a line break.
-QString UsageText();
+QString usageText();
 
 } // namespace kartella::tool

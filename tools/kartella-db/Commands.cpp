@@ -1,11 +1,11 @@
 #include "Commands.h"
 
+#include "base/Error.h"
 #include "store/SampleRegister.h"
 #include "store/Schema.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
-#include "support/Error.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -28,42 +28,42 @@ const QStringList Tables = {
 
 } // namespace
 
-void CreateCommand(const QString& path)
+void createCommand(const QString& path)
 {
-    CreateRegister(path);
+    createRegister(path);
 }
 
-void SampleCommand(const QString& path, int documents, quint32 seed, QTextStream& out)
+void sampleCommand(const QString& path, int documents, quint32 seed, QTextStream& out)
 {
-    CreateRegister(path);
+    createRegister(path);
     SampleOptions options;
     options.documents = documents;
     options.seed = seed;
     try {
-        FillSampleRegister(path, options);
+        fillSampleRegister(path, options);
     } catch (...) {
         QFile::remove(path);
         throw;
     }
     out << "Created " << QFileInfo(path).absoluteFilePath() << " with " << documents
-        << " documents; files in " << SampleFilesFolder(path) << Qt::endl;
+        << " documents; files in " << sampleFilesFolder(path) << Qt::endl;
 }
 
-void InfoCommand(const QString& path, QTextStream& out)
+void infoCommand(const QString& path, QTextStream& out)
 {
     const QString location = QFileInfo(path).absoluteFilePath();
     if (!QFileInfo(location).isFile())
         throw Error(ErrorNumber::PathFileAccess, QStringLiteral("no register at \"") + location + u'"');
     Connection connection;
-    connection.Open(PlainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"), location));
+    connection.open(plainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"), location));
     QStringList lines;
     for (const QString& table : Tables) {
         Recordset count;
-        count.Open(QStringLiteral("SELECT COUNT(*) AS N FROM ") + table, connection);
+        count.open(QStringLiteral("SELECT COUNT(*) AS N FROM ") + table, connection);
         lines << table + QStringLiteral(": ")
-                + QString::number(count.Fields(QStringLiteral("N")).Value().toLongLong());
+                + QString::number(count.fields(QStringLiteral("N")).value().toLongLong());
     }
-    connection.Close();
+    connection.close();
     for (const QString& line : std::as_const(lines))
         out << line << '\n';
     out.flush();

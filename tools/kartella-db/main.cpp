@@ -1,7 +1,7 @@
 // kartella-db: makes registers, fills them with sample data and tells what they hold.
 #include "Arguments.h"
 #include "Commands.h"
-#include "support/Error.h"
+#include "base/Error.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
@@ -17,7 +17,7 @@ constexpr int ExitSuccess = 0;
 constexpr int ExitFailure = 1;
 constexpr int ExitUsage = 2;
 
-int Fail(const QString& message)
+int fail(const QString& message)
 {
     QTextStream(stderr) << "kartella-db: " << QString(message).replace(u'\n', u' ') << Qt::endl;
     return ExitFailure;
@@ -28,16 +28,16 @@ int Run(const Invocation& invocation)
     QTextStream out(stdout);
     switch (invocation.command) {
     case Invocation::Command::Help:
-        out << UsageText();
+        out << usageText();
         break;
     case Invocation::Command::Create:
-        CreateCommand(invocation.path);
+        createCommand(invocation.path);
         break;
     case Invocation::Command::Sample:
-        SampleCommand(invocation.path, invocation.documents, invocation.seed, out);
+        sampleCommand(invocation.path, invocation.documents, invocation.seed, out);
         break;
     case Invocation::Command::Info:
-        InfoCommand(invocation.path, out);
+        infoCommand(invocation.path, out);
         break;
     }
     return ExitSuccess;
@@ -52,16 +52,16 @@ int main(int argc, char** argv)
     arguments.removeFirst();
 
     QString problem;
-    const auto invocation = ParseArguments(arguments, problem);
+    const auto invocation = parseArguments(arguments, problem);
     if (!invocation) {
-        QTextStream(stderr) << "kartella-db: " << problem << '\n' << UsageText();
+        QTextStream(stderr) << "kartella-db: " << problem << '\n' << usageText();
         return ExitUsage;
     }
     try {
         return Run(*invocation);
     } catch (const Error& error) {
-        return Fail(error.description());
+        return fail(error.description());
     } catch (const std::exception& error) {
-        return Fail(QString::fromLocal8Bit(error.what()));
+        return fail(QString::fromLocal8Bit(error.what()));
     }
 }

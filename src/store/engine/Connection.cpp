@@ -13,16 +13,16 @@ namespace {
 
 [[noreturn]] void failToConnect(const QString& description)
 {
-    ThrowError(ErrorNumber::ConnectionFailed, description, ConnectionSource);
+    throwError(ErrorNumber::ConnectionFailed, description, ConnectionSource);
 }
 
 std::unique_ptr<Backend> openBackend(const QString& connectionString)
 {
-    const ConnectionTarget target = ParseConnectionString(connectionString);
+    const ConnectionTarget target = parseConnectionString(connectionString);
     if (target.dataSource.startsWith(QLatin1String("postgresql://"), Qt::CaseInsensitive))
         failToConnect(QStringLiteral("This build of Kartella can't reach PostgreSQL registers ('")
             + target.dataSource + QStringLiteral("'). Choose a register file instead."));
-    if (!IsJetProvider(target.provider)) {
+    if (!isJetProvider(target.provider)) {
         const QString named = target.provider.isEmpty()
             ? QStringLiteral("The connection string names no provider.")
             : QStringLiteral("Provider cannot be found: '") + target.provider + QStringLiteral("'.");
@@ -42,17 +42,17 @@ Connection::Connection(const QString& connectionString)
 
 Connection::~Connection() = default;
 
-void Connection::SetConnectionString(const QString& connectionString)
+void Connection::setConnectionString(const QString& connectionString)
 {
     m_connectionString = connectionString;
 }
 
-QString Connection::ConnectionString() const
+QString Connection::connectionString() const
 {
     return m_connectionString;
 }
 
-void Connection::SetMode(int mode)
+void Connection::setMode(int mode)
 {
     m_mode = mode;
 }
@@ -62,52 +62,52 @@ int Connection::Mode() const
     return m_mode;
 }
 
-void Connection::SetCursorLocation(int location)
+void Connection::setCursorLocation(int location)
 {
     m_cursorLocation = location;
 }
 
-int Connection::CursorLocation() const
+int Connection::cursorLocation() const
 {
     return m_cursorLocation;
 }
 
-void Connection::Open(const QString& connectionString)
+void Connection::open(const QString& connectionString)
 {
     if (m_backend)
-        ThrowError(EngineError::ObjectOpen,
+        throwError(EngineError::ObjectOpen,
             QStringLiteral("Operation is not allowed when the object is open."), ConnectionSource);
     if (!connectionString.isEmpty())
         m_connectionString = connectionString;
     m_backend = openBackend(m_connectionString);
 }
 
-void Connection::Close()
+void Connection::close()
 {
     m_backend.reset();
 }
 
-bool Connection::IsOpen() const
+bool Connection::isOpen() const
 {
     return m_backend != nullptr;
 }
 
-void Connection::Execute(const QString& sql)
+void Connection::execute(const QString& sql)
 {
     backend().execute(sql);
 }
 
-void Connection::BeginTrans()
+void Connection::beginTrans()
 {
     backend().beginTransaction();
 }
 
-void Connection::CommitTrans()
+void Connection::commitTrans()
 {
     backend().commitTransaction();
 }
 
-void Connection::RollbackTrans()
+void Connection::rollbackTrans()
 {
     backend().rollbackTransaction();
 }
@@ -115,7 +115,7 @@ void Connection::RollbackTrans()
 Backend& Connection::backend()
 {
     if (!m_backend)
-        ThrowError(EngineError::ObjectClosed,
+        throwError(EngineError::ObjectClosed,
             QStringLiteral("Operation is not allowed when the object is closed."), ConnectionSource);
     return *m_backend;
 }

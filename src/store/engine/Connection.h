@@ -27,26 +27,26 @@ public:
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
-    void SetConnectionString(const QString& connectionString);
-    QString ConnectionString() const;
-    void SetMode(int mode);
+    void setConnectionString(const QString& connectionString);
+    QString connectionString() const;
+    void setMode(int mode);
     int Mode() const;
-    void SetCursorLocation(int location);
-    int CursorLocation() const;
+    void setCursorLocation(int location);
+    int cursorLocation() const;
 
     // Opens with the given string, or with the one set before when it is empty. Opening
     // never creates a file.
-    void Open(const QString& connectionString = {});
-    void Close();
-    bool IsOpen() const;
+    void open(const QString& connectionString = {});
+    void close();
+    bool isOpen() const;
 
     // Runs one statement that returns no rows.
-    void Execute(const QString& sql);
+    void execute(const QString& sql);
 
     // Transactions, for the tools that load many rows; the program itself uses none.
-    void BeginTrans();
-    void CommitTrans();
-    void RollbackTrans();
+    void beginTrans();
+    void commitTrans();
+    void rollbackTrans();
 
     // The open back end; throws when the connection is closed.
     Backend& backend();

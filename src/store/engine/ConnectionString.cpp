@@ -2,7 +2,7 @@
 
 namespace kartella::engine {
 
-ConnectionTarget ParseConnectionString(const QString& connectionString)
+ConnectionTarget parseConnectionString(const QString& connectionString)
 {
     ConnectionTarget target;
     QString provider;
@@ -37,7 +37,7 @@ ConnectionTarget ParseConnectionString(const QString& connectionString)
     return target;
 }
 
-bool IsJetProvider(const QString& provider)
+bool isJetProvider(const QString& provider)
 {
     return provider.compare(Jet40Provider, Qt::CaseInsensitive) == 0
         || provider.compare(Jet351Provider, Qt::CaseInsensitive) == 0;

@@ -13,10 +13,10 @@ struct ConnectionTarget
     bool shaped = false;
 };
 
-ConnectionTarget ParseConnectionString(const QString& connectionString);
+ConnectionTarget parseConnectionString(const QString& connectionString);
 
 // The two Jet providers, which the embedded back end stands in for.
-bool IsJetProvider(const QString& provider);
+bool isJetProvider(const QString& provider);
 inline const QString Jet40Provider = QStringLiteral("Microsoft.Jet.OLEDB.4.0");
 inline const QString Jet351Provider = QStringLiteral("Microsoft.Jet.OLEDB.3.51");
 

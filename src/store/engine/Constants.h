@@ -26,7 +26,7 @@ constexpr int Unspecified = -1;
 constexpr int ReadOnly = 1;
 constexpr int Pessimistic = 2;
 constexpr int Optimistic = 3;
-// Edits stay pending until UpdateBatch.
+// Edits stay pending until updateBatch.
 constexpr int BatchOptimistic = 4;
 } // namespace LockTypeEnum
 
@@ -42,7 +42,7 @@ constexpr int InProgress = 1;
 constexpr int Add = 2;
 } // namespace EditModeEnum
 
-// AbsolutePosition when there is no current row.
+// absolutePosition when there is no current row.
 namespace PositionEnum {
 constexpr int Unknown = -1;
 constexpr int BOF = -2;

@@ -55,7 +55,7 @@ QDateTime asDateTime(const QVariant& value)
         return value.toDate().startOfDay();
     if (value.typeId() == QMetaType::QDateTime)
         return value.toDateTime();
-    const QVariant parsed = ParseUserDate(value.toString());
+    const QVariant parsed = parseUserDate(value.toString());
     return parsed.isValid() ? asDateTime(parsed) : QDateTime();
 }
 
@@ -72,7 +72,7 @@ public:
         : m_text(text)
         , m_fieldIndex(fieldIndex)
     {
-        for (const SqlToken& token : TokenizeSql(m_text)) {
+        for (const SqlToken& token : tokenizeSql(m_text)) {
             if (token.kind != SqlToken::Space)
                 m_tokens.push_back(token);
         }
@@ -82,22 +82,22 @@ public:
     {
         auto root = parseOr();
         if (m_at < m_tokens.size())
-            fail(QStringLiteral("unexpected '") + TokenText(m_text, m_tokens[m_at]).toString() + u'\'');
+            fail(QStringLiteral("unexpected '") + tokenText(m_text, m_tokens[m_at]).toString() + u'\'');
         return root;
     }
 
 private:
     [[noreturn]] void fail(const QString& what) const
     {
-        ThrowError(EngineError::InvalidArgument,
+        throwError(EngineError::InvalidArgument,
             QStringLiteral("The filter \"") + m_text + QStringLiteral("\" can't be used: ") + what + u'.');
     }
 
     bool atWord(QStringView word) const
     {
-        return m_at < m_tokens.size() && IsKeyword(m_text, m_tokens[m_at], word);
+        return m_at < m_tokens.size() && isKeyword(m_text, m_tokens[m_at], word);
     }
-    bool atPunct(QChar c) const { return m_at < m_tokens.size() && IsPunct(m_text, m_tokens[m_at], c); }
+    bool atPunct(QChar c) const { return m_at < m_tokens.size() && isPunct(m_text, m_tokens[m_at], c); }
 
     std::unique_ptr<Criteria::Node> join(Criteria::Node::Kind kind, std::unique_ptr<Criteria::Node> left,
         std::unique_ptr<Criteria::Node> right)
@@ -155,7 +155,7 @@ private:
             ++m_at;
             return node;
         }
-        if (atWord(u"NOT") && m_at + 1 < m_tokens.size() && IsKeyword(m_text, m_tokens[m_at + 1], u"LIKE")) {
+        if (atWord(u"NOT") && m_at + 1 < m_tokens.size() && isKeyword(m_text, m_tokens[m_at + 1], u"LIKE")) {
             node->negate = true;
             ++m_at;
         }
@@ -163,7 +163,7 @@ private:
             node->kind = Criteria::Node::Like;
         } else {
             const SqlToken& token = m_tokens[m_at];
-            const QString op = TokenText(m_text, token).toString();
+            const QString op = tokenText(m_text, token).toString();
             static const QStringList operators
                 = {QStringLiteral("="), QStringLiteral("<>"), QStringLiteral("<"), QStringLiteral(">"),
                     QStringLiteral("<="), QStringLiteral(">="), QStringLiteral("!=")};
@@ -192,13 +192,13 @@ private:
             fail(QStringLiteral("a field name is missing"));
         const SqlToken& token = m_tokens[m_at];
         if (token.kind != SqlToken::Word && token.kind != SqlToken::Quoted)
-            fail(QStringLiteral("'") + TokenText(m_text, token).toString()
+            fail(QStringLiteral("'") + tokenText(m_text, token).toString()
                 + QStringLiteral("' is no field name"));
-        QString name = UnquotedText(m_text, token);
+        QString name = unquotedText(m_text, token);
         ++m_at;
         // table.field reads as field.
         while (atPunct(u'.') && m_at + 1 < m_tokens.size()) {
-            name = UnquotedText(m_text, m_tokens[m_at + 1]);
+            name = unquotedText(m_text, m_tokens[m_at + 1]);
             m_at += 2;
         }
         const int index = m_fieldIndex(name);
@@ -219,7 +219,7 @@ private:
         if (m_at >= m_tokens.size())
             fail(QStringLiteral("a value is missing"));
         const SqlToken& token = m_tokens[m_at++];
-        const QStringView raw = TokenText(m_text, token);
+        const QStringView raw = tokenText(m_text, token);
         switch (token.kind) {
         case SqlToken::Number: {
             bool ok = false;
@@ -233,9 +233,9 @@ private:
         }
         case SqlToken::String:
         case SqlToken::Quoted:
-            return UnquotedText(m_text, token);
+            return unquotedText(m_text, token);
         case SqlToken::Date: {
-            const QVariant date = ParseJetDate(raw.mid(1, raw.size() - 2));
+            const QVariant date = parseJetDate(raw.mid(1, raw.size() - 2));
             if (!date.isValid())
                 fail(QStringLiteral("'") + raw.toString() + QStringLiteral("' is no date"));
             return date;
@@ -280,10 +280,10 @@ bool evaluate(const Criteria::Node& node, const Criteria::ValueOf& valueOf)
         if (!value.isValid() || value.isNull())
             return false;
         const QString text = isDate(value) ? value.toDate().toString(u"M/d/yyyy") : value.toString();
-        return LikeMatches(node.constant.toString(), text) != node.negate;
+        return likeMatches(node.constant.toString(), text) != node.negate;
     }
     case Criteria::Node::Compare: {
-        const std::optional<int> order = CompareValues(valueOf(node.field), node.constant);
+        const std::optional<int> order = compareValues(valueOf(node.field), node.constant);
         if (!order)
             return false;
         const QString& op = node.op;
@@ -319,7 +319,7 @@ bool Criteria::matches(const ValueOf& valueOf) const
     return evaluate(*m_root, valueOf);
 }
 
-std::optional<int> CompareValues(const QVariant& a, const QVariant& b)
+std::optional<int> compareValues(const QVariant& a, const QVariant& b)
 {
     if (!a.isValid() || a.isNull() || !b.isValid() || b.isNull())
         return std::nullopt;

@@ -36,6 +36,6 @@ private:
 // Compares two database values the way filters and relations do: numbers by value, dates
 // as dates, text without regard to case. Returns <0, 0, >0; nullopt when either is Null or
 // they can't be compared.
-std::optional<int> CompareValues(const QVariant& a, const QVariant& b);
+std::optional<int> compareValues(const QVariant& a, const QVariant& b);
 
 } // namespace kartella::engine

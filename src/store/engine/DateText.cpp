@@ -139,17 +139,17 @@ QVariant parseLocaleShort(const QLocale& locale, const QString& text)
 
 } // namespace
 
-QString IsoText(const QDate& date)
+QString isoText(const QDate& date)
 {
     return date.toString(u"yyyy-MM-dd");
 }
 
-QString IsoText(const QDateTime& dateTime)
+QString isoText(const QDateTime& dateTime)
 {
     return dateTime.toString(u"yyyy-MM-dd HH:mm:ss");
 }
 
-bool ParseIsoBytes(const char* text, std::size_t size, qint64& julianDay, int& msecsOfDay, bool& hasTime)
+bool parseIsoBytes(const char* text, std::size_t size, qint64& julianDay, int& msecsOfDay, bool& hasTime)
 {
     auto digit = [text](std::size_t i) { return unsigned(text[i] - '0'); };
     auto number = [&](std::size_t at, std::size_t count, int& value) {
@@ -198,7 +198,7 @@ bool ParseIsoBytes(const char* text, std::size_t size, qint64& julianDay, int& m
     return true;
 }
 
-QVariant ParseJetDate(QStringView text)
+QVariant parseJetDate(QStringView text)
 {
     const QStringView trimmed = text.trimmed();
     if (trimmed.size() > 4 && trimmed[4] == u'-')
@@ -206,7 +206,7 @@ QVariant ParseJetDate(QStringView text)
     return parseMonthFirst(trimmed);
 }
 
-QVariant ParseUserDate(const QString& text)
+QVariant parseUserDate(const QString& text)
 {
     const QString trimmed = text.trimmed();
     if (trimmed.isEmpty())

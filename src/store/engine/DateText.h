@@ -14,21 +14,21 @@ namespace kartella::engine {
 // Dates as the engine stores, reads and accepts them.
 
 // Stored form: "yyyy-MM-dd", or "yyyy-MM-dd HH:mm:ss" when there is a time.
-QString IsoText(const QDate& date);
-QString IsoText(const QDateTime& dateTime);
+QString isoText(const QDate& date);
+QString isoText(const QDateTime& dateTime);
 
 // Reads the stored form from UTF-8 bytes: the Julian day, and the time of day when the
 // text has one. False when the text isn't in that form.
-bool ParseIsoBytes(const char* text, std::size_t size, qint64& julianDay, int& msecsOfDay, bool& hasTime);
+bool parseIsoBytes(const char* text, std::size_t size, qint64& julianDay, int& msecsOfDay, bool& hasTime);
 
 // The inside of a Jet date literal #...#: month first ("3/5/2024", "3/5/2024 14:30:00",
 // "3/5/2024 2:30 PM"), whatever the locale, or ISO. Gives a QDate, or a QDateTime when a
 // time is given; an invalid QVariant when the text is no date.
-QVariant ParseJetDate(QStringView text);
+QVariant parseJetDate(QStringView text);
 
 // Text that a user typed for a date, tried in this order: ISO and "yyyy.MM.dd" (each with
 // an optional time), the short date form of the system's and of the application's locale,
 // and "M/d/yyyy" (with an optional time). An invalid QVariant when none fits.
-QVariant ParseUserDate(const QString& text);
+QVariant parseUserDate(const QString& text);
 
 } // namespace kartella::engine

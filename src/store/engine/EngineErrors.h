@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Error.h"
+#include "base/Error.h"
 
 #include <QString>
 
@@ -21,7 +21,7 @@ constexpr long ObjectOpen = 3705;
 inline const QString ConnectionSource = QStringLiteral("Kartella.Connection");
 inline const QString RecordsetSource = QStringLiteral("Kartella.Recordset");
 
-[[noreturn]] inline void ThrowError(
+[[noreturn]] inline void throwError(
     long number, const QString& description, const QString& source = RecordsetSource)
 {
     throw Error(number, description, source);

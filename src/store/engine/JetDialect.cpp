@@ -15,7 +15,7 @@ class Rewriter
 public:
     explicit Rewriter(const QString& sql)
         : m_text(sql)
-        , m_tokens(TokenizeSql(m_text))
+        , m_tokens(tokenizeSql(m_text))
         , m_drop(m_tokens.size(), false)
         , m_replace(m_tokens.size())
     { }
@@ -26,11 +26,11 @@ public:
         trailingSemicolons();
         const qsizetype first = nextSolid(0);
         if (first < size()) {
-            if (IsKeyword(m_text, m_tokens[first], u"DELETE"))
+            if (isKeyword(m_text, m_tokens[first], u"DELETE"))
                 deleteFieldList(first);
-            else if (IsKeyword(m_text, m_tokens[first], u"UPDATE"))
+            else if (isKeyword(m_text, m_tokens[first], u"UPDATE"))
                 updateSetList(first);
-            else if (IsKeyword(m_text, m_tokens[first], u"SELECT"))
+            else if (isKeyword(m_text, m_tokens[first], u"SELECT"))
                 rightJoin(first);
         }
         return assemble(0, size());
@@ -49,9 +49,9 @@ private:
 
     bool isWord(qsizetype i, QStringView keyword) const
     {
-        return i < size() && IsKeyword(m_text, m_tokens[i], keyword);
+        return i < size() && isKeyword(m_text, m_tokens[i], keyword);
     }
-    bool isPunct(qsizetype i, QChar c) const { return i < size() && IsPunct(m_text, m_tokens[i], c); }
+    bool isPunct(qsizetype i, QChar c) const { return i < size() && engine::isPunct(m_text, m_tokens[i], c); }
     bool isName(qsizetype i) const
     {
         return i < size() && (m_tokens[i].kind == SqlToken::Word || m_tokens[i].kind == SqlToken::Quoted);
@@ -61,15 +61,15 @@ private:
     {
         for (qsizetype i = 0; i < size(); ++i) {
             const SqlToken& token = m_tokens[i];
-            const QStringView raw = TokenText(m_text, token);
+            const QStringView raw = tokenText(m_text, token);
             if (token.kind == SqlToken::Date) {
-                const QVariant value = ParseJetDate(raw.mid(1, raw.size() - 2));
+                const QVariant value = parseJetDate(raw.mid(1, raw.size() - 2));
                 if (value.typeId() == QMetaType::QDate)
-                    m_replace[i] = u'\'' + IsoText(value.toDate()) + u'\'';
+                    m_replace[i] = u'\'' + isoText(value.toDate()) + u'\'';
                 else if (value.typeId() == QMetaType::QDateTime)
-                    m_replace[i] = u'\'' + IsoText(value.toDateTime()) + u'\'';
+                    m_replace[i] = u'\'' + isoText(value.toDateTime()) + u'\'';
             } else if (token.kind == SqlToken::Quoted && raw.startsWith(u'`')) {
-                QString name = UnquotedText(m_text, token);
+                QString name = unquotedText(m_text, token);
                 name.replace(u'"', QLatin1String("\"\""));
                 m_replace[i] = u'"' + name + u'"';
             }
@@ -233,7 +233,7 @@ private:
             if (m_replace[i])
                 out += *m_replace[i];
             else
-                out += TokenText(m_text, m_tokens[i]);
+                out += tokenText(m_text, m_tokens[i]);
         }
         return out;
     }
@@ -246,7 +246,7 @@ private:
 
 } // namespace
 
-QString TranslateJetToSqlite(const QString& sql)
+QString translateJetToSqlite(const QString& sql)
 {
     return Rewriter(sql).run();
 }

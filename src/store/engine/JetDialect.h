@@ -15,6 +15,6 @@ namespace kartella::engine {
 //    which SQLite runs much faster (it can follow an index of B for ORDER BY and WHERE).
 // Is Null and Like are SQLite's own (Like with the engine's function), and so are other
 // forms of RIGHT JOIN. Text inside string literals is never changed.
-QString TranslateJetToSqlite(const QString& sql);
+QString translateJetToSqlite(const QString& sql);
 
 } // namespace kartella::engine

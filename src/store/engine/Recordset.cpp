@@ -14,7 +14,7 @@ using namespace engine;
 void RecordsetData::requireOpen() const
 {
     if (!open)
-        ThrowError(
+        throwError(
             EngineError::ObjectClosed, QStringLiteral("Operation is not allowed when the object is closed."));
 }
 
@@ -23,7 +23,7 @@ int RecordsetData::requireCurrent() const
     requireOpen();
     const int row = currentRow();
     if (row < 0 || isRemoved(row))
-        ThrowError(ErrorNumber::NoCurrentRecord,
+        throwError(ErrorNumber::NoCurrentRecord,
             QStringLiteral("Either BOF or EOF is True, or the current record has been deleted. Requested "
                            "operation requires a current record."));
     return row;
@@ -51,7 +51,7 @@ int RecordsetData::requireField(const QString& name) const
     requireOpen();
     const int index = fieldIndex(name);
     if (index < 0)
-        ThrowError(ErrorNumber::ItemNotFound,
+        throwError(ErrorNumber::ItemNotFound,
             QStringLiteral("Item cannot be found in the collection corresponding to the requested name or "
                            "ordinal: '")
                 + name + u'\'');
@@ -62,7 +62,7 @@ void RecordsetData::requireFieldIndex(int index) const
 {
     requireOpen();
     if (index < 0 || index >= int(fields.size()))
-        ThrowError(ErrorNumber::ItemNotFound,
+        throwError(ErrorNumber::ItemNotFound,
             QStringLiteral("Item cannot be found in the collection corresponding to the requested name or "
                            "ordinal: ")
                 + QString::number(index));
@@ -106,7 +106,7 @@ void RecordsetData::reset()
     edit.reset();
     nameCache.fill(NameCacheEntry {});
     for (ChapterInfo& chapter : chapters)
-        chapter.recordset->Close();
+        chapter.recordset->close();
 }
 
 void RecordsetData::load(QueryResult&& query)
@@ -151,7 +151,7 @@ void RecordsetData::load(QueryResult&& query)
 
 void RecordsetData::runQuery()
 {
-    load(connection->backend().query(SelectText(source)));
+    load(connection->backend().query(selectText(source)));
 }
 
 void RecordsetData::parseFilter(const QString& criteria)
@@ -234,7 +234,7 @@ void RecordsetData::moveTo(int position)
 void RecordsetData::notifyMoved()
 {
     syncChapters();
-    Q_EMIT q->MoveComplete();
+    Q_EMIT q->moveComplete();
 }
 
 void RecordsetData::syncChapters()
@@ -247,20 +247,20 @@ void RecordsetData::syncChapters()
         if (child->edit)
             child->commitEdit(false);
         child->rebuildView(-1);
-        Q_EMIT chapter.recordset->RecordsetChangeComplete();
+        Q_EMIT chapter.recordset->recordsetChangeComplete();
         child->notifyMoved();
     }
 }
 
 // --- Field ---
 
-QString Field::Name() const
+QString Field::name() const
 {
     m_recordset->d->requireFieldIndex(m_index);
     return m_recordset->d->fields[std::size_t(m_index)].name;
 }
 
-QVariant Field::Value() const
+QVariant Field::value() const
 {
     RecordsetData& d = *m_recordset->d;
     d.requireFieldIndex(m_index);
@@ -270,29 +270,29 @@ QVariant Field::Value() const
     return d.value(d.requireCurrent(), m_index);
 }
 
-QVariant Field::UnderlyingValue() const
+QVariant Field::underlyingValue() const
 {
     RecordsetData& d = *m_recordset->d;
     d.requireFieldIndex(m_index);
     if (d.fields[std::size_t(m_index)].chapter >= 0)
-        return Value();
+        return value();
     return d.underlying(d.requireCurrent(), m_index);
 }
 
-void Field::SetValue(const QVariant& value)
+void Field::setValue(const QVariant& value)
 {
     m_recordset->d->setValue(m_index, value);
 }
 
-bool Field::IsChapter() const
+bool Field::isChapter() const
 {
     const RecordsetData& d = *m_recordset->d;
     return m_index >= 0 && m_index < int(d.fields.size()) && d.fields[std::size_t(m_index)].chapter >= 0;
 }
 
-Recordset* Field::Chapter() const
+Recordset* Field::chapter() const
 {
-    if (!IsChapter())
+    if (!isChapter())
         return nullptr;
     const RecordsetData& d = *m_recordset->d;
     return d.chapters[std::size_t(d.fields[std::size_t(m_index)].chapter)].recordset.get();
@@ -307,12 +307,12 @@ Recordset::Recordset(QObject* parent)
 
 Recordset::~Recordset() = default;
 
-void Recordset::Open(const QString& source, Connection& connection, int cursorType, int lockType, int options)
+void Recordset::open(const QString& source, Connection& connection, int cursorType, int lockType, int options)
 {
     Q_UNUSED(cursorType);
     Q_UNUSED(options);
     if (d->open)
-        ThrowError(
+        throwError(
             EngineError::ObjectOpen, QStringLiteral("Operation is not allowed when the object is open."));
     connection.backend();
     d->connection = &connection;
@@ -320,7 +320,7 @@ void Recordset::Open(const QString& source, Connection& connection, int cursorTy
     d->lockType = lockType;
     d->chapters.clear();
     try {
-        if (IsShapeCommand(source))
+        if (isShapeCommand(source))
             d->openShape(source);
         else
             d->runQuery();
@@ -331,53 +331,53 @@ void Recordset::Open(const QString& source, Connection& connection, int cursorTy
     }
     d->open = true;
     d->rebuildView(-1);
-    Q_EMIT RecordsetChangeComplete();
+    Q_EMIT recordsetChangeComplete();
     d->notifyMoved();
 }
 
-void Recordset::Open(const QString& source, const QString& connectionString, int cursorType, int lockType)
+void Recordset::open(const QString& source, const QString& connectionString, int cursorType, int lockType)
 {
     if (d->open)
-        ThrowError(
+        throwError(
             EngineError::ObjectOpen, QStringLiteral("Operation is not allowed when the object is open."));
     auto connection = std::make_unique<Connection>();
-    connection->Open(connectionString);
-    Open(source, *connection, cursorType, lockType);
+    connection->open(connectionString);
+    open(source, *connection, cursorType, lockType);
     d->ownConnection = std::move(connection);
 }
 
-void Recordset::Close()
+void Recordset::close()
 {
     d->reset();
     d->ownConnection.reset();
 }
 
-bool Recordset::IsOpen() const
+bool Recordset::isOpen() const
 {
     return d->open;
 }
 
-QString Recordset::Source() const
+QString Recordset::source() const
 {
     return d->source;
 }
 
-int Recordset::LockType() const
+int Recordset::lockType() const
 {
     return d->lockType;
 }
 
-bool Recordset::Eof() const
+bool Recordset::eof() const
 {
     return !d->open || d->visible.empty() || d->pos >= int(d->visible.size());
 }
 
-bool Recordset::Bof() const
+bool Recordset::bof() const
 {
     return !d->open || d->visible.empty() || d->pos < 0;
 }
 
-int Recordset::RecordCount() const
+int Recordset::recordCount() const
 {
     if (!d->open)
         return 0;
@@ -397,53 +397,53 @@ bool startMove(RecordsetData& d)
 
 [[noreturn]] void noCurrentRecord()
 {
-    ThrowError(ErrorNumber::NoCurrentRecord,
+    throwError(ErrorNumber::NoCurrentRecord,
         QStringLiteral("Either BOF or EOF is True, or the current record has been deleted. Requested "
                        "operation requires a current record."));
 }
 
 } // namespace
 
-void Recordset::MoveFirst()
+void Recordset::moveFirst()
 {
     startMove(*d);
     d->moveTo(0);
 }
 
-void Recordset::MoveLast()
+void Recordset::moveLast()
 {
     startMove(*d);
     d->moveTo(d->visible.empty() ? 0 : int(d->visible.size()) - 1);
 }
 
-void Recordset::MoveNext()
+void Recordset::moveNext()
 {
     d->requireOpen();
-    if (Eof())
+    if (eof())
         noCurrentRecord();
     const bool dropped = startMove(*d);
     d->moveTo(dropped ? d->pos : d->pos + 1);
 }
 
-void Recordset::MovePrevious()
+void Recordset::movePrevious()
 {
     d->requireOpen();
-    if (Bof())
+    if (bof())
         noCurrentRecord();
     startMove(*d);
     d->moveTo(d->pos - 1);
 }
 
-void Recordset::Move(int rows)
+void Recordset::move(int rows)
 {
     d->requireOpen();
-    if ((rows > 0 && Eof()) || (rows < 0 && Bof()))
+    if ((rows > 0 && eof()) || (rows < 0 && bof()))
         noCurrentRecord();
     const bool dropped = startMove(*d);
     d->moveTo(d->pos + rows - (dropped && rows > 0 ? 1 : 0));
 }
 
-int Recordset::AbsolutePosition() const
+int Recordset::absolutePosition() const
 {
     if (!d->open || d->visible.empty())
         return PositionEnum::Unknown;
@@ -454,59 +454,59 @@ int Recordset::AbsolutePosition() const
     return d->pos + 1;
 }
 
-void Recordset::SetAbsolutePosition(int position)
+void Recordset::setAbsolutePosition(int position)
 {
     d->requireOpen();
-    if (position < 1 || position > RecordCount())
-        ThrowError(EngineError::InvalidArgument,
+    if (position < 1 || position > recordCount())
+        throwError(EngineError::InvalidArgument,
             QStringLiteral("There is no record at position ") + QString::number(position) + u'.');
     startMove(*d);
     d->moveTo(position - 1);
 }
 
-QVariant Recordset::Bookmark() const
+QVariant Recordset::bookmark() const
 {
     const int row = d->requireCurrent();
     return QVariant(qint64(d->generation) << 32 | qint64(row));
 }
 
-void Recordset::SetBookmark(const QVariant& bookmark)
+void Recordset::setBookmark(const QVariant& bookmark)
 {
     d->requireOpen();
     bool ok = false;
     const qint64 token = bookmark.toLongLong(&ok);
     const int row = int(token & 0xFFFFFFFF);
     if (!ok || quint32(token >> 32) != d->generation || row < 0 || row >= int(d->rows.size()))
-        ThrowError(
+        throwError(
             EngineError::InvalidArgument, QStringLiteral("The bookmark is not valid for this recordset."));
     if (d->isRemoved(row) || std::find(d->visible.begin(), d->visible.end(), row) == d->visible.end())
-        ThrowError(EngineError::InvalidArgument,
+        throwError(EngineError::InvalidArgument,
             QStringLiteral("The bookmarked record is deleted or hidden by the filter."));
     startMove(*d);
     d->moveTo(int(std::find(d->visible.begin(), d->visible.end(), row) - d->visible.begin()));
 }
 
-QString Recordset::Filter() const
+QString Recordset::filter() const
 {
     return d->filterText;
 }
 
-void Recordset::SetFilter(const QString& criteria)
+void Recordset::setFilter(const QString& criteria)
 {
     d->requireOpen();
     d->commitEdits();
     d->parseFilter(criteria);
     d->rebuildView(-1);
-    Q_EMIT RecordsetChangeComplete();
+    Q_EMIT recordsetChangeComplete();
     d->notifyMoved();
 }
 
-int Recordset::FieldCount() const
+int Recordset::fieldCount() const
 {
     return int(d->fields.size());
 }
 
-QStringList Recordset::FieldNames() const
+QStringList Recordset::fieldNames() const
 {
     QStringList names;
     for (const FieldInfo& field : d->fields)
@@ -514,50 +514,50 @@ QStringList Recordset::FieldNames() const
     return names;
 }
 
-Field Recordset::Fields(const QString& name)
+Field Recordset::fields(const QString& name)
 {
     return Field(this, d->requireField(name));
 }
 
-Field Recordset::Fields(int index)
+Field Recordset::fields(int index)
 {
     d->requireFieldIndex(index);
     return Field(this, index);
 }
 
-bool Recordset::HasField(const QString& name) const
+bool Recordset::hasField(const QString& name) const
 {
     return d->fieldIndex(name) >= 0;
 }
 
-QVariant Recordset::Collect(const QString& name) const
+QVariant Recordset::collect(const QString& name) const
 {
-    return Field(const_cast<Recordset*>(this), d->requireField(name)).Value();
+    return Field(const_cast<Recordset*>(this), d->requireField(name)).value();
 }
 
-void Recordset::Requery(int options)
+void Recordset::requery(int options)
 {
     d->requireOpen();
     if (d->parent && RecordsetData::of(*d->parent).chapters[std::size_t(d->parentChapter)].grouped) {
         // The rows of a COMPUTE chapter are grouped by the parent.
-        d->parent->Requery(options);
+        d->parent->requery(options);
         return;
     }
     d->edit.reset();
     if (d->parent) {
         d->runQuery();
-    } else if (IsShapeCommand(d->source)) {
+    } else if (isShapeCommand(d->source)) {
         d->openShape(d->source);
     } else {
         d->runQuery();
     }
     d->parseFilter(d->filterText);
     d->rebuildView(-1);
-    Q_EMIT RecordsetChangeComplete();
+    Q_EMIT recordsetChangeComplete();
     d->notifyMoved();
 }
 
-Recordset* Recordset::Chapter(const QString& name)
+Recordset* Recordset::chapter(const QString& name)
 {
     for (const ChapterInfo& chapter : d->chapters) {
         if (chapter.name.compare(name, Qt::CaseInsensitive) == 0)
@@ -566,14 +566,14 @@ Recordset* Recordset::Chapter(const QString& name)
     return nullptr;
 }
 
-QVariant Recordset::RowValue(int row, int column) const
+QVariant Recordset::rowValue(int row, int column) const
 {
     if (!d->open || row < 0 || row >= int(d->visible.size()) || column < 0 || column >= d->dataFields)
         return {};
     return d->value(d->visible[std::size_t(row)], column);
 }
 
-int Recordset::CurrentRow() const
+int Recordset::currentRow() const
 {
     return d->currentRow() >= 0 ? d->pos : -1;
 }

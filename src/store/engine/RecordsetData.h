@@ -20,16 +20,16 @@ namespace engine {
 
 enum class RowStatus : std::uint8_t {
     Unchanged,
-    Modified, // changes wait for UpdateBatch
+    Modified, // changes wait for updateBatch
     New, // added; not in the database yet
-    Deleted, // deletion waits for UpdateBatch
+    Deleted, // deletion waits for updateBatch
     Gone, // deleted in the database, or an added row dropped
 };
 
 using Values = std::vector<QVariant>;
 
 // Whether two field values are the same, across the types a value may come in.
-bool SameFieldValue(const QVariant& a, const QVariant& b);
+bool sameFieldValue(const QVariant& a, const QVariant& b);
 
 struct RowState
 {
@@ -41,13 +41,13 @@ struct RowState
     std::unique_ptr<Values> pending; // values with changes not yet written
 };
 
-// The row being edited: its values until Update.
+// The row being edited: its values until update().
 struct EditBuffer
 {
     int row = -1;
     Values values;
     bool adding = false;
-    int rowBefore = -1; // the current row before AddNew
+    int rowBefore = -1; // the current row before addNew
 };
 
 struct FieldInfo

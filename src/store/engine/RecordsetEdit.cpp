@@ -6,7 +6,7 @@ namespace kartella {
 
 using namespace engine;
 
-bool engine::SameFieldValue(const QVariant& a, const QVariant& b)
+bool engine::sameFieldValue(const QVariant& a, const QVariant& b)
 {
     const bool aNull = !a.isValid() || a.isNull();
     const bool bNull = !b.isValid() || b.isNull();
@@ -14,14 +14,14 @@ bool engine::SameFieldValue(const QVariant& a, const QVariant& b)
         return aNull == bNull;
     if (a.typeId() == b.typeId())
         return a == b;
-    return CompareValues(a, b) == 0 && a.toString() == b.toString();
+    return compareValues(a, b) == 0 && a.toString() == b.toString();
 }
 
 void RecordsetData::requireUpdatable() const
 {
     requireOpen();
     if (!updatable)
-        ThrowError(EngineError::NotUpdatable,
+        throwError(EngineError::NotUpdatable,
             QStringLiteral("The recordset can't be changed: ") + notUpdatableReason
                 + QStringLiteral(". Rows can be changed through a SELECT of one table."));
 }
@@ -66,16 +66,16 @@ void RecordsetData::setValue(int field, const QVariant& newValue)
 {
     requireFieldIndex(field);
     if (fields[std::size_t(field)].chapter >= 0)
-        ThrowError(EngineError::NotUpdatable,
+        throwError(EngineError::NotUpdatable,
             QStringLiteral("Field '") + fields[std::size_t(field)].name
                 + QStringLiteral("' holds the child rows of a SHAPE command and can't be set."));
     requireUpdatable();
     const int row = requireCurrent();
     const QString& name = fields[std::size_t(field)].name;
-    const QVariant converted = ConvertForColumn(newValue, columnKinds[std::size_t(field)], name);
+    const QVariant converted = convertForColumn(newValue, columnKinds[std::size_t(field)], name);
     if (field == keyColumn && rows[std::size_t(row)].status != RowStatus::New
-        && !SameFieldValue(converted, value(row, field)))
-        ThrowError(EngineError::NotUpdatable,
+        && !sameFieldValue(converted, value(row, field)))
+        throwError(EngineError::NotUpdatable,
             QStringLiteral("Field '") + name
                 + QStringLiteral("' is the key of the row and can't be changed."));
     if (edit && edit->row != row)
@@ -87,7 +87,7 @@ void RecordsetData::setValue(int field, const QVariant& newValue)
         if (c == field || result.columns[std::size_t(c)].origin.compare(origin, Qt::CaseInsensitive) == 0)
             edit->values[std::size_t(c)] = converted;
     }
-    Q_EMIT q->FieldChangeComplete(name);
+    Q_EMIT q->fieldChangeComplete(name);
 }
 
 void RecordsetData::commitEdit(bool write)
@@ -104,7 +104,7 @@ void RecordsetData::commitEdit(bool write)
     } else {
         bool changed = false;
         for (int c = 0; c < storeColumns() && !changed; ++c)
-            changed = !SameFieldValue(finished.values[std::size_t(c)], value(finished.row, c));
+            changed = !sameFieldValue(finished.values[std::size_t(c)], value(finished.row, c));
         if (!changed)
             return;
         if (state.status == RowStatus::Unchanged)
@@ -117,7 +117,7 @@ void RecordsetData::commitEdit(bool write)
     try {
         writeRows({finished.row}, false);
     } catch (...) {
-        // The row stays in its edit, as it was before Update.
+        // The row stays in its edit, as it was before update().
         RowState& restored = rows[std::size_t(finished.row)];
         restored.status = oldStatus;
         restored.pending = std::move(oldPending);
@@ -147,7 +147,7 @@ void RecordsetData::cancelPending(int row)
 
 // --- Recordset ---
 
-void Recordset::AddNew()
+void Recordset::addNew()
 {
     d->requireUpdatable();
     d->commitEdits();
@@ -164,20 +164,20 @@ void Recordset::AddNew()
     d->edit = EditBuffer {row, std::move(values), true, before};
     d->visible.push_back(row);
     d->pos = int(d->visible.size()) - 1;
-    Q_EMIT RecordsetChangeComplete();
+    Q_EMIT recordsetChangeComplete();
     d->notifyMoved();
 }
 
-void Recordset::Update()
+void Recordset::update()
 {
     d->requireOpen();
     if (!d->edit)
         return;
     d->commitEdit();
-    Q_EMIT RecordsetChangeComplete();
+    Q_EMIT recordsetChangeComplete();
 }
 
-void Recordset::CancelUpdate()
+void Recordset::cancelUpdate()
 {
     d->requireOpen();
     if (!d->edit)
@@ -186,8 +186,8 @@ void Recordset::CancelUpdate()
     d->edit.reset();
     if (!cancelled.adding) {
         for (int c = 0; c < d->dataFields; ++c) {
-            if (!SameFieldValue(cancelled.values[std::size_t(c)], d->value(cancelled.row, c)))
-                Q_EMIT FieldChangeComplete(d->fields[std::size_t(c)].name);
+            if (!sameFieldValue(cancelled.values[std::size_t(c)], d->value(cancelled.row, c)))
+                Q_EMIT fieldChangeComplete(d->fields[std::size_t(c)].name);
         }
         return;
     }
@@ -195,11 +195,11 @@ void Recordset::CancelUpdate()
     d->visible.erase(std::remove(d->visible.begin(), d->visible.end(), cancelled.row), d->visible.end());
     const auto before = std::find(d->visible.begin(), d->visible.end(), cancelled.rowBefore);
     d->pos = before != d->visible.end() ? int(before - d->visible.begin()) : 0;
-    Q_EMIT RecordsetChangeComplete();
+    Q_EMIT recordsetChangeComplete();
     d->notifyMoved();
 }
 
-void Recordset::UpdateBatch(int affect)
+void Recordset::updateBatch(int affect)
 {
     d->requireOpen();
     if (d->edit)
@@ -214,10 +214,10 @@ void Recordset::UpdateBatch(int affect)
             rowList[r] = int(r);
     }
     d->writeRows(rowList, affect != AffectEnum::Current);
-    Q_EMIT RecordsetChangeComplete();
+    Q_EMIT recordsetChangeComplete();
 }
 
-void Recordset::CancelBatch()
+void Recordset::cancelBatch()
 {
     d->requireOpen();
     const int current = d->currentRow();
@@ -230,17 +230,17 @@ void Recordset::CancelBatch()
         d->cancelPending(row);
     for (ChapterInfo& chapter : d->chapters) {
         if (chapter.recordset->d->open)
-            chapter.recordset->CancelBatch();
+            chapter.recordset->cancelBatch();
     }
     d->rebuildView(current);
-    Q_EMIT RecordsetChangeComplete();
+    Q_EMIT recordsetChangeComplete();
     d->notifyMoved();
 }
 
-void Recordset::Delete(int affect)
+void Recordset::deleteRecord(int affect)
 {
     if (affect != AffectEnum::Current)
-        ThrowError(EngineError::InvalidArgument, QStringLiteral("Delete removes the current record only."));
+        throwError(EngineError::InvalidArgument, QStringLiteral("Delete removes the current record only."));
     d->requireUpdatable();
     const int row = d->requireCurrent();
     RowState& state = d->rows[std::size_t(row)];
@@ -249,7 +249,7 @@ void Recordset::Delete(int affect)
         d->edit.reset();
         if (adding) {
             state.status = RowStatus::Gone;
-            Q_EMIT RecordsetChangeComplete();
+            Q_EMIT recordsetChangeComplete();
             return;
         }
     }
@@ -269,22 +269,22 @@ void Recordset::Delete(int affect)
             }
         }
     }
-    Q_EMIT RecordsetChangeComplete();
+    Q_EMIT recordsetChangeComplete();
 }
 
-int Recordset::EditMode() const
+int Recordset::editMode() const
 {
     if (!d->edit)
         return EditModeEnum::None;
     return d->edit->adding ? EditModeEnum::Add : EditModeEnum::InProgress;
 }
 
-bool Recordset::IsUpdatable() const
+bool Recordset::isUpdatable() const
 {
     return d->open && d->updatable;
 }
 
-bool Recordset::HasPendingChanges() const
+bool Recordset::hasPendingChanges() const
 {
     return d->open && d->hasPending();
 }

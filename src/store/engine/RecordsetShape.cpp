@@ -14,7 +14,7 @@ namespace {
 
 [[noreturn]] void badShape(const QString& text, const QString& what)
 {
-    ThrowError(ErrorNumber::CommandFailed,
+    throwError(ErrorNumber::CommandFailed,
         QStringLiteral("The SHAPE command can't be run: ") + what + QStringLiteral(".\nCommand: ") + text,
         ConnectionSource);
 }
@@ -81,7 +81,7 @@ QVariant aggregate(
             continue;
         ++count;
         sum += value.toDouble();
-        const std::optional<int> order = CompareValues(value, best);
+        const std::optional<int> order = compareValues(value, best);
         if (!best.isValid()
             || (order
                 && ((function == QLatin1String("MIN") && *order < 0)
@@ -101,7 +101,7 @@ QVariant aggregate(
 
 void RecordsetData::openShape(const QString& text)
 {
-    const ShapeCommand command = ParseShape(text);
+    const ShapeCommand command = parseShape(text);
     const std::size_t chapterCount = command.compute ? 1 : command.appends.size();
     // A requery keeps the chapter recordsets, which views may hold.
     if (chapters.size() != chapterCount)
@@ -129,7 +129,7 @@ void RecordsetData::openShape(const QString& text)
     };
 
     if (!command.compute) {
-        load(connection->backend().query(SelectText(command.sql)));
+        load(connection->backend().query(selectText(command.sql)));
         for (std::size_t i = 0; i < command.appends.size(); ++i) {
             const ShapeCommand::Append& append = command.appends[i];
             ChapterInfo& chapter = chapterAt(i, append.chapter, append.sql);
@@ -222,7 +222,7 @@ bool RecordsetData::belongsToParent(int row) const
         return state.parentRow == parentRow;
     for (const auto& [parentField, childField] : chapter.relation) {
         const std::optional<int> order
-            = CompareValues(p.value(parentRow, parentField), value(row, childField));
+            = compareValues(p.value(parentRow, parentField), value(row, childField));
         if (!order || *order != 0)
             return false;
     }

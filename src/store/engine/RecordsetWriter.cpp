@@ -76,7 +76,7 @@ void collect(RecordsetData& d, const std::vector<RowEntry>& entries, bool allChi
                     bool same = true;
                     for (const auto& [parentField, childField] : chapter.relation) {
                         const std::optional<int> order
-                            = CompareValues(d.value(parentRow, parentField), child.value(row, childField));
+                            = compareValues(d.value(parentRow, parentField), child.value(row, childField));
                         same = same && order && *order == 0;
                     }
                     if (same) {
@@ -105,7 +105,7 @@ void columnsToWrite(const RecordsetData& d, int row, const Values& values, bool 
             continue;
         const QVariant& value = values[std::size_t(c)];
         if (onlyChanged) {
-            if (c == d.keyColumn || SameFieldValue(value, d.underlying(row, c)))
+            if (c == d.keyColumn || sameFieldValue(value, d.underlying(row, c)))
                 continue;
         } else if (!value.isValid() || value.isNull()) {
             continue;

@@ -12,7 +12,7 @@ class ShapeParser
 public:
     explicit ShapeParser(const QString& text)
         : m_text(text)
-        , m_tokens(TokenizeSql(m_text))
+        , m_tokens(tokenizeSql(m_text))
     { }
 
     ShapeCommand parse()
@@ -46,8 +46,8 @@ private:
             ++i;
         const QString where = i >= m_tokens.size()
             ? QStringLiteral("at the end")
-            : QStringLiteral("at '") + TokenText(m_text, m_tokens[i]).toString() + u'\'';
-        ThrowError(ErrorNumber::CommandFailed,
+            : QStringLiteral("at '") + tokenText(m_text, m_tokens[i]).toString() + u'\'';
+        throwError(ErrorNumber::CommandFailed,
             QStringLiteral("The SHAPE command can't be read: ") + what + u' ' + where
                 + QStringLiteral(".\nCommand: ") + m_text,
             ConnectionSource);
@@ -64,8 +64,8 @@ private:
         return m_at >= m_tokens.size();
     }
     void next() { ++m_at; }
-    bool atWord(QStringView word) { return !atEnd() && IsKeyword(m_text, m_tokens[m_at], word); }
-    bool atPunct(QChar c) { return !atEnd() && IsPunct(m_text, m_tokens[m_at], c); }
+    bool atWord(QStringView word) { return !atEnd() && isKeyword(m_text, m_tokens[m_at], word); }
+    bool atPunct(QChar c) { return !atEnd() && isPunct(m_text, m_tokens[m_at], c); }
     bool takePunct(QChar c)
     {
         if (!atPunct(c))
@@ -93,9 +93,9 @@ private:
         const qsizetype start = m_tokens[m_at].pos + 1;
         int depth = 0;
         for (; m_at < m_tokens.size(); ++m_at) {
-            if (IsPunct(m_text, m_tokens[m_at], u'{')) {
+            if (isPunct(m_text, m_tokens[m_at], u'{')) {
                 ++depth;
-            } else if (IsPunct(m_text, m_tokens[m_at], u'}') && --depth == 0) {
+            } else if (isPunct(m_text, m_tokens[m_at], u'}') && --depth == 0) {
                 const QString inner = m_text.mid(start, m_tokens[m_at].pos - start).trimmed();
                 ++m_at;
                 return inner;
@@ -113,7 +113,7 @@ private:
         if (token.kind != SqlToken::Word && token.kind != SqlToken::Quoted && token.kind != SqlToken::String)
             fail(QStringLiteral("a name is expected"));
         next();
-        return UnquotedText(m_text, token);
+        return unquotedText(m_text, token);
     }
 
     QString optionalAlias()
@@ -180,21 +180,21 @@ private:
 
 } // namespace
 
-bool IsShapeCommand(const QString& text)
+bool isShapeCommand(const QString& text)
 {
     const QStringView trimmed = QStringView(text).trimmed();
     return trimmed.startsWith(u"SHAPE", Qt::CaseInsensitive)
         && (trimmed.size() == 5 || trimmed[5].isSpace() || trimmed[5] == u'{');
 }
 
-ShapeCommand ParseShape(const QString& text)
+ShapeCommand parseShape(const QString& text)
 {
     return ShapeParser(text).parse();
 }
 
-QString SelectText(const QString& source)
+QString selectText(const QString& source)
 {
-    const std::vector<SqlToken> tokens = TokenizeSql(source);
+    const std::vector<SqlToken> tokens = tokenizeSql(source);
     const SqlToken* only = nullptr;
     for (const SqlToken& token : tokens) {
         if (token.kind == SqlToken::Space)
@@ -204,9 +204,9 @@ QString SelectText(const QString& source)
         only = &token;
     }
     if (only == nullptr || (only->kind != SqlToken::Word && only->kind != SqlToken::Quoted)
-        || IsKeyword(source, *only, u"SELECT"))
+        || isKeyword(source, *only, u"SELECT"))
         return source;
-    QString name = UnquotedText(source, *only);
+    QString name = unquotedText(source, *only);
     name.replace(u'"', QLatin1String("\"\""));
     return QStringLiteral("SELECT * FROM \"") + name + u'"';
 }

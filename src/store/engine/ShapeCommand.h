@@ -42,12 +42,12 @@ struct ShapeCommand
     QStringList by;
 };
 
-bool IsShapeCommand(const QString& text);
+bool isShapeCommand(const QString& text);
 // Throws kartella::Error (ErrorNumber::CommandFailed) naming what it couldn't read.
-ShapeCommand ParseShape(const QString& text);
+ShapeCommand parseShape(const QString& text);
 
 // The SELECT for a recordset source: the source itself, or SELECT * FROM it when it is
 // just a table or view name.
-QString SelectText(const QString& source);
+QString selectText(const QString& source);
 
 } // namespace kartella::engine

@@ -45,7 +45,7 @@ qsizetype dateEnd(QStringView text, qsizetype start)
 
 } // namespace
 
-std::vector<SqlToken> TokenizeSql(QStringView text)
+std::vector<SqlToken> tokenizeSql(QStringView text)
 {
     std::vector<SqlToken> tokens;
     qsizetype i = 0;
@@ -105,19 +105,19 @@ std::vector<SqlToken> TokenizeSql(QStringView text)
     return tokens;
 }
 
-bool IsKeyword(QStringView text, const SqlToken& token, QStringView keyword)
+bool isKeyword(QStringView text, const SqlToken& token, QStringView keyword)
 {
-    return token.kind == SqlToken::Word && TokenText(text, token).compare(keyword, Qt::CaseInsensitive) == 0;
+    return token.kind == SqlToken::Word && tokenText(text, token).compare(keyword, Qt::CaseInsensitive) == 0;
 }
 
-bool IsPunct(QStringView text, const SqlToken& token, QChar c)
+bool isPunct(QStringView text, const SqlToken& token, QChar c)
 {
     return token.kind == SqlToken::Punct && token.len == 1 && text[token.pos] == c;
 }
 
-QString UnquotedText(QStringView text, const SqlToken& token)
+QString unquotedText(QStringView text, const SqlToken& token)
 {
-    const QStringView raw = TokenText(text, token);
+    const QStringView raw = tokenText(text, token);
     if (token.kind != SqlToken::String && token.kind != SqlToken::Quoted)
         return raw.toString();
     if (raw.size() < 2)

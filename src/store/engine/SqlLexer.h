@@ -25,17 +25,17 @@ struct SqlToken
     qsizetype len;
 };
 
-std::vector<SqlToken> TokenizeSql(QStringView text);
+std::vector<SqlToken> tokenizeSql(QStringView text);
 
 // Helpers on a token of text.
-inline QStringView TokenText(QStringView text, const SqlToken& token)
+inline QStringView tokenText(QStringView text, const SqlToken& token)
 {
     return text.mid(token.pos, token.len);
 }
-bool IsKeyword(QStringView text, const SqlToken& token, QStringView keyword);
-bool IsPunct(QStringView text, const SqlToken& token, QChar c);
+bool isKeyword(QStringView text, const SqlToken& token, QStringView keyword);
+bool isPunct(QStringView text, const SqlToken& token, QChar c);
 // The name in a Word or Quoted token, without its quotes; the text of a String without
 // its quotes and with doubled quotes made single.
-QString UnquotedText(QStringView text, const SqlToken& token);
+QString unquotedText(QStringView text, const SqlToken& token);
 
 } // namespace kartella::engine

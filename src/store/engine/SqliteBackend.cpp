@@ -19,7 +19,7 @@ namespace {
 
 [[noreturn]] void failToOpen(const QString& description)
 {
-    ThrowError(ErrorNumber::ConnectionFailed, description, ConnectionSource);
+    throwError(ErrorNumber::ConnectionFailed, description, ConnectionSource);
 }
 
 QString quoted(const QString& name)
@@ -75,19 +75,19 @@ FileKind fileKind(const QString& path, QString& error)
 // grouping, DISTINCT or compound part.
 bool acceptsHiddenKey(const QString& sql)
 {
-    const std::vector<SqlToken> tokens = TokenizeSql(sql);
+    const std::vector<SqlToken> tokens = tokenizeSql(sql);
     bool first = true;
     for (const SqlToken& token : tokens) {
         if (token.kind == SqlToken::Space)
             continue;
         if (first) {
-            if (!IsKeyword(sql, token, u"SELECT"))
+            if (!isKeyword(sql, token, u"SELECT"))
                 return false;
             first = false;
             continue;
         }
         for (const char16_t* word : {u"DISTINCT", u"GROUP", u"UNION", u"INTERSECT", u"EXCEPT", u"VALUES"}) {
-            if (IsKeyword(sql, token, word))
+            if (isKeyword(sql, token, word))
                 return false;
         }
     }
@@ -142,7 +142,7 @@ std::unique_ptr<SqliteBackend> SqliteBackend::open(const QString& path)
         failToOpen(QStringLiteral("Could not open the register '") + path + QStringLiteral("': ") + message);
     }
     std::unique_ptr<SqliteBackend> backend(new SqliteBackend(db));
-    if (!RegisterTextFunctions(db))
+    if (!registerTextFunctions(db))
         failToOpen(QStringLiteral("Could not prepare the register '") + path + QStringLiteral("': ")
             + QString::fromUtf8(sqlite3_errmsg(db)));
     sqlite3_busy_timeout(db, BusyTimeoutMs);
@@ -194,7 +194,7 @@ void SqliteBackend::fail(int code, const QString& shownSql) const
                   .arg(BusyTimeoutMs / 1000);
     else
         message = QString::fromUtf8(sqlite3_errmsg(m_db));
-    ThrowError(
+    throwError(
         ErrorNumber::CommandFailed, message + QStringLiteral("\nStatement: ") + shownSql, ConnectionSource);
 }
 
@@ -222,7 +222,7 @@ int SqliteBackend::run(sqlite3_stmt* statement, const QString& shownSql)
 
 void SqliteBackend::execute(const QString& sql)
 {
-    const QString translated = TranslateJetToSqlite(sql);
+    const QString translated = translateJetToSqlite(sql);
     const QStringView head = QStringView(translated).trimmed().left(6);
     if (head.compare(u"CREATE", Qt::CaseInsensitive) == 0 || head.startsWith(u"ALTER", Qt::CaseInsensitive)
         || head.startsWith(u"DROP", Qt::CaseInsensitive))
@@ -243,7 +243,7 @@ void SqliteBackend::execute(const QString& sql)
 
 QueryResult SqliteBackend::query(const QString& sql)
 {
-    const QString translated = TranslateJetToSqlite(sql);
+    const QString translated = translateJetToSqlite(sql);
     Statement statement = prepare(translated.toUtf8(), sql);
     QueryResult result;
     if (!statement)
@@ -344,7 +344,7 @@ void SqliteBackend::readRows(
                 qint64 julianDay = 0;
                 int msecs = 0;
                 bool hasTime = false;
-                if (dates[std::size_t(c)] && ParseIsoBytes(text, size, julianDay, msecs, hasTime)) {
+                if (dates[std::size_t(c)] && parseIsoBytes(text, size, julianDay, msecs, hasTime)) {
                     if (hasTime)
                         rows.addDateTime(julianDay, msecs);
                     else
@@ -397,7 +397,7 @@ const TableSchema& SqliteBackend::tableSchema(const QString& table)
     if (code != SQLITE_DONE)
         fail(code, sql);
     if (schema.columns.empty())
-        ThrowError(ErrorNumber::CommandFailed, QStringLiteral("The register has no table '") + table + u'\'',
+        throwError(ErrorNumber::CommandFailed, QStringLiteral("The register has no table '") + table + u'\'',
             ConnectionSource);
     if (keys.size() == 1) {
         schema.key = keys.front();
@@ -453,9 +453,9 @@ void SqliteBackend::bind(sqlite3_stmt* statement, int index, const QVariant& val
         default: {
             QString text;
             if (value.typeId() == QMetaType::QDate)
-                text = IsoText(value.toDate());
+                text = isoText(value.toDate());
             else if (value.typeId() == QMetaType::QDateTime)
-                text = IsoText(value.toDateTime());
+                text = isoText(value.toDateTime());
             else
                 text = value.toString();
             const QByteArray utf8 = text.toUtf8();
@@ -510,7 +510,7 @@ void SqliteBackend::updateRow(const TableSchema& table, const QString& keyName, 
         bind(statement, i + 1, values[i], sql);
     bind(statement, int(values.size()) + 1, key, sql);
     if (run(statement, sql) == 0)
-        ThrowError(ErrorNumber::CommandFailed,
+        throwError(ErrorNumber::CommandFailed,
             QStringLiteral("Row cannot be located for updating: another user may have deleted it (")
                 + table.name + u' ' + keyName + u'=' + key.toString() + u')',
             ConnectionSource);
@@ -538,7 +538,7 @@ void SqliteBackend::beginTransaction()
 void SqliteBackend::commitTransaction()
 {
     if (m_depth == 0)
-        ThrowError(ErrorNumber::CommandFailed, QStringLiteral("There is no transaction to commit."),
+        throwError(ErrorNumber::CommandFailed, QStringLiteral("There is no transaction to commit."),
             ConnectionSource);
     const QString sql = m_depth == 1 ? QStringLiteral("COMMIT")
                                      : QStringLiteral("RELEASE level") + QString::number(m_depth - 1);
@@ -549,7 +549,7 @@ void SqliteBackend::commitTransaction()
 void SqliteBackend::rollbackTransaction()
 {
     if (m_depth == 0)
-        ThrowError(ErrorNumber::CommandFailed, QStringLiteral("There is no transaction to roll back."),
+        throwError(ErrorNumber::CommandFailed, QStringLiteral("There is no transaction to roll back."),
             ConnectionSource);
     if (m_depth == 1) {
         execute(QStringLiteral("ROLLBACK"));

@@ -64,6 +64,6 @@ private:
 };
 
 // Registers NAMEFOLD and like() on a connection; false when SQLite refused.
-bool RegisterTextFunctions(sqlite3* db);
+bool registerTextFunctions(sqlite3* db);
 
 } // namespace kartella::engine

@@ -7,9 +7,9 @@ namespace kartella::engine {
 
 namespace {
 
-int compareNames(void*, int aSize, const void* a, int bSize, const void* b)
+int nameCollation(void*, int aSize, const void* a, int bSize, const void* b)
 {
-    return CompareNames(
+    return compareNames(
         static_cast<const char*>(a), std::size_t(aSize), static_cast<const char*>(b), std::size_t(bSize));
 }
 
@@ -36,15 +36,15 @@ void like(sqlite3_context* context, int argc, sqlite3_value** argv)
         escape = char32_t(characters.front());
     }
     sqlite3_result_int(
-        context, LikeMatches(pattern, std::size_t(patternSize), text, std::size_t(textSize), escape) ? 1 : 0);
+        context, likeMatches(pattern, std::size_t(patternSize), text, std::size_t(textSize), escape) ? 1 : 0);
 }
 
 } // namespace
 
-bool RegisterTextFunctions(sqlite3* db)
+bool registerTextFunctions(sqlite3* db)
 {
     const int flags = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;
-    return sqlite3_create_collation_v2(db, "NAMEFOLD", SQLITE_UTF8, nullptr, compareNames, nullptr)
+    return sqlite3_create_collation_v2(db, "NAMEFOLD", SQLITE_UTF8, nullptr, nameCollation, nullptr)
         == SQLITE_OK
         && sqlite3_create_function_v2(db, "like", 2, flags, nullptr, like, nullptr, nullptr, nullptr)
         == SQLITE_OK

@@ -58,7 +58,7 @@ inline char32_t foldName(char32_t c)
 {
     if (c < 0x80)
         return asciiLower(c);
-    c = FoldCase(c);
+    c = foldCase(c);
     switch (c) {
     case 0x0105: // ą
         return 'a';
@@ -83,7 +83,7 @@ inline char32_t foldName(char32_t c)
 
 inline char32_t foldLike(char32_t c)
 {
-    return c < 0x80 ? asciiLower(c) : FoldCase(c);
+    return c < 0x80 ? asciiLower(c) : foldCase(c);
 }
 
 int compareBytes(const char* a, std::size_t aSize, const char* b, std::size_t bSize)
@@ -96,14 +96,14 @@ int compareBytes(const char* a, std::size_t aSize, const char* b, std::size_t bS
 
 } // namespace
 
-char32_t FoldCase(char32_t c)
+char32_t foldCase(char32_t c)
 {
     if (c < 0x80)
         return asciiLower(c);
     return QChar::toCaseFolded(c);
 }
 
-int CompareNames(const char* a, std::size_t aSize, const char* b, std::size_t bSize)
+int compareNames(const char* a, std::size_t aSize, const char* b, std::size_t bSize)
 {
     const Byte* p = reinterpret_cast<const Byte*>(a);
     const Byte* pEnd = p + aSize;
@@ -130,7 +130,7 @@ int CompareNames(const char* a, std::size_t aSize, const char* b, std::size_t bS
     return compareBytes(a, aSize, b, bSize);
 }
 
-bool LikeMatches(
+bool likeMatches(
     const char* pattern, std::size_t patternSize, const char* text, std::size_t textSize, char32_t escape)
 {
     const Byte* p = reinterpret_cast<const Byte*>(pattern);
@@ -176,11 +176,11 @@ bool LikeMatches(
     return p == pEnd;
 }
 
-bool LikeMatches(const QString& pattern, const QString& text)
+bool likeMatches(const QString& pattern, const QString& text)
 {
     const QByteArray p = pattern.toUtf8();
     const QByteArray t = text.toUtf8();
-    return LikeMatches(p.constData(), std::size_t(p.size()), t.constData(), std::size_t(t.size()));
+    return likeMatches(p.constData(), std::size_t(p.size()), t.constData(), std::size_t(t.size()));
 }
 
 } // namespace kartella::engine

@@ -6,12 +6,12 @@ namespace kartella {
 
 // A database value. Null is the invalid QVariant; dates come as QDate (or QDateTime when
 // they carry a time), whole numbers as qint64 or int, other numbers as double, text as QString.
-inline bool IsNull(const QVariant& value)
+inline bool isNull(const QVariant& value)
 {
     return !value.isValid() || value.isNull();
 }
 
-inline QVariant NullValue()
+inline QVariant nullValue()
 {
     return {};
 }

@@ -16,7 +16,7 @@ namespace {
 
 [[noreturn]] void mismatch(const QVariant& value, const QString& expected, const QString& fieldName)
 {
-    ThrowError(ErrorNumber::TypeMismatch,
+    throwError(ErrorNumber::TypeMismatch,
         QStringLiteral("Type mismatch: '") + value.toString() + QStringLiteral("' is not ") + expected
             + QStringLiteral(" (field ") + fieldName + QStringLiteral(")."));
 }
@@ -61,7 +61,7 @@ QVariant toInteger(const QVariant& value, const QString& fieldName)
     case QMetaType::Float: {
         const double number = std::nearbyint(value.toDouble());
         if (!std::isfinite(number) || std::abs(number) > 9.2e18)
-            ThrowError(ErrorNumber::Overflow,
+            throwError(ErrorNumber::Overflow,
                 QStringLiteral("Overflow: ") + value.toString() + QStringLiteral(" doesn't fit field ")
                     + fieldName + u'.');
         return wholeNumber(qint64(number));
@@ -118,7 +118,7 @@ QVariant toDate(const QVariant& value, const QString& fieldName)
         mismatch(value, QStringLiteral("a date"), fieldName);
     if (value.toString().trimmed().isEmpty())
         return {};
-    const QVariant date = ParseUserDate(value.toString());
+    const QVariant date = parseUserDate(value.toString());
     if (!date.isValid())
         mismatch(value, QStringLiteral("a date"), fieldName);
     return date;
@@ -126,7 +126,7 @@ QVariant toDate(const QVariant& value, const QString& fieldName)
 
 } // namespace
 
-QVariant ConvertForColumn(const QVariant& value, ValueKind kind, const QString& fieldName)
+QVariant convertForColumn(const QVariant& value, ValueKind kind, const QString& fieldName)
 {
     if (!value.isValid() || value.isNull())
         return {};
@@ -140,9 +140,9 @@ QVariant ConvertForColumn(const QVariant& value, ValueKind kind, const QString& 
         return toDate(value, fieldName);
     case ValueKind::Text:
         if (value.typeId() == QMetaType::QDate)
-            return IsoText(value.toDate());
+            return isoText(value.toDate());
         if (value.typeId() == QMetaType::QDateTime)
-            return IsoText(value.toDateTime());
+            return isoText(value.toDateTime());
         return value.toString();
     case ValueKind::Null:
     case ValueKind::Blob:

@@ -11,6 +11,6 @@ namespace kartella::engine {
 // text into a date field is read as a date (ISO, "yyyy.MM.dd", the locale's short form,
 // "M/d/yyyy"), text into a number field as a number, "" as Null. Throws kartella::Error
 // ErrorNumber::TypeMismatch (13) when the value doesn't fit, or Overflow (6).
-QVariant ConvertForColumn(const QVariant& value, ValueKind kind, const QString& fieldName);
+QVariant convertForColumn(const QVariant& value, ValueKind kind, const QString& fieldName);
 
 } // namespace kartella::engine

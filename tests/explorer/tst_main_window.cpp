@@ -1,13 +1,13 @@
 #include "explorer/DocumentFills.h"
 #include "explorer/ExplorerFixture.h"
 #include "explorer/ExplorerList.h"
-#include "explorer/Form2.h"
 #include "explorer/IconCache.h"
 #include "explorer/ListModel.h"
+#include "explorer/MainWindow.h"
 #include "explorer/NavigationTree.h"
-#include "explorer/SelectionState.h"
 #include "harness/ScriptedPrompter.h"
 #include "options/OptionStore.h"
+#include "support/SelectionState.h"
 
 #include <QComboBox>
 #include <QDateEdit>
@@ -28,18 +28,18 @@ QStringList names(std::initializer_list<const char*> list)
 }
 } // namespace
 
-class Form2Test : public QObject
+class MainWindowTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { Selection() = SelectionState(); }
+    void init() { selection() = SelectionState(); }
 
     void loadShowsAllDocumentsAndTheCategoryTree()
     {
         ExplorerFixture fx;
         ScriptedPrompter prompter;
-        Form2& w = fx.window();
+        MainWindow& w = fx.window();
         QCOMPARE(w.windowTitle(), QString("Kartella"));
         QCOMPARE(fx.documentTexts(), names({"contract", "work", "letter", "note", "loose"}));
         QCOMPARE(fx.countText(), QString("5 object(s)"));
@@ -50,8 +50,8 @@ private Q_SLOTS:
         QCOMPARE(w.findChild<QDateEdit*>("txtEndDate")->date(),
             QDate(today.year(), today.month(), 1).addMonths(1));
         QVERIFY(!w.relatedList()->isVisible());
-        QCOMPARE(Selection().CurrentNodeKind, QString("a"));
-        QVERIFY(Selection().DocumentListFilled);
+        QCOMPARE(selection().currentNodeKind, QString("a"));
+        QVERIFY(selection().documentListFilled);
 
         // The tree: root, categories by name, subcategories; the nameless and the orphan
         // subcategories are gone from the table.
@@ -67,7 +67,7 @@ private Q_SLOTS:
         // The first click on the root does nothing: a document added now doesn't show.
         fx.reg.insert("tbl_Documents", {{"DokAntraste", "late"}, {"DokRegistracData", fx.thisMonth}});
         fx.clickNode("ALL");
-        QCOMPARE(w.LastNodeIndex, 1);
+        QCOMPARE(w.lastNodeIndex(), 1);
         QCOMPARE(fx.documents().itemCount(), 5);
         // Another node and back: the root refills.
         fx.clickNode("a" + QString::number(fx.id["Raštai"]));
@@ -115,12 +115,11 @@ private Q_SLOTS:
 
         ExplorerFixture fx;
         ScriptedPrompter prompter;
-        Form2& w = fx.window();
+        MainWindow& w = fx.window();
         if (contactView) {
             w.tree()->clearNodes();
-            w.CategoryView = false;
-            w.LastNodeIndex = 0;
-            w.FillContactTree();
+            w.setCategoryView(false);
+            w.fillContactTree();
         }
         // Keys name rows by their fixture names: resolve them to ids.
         QString key = node;
@@ -136,7 +135,7 @@ private Q_SLOTS:
         QCOMPARE(fx.columnCaptions(fx.documents()).value(2), thirdColumn);
         QCOMPARE(w.windowTitle(), caption);
         QCOMPARE(fx.countText(), QString::number(shown.size()) + " object(s)");
-        QCOMPARE(Selection().SelectedDocumentId, 0);
+        QCOMPARE(selection().selectedDocumentId, 0);
         QVERIFY(!w.relatedList()->isVisible());
         QVERIFY(prompter.prompts().isEmpty());
     }
@@ -145,10 +144,10 @@ private Q_SLOTS:
     {
         ExplorerFixture fx;
         ScriptedPrompter prompter;
-        Form2& w = fx.window();
+        MainWindow& w = fx.window();
         w.tree()->clearNodes();
-        w.CategoryView = false;
-        w.FillContactTree();
+        w.setCategoryView(false);
+        w.fillContactTree();
         NavigationTree* tree = w.tree();
         QCOMPARE(tree->nodeByIndex(1)->text(0), QString("CONTACTS"));
         QCOMPARE(tree->nodeByIndex(1)->childCount(), 26);
@@ -178,7 +177,7 @@ private Q_SLOTS:
     {
         ExplorerFixture fx;
         ScriptedPrompter prompter;
-        Form2& w = fx.window();
+        MainWindow& w = fx.window();
         const QString sutartys = "a" + QString::number(fx.id["Sutartys"]);
         fx.clickNode(sutartys);
         QCOMPARE(fx.documents().itemCount(), 2);
@@ -198,7 +197,7 @@ private Q_SLOTS:
     {
         ExplorerFixture fx;
         ScriptedPrompter prompter;
-        Form2& w = fx.window();
+        MainWindow& w = fx.window();
         auto* start = w.findChild<QDateEdit*>("txtStartDate");
         auto* end = w.findChild<QDateEdit*>("txtEndDate");
         fx.clickNode("a" + QString::number(fx.id["Sutartys"]));
@@ -232,7 +231,7 @@ private Q_SLOTS:
         QCOMPARE(fx.documents().itemCount(), 5);
 
         // With option Filter on, a node click applies the range too.
-        SetRegValue("Filter", 1);
+        setRegValue("Filter", 1);
         fx.clickNode("a" + QString::number(fx.id["Raštai"]));
         QCOMPARE(fx.documents().itemCount(), 1);
         QCOMPARE(fx.documents().item(0).key, QString("Empty"));
@@ -245,9 +244,9 @@ private Q_SLOTS:
         {
             TestRegister empty;
             ScriptedPrompter prompter;
-            Form2 w;
+            MainWindow w;
             w.show();
-            w.Form_Load();
+            w.load();
             ListModel& model = *w.documentModel();
             QCOMPARE(model.columns().size(), 1);
             QCOMPARE(model.columns().first().caption, QString("Documents"));
@@ -256,37 +255,36 @@ private Q_SLOTS:
             QCOMPARE(model.item(0).key, QString("Empty"));
             QVERIFY(model.item(0).iconKey.isEmpty());
             QCOMPARE(w.findChild<QLabel*>("pnCount")->text(), QString("0 object(s)"));
-            QVERIFY(!Selection().DocumentListFilled);
+            QVERIFY(!selection().documentListFilled);
             // A click on it changes nothing.
-            Selection().SelectedDocumentId = 77;
-            w.ListDokSarasas_ItemClick(0);
-            QCOMPARE(Selection().SelectedDocumentId, 77);
-            QVERIFY(Selection().ActiveListName.isEmpty());
+            selection().selectedDocumentId = 77;
+            w.onDocumentClicked(0);
+            QCOMPARE(selection().selectedDocumentId, 77);
+            QVERIFY(selection().activeListName.isEmpty());
             QVERIFY(prompter.prompts().isEmpty());
         }
         // A contact without documents among others: five columns, no items.
         ExplorerFixture fx;
         ScriptedPrompter prompter;
-        Form2& w = fx.window();
+        MainWindow& w = fx.window();
         w.tree()->clearNodes();
-        w.CategoryView = false;
-        w.LastNodeIndex = 0;
-        w.FillContactTree();
+        w.setCategoryView(false);
+        w.fillContactTree();
         fx.clickNode("ID" + QString::number(fx.id["Yla"]));
         QCOMPARE(fx.columnCaptions(fx.documents()),
             QStringList({"Doc. description", "Reg.index", "Category", "Date", "Notes"}));
         QCOMPARE(fx.documents().itemCount(), 0);
         QCOMPARE(fx.countText(), QString("0 object(s)"));
-        QVERIFY(Selection().DocumentListFilled);
+        QVERIFY(selection().documentListFilled);
     }
 
     void rowsShowMarksKeysTagsAndIcons()
     {
         ExplorerFixture fx;
         ScriptedPrompter prompter;
-        Form2& w = fx.window();
+        MainWindow& w = fx.window();
         auto rowOf = [&](const QString& name) {
-            return fx.documents().item(fx.documents().rowOfKey(DocumentFills::ItemKey(fx.id[name])));
+            return fx.documents().item(fx.documents().rowOfKey(DocumentFills::itemKey(fx.id[name])));
         };
         QCOMPARE(fx.columnCaptions(fx.documents()),
             QStringList({"Doc. description", "Reg.index", "Sender/Receiver", "Date", "Notes"}));
@@ -315,9 +313,8 @@ private Q_SLOTS:
 
         // Contact mode: the category's name, the mark for a document without category.
         w.tree()->clearNodes();
-        w.CategoryView = false;
-        w.LastNodeIndex = 0;
-        w.FillContactTree();
+        w.setCategoryView(false);
+        w.fillContactTree();
         fx.clickNode("ID" + QString::number(fx.id["Ąžuolas"]));
         QCOMPARE(rowOf("letter").subItems[1], QString("Raštai"));
         fx.reg.exec(
@@ -332,21 +329,21 @@ private Q_SLOTS:
     {
         ExplorerFixture fx;
         ScriptedPrompter prompter;
-        Form2& w = fx.window();
+        MainWindow& w = fx.window();
         fx.clickDocument("contract");
-        QCOMPARE(Selection().SelectedDocumentId, fx.id["contract"]);
-        QCOMPARE(Selection().SelectedItemText, QString("contract"));
-        QCOMPARE(Selection().ActiveListName, QString("ListDokSarasas"));
-        QVERIFY(Selection().SelectedFilePath.isEmpty());
+        QCOMPARE(selection().selectedDocumentId, fx.id["contract"]);
+        QCOMPARE(selection().selectedItemText, QString("contract"));
+        QCOMPARE(selection().activeListName, QString("ListDokSarasas"));
+        QVERIFY(selection().selectedFilePath.isEmpty());
         QVERIFY(w.relatedList()->isVisible());
         QCOMPARE(
             fx.columnCaptions(fx.related()), QStringList({"Doc. Description", "Sender/Receiver", "Date"}));
         QCOMPARE(fx.related().itemCount(), 2);
         const ListItem& annex
-            = fx.related().item(fx.related().rowOfKey(DocumentFills::ItemKey(fx.id["annex"])));
+            = fx.related().item(fx.related().rowOfKey(DocumentFills::itemKey(fx.id["annex"])));
         QCOMPARE(annex.subItems[0], QString("Antanas Petraitis"));
         const ListItem& copy
-            = fx.related().item(fx.related().rowOfKey(DocumentFills::ItemKey(fx.id["copy"])));
+            = fx.related().item(fx.related().rowOfKey(DocumentFills::itemKey(fx.id["copy"])));
         QCOMPARE(copy.subItems[0], QString("*_*_*_*"));
         QCOMPARE(copy.tag, fx.existingFile);
         // The document list takes 0.8 of the tree's height.
@@ -354,47 +351,47 @@ private Q_SLOTS:
         QCOMPARE(fx.countText(), QString("5 object(s)"));
 
         // A related item: the parent stays selected, the related list stays.
-        w.ListSusieti_ItemClick(fx.related().rowOfKey(DocumentFills::ItemKey(fx.id["copy"])));
-        QCOMPARE(Selection().ActiveListName, QString("ListSusieti"));
-        QCOMPARE(Selection().SelectedSubDocumentId, fx.id["copy"]);
-        QCOMPARE(Selection().SelectedDocumentId, fx.id["contract"]);
-        QCOMPARE(Selection().SelectedFilePath, fx.existingFile);
+        w.onRelatedClicked(fx.related().rowOfKey(DocumentFills::itemKey(fx.id["copy"])));
+        QCOMPARE(selection().activeListName, QString("ListSusieti"));
+        QCOMPARE(selection().selectedSubDocumentId, fx.id["copy"]);
+        QCOMPARE(selection().selectedDocumentId, fx.id["contract"]);
+        QCOMPARE(selection().selectedFilePath, fx.existingFile);
         QVERIFY(w.relatedList()->isVisible());
 
         // A document without related documents hides the list; so does the root.
         fx.clickDocument("letter");
-        QCOMPARE(Selection().SelectedFilePath, fx.existingFile);
+        QCOMPARE(selection().selectedFilePath, fx.existingFile);
         QVERIFY(!w.relatedList()->isVisible());
         fx.clickDocument("contract");
         QVERIFY(w.relatedList()->isVisible());
         fx.clickNode("a" + QString::number(fx.id["Raštai"]));
         QVERIFY(!w.relatedList()->isVisible());
-        QCOMPARE(Selection().SelectedDocumentId, 0);
+        QCOMPARE(selection().selectedDocumentId, 0);
         QVERIFY(prompter.prompts().isEmpty());
     }
 
     void missingRegisterIsReportedOnce()
     {
         TestRegister reg;
-        SetRegValue("DbLocation", reg.dir() + "/nowhere/Kartella.mdb");
+        setRegValue("DbLocation", reg.dir() + "/nowhere/Kartella.mdb");
         ScriptedPrompter prompter;
         prompter.answer(MsgBoxResult::Ok);
-        Form2 w;
+        MainWindow w;
         w.show();
-        w.Form_Load();
+        w.load();
         // The missing file gives way to the default, which isn't there either.
-        QCOMPARE(GetRegValue("DbLocation"), Form2::DefaultDbLocation());
+        QCOMPARE(getRegValue("DbLocation"), MainWindow::defaultDbLocation());
         QCOMPARE(prompter.prompts().size(), 1);
         const auto prompt = prompter.prompts().first();
         QCOMPARE(prompt.title, QString("Connection to database error:"));
         QCOMPARE(prompt.style, MsgBoxStyle::OkOnly + MsgBoxStyle::Critical);
         QVERIFY(prompt.text.startsWith("Error: -2147467259 "));
-        QVERIFY(prompt.text.contains(Form2::DefaultDbLocation()));
+        QVERIFY(prompt.text.contains(MainWindow::defaultDbLocation()));
         QVERIFY(prompt.text.endsWith("\rSelect correct database type and file, please!"));
         QCOMPARE(w.documentModel()->itemCount(), 0);
         QCOMPARE(w.tree()->nodeCount(), 0);
     }
 };
 
-QTEST_MAIN(Form2Test)
-#include "tst_form2.moc"
+QTEST_MAIN(MainWindowTest)
+#include "tst_main_window.moc"

@@ -1,17 +1,17 @@
-#include "explorer/Form2.h"
+#include "explorer/MainWindow.h"
 
+#include "base/Error.h"
 #include "explorer/DocumentFills.h"
 #include "explorer/DocumentQueries.h"
 #include "explorer/ExplorerList.h"
 #include "explorer/IconCache.h"
 #include "explorer/ListModel.h"
 #include "explorer/NavigationTree.h"
-#include "explorer/SelectionState.h"
 #include "options/OptionStore.h"
 #include "platform/Prompter.h"
 #include "registration/NewDocumentDialog.h"
 #include "support/BusyCursor.h"
-#include "support/Error.h"
+#include "support/SelectionState.h"
 #include "support/Splitter.h"
 
 #include <QComboBox>
@@ -28,39 +28,39 @@
 
 namespace kartella {
 
-Form2::Form2(QWidget* parent)
+MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
-    , m_state(Selection())
+    , m_state(selection())
 {
     setObjectName(QStringLiteral("Form2"));
     setWindowTitle(QStringLiteral("Kartella"));
     buildWindow();
     m_fills = std::make_unique<DocumentFills>(*m_documentModel, m_state);
     m_fills->setCount = [this](const QString& text) { m_count->setText(text); };
-    m_fills->disableDocumentCommands = [this] { DisableDocumentCommands(); };
+    m_fills->disableDocumentCommands = [this] { disableDocumentCommands(); };
     popupMenu = [](QMenu* menu, const QPoint& pos) { menu->exec(pos); };
 }
 
-Form2::~Form2() = default;
+MainWindow::~MainWindow() = default;
 
-void Form2::buildWindow()
+void MainWindow::buildWindow()
 {
-    m_coolBar = addToolBar(QStringLiteral("Band"));
-    m_coolBar->setObjectName(QStringLiteral("CoolBar1"));
-    m_coolBar->setMovable(false);
+    m_band = addToolBar(QStringLiteral("Band"));
+    m_band->setObjectName(QStringLiteral("CoolBar1"));
+    m_band->setMovable(false);
 
-    m_direction = new QComboBox(m_coolBar);
+    m_direction = new QComboBox(m_band);
     m_direction->setObjectName(QStringLiteral("cboDirection"));
     m_direction->setToolTip(QStringLiteral("Direction"));
     m_direction->setAccessibleName(QStringLiteral("Direction"));
     m_direction->addItems({QStringLiteral("All"), QStringLiteral("Inner"), QStringLiteral("Outgoing"),
         QStringLiteral("Incoming"), QStringLiteral("Other")});
 
-    m_startDate = new QDateEdit(m_coolBar);
+    m_startDate = new QDateEdit(m_band);
     m_startDate->setObjectName(QStringLiteral("txtStartDate"));
     m_startDate->setToolTip(QStringLiteral("Set Start Date"));
     m_startDate->setAccessibleName(QStringLiteral("Start date"));
-    m_endDate = new QDateEdit(m_coolBar);
+    m_endDate = new QDateEdit(m_band);
     m_endDate->setObjectName(QStringLiteral("txtEndDate"));
     m_endDate->setToolTip(QStringLiteral("Set End Date"));
     m_endDate->setAccessibleName(QStringLiteral("End date"));
@@ -69,10 +69,10 @@ void Form2::buildWindow()
         // Typing a date counts once it is complete (Enter or leaving the box), not per digit.
         picker->setKeyboardTracking(false);
     }
-    m_coolBar->addSeparator();
-    m_coolBar->addWidget(m_direction);
-    m_coolBar->addWidget(m_startDate);
-    m_coolBar->addWidget(m_endDate);
+    m_band->addSeparator();
+    m_band->addWidget(m_direction);
+    m_band->addWidget(m_startDate);
+    m_band->addWidget(m_endDate);
 
     m_tree = new NavigationTree(this);
     m_tree->setObjectName(QStringLiteral("acxTreeKategorijos"));
@@ -118,10 +118,10 @@ void Form2::buildWindow()
     resize(1100, 700);
 
     // The three gaps: tree and lists side by side, the document list over the related one.
-    m_splitters[0] = new CSplitter(this);
-    m_splitters[0]->Create(m_mainSplit, true, 0, 30);
-    m_splitters[1] = new CSplitter(this);
-    m_splitters[1]->Create(m_listSplit, false, 0, 80);
+    m_splitters[0] = new Splitter(this);
+    m_splitters[0]->create(m_mainSplit, true, 0, 30);
+    m_splitters[1] = new Splitter(this);
+    m_splitters[1]->create(m_listSplit, false, 0, 80);
 
     buildMenus();
     buildToolbar();
@@ -129,49 +129,49 @@ void Form2::buildWindow()
     setDialog(QStringLiteral("frmNewDocument"), [this](const QString& file) {
         NewDocumentDialog dialog(this);
         if (!file.isEmpty())
-            dialog.SetLocation(file);
+            dialog.setLocation(file);
         dialog.exec();
     });
 
-    connect(m_tree, &NavigationTree::NodeClick, this, &Form2::acxTreeKategorijos_NodeClick);
-    connect(m_tree, &NavigationTree::MouseDown, this, &Form2::acxTreeKategorijos_MouseDown);
-    connect(m_documents, &ExplorerList::ItemClick, this, &Form2::ListDokSarasas_ItemClick);
-    connect(m_documents, &ExplorerList::DblClick, this, &Form2::ListDokSarasas_DblClick);
-    connect(m_documents, &ExplorerList::ColumnClick, this, &Form2::ListDokSarasas_ColumnClick);
-    connect(m_documents, &ExplorerList::MouseDown, this, &Form2::ListDokSarasas_MouseDown);
-    connect(m_documents, &ExplorerList::filesDropped, this, &Form2::ListDokSarasas_OLEDragDrop);
-    connect(m_related, &ExplorerList::ItemClick, this, &Form2::ListSusieti_ItemClick);
-    connect(m_related, &ExplorerList::DblClick, this, &Form2::ListSusieti_DblClick);
-    connect(m_related, &ExplorerList::ColumnClick, this, &Form2::ListSusieti_ColumnClick);
-    connect(m_related, &ExplorerList::MouseDown, this, &Form2::ListSusieti_MouseDown);
+    connect(m_tree, &NavigationTree::nodeClicked, this, &MainWindow::onNodeClicked);
+    connect(m_tree, &NavigationTree::pressed, this, &MainWindow::onTreePressed);
+    connect(m_documents, &ExplorerList::itemClicked, this, &MainWindow::onDocumentClicked);
+    connect(m_documents, &ExplorerList::doubleClickedItem, this, &MainWindow::onDocumentDoubleClicked);
+    connect(m_documents, &ExplorerList::columnClicked, this, &MainWindow::onDocumentColumnClicked);
+    connect(m_documents, &ExplorerList::pressed, this, &MainWindow::onDocumentListPressed);
+    connect(m_documents, &ExplorerList::filesDropped, this, &MainWindow::onFilesDropped);
+    connect(m_related, &ExplorerList::itemClicked, this, &MainWindow::onRelatedClicked);
+    connect(m_related, &ExplorerList::doubleClickedItem, this, &MainWindow::onRelatedDoubleClicked);
+    connect(m_related, &ExplorerList::columnClicked, this, &MainWindow::onRelatedColumnClicked);
+    connect(m_related, &ExplorerList::pressed, this, &MainWindow::onRelatedListPressed);
 
     // A document's file can be dragged out as a file list; files dropped on the list register.
     m_documentModel->dragFiles = [this] {
-        return m_state.SelectedFilePath.isEmpty() ? QStringList() : QStringList {m_state.SelectedFilePath};
+        return m_state.selectedFilePath.isEmpty() ? QStringList() : QStringList {m_state.selectedFilePath};
     };
     m_documents->setDragFilesOut(true);
     m_documents->setAcceptFileDrops(true);
 }
 
-bool Form2::FileFound(const QString& path)
+bool MainWindow::fileFound(const QString& path)
 {
     return !path.isEmpty() && QFileInfo::exists(path);
 }
 
-QString Form2::DefaultDbLocation()
+QString MainWindow::defaultDbLocation()
 {
     return QDir::toNativeSeparators(QCoreApplication::applicationDirPath() + QStringLiteral("/Kartella.mdb"));
 }
 
-void Form2::Form_Load()
+void MainWindow::load()
 {
     m_loading = true;
     // 1. A register that isn't there gives way to the default one.
-    if (!FileFound(GetRegValue(QStringLiteral("DbLocation"))))
-        SetRegValue(QStringLiteral("Dblocation"), DefaultDbLocation());
+    if (!fileFound(getRegValue(QStringLiteral("DbLocation"))))
+        setRegValue(QStringLiteral("Dblocation"), defaultDbLocation());
     // 2. The source panel.
     m_source->setText(
-        QStringLiteral("Source : ") + GetRegValue(QStringLiteral("DbLocation")) + QStringLiteral("   "));
+        QStringLiteral("Source : ") + getRegValue(QStringLiteral("DbLocation")) + QStringLiteral("   "));
     // 4. This month, from its first day to the first day of the next.
     const QDate today = QDate::currentDate();
     const QDate first(today.year(), today.month(), 1);
@@ -179,78 +179,78 @@ void Form2::Form_Load()
     m_endDate->setDate(first.addMonths(1));
     // 5, 6.
     showRelatedList(false);
-    m_state.SelectedFilePath.clear();
-    m_state.CurrentCategoryId = 0;
-    m_state.CurrentSubCategoryId = 0;
-    m_state.CurrentNodeKind = QStringLiteral("a");
-    CategoryView = true;
-    LastNodeIndex = 1;
+    m_state.selectedFilePath.clear();
+    m_state.currentCategoryId = 0;
+    m_state.currentSubCategoryId = 0;
+    m_state.currentNodeKind = QStringLiteral("a");
+    m_categoryView = true;
+    m_lastNodeIndex = 1;
     // 7. The direction box's click makes the first fill.
     m_direction->setCurrentIndex(0);
-    cboDirection_Click();
-    connect(m_direction, &QComboBox::currentIndexChanged, this, &Form2::cboDirection_Click);
-    connect(m_startDate, &QDateEdit::dateChanged, this, &Form2::txtStartDate_Change);
-    connect(m_endDate, &QDateEdit::dateChanged, this, &Form2::txtEndDate_Change);
+    onDirectionChanged();
+    connect(m_direction, &QComboBox::currentIndexChanged, this, &MainWindow::onDirectionChanged);
+    connect(m_startDate, &QDateEdit::dateChanged, this, &MainWindow::onStartDateChanged);
+    connect(m_endDate, &QDateEdit::dateChanged, this, &MainWindow::onEndDateChanged);
     m_loading = false;
     // 8.
-    FillCategoryTree();
+    fillCategoryTree();
 }
 
-int Form2::direction() const
+int MainWindow::direction() const
 {
     return qMax(0, m_direction->currentIndex());
 }
 
-void Form2::cboDirection_Click()
+void MainWindow::onDirectionChanged()
 {
     const int code = direction();
-    if (CategoryView) {
-        if (m_state.CurrentNodeKind == QLatin1String("b"))
-            modListDocum2(m_state.CurrentCategoryId, m_state.CurrentSubCategoryId, code);
-        else if (m_state.CurrentNodeKind == QLatin1String("a"))
-            modListDocum1(m_state.CurrentCategoryId, code);
-    } else if (m_state.CurrentLetterCode != 0) {
-        ListByLetter(m_state.CurrentLetterCode, code);
+    if (m_categoryView) {
+        if (m_state.currentNodeKind == QLatin1String("b"))
+            listSubCategory(m_state.currentCategoryId, m_state.currentSubCategoryId, code);
+        else if (m_state.currentNodeKind == QLatin1String("a"))
+            listCategory(m_state.currentCategoryId, code);
+    } else if (m_state.currentLetterCode != 0) {
+        listByLetter(m_state.currentLetterCode, code);
     } else {
-        ListByContact(code);
+        listByContact(code);
     }
 }
 
-void Form2::txtStartDate_Change()
+void MainWindow::onStartDateChanged()
 {
     dateChanged(QStringLiteral("Select Start Date LESS then End Date, please"));
 }
 
-void Form2::txtEndDate_Change()
+void MainWindow::onEndDateChanged()
 {
     dateChanged(QStringLiteral("Select End Date GREATHER then Start Date, please."));
 }
 
-void Form2::dateChanged(const QString& message)
+void MainWindow::dateChanged(const QString& message)
 {
     if (m_endDate->date() < m_startDate->date()) {
-        MsgBox(message, MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation, QStringLiteral("Date Set Error"));
+        msgBox(message, MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation, QStringLiteral("Date Set Error"));
         return;
     }
-    RefillByDates();
+    refillByDates();
 }
 
-void Form2::RefillByDates()
+void MainWindow::refillByDates()
 {
     const int code = direction();
-    if (CategoryView) {
-        if (m_state.CurrentNodeKind == QLatin1String("b"))
-            modListDocum22(m_state.CurrentCategoryId, m_state.CurrentSubCategoryId, code);
-        else if (m_state.CurrentNodeKind == QLatin1String("a"))
-            modListDocum12(m_state.CurrentCategoryId, code);
-    } else if (m_state.CurrentLetterCode != 0) {
-        ListByLetterDated(m_state.CurrentLetterCode, code);
+    if (m_categoryView) {
+        if (m_state.currentNodeKind == QLatin1String("b"))
+            listSubCategoryWithinDates(m_state.currentCategoryId, m_state.currentSubCategoryId, code);
+        else if (m_state.currentNodeKind == QLatin1String("a"))
+            listCategoryWithinDates(m_state.currentCategoryId, code);
+    } else if (m_state.currentLetterCode != 0) {
+        listByLetterWithinDates(m_state.currentLetterCode, code);
     } else {
-        ListByContactDated(code);
+        listByContactWithinDates(code);
     }
 }
 
-void Form2::runFill(const std::function<void()>& fill)
+void MainWindow::runFill(const std::function<void()>& fill)
 {
     try {
         const BusyCursor busy;
@@ -262,75 +262,75 @@ void Form2::runFill(const std::function<void()>& fill)
     }
 }
 
-void Form2::reportConnectionError(long number, const QString& description)
+void MainWindow::reportConnectionError(long number, const QString& description)
 {
-    MsgBox(QStringLiteral("Error: ") + QString::number(number) + u' ' + description
+    msgBox(QStringLiteral("Error: ") + QString::number(number) + u' ' + description
             + QStringLiteral("\rSelect correct database type and file, please!"),
         MsgBoxStyle::OkOnly + MsgBoxStyle::Critical, QStringLiteral("Connection to database error:"));
 }
 
-void Form2::modListDocum1(qint32 category, int direction)
+void MainWindow::listCategory(qint32 category, int direction)
 {
     runFill([&] {
-        m_fills->FillDocumentList(
-            CategoryListSql(category, direction, FilterOptionOn(), m_startDate->date(), m_endDate->date()));
+        m_fills->fillDocumentList(
+            categoryListSql(category, direction, filterOptionOn(), m_startDate->date(), m_endDate->date()));
     });
 }
 
-void Form2::modListDocum12(qint32 category, int direction)
+void MainWindow::listCategoryWithinDates(qint32 category, int direction)
 {
     runFill([&] {
-        m_fills->FillDocumentList(
-            CategoryDatedListSql(category, direction, m_startDate->date(), m_endDate->date()));
+        m_fills->fillDocumentList(
+            categoryDatedListSql(category, direction, m_startDate->date(), m_endDate->date()));
     });
 }
 
-void Form2::modListDocum2(qint32 category, qint32 subCategory, int direction)
+void MainWindow::listSubCategory(qint32 category, qint32 subCategory, int direction)
 {
     runFill([&] {
-        m_fills->FillDocumentList(SubCategoryListSql(
-            category, subCategory, direction, FilterOptionOn(), m_startDate->date(), m_endDate->date()));
+        m_fills->fillDocumentList(subCategoryListSql(
+            category, subCategory, direction, filterOptionOn(), m_startDate->date(), m_endDate->date()));
     });
 }
 
-void Form2::modListDocum22(qint32 category, qint32 subCategory, int direction)
+void MainWindow::listSubCategoryWithinDates(qint32 category, qint32 subCategory, int direction)
 {
     runFill([&] {
-        m_fills->FillDocumentList(SubCategoryDatedListSql(
+        m_fills->fillDocumentList(subCategoryDatedListSql(
             category, subCategory, direction, m_startDate->date(), m_endDate->date()));
     });
 }
 
-void Form2::ListByLetter(qint16 letterCode, int direction)
+void MainWindow::listByLetter(qint16 letterCode, int direction)
 {
     runFill([&] {
-        m_fills->FillLetterList(
-            ContactDocumentSql(direction, FilterOptionOn(), m_startDate->date(), m_endDate->date()),
+        m_fills->fillLetterList(
+            contactDocumentSql(direction, filterOptionOn(), m_startDate->date(), m_endDate->date()),
             letterCode);
     });
 }
 
-void Form2::ListByContact(int direction)
+void MainWindow::listByContact(int direction)
 {
     runFill([&] {
-        m_fills->FillContactDocumentList(
-            ContactDocumentSql(direction, FilterOptionOn(), m_startDate->date(), m_endDate->date()));
+        m_fills->fillContactDocumentList(
+            contactDocumentSql(direction, filterOptionOn(), m_startDate->date(), m_endDate->date()));
     });
 }
 
-void Form2::ListByLetterDated(qint16 letterCode, int direction)
+void MainWindow::listByLetterWithinDates(qint16 letterCode, int direction)
 {
     runFill([&] {
-        m_fills->FillLetterList(
-            ContactDatedDocumentSql(direction, m_startDate->date(), m_endDate->date()), letterCode);
+        m_fills->fillLetterList(
+            contactDatedDocumentSql(direction, m_startDate->date(), m_endDate->date()), letterCode);
     });
 }
 
-void Form2::ListByContactDated(int direction)
+void MainWindow::listByContactWithinDates(int direction)
 {
     runFill([&] {
-        m_fills->FillContactDocumentList(
-            ContactDatedDocumentSql(direction, m_startDate->date(), m_endDate->date()));
+        m_fills->fillContactDocumentList(
+            contactDatedDocumentSql(direction, m_startDate->date(), m_endDate->date()));
     });
 }
 

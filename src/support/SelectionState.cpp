@@ -1,8 +1,8 @@
-#include "explorer/SelectionState.h"
+#include "support/SelectionState.h"
 
 namespace kartella {
 
-SelectionState& Selection()
+SelectionState& selection()
 {
     static SelectionState state;
     return state;

@@ -1,18 +1,18 @@
-// Form2: the commands that act by themselves, and the ones that open a dialog.
+// MainWindow: the commands that act by themselves, and the ones that open a dialog.
+#include "base/Error.h"
 #include "explorer/DocumentFills.h"
 #include "explorer/ExplorerList.h"
-#include "explorer/Form2.h"
 #include "explorer/IconCache.h"
 #include "explorer/ListModel.h"
+#include "explorer/MainWindow.h"
 #include "explorer/NavigationTree.h"
-#include "explorer/SelectionState.h"
 #include "platform/Prompter.h"
 #include "platform/Shell.h"
 #include "registration/ShellFiles.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
-#include "support/Error.h"
+#include "support/SelectionState.h"
 #include "support/SharedPrinter.h"
 
 #include <QAction>
@@ -44,224 +44,224 @@ QString deleteSubDocumentSql(qint32 id)
 }
 } // namespace
 
-void Form2::mnuNew_Click()
+void MainWindow::newDocument()
 {
     openDialog(QStringLiteral("frmNewDocument"));
 }
 
-void Form2::mnuOpen_Click()
+void MainWindow::openDocument()
 {
-    OpenDocumentFile(m_state.SelectedFilePath, QStringLiteral("open"));
+    openDocumentFile(m_state.selectedFilePath, QStringLiteral("open"));
 }
 
-void Form2::mnuCopy_Click()
+void MainWindow::copyDocument()
 {
     openDialog(QStringLiteral("frmCopyFile"));
 }
 
-void Form2::mnuDelete_Click()
+void MainWindow::deleteSelected()
 {
-    DeleteDocument();
+    deleteDocument();
 }
 
-void Form2::mnuDeleteCategory_Click()
+void MainWindow::deleteSelectedCategory()
 {
-    DeleteCategory();
+    deleteCategory();
 }
 
-void Form2::mnuPrintSetup_Click()
+void MainWindow::printSetup()
 {
-    QPrintDialog dialog(&SharedPrinter(), this);
+    QPrintDialog dialog(&sharedPrinter(), this);
     dialog.setWindowTitle(QStringLiteral("Print Setup"));
     dialog.setOptions(QAbstractPrintDialog::PrintShowPageSize);
     dialog.exec();
 }
 
-void Form2::mnuPrint_Click()
+void MainWindow::printDocument()
 {
-    OpenDocumentFile(m_state.SelectedFilePath, QStringLiteral("print"));
+    openDocumentFile(m_state.selectedFilePath, QStringLiteral("print"));
 }
 
-void Form2::mnuRelated_Click()
+void MainWindow::newRelatedDocument()
 {
     openDialog(QStringLiteral("frmRelated"));
 }
 
-void Form2::mnuShowDetails_Click()
+void MainWindow::showDetails()
 {
-    if (sameName(m_state.ActiveListName, DocumentListName))
+    if (sameName(m_state.activeListName, DocumentListName))
         openDialog(QStringLiteral("frmNew"));
-    else if (sameName(m_state.ActiveListName, RelatedListName))
+    else if (sameName(m_state.activeListName, RelatedListName))
         openDialog(QStringLiteral("frmRelDescr"));
 }
 
-void Form2::mnuProperties_Click()
+void MainWindow::showProperties()
 {
     // A file that has gone gives no message here.
-    if (QFileInfo::exists(m_state.SelectedFilePath))
-        Shell::instance().ShowProperties(m_state.SelectedFilePath);
+    if (QFileInfo::exists(m_state.selectedFilePath))
+        Shell::instance().showProperties(m_state.selectedFilePath);
 }
 
-void Form2::mnuExit_Click()
+void MainWindow::exitProgram()
 {
     close();
 }
 
-void Form2::mnuCategoryOptions_Click()
+void MainWindow::editCategory()
 {
     openDialog(QStringLiteral("frmCategory"));
 }
 
-void Form2::OpenDocumentFile(const QString& path, const QString& verb)
+void MainWindow::openDocumentFile(const QString& path, const QString& verb)
 {
     if (path.isEmpty()) {
-        MsgBox(QStringLiteral("Path to Location of this Document not included!"),
+        msgBox(QStringLiteral("Path to Location of this Document not included!"),
             MsgBoxStyle::OkOnly + MsgBoxStyle::Information, QStringLiteral("File not found"));
         return;
     }
     const QFileInfo file(path);
     if (!file.exists() || file.isDir()) {
-        MsgBox(QStringLiteral("Path to file is invalid!"), MsgBoxStyle::OkOnly + MsgBoxStyle::Critical,
+        msgBox(QStringLiteral("Path to file is invalid!"), MsgBoxStyle::OkOnly + MsgBoxStyle::Critical,
             QStringLiteral("Unable to open Document"));
         return;
     }
     // The result isn't looked at: the desktop reports its own failures.
     if (verb == QLatin1String("print"))
-        Shell::instance().Print(path);
+        Shell::instance().print(path);
     else
-        Shell::instance().Open(path);
+        Shell::instance().open(path);
 }
 
-void Form2::mnuRefresh_Click()
+void MainWindow::refresh()
 {
     m_tree->clearNodes();
     // The tree of the view on show is built again.
-    if (CategoryView)
-        FillCategoryTree();
+    if (m_categoryView)
+        fillCategoryTree();
     else
-        FillContactTree();
+        fillContactTree();
 }
 
-void Form2::mnuByCategory_Click()
+void MainWindow::viewByCategory()
 {
     switchView(true);
 }
 
-void Form2::mnuByContacts_Click()
+void MainWindow::viewByContacts()
 {
     switchView(false);
 }
 
-void Form2::switchView(bool categories)
+void MainWindow::switchView(bool categories)
 {
     action(QStringLiteral("mnuByCategory"))->setChecked(categories);
     action(QStringLiteral("mnuByContacts"))->setChecked(!categories);
     m_tree->clearNodes();
-    CategoryView = categories;
+    m_categoryView = categories;
     // Any click after a switch acts, the root's too.
-    LastNodeIndex = 0;
+    m_lastNodeIndex = 0;
     if (categories)
-        FillCategoryTree();
+        fillCategoryTree();
     else
-        FillContactTree();
+        fillContactTree();
 }
 
-void Form2::reloadAfterDelete()
+void MainWindow::reloadAfterDelete()
 {
-    if (m_state.CurrentNodeKind == QLatin1String("a"))
-        modListDocum1(m_state.CurrentCategoryId, direction());
-    else if (m_state.CurrentNodeKind == QLatin1String("b"))
-        modListDocum2(m_state.CurrentCategoryId, m_state.CurrentSubCategoryId, direction());
+    if (m_state.currentNodeKind == QLatin1String("a"))
+        listCategory(m_state.currentCategoryId, direction());
+    else if (m_state.currentNodeKind == QLatin1String("b"))
+        listSubCategory(m_state.currentCategoryId, m_state.currentSubCategoryId, direction());
     else
-        modListDocum1(0, 0);
+        listCategory(0, 0);
 }
 
-void Form2::DeleteDocument()
+void MainWindow::deleteDocument()
 {
-    const QString active = m_state.ActiveListName;
+    const QString active = m_state.activeListName;
     if (!sameName(active, DocumentListName) && !sameName(active, RelatedListName)) {
-        MsgBox(QStringLiteral("Select document, please!"), MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation,
+        msgBox(QStringLiteral("Select document, please!"), MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation,
             QStringLiteral("Unable to delete as requested"));
         return;
     }
     try {
         Connection connection;
-        connection.Open(PlainConnectionString());
+        connection.open(plainConnectionString());
         Recordset children;
-        children.Open(
+        children.open(
             QStringLiteral("SELECT tbl_Sub_Documents.*, tbl_Sub_Documents.RastasID FROM tbl_Sub_Documents "
                            "WHERE tbl_Sub_Documents.RastasID=")
-                + QString::number(m_state.SelectedDocumentId),
+                + QString::number(m_state.selectedDocumentId),
             connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
-        const QString path = m_state.SelectedFilePath;
+        const QString path = m_state.selectedFilePath;
 
         if (sameName(active, RelatedListName)) {
             // A related document goes only together with its file.
-            if (ShellDeleteFile(path)) {
-                connection.Execute(deleteSubDocumentSql(m_state.SelectedSubDocumentId));
-                FillRelatedList();
+            if (shellDeleteFile(path)) {
+                connection.execute(deleteSubDocumentSql(m_state.selectedSubDocumentId));
+                fillRelatedList();
             }
             return;
         }
 
-        if (children.Eof()) {
+        if (children.eof()) {
             const bool reachable = !path.isEmpty() && QFileInfo::exists(path);
-            if (!reachable || ShellDeleteFile(path))
-                connection.Execute(deleteDocumentSql(m_state.SelectedDocumentId));
-            children.Close();
-            connection.Close();
+            if (!reachable || shellDeleteFile(path))
+                connection.execute(deleteDocumentSql(m_state.selectedDocumentId));
+            children.close();
+            connection.close();
             reloadAfterDelete();
             return;
         }
 
-        if (MsgBox(QStringLiteral("Do you wish to delete document and their subdocuments?"),
+        if (msgBox(QStringLiteral("Do you wish to delete document and their subdocuments?"),
                 MsgBoxStyle::YesNo + MsgBoxStyle::Question, QStringLiteral("Confirm Deletion"))
             != MsgBoxResult::Yes)
             return;
         // Each related document's row goes first, then its file; a file that stays is no matter.
-        while (!children.Eof()) {
-            connection.Execute(deleteSubDocumentSql(children.Collect(QStringLiteral("SubRastasID")).toInt()));
-            const QVariant childPath = children.Collect(QStringLiteral("SubRastoKelias"));
-            if (!IsNull(childPath))
-                ShellDeleteFile(childPath.toString());
-            children.MoveNext();
+        while (!children.eof()) {
+            connection.execute(deleteSubDocumentSql(children.collect(QStringLiteral("SubRastasID")).toInt()));
+            const QVariant childPath = children.collect(QStringLiteral("SubRastoKelias"));
+            if (!isNull(childPath))
+                shellDeleteFile(childPath.toString());
+            children.moveNext();
         }
-        connection.Execute(deleteDocumentSql(m_state.SelectedDocumentId));
-        ShellDeleteFile(path);
+        connection.execute(deleteDocumentSql(m_state.selectedDocumentId));
+        shellDeleteFile(path);
         IconCache::shared().clear();
-        modListDocum1(0, 0);
-        FillRelatedList();
+        listCategory(0, 0);
+        fillRelatedList();
     } catch (const Error& error) {
-        MsgBox(error.description());
+        msgBox(error.description());
     }
 }
 
-void Form2::DeleteCategory()
+void MainWindow::deleteCategory()
 {
     QString question;
     QString sql;
-    if (m_state.CurrentNodeKind == QLatin1String("a")) {
+    if (m_state.currentNodeKind == QLatin1String("a")) {
         question = QStringLiteral("Do you wish to delete Category and SubCategories?");
         sql = QStringLiteral("DELETE tbl_Document_Categories.* FROM tbl_Document_Categories WHERE "
                              "tbl_Document_Categories.KategID=")
-            + QString::number(m_state.CurrentCategoryId);
-    } else if (m_state.CurrentNodeKind == QLatin1String("b")) {
+            + QString::number(m_state.currentCategoryId);
+    } else if (m_state.currentNodeKind == QLatin1String("b")) {
         question = QStringLiteral("Do you wish to delete SubCategory?");
         sql = QStringLiteral(
                   "DELETE tbl_Sub_Categories.* FROM tbl_Sub_Categories WHERE tbl_Sub_Categories.SubKategID=")
-            + QString::number(m_state.CurrentSubCategoryId);
+            + QString::number(m_state.currentSubCategoryId);
     } else {
         return;
     }
-    if (MsgBox(question, MsgBoxStyle::YesNo + MsgBoxStyle::Exclamation, QStringLiteral("Confirm Deletion"))
+    if (msgBox(question, MsgBoxStyle::YesNo + MsgBoxStyle::Exclamation, QStringLiteral("Confirm Deletion"))
         != MsgBoxResult::Yes)
         return;
     try {
         Connection connection;
-        connection.Open(PlainConnectionString());
-        connection.Execute(sql);
+        connection.open(plainConnectionString());
+        connection.execute(sql);
     } catch (const Error& error) {
-        MsgBox(error.description());
+        msgBox(error.description());
     }
 }
 

@@ -17,7 +17,7 @@ class QTreeWidgetItem;
 
 namespace kartella {
 
-class CSplitter;
+class Splitter;
 class DocumentFills;
 class ExplorerList;
 class ListModel;
@@ -27,26 +27,32 @@ struct SelectionState;
 // The main window: a band with the direction box and the two date pickers, the
 // navigation tree on the left, the document list on the right with the related list
 // beneath it, and the status bar. It is the program's only top-level window.
-class Form2 : public QMainWindow
+class MainWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    explicit Form2(QWidget* parent = nullptr);
-    ~Form2() override;
+    explicit MainWindow(QWidget* parent = nullptr);
+    ~MainWindow() override;
 
     // The load sequence: options, source panel, dates, the first fill, the tree.
-    void Form_Load();
+    void load();
 
     // True: the tree shows categories; false: contacts.
-    bool CategoryView = true;
+    bool isCategoryView() const { return m_categoryView; }
     // Index of the tree node last handled; a click on a node of that index does nothing.
-    int LastNodeIndex = 0;
+    int lastNodeIndex() const { return m_lastNodeIndex; }
+    // Sets the tree's view without filling it and forgets the node last handled.
+    void setCategoryView(bool categories)
+    {
+        m_categoryView = categories;
+        m_lastNodeIndex = 0;
+    }
 
     // Whether a file or folder is at path.
-    static bool FileFound(const QString& path);
+    static bool fileFound(const QString& path);
     // The default register: the program's folder followed by "/Kartella.mdb".
-    static QString DefaultDbLocation();
+    static QString defaultDbLocation();
 
     // Opens the settings dialog after a connection failure, once that dialog exists.
     std::function<void()> openSettings;
@@ -61,8 +67,8 @@ public:
     QAction* action(const QString& name) const;
     // The toolbar's button at a position (1 to 18), separators included.
     QAction* toolbarButton(int position) const;
-    QMenu* popUpMenu() const { return m_popUp; }
-    QMenu* popCatMenu() const { return m_popCat; }
+    QMenu* documentContextMenu() const { return m_documentMenu; }
+    QMenu* categoryContextMenu() const { return m_categoryMenu; }
     // Shows a context menu at a place on the screen (tests replace it to see what would pop up).
     std::function<void(QMenu*, const QPoint&)> popupMenu;
 
@@ -73,79 +79,79 @@ public:
     ListModel* relatedModel() const { return m_relatedModel; }
 
 public Q_SLOTS:
-    void cboDirection_Click();
-    void txtStartDate_Change();
-    void txtEndDate_Change();
-    void RefillByDates();
-    void acxTreeKategorijos_NodeClick(QTreeWidgetItem* node);
-    void ListDokSarasas_ItemClick(int row);
-    void ListSusieti_ItemClick(int row);
+    void onDirectionChanged();
+    void onStartDateChanged();
+    void onEndDateChanged();
+    void refillByDates();
+    void onNodeClicked(QTreeWidgetItem* node);
+    void onDocumentClicked(int row);
+    void onRelatedClicked(int row);
 
-    void FillCategoryTree();
-    void FillContactTree();
-    void FillRelatedList();
+    void fillCategoryTree();
+    void fillContactTree();
+    void fillRelatedList();
 
     // The document queries' entry points: each ends in a filled document list.
-    void modListDocum1(qint32 category, int direction);
-    void modListDocum12(qint32 category, int direction);
-    void modListDocum2(qint32 category, qint32 subCategory, int direction);
-    void modListDocum22(qint32 category, qint32 subCategory, int direction);
-    void ListByLetter(qint16 letterCode, int direction);
-    void ListByContact(int direction);
-    void ListByLetterDated(qint16 letterCode, int direction);
-    void ListByContactDated(int direction);
+    void listCategory(qint32 category, int direction);
+    void listCategoryWithinDates(qint32 category, int direction);
+    void listSubCategory(qint32 category, qint32 subCategory, int direction);
+    void listSubCategoryWithinDates(qint32 category, qint32 subCategory, int direction);
+    void listByLetter(qint16 letterCode, int direction);
+    void listByContact(int direction);
+    void listByLetterWithinDates(qint16 letterCode, int direction);
+    void listByContactWithinDates(int direction);
 
     // Command enabling by the selected item, and with no item selected.
-    void UpdateCommandState();
-    void DisableDocumentCommands();
+    void updateCommandState();
+    void disableDocumentCommands();
 
     // Commands of the menus, the toolbar and the context menus: one slot each.
-    void mnuNew_Click();
-    void mnuOpen_Click();
-    void mnuCopy_Click();
-    void mnuDelete_Click();
-    void mnuDeleteCategory_Click();
-    void mnuPrintSetup_Click();
-    void mnuPrint_Click();
-    void mnuRelated_Click();
-    void mnuShowDetails_Click();
-    void mnuProperties_Click();
-    void mnuExit_Click();
-    void mnuByCategory_Click();
-    void mnuByContacts_Click();
-    void mnuLargeIcons_Click();
-    void mnuSmallIcons_Click();
-    void mnuList_Click();
-    void mnuDetails_Click();
-    void mnubyName_Click();
-    void mnubyRegIndex_Click();
-    void mnubyCorrespondent_Click();
-    void mnubyDate_Click();
-    void mnuRefresh_Click();
-    void mnuCategoryOptions_Click();
+    void newDocument();
+    void openDocument();
+    void copyDocument();
+    void deleteSelected();
+    void deleteSelectedCategory();
+    void printSetup();
+    void printDocument();
+    void newRelatedDocument();
+    void showDetails();
+    void showProperties();
+    void exitProgram();
+    void viewByCategory();
+    void viewByContacts();
+    void viewLargeIcons();
+    void viewSmallIcons();
+    void viewList();
+    void viewDetails();
+    void arrangeByName();
+    void arrangeByRegIndex();
+    void arrangeByCorrespondent();
+    void arrangeByDate();
+    void refresh();
+    void editCategory();
 
-    void OpenDocumentFile(const QString& path, const QString& verb);
-    void DeleteDocument();
-    void DeleteCategory();
+    void openDocumentFile(const QString& path, const QString& verb);
+    void deleteDocument();
+    void deleteCategory();
 
-    void ListDokSarasas_ColumnClick(int column);
-    void ListSusieti_ColumnClick(int column);
-    void ListDokSarasas_DblClick();
-    void ListSusieti_DblClick();
-    void ListDokSarasas_MouseDown(Qt::MouseButton button, const QPoint& globalPos);
-    void ListSusieti_MouseDown(Qt::MouseButton button, const QPoint& globalPos);
-    void acxTreeKategorijos_MouseDown(Qt::MouseButton button, const QPoint& globalPos);
-    void ListDokSarasas_OLEDragDrop(const QStringList& paths);
+    void onDocumentColumnClicked(int column);
+    void onRelatedColumnClicked(int column);
+    void onDocumentDoubleClicked();
+    void onRelatedDoubleClicked();
+    void onDocumentListPressed(Qt::MouseButton button, const QPoint& globalPos);
+    void onRelatedListPressed(Qt::MouseButton button, const QPoint& globalPos);
+    void onTreePressed(Qt::MouseButton button, const QPoint& globalPos);
+    void onFilesDropped(const QStringList& paths);
 
 protected:
-    QToolBar* coolBar() const { return m_coolBar; }
+    QToolBar* band() const { return m_band; }
 
 private:
     void buildWindow();
     void buildMenus();
     void buildToolbar();
     void buildPopups();
-    QAction* addCommand(QMenu* menu, const QString& name, const QString& caption, void (Form2::*slot)(),
+    QAction* addCommand(QMenu* menu, const QString& name, const QString& caption, void (MainWindow::*slot)(),
         const QKeySequence& shortcut = {}, const QString& dialog = {});
     void setView(int view);
     void switchView(bool categories);
@@ -162,7 +168,9 @@ private:
     void showRelatedList(bool visible);
 
     SelectionState& m_state;
-    QToolBar* m_coolBar = nullptr;
+    bool m_categoryView = true;
+    int m_lastNodeIndex = 0;
+    QToolBar* m_band = nullptr;
     QComboBox* m_direction = nullptr;
     QDateEdit* m_startDate = nullptr;
     QDateEdit* m_endDate = nullptr;
@@ -182,9 +190,9 @@ private:
     QHash<QAction*, QString> m_actionDialogs;
     QHash<QString, DialogOpener> m_dialogs;
     QList<QAction*> m_toolbar; // positions 1 to 18
-    QMenu* m_popUp = nullptr;
-    QMenu* m_popCat = nullptr;
-    std::array<CSplitter*, 2> m_splitters = {};
+    QMenu* m_documentMenu = nullptr;
+    QMenu* m_categoryMenu = nullptr;
+    std::array<Splitter*, 2> m_splitters = {};
 };
 
 } // namespace kartella

@@ -1,6 +1,6 @@
-// Form2: the menu bar, the toolbar, the two context menus and the enabling of commands.
-#include "explorer/Form2.h"
-#include "explorer/SelectionState.h"
+// MainWindow: the menu bar, the toolbar, the two context menus and the enabling of commands.
+#include "explorer/MainWindow.h"
+#include "support/SelectionState.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -45,8 +45,8 @@ QIcon themed(const char* name, const char* fallback = "")
 
 } // namespace
 
-QAction* Form2::addCommand(QMenu* menu, const QString& name, const QString& caption, void (Form2::*slot)(),
-    const QKeySequence& shortcut, const QString& dialog)
+QAction* MainWindow::addCommand(QMenu* menu, const QString& name, const QString& caption,
+    void (MainWindow::*slot)(), const QKeySequence& shortcut, const QString& dialog)
 {
     auto* action = new QAction(caption, this);
     action->setObjectName(name);
@@ -65,17 +65,17 @@ QAction* Form2::addCommand(QMenu* menu, const QString& name, const QString& capt
     return action;
 }
 
-QAction* Form2::action(const QString& name) const
+QAction* MainWindow::action(const QString& name) const
 {
     return m_actions.value(name);
 }
 
-QAction* Form2::toolbarButton(int position) const
+QAction* MainWindow::toolbarButton(int position) const
 {
     return position >= 1 && position <= m_toolbar.size() ? m_toolbar[position - 1] : nullptr;
 }
 
-void Form2::setDialog(const QString& name, DialogOpener open)
+void MainWindow::setDialog(const QString& name, DialogOpener open)
 {
     m_dialogs.insert(name, std::move(open));
     for (auto it = m_actionDialogs.cbegin(); it != m_actionDialogs.cend(); ++it) {
@@ -84,13 +84,13 @@ void Form2::setDialog(const QString& name, DialogOpener open)
     }
 }
 
-void Form2::openDialog(const QString& name, const QString& droppedFile)
+void MainWindow::openDialog(const QString& name, const QString& droppedFile)
 {
     if (const DialogOpener open = m_dialogs.value(name))
         open(droppedFile);
 }
 
-void Form2::setCommandEnabled(const QString& name, bool enabled)
+void MainWindow::setCommandEnabled(const QString& name, bool enabled)
 {
     QAction* command = m_actions.value(name);
     if (!command)
@@ -105,7 +105,7 @@ void Form2::setCommandEnabled(const QString& name, bool enabled)
     command->setToolTip(tip.isEmpty() ? QString(command->text()).remove(u'&') : tip);
 }
 
-void Form2::setToolbarEnabled(std::initializer_list<int> positions, bool enabled)
+void MainWindow::setToolbarEnabled(std::initializer_list<int> positions, bool enabled)
 {
     for (int position : positions) {
         if (QAction* button = toolbarButton(position))
@@ -113,41 +113,41 @@ void Form2::setToolbarEnabled(std::initializer_list<int> positions, bool enabled
     }
 }
 
-void Form2::buildMenus()
+void MainWindow::buildMenus()
 {
     QMenuBar* bar = menuBar();
     QMenu* file = bar->addMenu(QStringLiteral("&File"));
     file->setObjectName(QStringLiteral("mnuFile"));
     file->setToolTipsVisible(true);
-    addCommand(file, QStringLiteral("mnuNew"), QStringLiteral("&New Document"), &Form2::mnuNew_Click,
+    addCommand(file, QStringLiteral("mnuNew"), QStringLiteral("&New Document"), &MainWindow::newDocument,
         QKeySequence(Qt::CTRL | Qt::Key_N), QStringLiteral("frmNewDocument"));
-    addCommand(file, QStringLiteral("mnuOpen"), QStringLiteral("&Open Document"), &Form2::mnuOpen_Click,
+    addCommand(file, QStringLiteral("mnuOpen"), QStringLiteral("&Open Document"), &MainWindow::openDocument,
         QKeySequence(Qt::CTRL | Qt::Key_O));
     file->addSeparator()->setObjectName(QStringLiteral("mnuHyper3"));
-    addCommand(file, QStringLiteral("mnuCopy"), QStringLiteral("&Copy Document"), &Form2::mnuCopy_Click,
+    addCommand(file, QStringLiteral("mnuCopy"), QStringLiteral("&Copy Document"), &MainWindow::copyDocument,
         QKeySequence(Qt::CTRL | Qt::Key_C), QStringLiteral("frmCopyFile"));
-    addCommand(file, QStringLiteral("mnuMove"), QStringLiteral("&Move Document"), &Form2::mnuCopy_Click,
+    addCommand(file, QStringLiteral("mnuMove"), QStringLiteral("&Move Document"), &MainWindow::copyDocument,
         QKeySequence(Qt::CTRL | Qt::Key_M), QStringLiteral("frmCopyFile"));
-    addCommand(file, QStringLiteral("mnuDelete"), QStringLiteral("&Delete Document"), &Form2::mnuDelete_Click,
-        QKeySequence(Qt::Key_Delete));
+    addCommand(file, QStringLiteral("mnuDelete"), QStringLiteral("&Delete Document"),
+        &MainWindow::deleteSelected, QKeySequence(Qt::Key_Delete));
     file->addSeparator()->setObjectName(QStringLiteral("mnuHyper4"));
     addCommand(file, QStringLiteral("mnuDeleteCategory"), QStringLiteral("De&lete Category"),
-        &Form2::mnuDeleteCategory_Click);
+        &MainWindow::deleteSelectedCategory);
     file->addSeparator()->setObjectName(QStringLiteral("mnuhyper6"));
     addCommand(
-        file, QStringLiteral("mnuPrintSetup"), QStringLiteral("Print Set&up"), &Form2::mnuPrintSetup_Click);
-    addCommand(file, QStringLiteral("mnuPrint"), QStringLiteral("&Print Document"), &Form2::mnuPrint_Click,
-        QKeySequence(Qt::CTRL | Qt::Key_P));
+        file, QStringLiteral("mnuPrintSetup"), QStringLiteral("Print Set&up"), &MainWindow::printSetup);
+    addCommand(file, QStringLiteral("mnuPrint"), QStringLiteral("&Print Document"),
+        &MainWindow::printDocument, QKeySequence(Qt::CTRL | Qt::Key_P));
     file->addSeparator()->setObjectName(QStringLiteral("mnuhypen1"));
     addCommand(file, QStringLiteral("mnuRelated"), QStringLiteral("Ne&w Related Document"),
-        &Form2::mnuRelated_Click, {}, QStringLiteral("frmRelated"));
+        &MainWindow::newRelatedDocument, {}, QStringLiteral("frmRelated"));
     file->addSeparator()->setObjectName(QStringLiteral("mnuHyper5"));
     addCommand(file, QStringLiteral("mnuShowDetails"), QStringLiteral("&Show Details"),
-        &Form2::mnuShowDetails_Click, QKeySequence(Qt::Key_F3), QStringLiteral("frmNew"));
+        &MainWindow::showDetails, QKeySequence(Qt::Key_F3), QStringLiteral("frmNew"));
     addCommand(file, QStringLiteral("mnuProperties"), QStringLiteral("P&roperties"),
-        &Form2::mnuProperties_Click, QKeySequence(Qt::Key_F4));
+        &MainWindow::showProperties, QKeySequence(Qt::Key_F4));
     file->addSeparator()->setObjectName(QStringLiteral("mnuhypen2"));
-    addCommand(file, QStringLiteral("mnuExit"), QStringLiteral("E&xit"), &Form2::mnuExit_Click);
+    addCommand(file, QStringLiteral("mnuExit"), QStringLiteral("E&xit"), &MainWindow::exitProgram);
     for (const char* name : {"mnuOpen", "mnuCopy", "mnuMove", "mnuDelete", "mnuDeleteCategory", "mnuPrint",
              "mnuRelated", "mnuShowDetails", "mnuProperties"})
         setCommandEnabled(QLatin1String(name), false);
@@ -156,19 +156,19 @@ void Form2::buildMenus()
     view->setObjectName(QStringLiteral("mnuView"));
     view->setToolTipsVisible(true);
     addCommand(
-        view, QStringLiteral("mnuByCategory"), QStringLiteral("By Category"), &Form2::mnuByCategory_Click)
+        view, QStringLiteral("mnuByCategory"), QStringLiteral("By Category"), &MainWindow::viewByCategory)
         ->setCheckable(true);
     addCommand(
-        view, QStringLiteral("mnuByContacts"), QStringLiteral("By Contacts"), &Form2::mnuByContacts_Click)
+        view, QStringLiteral("mnuByContacts"), QStringLiteral("By Contacts"), &MainWindow::viewByContacts)
         ->setCheckable(true);
     action(QStringLiteral("mnuByCategory"))->setChecked(true);
     view->addSeparator()->setObjectName(QStringLiteral("mnuHypen9"));
     addCommand(
-        view, QStringLiteral("mnuLargeIcons"), QStringLiteral("Lar&ge Icons"), &Form2::mnuLargeIcons_Click);
+        view, QStringLiteral("mnuLargeIcons"), QStringLiteral("Lar&ge Icons"), &MainWindow::viewLargeIcons);
     addCommand(
-        view, QStringLiteral("mnuSmallIcons"), QStringLiteral("S&mall Icons"), &Form2::mnuSmallIcons_Click);
-    addCommand(view, QStringLiteral("mnuList"), QStringLiteral("&List"), &Form2::mnuList_Click);
-    addCommand(view, QStringLiteral("mnuDetails"), QStringLiteral("&Details"), &Form2::mnuDetails_Click);
+        view, QStringLiteral("mnuSmallIcons"), QStringLiteral("S&mall Icons"), &MainWindow::viewSmallIcons);
+    addCommand(view, QStringLiteral("mnuList"), QStringLiteral("&List"), &MainWindow::viewList);
+    addCommand(view, QStringLiteral("mnuDetails"), QStringLiteral("&Details"), &MainWindow::viewDetails);
     for (const char* name : {"mnuLargeIcons", "mnuSmallIcons", "mnuList", "mnuDetails"})
         action(QLatin1String(name))->setCheckable(true);
     action(QStringLiteral("mnuDetails"))->setChecked(true);
@@ -176,17 +176,17 @@ void Form2::buildMenus()
     QMenu* arrange = view->addMenu(QStringLiteral("Arrange &Icons"));
     arrange->setObjectName(QStringLiteral("mnuArrangeIcons"));
     addCommand(arrange, QStringLiteral("mnubyName"), QStringLiteral("by &Document description"),
-        &Form2::mnubyName_Click);
+        &MainWindow::arrangeByName);
     addCommand(arrange, QStringLiteral("mnubyRegIndex"), QStringLiteral("by &Registration Index"),
-        &Form2::mnubyRegIndex_Click);
+        &MainWindow::arrangeByRegIndex);
     addCommand(arrange, QStringLiteral("mnubyCorrespondent"), QStringLiteral("by &Correspondent"),
-        &Form2::mnubyCorrespondent_Click);
-    addCommand(arrange, QStringLiteral("mnubyDate"), QStringLiteral("by D&ate"), &Form2::mnubyDate_Click);
+        &MainWindow::arrangeByCorrespondent);
+    addCommand(arrange, QStringLiteral("mnubyDate"), QStringLiteral("by D&ate"), &MainWindow::arrangeByDate);
     view->addSeparator()->setObjectName(QStringLiteral("mnuhypen6"));
-    addCommand(view, QStringLiteral("mnuRefresh"), QStringLiteral("&Refresh"), &Form2::mnuRefresh_Click,
+    addCommand(view, QStringLiteral("mnuRefresh"), QStringLiteral("&Refresh"), &MainWindow::refresh,
         QKeySequence(Qt::Key_F5));
     addCommand(view, QStringLiteral("mnuCategoryOptions"), QStringLiteral("&Category Options"),
-        &Form2::mnuCategoryOptions_Click, {}, QStringLiteral("frmCategory"));
+        &MainWindow::editCategory, {}, QStringLiteral("frmCategory"));
     setCommandEnabled(QStringLiteral("mnuCategoryOptions"), false);
 
     QMenu* go = bar->addMenu(QStringLiteral("&Go"));
@@ -240,12 +240,12 @@ void Form2::buildMenus()
         QStringLiteral("frmAbout"));
 }
 
-void Form2::buildToolbar()
+void MainWindow::buildToolbar()
 {
-    auto* toolbar = new QToolBar(QStringLiteral("Toolbar"), m_coolBar);
+    auto* toolbar = new QToolBar(QStringLiteral("Toolbar"), m_band);
     toolbar->setObjectName(QStringLiteral("Toolbar1"));
     toolbar->setIconSize(QSize(22, 22));
-    auto button = [&](const QString& key, const QString& tip, const char* icon, void (Form2::*slot)(),
+    auto button = [&](const QString& key, const QString& tip, const char* icon, void (MainWindow::*slot)(),
                       const QString& dialog = {}) {
         QAction* command
             = addCommand(nullptr, key, QString(tip).section(QStringLiteral(" ("), 0, 0), slot, {}, dialog);
@@ -265,33 +265,33 @@ void Form2::buildToolbar()
         m_toolbar << separator;
     };
     button(QStringLiteral("btnNewDocument"), QStringLiteral("New Document (Ctrl+N)"), "document-new",
-        &Form2::mnuNew_Click, QStringLiteral("frmNewDocument"));
+        &MainWindow::newDocument, QStringLiteral("frmNewDocument"));
     button(QStringLiteral("btnOpen"), QStringLiteral("Open Document (Ctrl+O)"), "document-open",
-        &Form2::mnuOpen_Click);
+        &MainWindow::openDocument);
     separator(QStringLiteral("firstSep"));
     button(QStringLiteral("btnCopy"), QStringLiteral("Copy Document (Ctrl+C)"), "edit-copy",
-        &Form2::mnuCopy_Click, QStringLiteral("frmCopyFile"));
+        &MainWindow::copyDocument, QStringLiteral("frmCopyFile"));
     button(QStringLiteral("btnMove"), QStringLiteral("Move Document (Ctrl+M)"), "go-jump",
-        &Form2::mnuCopy_Click, QStringLiteral("frmCopyFile"));
+        &MainWindow::copyDocument, QStringLiteral("frmCopyFile"));
     button(QStringLiteral("btnDelete"), QStringLiteral("Delete Document (Del)"), "edit-delete",
-        &Form2::mnuDelete_Click);
+        &MainWindow::deleteSelected);
     button(QStringLiteral("btnPrint"), QStringLiteral("Print (Ctrl+P)"), "document-print",
-        &Form2::mnuPrint_Click);
+        &MainWindow::printDocument);
     separator({});
     button(QStringLiteral("btnDetails"), QStringLiteral("Show Details (F3)"), "document-page-setup",
-        &Form2::mnuShowDetails_Click, QStringLiteral("frmNew"));
+        &MainWindow::showDetails, QStringLiteral("frmNew"));
     button(QStringLiteral("btnProperties"), QStringLiteral("Properties (F4)"), "document-properties",
-        &Form2::mnuProperties_Click);
+        &MainWindow::showProperties);
     separator({});
 
     // The view button: its face does nothing, its menu sets the view.
     auto* viewMenu = new QMenu(toolbar);
     viewMenu->setObjectName(QStringLiteral("btnViewMenu"));
-    const QList<std::tuple<QString, QString, void (Form2::*)()>> views = {
-        {QStringLiteral("btnLarge"), QStringLiteral("Lar&ge"), &Form2::mnuLargeIcons_Click},
-        {QStringLiteral("btnSmall"), QStringLiteral("&Small"), &Form2::mnuSmallIcons_Click},
-        {QStringLiteral("btnList"), QStringLiteral("&List"), &Form2::mnuList_Click},
-        {QStringLiteral("btnDetailsV"), QStringLiteral("&Details"), &Form2::mnuDetails_Click},
+    const QList<std::tuple<QString, QString, void (MainWindow::*)()>> views = {
+        {QStringLiteral("btnLarge"), QStringLiteral("Lar&ge"), &MainWindow::viewLargeIcons},
+        {QStringLiteral("btnSmall"), QStringLiteral("&Small"), &MainWindow::viewSmallIcons},
+        {QStringLiteral("btnList"), QStringLiteral("&List"), &MainWindow::viewList},
+        {QStringLiteral("btnDetailsV"), QStringLiteral("&Details"), &MainWindow::viewDetails},
     };
     for (const auto& [key, caption, slot] : views)
         addCommand(viewMenu, key, caption, slot);
@@ -317,46 +317,49 @@ void Form2::buildToolbar()
     button(QStringLiteral("btnContacts"), QStringLiteral("Address Book"), "x-office-address-book", nullptr,
         QStringLiteral("frmCoresp"));
     separator(QStringLiteral("btnSepar3"));
-    m_coolBar->insertWidget(m_coolBar->actions().value(0), toolbar);
+    m_band->insertWidget(m_band->actions().value(0), toolbar);
 }
 
-void Form2::buildPopups()
+void MainWindow::buildPopups()
 {
-    m_popUp = new QMenu(QStringLiteral("PopDoc"), this);
-    m_popUp->setObjectName(QStringLiteral("mnuPopUp"));
-    addCommand(m_popUp, QStringLiteral("mnuPopOpen"), QStringLiteral("&Open"), &Form2::mnuOpen_Click);
-    m_popUp->addSeparator()->setObjectName(QStringLiteral("mnuhypen11"));
-    addCommand(m_popUp, QStringLiteral("mnuPopCopy"), QStringLiteral("&Copy/Move"), &Form2::mnuCopy_Click, {},
-        QStringLiteral("frmCopyFile"));
-    addCommand(m_popUp, QStringLiteral("mnuPopDelete"), QStringLiteral("&Delete"), &Form2::mnuDelete_Click);
-    m_popUp->addSeparator()->setObjectName(QStringLiteral("mnuhypen12"));
-    addCommand(m_popUp, QStringLiteral("mnuPopPrint"), QStringLiteral("&Print"), &Form2::mnuPrint_Click);
-    m_popUp->addSeparator()->setObjectName(QStringLiteral("mnuhypen13"));
-    addCommand(m_popUp, QStringLiteral("mnuPopRelated"), QStringLiteral("Ne&w Related"),
-        &Form2::mnuRelated_Click, {}, QStringLiteral("frmRelated"));
-    QAction* hyphen14 = m_popUp->addSeparator();
+    m_documentMenu = new QMenu(QStringLiteral("PopDoc"), this);
+    m_documentMenu->setObjectName(QStringLiteral("mnuPopUp"));
+    addCommand(
+        m_documentMenu, QStringLiteral("mnuPopOpen"), QStringLiteral("&Open"), &MainWindow::openDocument);
+    m_documentMenu->addSeparator()->setObjectName(QStringLiteral("mnuhypen11"));
+    addCommand(m_documentMenu, QStringLiteral("mnuPopCopy"), QStringLiteral("&Copy/Move"),
+        &MainWindow::copyDocument, {}, QStringLiteral("frmCopyFile"));
+    addCommand(m_documentMenu, QStringLiteral("mnuPopDelete"), QStringLiteral("&Delete"),
+        &MainWindow::deleteSelected);
+    m_documentMenu->addSeparator()->setObjectName(QStringLiteral("mnuhypen12"));
+    addCommand(
+        m_documentMenu, QStringLiteral("mnuPopPrint"), QStringLiteral("&Print"), &MainWindow::printDocument);
+    m_documentMenu->addSeparator()->setObjectName(QStringLiteral("mnuhypen13"));
+    addCommand(m_documentMenu, QStringLiteral("mnuPopRelated"), QStringLiteral("Ne&w Related"),
+        &MainWindow::newRelatedDocument, {}, QStringLiteral("frmRelated"));
+    QAction* hyphen14 = m_documentMenu->addSeparator();
     hyphen14->setObjectName(QStringLiteral("mnuhypen14"));
     m_actions.insert(hyphen14->objectName(), hyphen14);
-    addCommand(m_popUp, QStringLiteral("mnuPopDetails"), QStringLiteral("&Show Details"),
-        &Form2::mnuShowDetails_Click, {}, QStringLiteral("frmNew"));
-    addCommand(m_popUp, QStringLiteral("mnuPopProperties"), QStringLiteral("P&roperties"),
-        &Form2::mnuProperties_Click);
-    m_popUp->setToolTipsVisible(true);
+    addCommand(m_documentMenu, QStringLiteral("mnuPopDetails"), QStringLiteral("&Show Details"),
+        &MainWindow::showDetails, {}, QStringLiteral("frmNew"));
+    addCommand(m_documentMenu, QStringLiteral("mnuPopProperties"), QStringLiteral("P&roperties"),
+        &MainWindow::showProperties);
+    m_documentMenu->setToolTipsVisible(true);
 
-    m_popCat = new QMenu(QStringLiteral("PopCat"), this);
-    m_popCat->setObjectName(QStringLiteral("mnuPopCat"));
-    addCommand(m_popCat, QStringLiteral("mnuPopCatNewDoc"), QStringLiteral("&New Document"),
-        &Form2::mnuNew_Click, {}, QStringLiteral("frmNewDocument"));
-    addCommand(
-        m_popCat, QStringLiteral("mnuPopCatDel"), QStringLiteral("&Delete"), &Form2::mnuDeleteCategory_Click);
-    addCommand(m_popCat, QStringLiteral("mnuPopCatEdit"), QStringLiteral("&Edit Details"),
-        &Form2::mnuCategoryOptions_Click, {}, QStringLiteral("frmCategory"));
-    m_popCat->setToolTipsVisible(true);
+    m_categoryMenu = new QMenu(QStringLiteral("PopCat"), this);
+    m_categoryMenu->setObjectName(QStringLiteral("mnuPopCat"));
+    addCommand(m_categoryMenu, QStringLiteral("mnuPopCatNewDoc"), QStringLiteral("&New Document"),
+        &MainWindow::newDocument, {}, QStringLiteral("frmNewDocument"));
+    addCommand(m_categoryMenu, QStringLiteral("mnuPopCatDel"), QStringLiteral("&Delete"),
+        &MainWindow::deleteSelectedCategory);
+    addCommand(m_categoryMenu, QStringLiteral("mnuPopCatEdit"), QStringLiteral("&Edit Details"),
+        &MainWindow::editCategory, {}, QStringLiteral("frmCategory"));
+    m_categoryMenu->setToolTipsVisible(true);
 }
 
-void Form2::UpdateCommandState()
+void MainWindow::updateCommandState()
 {
-    const bool path = !m_state.SelectedFilePath.isEmpty();
+    const bool path = !m_state.selectedFilePath.isEmpty();
     for (const char* name : {"mnuOpen", "mnuCopy", "mnuMove", "mnuPrint", "mnuProperties", "mnuPopCopy",
              "mnuPopOpen", "mnuPopPrint", "mnuPopProperties"})
         setCommandEnabled(QLatin1String(name), path);
@@ -365,7 +368,7 @@ void Form2::UpdateCommandState()
     setToolbarEnabled({6, 9}, true);
 }
 
-void Form2::DisableDocumentCommands()
+void MainWindow::disableDocumentCommands()
 {
     for (const char* name : {"mnuOpen", "mnuCopy", "mnuMove", "mnuDelete", "mnuPrint", "mnuRelated",
              "mnuShowDetails", "mnuProperties"})

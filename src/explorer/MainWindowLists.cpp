@@ -1,8 +1,8 @@
-// Form2: what the user does with the two lists and the tree besides a plain click.
+// MainWindow: what the user does with the two lists and the tree besides a plain click.
 #include "explorer/ExplorerList.h"
-#include "explorer/Form2.h"
 #include "explorer/ListModel.h"
-#include "explorer/SelectionState.h"
+#include "explorer/MainWindow.h"
+#include "support/SelectionState.h"
 
 #include <QAction>
 #include <QCoreApplication>
@@ -10,7 +10,7 @@
 
 namespace kartella {
 
-void Form2::sortColumn(ExplorerList* list, int column)
+void MainWindow::sortColumn(ExplorerList* list, int column)
 {
     ListModel* model = list->model();
     // The empty state has one column: the headers asked for aren't there.
@@ -27,77 +27,77 @@ void Form2::sortColumn(ExplorerList* list, int column)
     list->scrollToSelected();
 }
 
-void Form2::ListDokSarasas_ColumnClick(int column)
+void MainWindow::onDocumentColumnClicked(int column)
 {
     sortColumn(m_documents, column);
 }
 
-void Form2::ListSusieti_ColumnClick(int column)
+void MainWindow::onRelatedColumnClicked(int column)
 {
     sortColumn(m_related, column);
 }
 
-void Form2::mnubyName_Click()
+void MainWindow::arrangeByName()
 {
-    ListDokSarasas_ColumnClick(0);
+    onDocumentColumnClicked(0);
 }
 
-void Form2::mnubyRegIndex_Click()
+void MainWindow::arrangeByRegIndex()
 {
-    ListDokSarasas_ColumnClick(1);
+    onDocumentColumnClicked(1);
 }
 
-void Form2::mnubyCorrespondent_Click()
+void MainWindow::arrangeByCorrespondent()
 {
-    ListDokSarasas_ColumnClick(2);
+    onDocumentColumnClicked(2);
 }
 
-void Form2::mnubyDate_Click()
+void MainWindow::arrangeByDate()
 {
     // "by Date" sorts the column that bears the caption "Date".
-    ListDokSarasas_ColumnClick(3);
+    onDocumentColumnClicked(3);
 }
 
-void Form2::setView(int view)
+void MainWindow::setView(int view)
 {
-    m_documents->SetView(view);
-    m_related->SetView(view);
+    m_documents->setView(view);
+    m_related->setView(view);
     const char* const entries[] = {"mnuLargeIcons", "mnuSmallIcons", "mnuList", "mnuDetails"};
     for (int i = 0; i < 4; ++i)
         action(QLatin1String(entries[i]))->setChecked(i == view);
 }
 
-void Form2::mnuLargeIcons_Click()
+void MainWindow::viewLargeIcons()
 {
     setView(ExplorerList::LargeIcons);
 }
 
-void Form2::mnuSmallIcons_Click()
+void MainWindow::viewSmallIcons()
 {
     setView(ExplorerList::SmallIcons);
 }
 
-void Form2::mnuList_Click()
+void MainWindow::viewList()
 {
     setView(ExplorerList::List);
 }
 
-void Form2::mnuDetails_Click()
+void MainWindow::viewDetails()
 {
     setView(ExplorerList::Report);
 }
 
-void Form2::ListDokSarasas_DblClick()
+void MainWindow::onDocumentDoubleClicked()
 {
-    OpenDocumentFile(m_state.SelectedFilePath, QStringLiteral("open"));
+    openDocumentFile(m_state.selectedFilePath, QStringLiteral("open"));
 }
 
-void Form2::ListSusieti_DblClick()
+void MainWindow::onRelatedDoubleClicked()
 {
-    OpenDocumentFile(m_state.SelectedFilePath, QStringLiteral("open"));
+    openDocumentFile(m_state.selectedFilePath, QStringLiteral("open"));
 }
 
-void Form2::ListDokSarasas_MouseDown(Qt::MouseButton button, const QPoint& globalPos)
+void MainWindow::onDocumentListPressed(Qt::MouseButton button, const QPoint& globalPos)
 {
     if (button != Qt::RightButton)
         return;
@@ -106,33 +106,33 @@ void Form2::ListDokSarasas_MouseDown(Qt::MouseButton button, const QPoint& globa
         return;
     action(QStringLiteral("mnuPopRelated"))->setVisible(true);
     action(QStringLiteral("mnuhypen14"))->setVisible(true);
-    popupMenu(m_popUp, globalPos);
+    popupMenu(m_documentMenu, globalPos);
 }
 
-void Form2::ListSusieti_MouseDown(Qt::MouseButton button, const QPoint& globalPos)
+void MainWindow::onRelatedListPressed(Qt::MouseButton button, const QPoint& globalPos)
 {
     QCoreApplication::processEvents();
     if (button != Qt::RightButton)
         return;
     action(QStringLiteral("mnuPopRelated"))->setVisible(false);
     action(QStringLiteral("mnuhypen14"))->setVisible(false);
-    popupMenu(m_popUp, globalPos);
+    popupMenu(m_documentMenu, globalPos);
 }
 
-void Form2::acxTreeKategorijos_MouseDown(Qt::MouseButton button, const QPoint& globalPos)
+void MainWindow::onTreePressed(Qt::MouseButton button, const QPoint& globalPos)
 {
     if (button != Qt::RightButton)
         return;
-    if (m_state.CurrentCategoryId == 0) {
+    if (m_state.currentCategoryId == 0) {
         setCommandEnabled(QStringLiteral("mnuCategoryOptions"), false);
         setCommandEnabled(QStringLiteral("mnuDeleteCategory"), false);
         return;
     }
-    if (CategoryView)
-        popupMenu(m_popCat, globalPos);
+    if (m_categoryView)
+        popupMenu(m_categoryMenu, globalPos);
 }
 
-void Form2::ListDokSarasas_OLEDragDrop(const QStringList& paths)
+void MainWindow::onFilesDropped(const QStringList& paths)
 {
     // Each file opens the New Document dialog with its path in the Location box, one after another.
     if (!hasDialog(QStringLiteral("frmNewDocument")))
