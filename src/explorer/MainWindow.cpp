@@ -9,7 +9,6 @@
 #include "explorer/NavigationTree.h"
 #include "options/OptionStore.h"
 #include "platform/Prompter.h"
-#include "registration/NewDocumentDialog.h"
 #include "support/BusyCursor.h"
 #include "support/SelectionState.h"
 #include "support/Splitter.h"
@@ -126,12 +125,7 @@ void MainWindow::buildWindow()
     buildMenus();
     buildToolbar();
     buildPopups();
-    setDialog(QStringLiteral("frmNewDocument"), [this](const QString& file) {
-        NewDocumentDialog dialog(this);
-        if (!file.isEmpty())
-            dialog.setLocation(file);
-        dialog.exec();
-    });
+    registerDialogs();
 
     connect(m_tree, &NavigationTree::nodeClicked, this, &MainWindow::onNodeClicked);
     connect(m_tree, &NavigationTree::pressed, this, &MainWindow::onTreePressed);

@@ -151,6 +151,8 @@ private:
     void buildMenus();
     void buildToolbar();
     void buildPopups();
+    // Registers the dialog of each command that opens one.
+    void registerDialogs();
     QAction* addCommand(QMenu* menu, const QString& name, const QString& caption, void (MainWindow::*slot)(),
         const QKeySequence& shortcut = {}, const QString& dialog = {});
     void setView(int view);
