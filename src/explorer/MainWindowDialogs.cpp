@@ -1,7 +1,14 @@
 // MainWindow: the dialogs its commands open, each registered under its window's name.
 
+#include "dialogs/AboutDialog.h"
+#include "dialogs/SettingsDialog.h"
+#include "dialogs/SettingsStore.h"
 #include "explorer/MainWindow.h"
+#include "options/OptionStore.h"
 #include "registration/NewDocumentDialog.h"
+
+#include <QAction>
+#include <QLabel>
 
 namespace kartella {
 
@@ -11,6 +18,38 @@ void MainWindow::registerDialogs()
         NewDocumentDialog dialog(this);
         if (!file.isEmpty())
             dialog.setLocation(file);
+        dialog.exec();
+    });
+
+    // One settings window at a time; a new register location shows in the source panel and
+    // rebuilds the tree once the window has closed, as F5 would.
+    const auto settingsWindow = [this] {
+        if (auto* open
+            = findChild<SettingsDialog*>(QStringLiteral("frmSettings"), Qt::FindDirectChildrenOnly))
+            return open;
+        auto* dialog = new SettingsDialog(this);
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+        connect(dialog, &SettingsDialog::databaseLocationChanged, this, [this] {
+            m_source->setText(sourcePanelText(getRegValue(QStringLiteral("DbLocation"))));
+            QMetaObject::invokeMethod(
+                action(QStringLiteral("mnuRefresh")), &QAction::trigger, Qt::QueuedConnection);
+        });
+        return dialog;
+    };
+    setDialog(QStringLiteral("frmSettings"), [settingsWindow](const QString&) {
+        SettingsDialog* dialog = settingsWindow();
+        dialog->show();
+        dialog->raise();
+        dialog->activateWindow();
+    });
+    openSettings = [settingsWindow] {
+        SettingsDialog* dialog = settingsWindow();
+        dialog->hide();
+        dialog->exec();
+    };
+
+    setDialog(QStringLiteral("frmAbout"), [this](const QString&) {
+        AboutDialog dialog(this);
         dialog.exec();
     });
 }

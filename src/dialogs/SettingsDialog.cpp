@@ -1,0 +1,426 @@
+#include "dialogs/SettingsDialog.h"
+
+#include "base/Error.h"
+#include "dialogs/SettingsStore.h"
+#include "options/OptionStore.h"
+#include "platform/Prompter.h"
+#include "registration/RegIndex.h"
+#include "registration/ValueConversions.h"
+#include "support/EnterAsTab.h"
+#include "support/ShellDialogs.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace kartella {
+
+namespace {
+
+QLabel* makeLabel(const QString& name, const QString& caption, QWidget* buddy, QWidget* parent)
+{
+    auto* label = new QLabel(caption, parent);
+    label->setObjectName(name);
+    label->setBuddy(buddy);
+    return label;
+}
+
+QCheckBox* makeCheckBox(const QString& name, const QString& caption, QWidget* parent)
+{
+    auto* box = new QCheckBox(caption, parent);
+    box->setObjectName(name);
+    return box;
+}
+
+// A flag or index option that can't be read counts as 0 (false, no button).
+bool flagOption(const char* name)
+{
+    try {
+        return toTruthValue(getRegValue(QString::fromLatin1(name)));
+    } catch (const Error&) {
+        return false;
+    }
+}
+
+int indexOption(const char* name)
+{
+    try {
+        return toInteger16(getRegValue(QString::fromLatin1(name)));
+    } catch (const Error&) {
+        return 0;
+    }
+}
+
+void selectButton(QButtonGroup* group, int id)
+{
+    if (QAbstractButton* button = group->button(id))
+        button->setChecked(true);
+}
+
+} // namespace
+
+SettingsDialog::SettingsDialog(QWidget* parent)
+    : QDialog(parent)
+{
+    setObjectName(QStringLiteral("frmSettings"));
+    setWindowTitle(QStringLiteral("Application Settings"));
+
+    m_tabs = new QTabWidget(this);
+    m_tabs->setObjectName(QStringLiteral("SSTab1"));
+    m_tabs->addTab(buildDefaultFolderTab(), QStringLiteral("Default Folder"));
+    m_tabs->addTab(buildAddressTab(), QStringLiteral("Your Address"));
+    m_tabs->addTab(buildIndexTab(), QStringLiteral("Registration Index"));
+    m_tabs->addTab(buildDatabaseTab(), QStringLiteral("Database Location"));
+    m_tabs->addTab(buildFileNameTab(), QStringLiteral("File Name"));
+
+    auto* buttons = new QDialogButtonBox(this);
+    m_ok = buttons->addButton(QStringLiteral("OK"), QDialogButtonBox::AcceptRole);
+    m_ok->setObjectName(QStringLiteral("btnOk"));
+    m_ok->setDefault(true);
+    m_cancel = buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
+    m_cancel->setObjectName(QStringLiteral("btnCancel"));
+    connect(m_ok, &QPushButton::clicked, this, &SettingsDialog::save);
+    connect(m_cancel, &QPushButton::clicked, this, &SettingsDialog::cancel);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_tabs);
+    layout->addWidget(buttons);
+
+    m_keys = new EnterAsTab(this);
+    m_keys->onEscape([this] {
+        askBeforeClosing();
+        return true;
+    });
+
+    connectEvents();
+    load();
+}
+
+SettingsDialog::~SettingsDialog() = default;
+
+QLineEdit* SettingsDialog::addTextBox(const QString& name, const QString& accessibleName)
+{
+    auto* box = new QLineEdit(this);
+    box->setObjectName(name);
+    if (!accessibleName.isEmpty())
+        box->setAccessibleName(accessibleName);
+    return box;
+}
+
+QWidget* SettingsDialog::buildDefaultFolderTab()
+{
+    auto* page = new QWidget(this);
+    m_defaultFolder = addTextBox(QStringLiteral("visidok"), QStringLiteral("Default folder"));
+    auto* choose = new QPushButton(QStringLiteral("Default Folder"), page);
+    choose->setObjectName(QStringLiteral("btnDefaultFolder"));
+    choose->setToolTip(QStringLiteral("Location of New Documents"));
+    choose->setAutoDefault(false);
+    connect(choose, &QPushButton::clicked, this, &SettingsDialog::chooseDefaultFolder);
+    m_filterByDate = makeCheckBox(QStringLiteral("FilterByDate"), QStringLiteral("Filter by Date  On"), page);
+    m_network = makeCheckBox(QStringLiteral("network"), QStringLiteral("Network"), page);
+
+    auto* folderRow = new QHBoxLayout;
+    folderRow->addWidget(m_defaultFolder, 1);
+    folderRow->addWidget(choose);
+    auto* layout = new QVBoxLayout(page);
+    layout->addLayout(folderRow);
+    layout->addWidget(m_filterByDate);
+    layout->addWidget(m_network);
+    layout->addStretch(1);
+    return page;
+}
+
+QWidget* SettingsDialog::buildAddressTab()
+{
+    auto* page = new QWidget(this);
+    auto* form = new QFormLayout(page);
+    const auto addRow = [&](const QString& name, const QString& label, const QString& caption) {
+        QLineEdit* box = addTextBox(name);
+        form->addRow(makeLabel(label, caption, box, page), box);
+        return box;
+    };
+    m_name = addRow(QStringLiteral("name"), QStringLiteral("Label5"), QStringLiteral("Name:"));
+    m_street = addRow(QStringLiteral("address"), QStringLiteral("Label6"), QStringLiteral("Street:"));
+    m_city = addRow(QStringLiteral("city"), QStringLiteral("Label7"), QStringLiteral("City:"));
+    m_country = addRow(QStringLiteral("Country"), QStringLiteral("Label8"), QStringLiteral("Country:"));
+    m_state = addRow(QStringLiteral("State"), QStringLiteral("Label9"), QStringLiteral("State/Province:"));
+    m_postalCode
+        = addRow(QStringLiteral("post"), QStringLiteral("Label10"), QStringLiteral("Zip/Postal Code:"));
+    m_company = addRow(QStringLiteral("txtCompany"), QStringLiteral("Label11"), QStringLiteral("Company:"));
+    return page;
+}
+
+QWidget* SettingsDialog::buildIndexTab()
+{
+    auto* page = new QWidget(this);
+
+    auto* index = new QGroupBox(QStringLiteral("Reg. Index"), page);
+    m_createIndexAuto
+        = makeCheckBox(QStringLiteral("chkCreateIndexAuto"), QStringLiteral("Create Automatically"), index);
+    m_useMnemonic = makeCheckBox(QStringLiteral("chkUseMnemonic"), QStringLiteral("Use Mnemonic"), index);
+    auto* indexLayout = new QVBoxLayout(index);
+    indexLayout->addWidget(m_createIndexAuto);
+    indexLayout->addWidget(m_useMnemonic);
+
+    auto* separators = new QGroupBox(QStringLiteral("Separators"), page);
+    m_separator1 = addTextBox(QStringLiteral("Separ1"));
+    m_separator2 = addTextBox(QStringLiteral("Separ2"));
+    auto* separatorLayout = new QFormLayout(separators);
+    separatorLayout->addRow(
+        makeLabel(QStringLiteral("Label2"), QStringLiteral("Separator1"), m_separator1, separators),
+        m_separator1);
+    separatorLayout->addRow(
+        makeLabel(QStringLiteral("Label3"), QStringLiteral("Separator2"), m_separator2, separators),
+        m_separator2);
+
+    auto* dateStyle = new QGroupBox(QStringLiteral("Date Style"), page);
+    auto* styleLayout = new QVBoxLayout(dateStyle);
+    m_dateStyles = new QButtonGroup(this);
+    const QStringList styles
+        = {QStringLiteral("yyyymmdd"), QStringLiteral("mmddyyyy"), QStringLiteral("ddmmyyyy"),
+            QStringLiteral("yymmdd"), QStringLiteral("mmddyy"), QStringLiteral("ddmmyy")};
+    for (int style = 1; style <= styles.size(); ++style) {
+        auto* button = new QRadioButton(styles[style - 1], dateStyle);
+        button->setObjectName(QStringLiteral("Option_%1").arg(style));
+        m_dateStyles->addButton(button, style);
+        styleLayout->addWidget(button);
+    }
+
+    m_sample = addTextBox(QStringLiteral("txtSample"));
+    m_sample->setReadOnly(true);
+    auto* sampleLabel = makeLabel(QStringLiteral("Label4"), QStringLiteral("Sample"), m_sample, page);
+
+    auto* grid = new QGridLayout(page);
+    grid->addWidget(index, 0, 0);
+    grid->addWidget(separators, 1, 0);
+    grid->addWidget(dateStyle, 0, 1, 2, 1);
+    grid->addWidget(sampleLabel, 2, 0);
+    grid->addWidget(m_sample, 3, 0, 1, 2);
+    grid->setRowStretch(4, 1);
+    return page;
+}
+
+QWidget* SettingsDialog::buildDatabaseTab()
+{
+    auto* page = new QWidget(this);
+    m_dbType = new QComboBox(page);
+    m_dbType->setObjectName(QStringLiteral("cboDbType"));
+    m_dbType->setEditable(true);
+    m_dbType->setInsertPolicy(QComboBox::NoInsert);
+    m_dbType->addItems({QStringLiteral("MS Access 2000"), QStringLiteral("MS Access 97")});
+    m_dbType->setCurrentIndex(-1);
+    m_dbLocation = addTextBox(QStringLiteral("txtDbLocation"), QStringLiteral("Database file"));
+    auto* choose = new QPushButton(QStringLiteral("Database File"), page);
+    choose->setObjectName(QStringLiteral("btnDbName"));
+    choose->setAutoDefault(false);
+    connect(choose, &QPushButton::clicked, this, &SettingsDialog::chooseDatabaseFile);
+
+    auto* locationRow = new QHBoxLayout;
+    locationRow->addWidget(m_dbLocation, 1);
+    locationRow->addWidget(choose);
+    auto* layout = new QVBoxLayout(page);
+    layout->addWidget(makeLabel(QStringLiteral("Label1"), QStringLiteral("Database Type:"), m_dbType, page));
+    layout->addWidget(m_dbType);
+    layout->addLayout(locationRow);
+    layout->addStretch(1);
+    return page;
+}
+
+QWidget* SettingsDialog::buildFileNameTab()
+{
+    auto* page = new QWidget(this);
+    auto* frame = new QGroupBox(QStringLiteral("The File Name of New Document "), page);
+    auto* frameLayout = new QVBoxLayout(frame);
+    m_fileNames = new QButtonGroup(this);
+    const QStringList systems = {QStringLiteral("Mnemonic+Number"),
+        QStringLiteral("First 25 letters of document Description+Number"),
+        QStringLiteral("Like Registration Index")};
+    for (int system = 0; system < systems.size(); ++system) {
+        auto* button = new QRadioButton(systems[system], frame);
+        button->setObjectName(QStringLiteral("optFileName_%1").arg(system));
+        m_fileNames->addButton(button, system);
+        frameLayout->addWidget(button);
+    }
+    const auto addText = [page](const QString& name, const QString& text) {
+        auto* label = new QLabel(text, page);
+        label->setObjectName(name);
+        label->setWordWrap(true);
+        return label;
+    };
+    auto* layout = new QVBoxLayout(page);
+    layout->addWidget(addText(QStringLiteral("Label14"),
+        QStringLiteral(
+            "For File Names of New Documents you can use three different naming systems. Select one, "
+            "that you like, please.")));
+    layout->addWidget(frame);
+    layout->addWidget(addText(QStringLiteral("Label12"), QStringLiteral("Sample:  AGR00001.doc")));
+    layout->addWidget(addText(QStringLiteral("Label13"), QStringLiteral("Sample:  DocDescription125.doc")));
+    layout->addStretch(1);
+    return page;
+}
+
+void SettingsDialog::connectEvents()
+{
+    // Stored at once, shown in the sample, counted as a change.
+    connect(m_separator1, &QLineEdit::textChanged, this, [this](const QString& text) {
+        setRegValue(QStringLiteral("Separator1"), text);
+        refreshSample();
+        markChanged();
+    });
+    connect(m_separator2, &QLineEdit::textChanged, this, [this](const QString& text) {
+        setRegValue(QStringLiteral("Separator2"), text);
+        refreshSample();
+        markChanged();
+    });
+    connect(m_useMnemonic, &QCheckBox::toggled, this, [this](bool checked) {
+        setRegValue(QStringLiteral("UseMnemonic"), checked ? 1 : 0);
+        refreshSample();
+        markChanged();
+    });
+    // Stored at once without counting as a change: Esc closes without a question.
+    connect(m_createIndexAuto, &QCheckBox::toggled, this,
+        [](bool checked) { setRegValue(QStringLiteral("AutoRegIndex"), checked ? 1 : 0); });
+    connect(m_dateStyles, &QButtonGroup::idToggled, this, [this](int style, bool checked) {
+        if (!checked)
+            return;
+        setRegValue(QStringLiteral("IndexStyle"), style);
+        refreshSample();
+    });
+    connect(m_fileNames, &QButtonGroup::idToggled, this, [](int system, bool checked) {
+        if (checked)
+            setRegValue(QStringLiteral("FileName"), system);
+    });
+    // Written by OK only; these count as a change.
+    for (QLineEdit* box : {m_defaultFolder, m_name, m_street, m_city, m_country, m_postalCode})
+        connect(box, &QLineEdit::textChanged, this, &SettingsDialog::markChanged);
+    connect(m_dbType->lineEdit(), &QLineEdit::textEdited, this, [this] {
+        m_typedDatabaseType = true;
+        markChanged();
+    });
+    connect(m_dbType, &QComboBox::activated, this, [this] { m_typedDatabaseType = false; });
+    connect(m_dbLocation, &QLineEdit::textChanged, this, [this] {
+        markChanged();
+        m_databaseChanged = true;
+    });
+}
+
+void SettingsDialog::load()
+{
+    // 1. The ini file's keys; a missing key shows the ini file's default.
+    m_defaultFolder->setText(getIniValue(QStringLiteral("AllDocs")));
+    m_company->setText(getIniValue(QStringLiteral("Company")));
+    m_name->setText(getIniValue(QStringLiteral("Name")));
+    m_street->setText(getIniValue(QStringLiteral("Address")));
+    m_city->setText(getIniValue(QStringLiteral("City")));
+    m_country->setText(getIniValue(QStringLiteral("Country")));
+    m_state->setText(getIniValue(QStringLiteral("State")));
+    m_postalCode->setText(getIniValue(QStringLiteral("Postal_Code")));
+    // 2 to 4 go through the controls' reactions, which store the values again.
+    m_separator1->setText(getRegValue(QStringLiteral("Separator1")));
+    m_separator2->setText(getRegValue(QStringLiteral("Separator2")));
+    m_useMnemonic->setChecked(flagOption("UseMnemonic"));
+    m_createIndexAuto->setChecked(flagOption("AutoRegIndex"));
+    selectButton(m_dateStyles, indexOption("IndexStyle"));
+    selectButton(m_fileNames, indexOption("FileName"));
+    // A reaction doesn't run when a value equals the control's empty start.
+    refreshSample();
+    // 5 to 7.
+    m_dbType->setCurrentIndex(listIndexForProvider(getRegValue(QStringLiteral("Provider"))));
+    m_typedDatabaseType = false;
+    m_dbLocation->setText(getRegValue(QStringLiteral("DbLocation")));
+    m_filterByDate->setChecked(flagOption("Filter"));
+    m_network->setChecked(flagOption("Network"));
+    // 8. The load itself is no change.
+    m_settingsChanged = false;
+    m_databaseChanged = false;
+}
+
+void SettingsDialog::refreshSample()
+{
+    try {
+        m_sample->setText(regIndexSample());
+    } catch (const Error&) {
+        m_sample->clear();
+    }
+}
+
+int SettingsDialog::databaseTypeIndex() const
+{
+    return m_typedDatabaseType ? -1 : m_dbType->currentIndex();
+}
+
+void SettingsDialog::chooseDefaultFolder()
+{
+    const QString folder = chooseFolder(QStringLiteral("Select the Default Folder for new documents"));
+    if (folder.isEmpty())
+        return;
+    m_defaultFolder->setText(folder);
+    markChanged();
+}
+
+void SettingsDialog::chooseDatabaseFile()
+{
+    const QString file = showOpenDialog({QStringLiteral("Select the Database File"), {},
+        QStringLiteral("Access databases (*.mdb)"), QStringLiteral("*.mdb")});
+    if (!file.isEmpty())
+        m_dbLocation->setText(file);
+}
+
+void SettingsDialog::save()
+{
+    ConfirmedSettings settings;
+    settings.defaultFolder = m_defaultFolder->text();
+    settings.filterByDate = m_filterByDate->isChecked();
+    settings.network = m_network->isChecked();
+    settings.company = m_company->text();
+    settings.name = m_name->text();
+    settings.address = m_street->text();
+    settings.city = m_city->text();
+    settings.country = m_country->text();
+    settings.state = m_state->text();
+    settings.postalCode = m_postalCode->text();
+    settings.databaseType = databaseTypeIndex();
+    settings.dbLocation = m_dbLocation->text();
+    if (!writeConfirmedSettings(settings))
+        msgBox(QStringLiteral("Unable to write the settings file ") + iniFilePath());
+
+    // The main window answers after this dialog has closed: its refresh is queued.
+    if (m_databaseChanged)
+        Q_EMIT databaseLocationChanged();
+    m_settingsChanged = false;
+    m_databaseChanged = false;
+    accept();
+}
+
+void SettingsDialog::cancel()
+{
+    reject();
+}
+
+void SettingsDialog::askBeforeClosing()
+{
+    if (!m_settingsChanged) {
+        cancel();
+        return;
+    }
+    const int answer = msgBox(
+        QStringLiteral(
+            "You have settings changes that have not applied.\r\n\r\nDo you want to apply these now?"),
+        MsgBoxStyle::YesNoCancel | MsgBoxStyle::Exclamation, QStringLiteral("Warning"));
+    if (answer == MsgBoxResult::Yes)
+        save();
+    else if (answer == MsgBoxResult::No)
+        cancel();
+}
+
+} // namespace kartella

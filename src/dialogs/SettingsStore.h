@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QString>
+
+namespace kartella {
+
+// The settings the settings dialog writes only when it is confirmed: the ini file's keys
+// and the options Provider, Filter, Network and DbLocation.
+struct ConfirmedSettings
+{
+    QString defaultFolder; // ini "AllDocs"
+    bool filterByDate = false;
+    bool network = false;
+    QString company;
+    QString name;
+    QString address;
+    QString city;
+    QString country;
+    QString state;
+    QString postalCode;
+    // The list index of the database type: 0 or 1 picks a provider, anything else keeps it.
+    int databaseType = -1;
+    QString dbLocation;
+};
+
+// The provider of the database type at listIndex (0 "Microsoft.Jet.OLEDB.4.0", 1
+// "Microsoft.Jet.OLEDB.3.51"); empty text for any other index.
+QString providerForListIndex(int listIndex);
+// The list index of provider: 0, 1, or -1 when it is neither of the two.
+int listIndexForProvider(const QString& provider);
+
+// A check box's value as the ini file keeps it: " 1" or " 0".
+QString iniCheckBoxText(bool checked);
+
+// Writes the settings: the ini keys of section "DocContr" one after another (AllDocs,
+// FilterByDateOn, Network, Company, Name, Address, City, Country, State, Postal_Code), then
+// Provider (only for list index 0 or 1), Filter, Network and DbLocation. Values go out
+// exactly as given. Returns false when the ini file could not be written; the options
+// are written all the same.
+bool writeConfirmedSettings(const ConfirmedSettings& settings);
+
+// The text of the status bar's source panel for a register location.
+QString sourcePanelText(const QString& dbLocation);
+
+} // namespace kartella
