@@ -377,8 +377,11 @@ private Q_SLOTS:
         ScriptedPrompter prompter;
         prompter.answer(MsgBoxResult::Ok);
         MainWindow w;
+        int settingsOpened = 0;
+        w.openSettings = [&settingsOpened] { ++settingsOpened; };
         w.show();
         w.load();
+        QCOMPARE(settingsOpened, 1);
         // The missing file gives way to the default, which isn't there either.
         QCOMPARE(getRegValue("DbLocation"), MainWindow::defaultDbLocation());
         QCOMPARE(prompter.prompts().size(), 1);
