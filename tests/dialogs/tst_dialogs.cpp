@@ -309,6 +309,27 @@ private Q_SLOTS:
         QCOMPARE(getIniValue("AllDocs"), "C:\\Docs\\");
     }
 
+    // The folder chooser: Cancel leaves the box; a folder goes into it as a change.
+    void defaultFolderFromChooser()
+    {
+        TestRegister reg;
+        ScriptedPrompter prompter;
+        Settings s;
+        prompter.answerFolder(QString());
+        s.press("btnDefaultFolder");
+        QCOMPARE(s.control<QLineEdit>("visidok")->text(), iniDefaultValue());
+        QVERIFY(!s.dialog.settingsChanged());
+        prompter.answerFolder("/srv/docs");
+        s.press("btnDefaultFolder");
+        QCOMPARE(prompter.folderPrompts,
+            QStringList({"Select the Default Folder for new documents",
+                "Select the Default Folder for new documents"}));
+        QCOMPARE(s.control<QLineEdit>("visidok")->text(), "/srv/docs");
+        QVERIFY(s.dialog.settingsChanged());
+        s.press("btnOk");
+        QCOMPARE(getIniValue("AllDocs"), "/srv/docs");
+    }
+
     // The provider follows a picked item only; typed text or an unknown provider keep it.
     void databaseType_data()
     {
