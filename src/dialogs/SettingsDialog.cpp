@@ -102,6 +102,8 @@ SettingsDialog::SettingsDialog(QWidget* parent)
         return true;
     });
 
+    resize(600, 420);
+
     connectEvents();
     load();
 }
