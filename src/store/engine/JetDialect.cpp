@@ -142,16 +142,17 @@ private:
             if (isPunct(next, u'.') || isWord(next, u"COLLATE"))
                 continue;
             qsizetype before = previousSolid(i);
-            const bool compared
-                = isOrderingOperator(next) || isWord(next, u"BETWEEN") || isOrderingOperator(before);
             if (isPunct(before, u'.'))
                 before = previousSolid(previousSolid(before));
+            const bool compared
+                = isOrderingOperator(next) || isWord(next, u"BETWEEN") || isOrderingOperator(before);
             const bool orderTerm = inOrderBy.back() && (isWord(before, u"BY") || isPunct(before, u','))
                 && (next >= size() || isPunct(next, u',') || isPunct(next, u')') || isPunct(next, u';')
                     || isWord(next, u"ASC") || isWord(next, u"DESC") || isWord(next, u"NULLS")
                     || isWord(next, u"LIMIT"));
             if (compared || orderTerm)
-                m_replace[i] = tokenText(m_text, m_tokens[i]).toString() + NameCollationClause;
+                m_replace[i] = (m_replace[i] ? *m_replace[i] : tokenText(m_text, m_tokens[i]).toString())
+                    + NameCollationClause;
         }
     }
 
