@@ -6,11 +6,8 @@ namespace kartella {
 
 class Connection;
 
-// The collation that name columns carry: case and the Lithuanian letters fold onto their
-// base letters (Ą→A, Č→C, Ę/Ė→E, Į→I, Š→S, Ų/Ū→U, Ž→Z) when rows are ordered by name.
-inline constexpr const char* NameCollation = "NAMEFOLD";
-
-// Makes the register's tables, keys, views and triggers on an open, empty connection.
+// Makes the register's tables, keys, views and triggers on an open, empty connection, in
+// their newest form, and sets the register's schema version.
 void createRegisterSchema(Connection& connection);
 
 // Creates a new, empty register file at path; refuses (kartella::Error) when a file is

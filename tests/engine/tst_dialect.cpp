@@ -68,6 +68,32 @@ private Q_SLOTS:
         QTest::newRow("right join among joins")
             << "SELECT a.x FROM a RIGHT JOIN b ON a.i=b.i LEFT JOIN c ON c.i=b.i"
             << "SELECT a.x FROM a RIGHT JOIN b ON a.i=b.i LEFT JOIN c ON c.i=b.i";
+        QTest::newRow("names ordered")
+            << "SELECT ContactID, FullName AS FN FROM tbl_Contacts WHERE FullName <> '\"' ORDER BY FullName;"
+            << "SELECT ContactID, FullName AS FN FROM tbl_Contacts WHERE FullName <> '\"' ORDER BY FullName "
+               "COLLATE NAMEFOLD";
+        QTest::newRow("qualified names, several terms")
+            << "SELECT a FROM t ORDER BY tbl_Document_Categories.DokKategorija DESC, `CompanyName`, x, "
+               "t.DokSubKategorija"
+            << "SELECT a FROM t ORDER BY tbl_Document_Categories.DokKategorija COLLATE NAMEFOLD DESC, "
+               "\"CompanyName\" COLLATE NAMEFOLD, x, t.DokSubKategorija COLLATE NAMEFOLD";
+        QTest::newRow("names compared") << "DELETE t.* FROM t WHERE FullName >= 'A' AND 'B' > t.FullName AND "
+                                           "DokKategorija BETWEEN 'a' AND 'b'"
+                                        << "DELETE FROM t WHERE FullName COLLATE NAMEFOLD >= 'A' AND 'B' > "
+                                           "t.FullName COLLATE NAMEFOLD AND "
+                                           "DokKategorija COLLATE NAMEFOLD BETWEEN 'a' AND 'b'";
+        QTest::newRow("names in a subquery, expression or set list")
+            << "UPDATE t SET FullName = 'x' WHERE k IN (SELECT k FROM c ORDER BY FullName LIMIT 1) "
+               "AND upper(FullName) < 'M' ORDER BY FullName || 'x'"
+            << "UPDATE t SET FullName = 'x' WHERE k IN (SELECT k FROM c ORDER BY FullName COLLATE NAMEFOLD "
+               "LIMIT 1) AND upper(FullName) < 'M' ORDER BY FullName || 'x'";
+        QTest::newRow("names left alone") << "SELECT FullName, CompanyName FROM t GROUP BY FullName ORDER BY "
+                                             "FullName COLLATE NOCASE, 2"
+                                          << "SELECT FullName, CompanyName FROM t GROUP BY FullName ORDER BY "
+                                             "FullName COLLATE NOCASE, 2";
+        QTest::newRow("schema statements untouched")
+            << "CREATE VIEW v AS SELECT FullName FROM t ORDER BY FullName"
+            << "CREATE VIEW v AS SELECT FullName FROM t ORDER BY FullName";
         QTest::newRow("not a date") << "SELECT '#' || x, #abc# FROM t"
                                     << "SELECT '#' || x, #abc# FROM t";
     }

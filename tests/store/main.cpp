@@ -7,12 +7,14 @@ int runLookupsTest(int argc, char** argv);
 int runStatementsTest(int argc, char** argv);
 int runSampleTest(int argc, char** argv);
 int runToolTest(int argc, char** argv);
+int runPlainRegisterTest(int argc, char** argv);
 
 int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
     int failures = 0;
-    for (const auto run : {runSchemaTest, runLookupsTest, runStatementsTest, runSampleTest, runToolTest})
+    for (const auto run :
+        {runSchemaTest, runLookupsTest, runStatementsTest, runSampleTest, runToolTest, runPlainRegisterTest})
         failures += run(argc, argv);
     return failures;
 }

@@ -22,6 +22,7 @@ QString usageText()
     return QStringLiteral("Usage: kartella-db create PATH\n"
                           "       kartella-db sample PATH [--documents N] [--seed S]\n"
                           "       kartella-db info PATH\n"
+                          "       kartella-db upgrade PATH\n"
                           "       kartella-db --help\n"
                           "\n"
                           "  create   makes a new, empty register at PATH (an existing file is refused)\n"
@@ -29,6 +30,8 @@ QString usageText()
                           "           its files go into the folder \"<name> files\" beside it\n"
                           "           (N documents, default 400; the same seed S gives the same data)\n"
                           "  info     counts the rows of each table of the register at PATH\n"
+                          "  upgrade  brings the register at PATH, made by an earlier Kartella, to this\n"
+                          "           version's form, keeping every row\n"
                           "\n"
                           "Exit codes: 0 success, 1 failure, 2 usage error.\n");
 }
@@ -53,6 +56,8 @@ std::optional<Invocation> parseArguments(const QStringList& arguments, QString& 
         invocation.command = Invocation::Command::Sample;
     else if (command == u"info")
         invocation.command = Invocation::Command::Info;
+    else if (command == u"upgrade")
+        invocation.command = Invocation::Command::Upgrade;
     else {
         problem = QStringLiteral("unknown command \"") + command + u'"';
         return std::nullopt;

@@ -1,6 +1,7 @@
 // kartella-db: makes registers, fills them with sample data and tells what they hold.
 #include "Arguments.h"
 #include "Commands.h"
+#include "UpgradeCommand.h"
 #include "base/Error.h"
 
 #include <QCoreApplication>
@@ -38,6 +39,9 @@ int Run(const Invocation& invocation)
         break;
     case Invocation::Command::Info:
         infoCommand(invocation.path, out);
+        break;
+    case Invocation::Command::Upgrade:
+        upgradeCommand(invocation.path, out);
         break;
     }
     return ExitSuccess;

@@ -10,6 +10,11 @@ namespace kartella::engine {
 
 namespace {
 
+// The columns that hold names, ordered by the engine's collation.
+constexpr const char16_t* NameColumns[]
+    = {u"FullName", u"CompanyName", u"DokKategorija", u"DokSubKategorija"};
+const QString NameCollationClause = QStringLiteral(" COLLATE ") + QLatin1String(NameCollation);
+
 class Rewriter
 {
 public:
@@ -26,12 +31,16 @@ public:
         trailingSemicolons();
         const qsizetype first = nextSolid(0);
         if (first < size()) {
-            if (isKeyword(m_text, m_tokens[first], u"DELETE"))
+            if (isKeyword(m_text, m_tokens[first], u"DELETE")) {
+                nameOrder();
                 deleteFieldList(first);
-            else if (isKeyword(m_text, m_tokens[first], u"UPDATE"))
+            } else if (isKeyword(m_text, m_tokens[first], u"UPDATE")) {
+                nameOrder();
                 updateSetList(first);
-            else if (isKeyword(m_text, m_tokens[first], u"SELECT"))
+            } else if (isKeyword(m_text, m_tokens[first], u"SELECT")) {
+                nameOrder();
                 rightJoin(first);
+            }
         }
         return assemble(0, size());
     }
@@ -73,6 +82,77 @@ private:
                 name.replace(u'"', QLatin1String("\"\""));
                 m_replace[i] = u'"' + name + u'"';
             }
+        }
+    }
+
+    bool isNameColumn(qsizetype i) const
+    {
+        if (!isName(i))
+            return false;
+        const QString name = unquotedText(m_text, m_tokens[i]);
+        for (const char16_t* column : NameColumns) {
+            if (name.compare(QStringView(column), Qt::CaseInsensitive) == 0)
+                return true;
+        }
+        return false;
+    }
+
+    bool isOrderingOperator(qsizetype i) const
+    {
+        if (i >= size() || m_tokens[i].kind != SqlToken::Punct)
+            return false;
+        const QStringView op = tokenText(m_text, m_tokens[i]);
+        return op == u"<" || op == u">" || op == u"<=" || op == u">=";
+    }
+
+    // The solid token before i, or -1.
+    qsizetype previousSolid(qsizetype i) const
+    {
+        for (--i; i >= 0 && m_tokens[i].kind == SqlToken::Space; --i) { }
+        return i;
+    }
+
+    // A name column that is an ORDER BY term or an operand of <, >, <=, >= or BETWEEN gets
+    // the name collation, unless it has a collation already.
+    void nameOrder()
+    {
+        std::vector<bool> inOrderBy(1, false);
+        for (qsizetype i = 0; i < size(); ++i) {
+            if (isPunct(i, u'(')) {
+                inOrderBy.push_back(false);
+                continue;
+            }
+            if (isPunct(i, u')')) {
+                if (inOrderBy.size() > 1)
+                    inOrderBy.pop_back();
+                continue;
+            }
+            if (isWord(i, u"BY") && isWord(previousSolid(i), u"ORDER")) {
+                inOrderBy.back() = true;
+                continue;
+            }
+            if (isWord(i, u"LIMIT") || isWord(i, u"UNION") || isWord(i, u"EXCEPT")
+                || isWord(i, u"INTERSECT")) {
+                inOrderBy.back() = false;
+                continue;
+            }
+            if (!isNameColumn(i))
+                continue;
+            const qsizetype next = nextSolid(i + 1);
+            if (isPunct(next, u'.') || isWord(next, u"COLLATE"))
+                continue;
+            qsizetype before = previousSolid(i);
+            if (isPunct(before, u'.'))
+                before = previousSolid(previousSolid(before));
+            const bool compared
+                = isOrderingOperator(next) || isWord(next, u"BETWEEN") || isOrderingOperator(before);
+            const bool orderTerm = inOrderBy.back() && (isWord(before, u"BY") || isPunct(before, u','))
+                && (next >= size() || isPunct(next, u',') || isPunct(next, u')') || isPunct(next, u';')
+                    || isWord(next, u"ASC") || isWord(next, u"DESC") || isWord(next, u"NULLS")
+                    || isWord(next, u"LIMIT"));
+            if (compared || orderTerm)
+                m_replace[i] = (m_replace[i] ? *m_replace[i] : tokenText(m_text, m_tokens[i]).toString())
+                    + NameCollationClause;
         }
     }
 

@@ -4,6 +4,12 @@
 
 namespace kartella::engine {
 
+// The collation of names: case and the Lithuanian letters fold onto their base letters
+// (Ą→A, Č→C, Ę/Ė→E, Į→I, Š→S, Ų/Ū→U, Ž→Z). Every connection of the SQLite back end has it;
+// no register names it (a register is plain SQLite for every other tool), so the
+// translation below adds it where the program orders or compares names.
+inline constexpr const char* NameCollation = "NAMEFOLD";
+
 // Turns a statement in Jet's dialect into one that SQLite runs with the same meaning:
 //  - #m/d/yyyy# date literals (also with a time, or in ISO form) become ISO text literals,
 //    month first whatever the locale;
@@ -11,6 +17,10 @@ namespace kartella::engine {
 //  - UPDATE t SET t.f = ... loses the table name in front of each assigned field;
 //  - `name` becomes "name";
 //  - a trailing ; goes;
+//  - a name column (FullName, CompanyName, DokKategorija, DokSubKategorija, plain or
+//    qualified) gets COLLATE NAMEFOLD where it is an ORDER BY term or an operand of <, >,
+//    <=, >= or BETWEEN, in SELECT, UPDATE and DELETE (= and <> need none: names equal
+//    under the collation are equal byte for byte);
 //  - SELECT <named columns> FROM A RIGHT JOIN B ON ... becomes ... FROM B LEFT JOIN A ON ...,
 //    which SQLite runs much faster (it can follow an index of B for ORDER BY and WHERE).
 // Is Null and Like are SQLite's own (Like with the engine's function), and so are other

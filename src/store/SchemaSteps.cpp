@@ -1,0 +1,130 @@
+#include "store/SchemaSteps.h"
+
+#include "base/Error.h"
+#include "store/Store.h"
+#include "store/engine/Connection.h"
+#include "store/engine/Recordset.h"
+
+namespace kartella {
+
+namespace {
+
+const QString JetProvider = QStringLiteral("Microsoft.Jet.OLEDB.4.0");
+
+// The engine's name folding, letter by letter (see engine/TextFold.cpp).
+constexpr std::pair<const char16_t*, const char16_t*> NameFolds[] = {
+    {u"Ą", u"a"},
+    {u"ą", u"a"},
+    {u"Č", u"c"},
+    {u"č", u"c"},
+    {u"Ę", u"e"},
+    {u"ę", u"e"},
+    {u"Ė", u"e"},
+    {u"ė", u"e"},
+    {u"Į", u"i"},
+    {u"į", u"i"},
+    {u"Š", u"s"},
+    {u"š", u"s"},
+    {u"Ų", u"u"},
+    {u"ų", u"u"},
+    {u"Ū", u"u"},
+    {u"ū", u"u"},
+    {u"Ž", u"z"},
+    {u"ž", u"z"},
+};
+
+void openRegister(Connection& connection, const QString& path)
+{
+    connection.open(plainConnectionString(JetProvider, path));
+}
+
+} // namespace
+
+// The steps themselves, in SchemaForms.cpp.
+void createFirstForm(Connection& connection);
+void plainNameColumns(Connection& connection);
+
+const std::vector<SchemaStep>& schemaSteps()
+{
+    static const std::vector<SchemaStep> steps = {
+        {1, QStringLiteral("tables, indexes, views and triggers of the register"), createFirstForm},
+        {2, QStringLiteral("name columns readable by any SQLite tool"), plainNameColumns},
+    };
+    return steps;
+}
+
+int newestSchemaVersion()
+{
+    return schemaSteps().back().version;
+}
+
+int schemaVersion(Connection& connection)
+{
+    Recordset pragma;
+    pragma.open(QStringLiteral("PRAGMA user_version"), connection);
+    const int version = pragma.eof() ? 0 : pragma.fields(0).value().toInt();
+    pragma.close();
+    return version;
+}
+
+std::vector<const SchemaStep*> runSchemaSteps(Connection& connection, int from)
+{
+    std::vector<const SchemaStep*> done;
+    for (const SchemaStep& step : schemaSteps()) {
+        if (step.version <= from)
+            continue;
+        connection.beginTrans();
+        try {
+            step.apply(connection);
+            connection.execute(QStringLiteral("PRAGMA user_version = ") + QString::number(step.version));
+            connection.commitTrans();
+        } catch (...) {
+            connection.rollbackTrans();
+            throw;
+        }
+        done.push_back(&step);
+    }
+    return done;
+}
+
+QString nameOrderKey(const QString& column)
+{
+    QString key = column;
+    for (const auto& [letter, base] : NameFolds)
+        key = QStringLiteral("replace(%1, '%2', '%3')")
+                  .arg(key, QString::fromUtf16(letter), QString::fromUtf16(base));
+    return QStringLiteral("lower(") + key + u')';
+}
+
+bool registerNeedsUpgrade(const QString& path)
+{
+    Connection connection;
+    openRegister(connection, path);
+    const int version = schemaVersion(connection);
+    connection.close();
+    return version > 0 && version < newestSchemaVersion();
+}
+
+std::vector<const SchemaStep*> upgradeRegister(const QString& path)
+{
+    Connection connection;
+    openRegister(connection, path);
+    const int version = schemaVersion(connection);
+    if (version <= 0)
+        throw Error(ErrorNumber::CommandFailed,
+            QStringLiteral("\"") + path
+                + QStringLiteral("\" was not made by Kartella: it carries no schema version. It is left "
+                                 "as it is."));
+    if (version > newestSchemaVersion())
+        throw Error(ErrorNumber::CommandFailed,
+            QStringLiteral("\"%1\" was made by a newer Kartella (schema version %2; this program knows "
+                           "versions up to %3). It is left as it is.")
+                .arg(path)
+                .arg(version)
+                .arg(newestSchemaVersion()));
+    std::vector<const SchemaStep*> done = runSchemaSteps(connection, version);
+    connection.close();
+    return done;
+}
+
+} // namespace kartella
