@@ -1,6 +1,7 @@
 // kartella-db: makes registers, fills them with sample data and tells what they hold.
 #include "Arguments.h"
 #include "Commands.h"
+#include "Migrate.h"
 #include "base/Error.h"
 
 #include <QCoreApplication>
@@ -39,6 +40,8 @@ int Run(const Invocation& invocation)
     case Invocation::Command::Info:
         infoCommand(invocation.path, out);
         break;
+    case Invocation::Command::Migrate:
+        return migrateCommand(invocation.path, invocation.target, invocation.codePage, out);
     }
     return ExitSuccess;
 }
