@@ -103,6 +103,7 @@ private Q_SLOTS:
         QCOMPARE(
             users->columns, QStringList({"UserId", "UserName", "UserSex", "UserBirthday", "UserMarried"}));
         QCOMPARE(users->rows.size(), 3);
+        QCOMPARE(users->statedRows, 3);
         QCOMPARE(users->rows.at(0), QVariantList({"1", "Nuintun", "Male", "1989-01-25 00:00:00", "1"}));
         QCOMPARE(users->rows.at(1), QVariantList({"2", "Angela", "Female", "1988-12-18 00:00:00", "0"}));
         // Jet 4 text is Unicode whatever code page is asked for.

@@ -17,9 +17,10 @@ namespace {
 class MemorySource final : public SourceDatabase
 {
 public:
-    void add(const QString& name, const QStringList& columns, const QList<QVariantList>& rows)
+    void add(
+        const QString& name, const QStringList& columns, const QList<QVariantList>& rows, int statedRows = -1)
     {
-        m_tables.append({name, columns, rows});
+        m_tables.append({name, columns, rows, statedRows});
     }
     QStringList tableNames() override
     {
@@ -162,7 +163,7 @@ private Q_SLOTS:
         MemorySource source;
         source.add("TBL_CONTACTS", {"ContactID", "FullName", "Fax"}, {{"4", "Ona Petraitienė", "123"}});
         source.add("tbl_Phones", {"PhoneID", "ContactID", "PhoneName", "PhoneNumber"},
-            {{"1", "4", "Darbo", "8 5 2000000"}, {"2", "4", Null, Null}});
+            {{"1", "4", "Darbo", "8 5 2000000"}, {"2", "4", Null, Null}}, 3);
         source.add("Switchboard Items", {"ItemNumber"}, {});
         test::TestRegister reg;
         const MigrationReport report = migrateRegister(source, reg.path());
@@ -178,8 +179,9 @@ private Q_SLOTS:
                 "  fields missing from the old file (left empty): CompanyName, Title, Dear, Address, City, "
                 "StateOrProvince, PostalCode, Region, Country, EmailName, Notes",
                 "  fields of the old file not migrated: Fax", "tbl_Phones: 2 read, 2 written",
-                "tbl_HomePages: missing from the old file", "tbl_Documents: missing from the old file",
-                "tbl_Sub_Documents: missing from the old file", "tbl_Tickler: missing from the old file",
+                "  the old file counts 3 rows in this table", "tbl_HomePages: missing from the old file",
+                "tbl_Documents: missing from the old file", "tbl_Sub_Documents: missing from the old file",
+                "tbl_Tickler: missing from the old file",
                 "Other tables of the old file, not migrated: Switchboard Items"}));
     }
 

@@ -53,7 +53,6 @@ MdbSource::MdbSource(const QString& path, const QString& codePage)
     }
     // mdbtools reads the code page of a Jet 3 file from the environment when it opens it.
     qputenv("MDB_JET3_CHARSET", codePage.toLatin1());
-    qputenv("MDB_ICONV", "UTF-8");
     m_handle->mdb = mdb_open(QFile::encodeName(m_path).constData(), MDB_NOFLAGS);
     if (!m_handle->mdb) {
         delete m_handle;
@@ -120,6 +119,7 @@ std::optional<migration::SourceTable> MdbSource::readTable(const QString& name)
 
     migration::SourceTable result;
     result.name = QString::fromUtf8(table->name);
+    result.statedRows = int(table->num_rows);
     const unsigned int columnCount = table->num_cols;
     std::vector<std::vector<char>> buffers(columnCount, std::vector<char>(BindSize));
     std::vector<int> lengths(columnCount, 0);

@@ -35,6 +35,7 @@ TableReport copyTable(SourceDatabase& source, Connection& connection, const Tabl
     }
     report.extraColumns = unmappedColumns(mapping, table->columns);
     report.read = int(table->rows.size());
+    report.stated = table->statedRows;
 
     InsertBatch batch(connection, mapping.table, mapping.fieldNames());
     for (const QVariantList& row : table->rows)
@@ -65,6 +66,9 @@ QStringList MigrationReport::lines() const
         }
         lines << table.table + QStringLiteral(": ") + QString::number(table.read) + QStringLiteral(" read, ")
                 + QString::number(table.written) + QStringLiteral(" written");
+        if (table.stated >= 0 && table.stated != table.read)
+            lines << QStringLiteral("  the old file counts ") + QString::number(table.stated)
+                    + QStringLiteral(" rows in this table");
         if (!table.missingFields.isEmpty())
             lines << QStringLiteral("  fields missing from the old file (left empty): ")
                     + table.missingFields.join(QStringLiteral(", "));

@@ -15,12 +15,14 @@ struct TableReport
     bool missing = false; // the old file has no such table
     QStringList missingFields; // fields of the table the old file lacks; they stay Null
     QStringList extraColumns; // columns of the old table that no field takes
+    int stated = -1; // the row count the old file keeps, -1 when unknown
     int read = 0;
     int written = 0; // rows the new register holds afterwards
 
     bool complete() const
     {
-        return !missing && missingFields.isEmpty() && extraColumns.isEmpty() && read == written;
+        return !missing && missingFields.isEmpty() && extraColumns.isEmpty() && read == written
+            && (stated < 0 || stated == read);
     }
 };
 

@@ -17,6 +17,8 @@ struct SourceTable
     QString name;
     QStringList columns;
     QList<QVariantList> rows;
+    // The row count the file keeps of the table, or -1 when the reader doesn't know one.
+    int statedRows = -1;
 };
 
 // An old register opened for reading.
