@@ -13,9 +13,10 @@ namespace kartella::tool {
 
 namespace {
 
-// Room for one bound value: a memo field holds up to 64K characters, each up to four
-// bytes once converted to UTF-8.
-constexpr size_t BindSize = 65536 * 4 + 1;
+// Room for one bound value: a memo typed in a text box holds up to 64K characters, each up
+// to four bytes once converted to UTF-8; mdbtools cuts a longer value to fit, so a value
+// that fills the room is refused rather than taken cut.
+constexpr size_t BindSize = 1024 * 1024;
 
 bool knownCodePage(const QString& codePage)
 {
@@ -136,6 +137,10 @@ std::optional<migration::SourceTable> MdbSource::readTable(const QString& name)
             // A truth value is never Null in Jet; mdbtools gives no bytes for Null otherwise.
             if (lengths[i] == 0 && types[i] != MDB_BOOL)
                 row << QVariant();
+            else if (size_t(lengths[i]) + 1 >= BindSize)
+                throw readError(m_path,
+                    QStringLiteral("a value of ") + result.name + u'.' + result.columns.at(int(i))
+                        + QStringLiteral(" is too long to be read whole"));
             else
                 row << QString::fromUtf8(buffers[i].data(), lengths[i]);
         }
