@@ -57,7 +57,7 @@ MdbSource::MdbSource(const QString& path, const QString& codePage)
     m_handle->mdb = mdb_open(QFile::encodeName(m_path).constData(), MDB_NOFLAGS);
     if (!m_handle->mdb) {
         delete m_handle;
-        throw readError(m_path, QStringLiteral("it is no Jet database"));
+        throw readError(m_path, QStringLiteral("it is not a Jet (Access) database"));
     }
     mdb_set_bind_size(m_handle->mdb, BindSize);
     mdb_set_date_fmt(m_handle->mdb, "%Y-%m-%d %H:%M:%S");
