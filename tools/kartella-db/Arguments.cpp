@@ -23,6 +23,7 @@ QString usageText()
                           "       kartella-db sample PATH [--documents N] [--seed S]\n"
                           "       kartella-db info PATH\n"
                           "       kartella-db upgrade PATH\n"
+                          "       kartella-db migrate OLD.mdb NEW [--codepage CP]\n"
                           "       kartella-db --help\n"
                           "\n"
                           "  create   makes a new, empty register at PATH (an existing file is refused)\n"
@@ -32,6 +33,9 @@ QString usageText()
                           "  info     counts the rows of each table of the register at PATH\n"
                           "  upgrade  brings the register at PATH, made by an earlier Kartella, to this\n"
                           "           version's form, keeping every row\n"
+                          "  migrate  copies every row of the Jet register OLD.mdb into a new register\n"
+                          "           at NEW, keys kept; the text of a Jet 3 file is read in the code\n"
+                          "           page CP (default CP1257, the Baltic one; CP1252 for Western)\n"
                           "\n"
                           "Exit codes: 0 success, 1 failure, 2 usage error.\n");
 }
@@ -58,6 +62,8 @@ std::optional<Invocation> parseArguments(const QStringList& arguments, QString& 
         invocation.command = Invocation::Command::Info;
     else if (command == u"upgrade")
         invocation.command = Invocation::Command::Upgrade;
+    else if (command == u"migrate")
+        invocation.command = Invocation::Command::Migrate;
     else {
         problem = QStringLiteral("unknown command \"") + command + u'"';
         return std::nullopt;
@@ -68,6 +74,15 @@ std::optional<Invocation> parseArguments(const QStringList& arguments, QString& 
         const QString& argument = arguments.at(i);
         if (!argument.startsWith(QStringLiteral("--")) || argument == u"--") {
             paths << argument;
+            continue;
+        }
+        if (invocation.command == Invocation::Command::Migrate) {
+            const auto codePage = optionValue(arguments, i, QStringLiteral("--codepage"));
+            if (!codePage || codePage->isEmpty()) {
+                problem = QStringLiteral("unknown option or missing value: \"") + argument + u'"';
+                return std::nullopt;
+            }
+            invocation.codePage = *codePage;
             continue;
         }
         if (invocation.command != Invocation::Command::Sample) {
@@ -91,6 +106,13 @@ std::optional<Invocation> parseArguments(const QStringList& arguments, QString& 
             problem = QStringLiteral("unknown option or missing value: \"") + argument + u'"';
             return std::nullopt;
         }
+    }
+    if (invocation.command == Invocation::Command::Migrate) {
+        if (paths.size() != 2) {
+            problem = QStringLiteral("migrate needs OLD.mdb and NEW");
+            return std::nullopt;
+        }
+        invocation.target = paths.takeLast();
     }
     if (paths.size() != 1) {
         problem

@@ -10,11 +10,14 @@ namespace kartella::tool {
 // One call of the tool, as read from its command line.
 struct Invocation
 {
-    enum class Command { Help, Create, Sample, Info, Upgrade };
+    enum class Command { Help, Create, Sample, Info, Upgrade, Migrate };
     Command command = Command::Help;
     QString path;
     int documents = 400;
     quint32 seed = 20240305;
+    // migrate: the new register (path is the old file) and the old file's code page.
+    QString target;
+    QString codePage = QStringLiteral("CP1257");
 };
 
 // Reads the arguments (without the program's name). On a usage error gives nothing and

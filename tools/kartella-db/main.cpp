@@ -2,6 +2,7 @@
 #include "Arguments.h"
 #include "Commands.h"
 #include "UpgradeCommand.h"
+#include "Migrate.h"
 #include "base/Error.h"
 
 #include <QCoreApplication>
@@ -24,7 +25,7 @@ int fail(const QString& message)
     return ExitFailure;
 }
 
-int Run(const Invocation& invocation)
+int run(const Invocation& invocation)
 {
     QTextStream out(stdout);
     switch (invocation.command) {
@@ -43,6 +44,8 @@ int Run(const Invocation& invocation)
     case Invocation::Command::Upgrade:
         upgradeCommand(invocation.path, out);
         break;
+    case Invocation::Command::Migrate:
+        return migrateCommand(invocation.path, invocation.target, invocation.codePage, out);
     }
     return ExitSuccess;
 }
@@ -62,7 +65,7 @@ int main(int argc, char** argv)
         return ExitUsage;
     }
     try {
-        return Run(*invocation);
+        return run(*invocation);
     } catch (const Error& error) {
         return fail(error.description());
     } catch (const std::exception& error) {

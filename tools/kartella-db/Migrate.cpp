@@ -1,0 +1,32 @@
+#include "Migrate.h"
+
+#include "MdbSource.h"
+#include "store/Schema.h"
+#include "store/migration/RegisterMigration.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace kartella::tool {
+
+int migrateCommand(const QString& oldPath, const QString& newPath, const QString& codePage, QTextStream& out)
+{
+    // The old file is opened first, so a file that can't be read leaves no new register.
+    MdbSource source(oldPath, codePage);
+    createRegister(newPath);
+    migration::MigrationReport report;
+    try {
+        report = migration::migrateRegister(source, newPath);
+    } catch (...) {
+        QFile::remove(newPath);
+        throw;
+    }
+    out << "Read " << QFileInfo(oldPath).absoluteFilePath() << " (" << source.version() << ")\n";
+    for (const QString& line : report.lines())
+        out << line << '\n';
+    out << (report.complete() ? "Everything arrived in " : "Not everything arrived in ")
+        << QFileInfo(newPath).absoluteFilePath() << Qt::endl;
+    return report.complete() ? 0 : 1;
+}
+
+} // namespace kartella::tool
