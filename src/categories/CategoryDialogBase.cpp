@@ -125,6 +125,7 @@ void CategoryDialogBase::buildWidgets(const Names& names)
     m_grid->setObjectName(QStringLiteral("grdDataGrid"));
     m_grid->setAccessibleName(QStringLiteral("Subcategories"));
     m_grid->installEventFilter(this);
+    m_grid->viewport()->installEventFilter(this);
     m_subCategoryModel = new RecordsetModel(this);
     m_subCategoryModel->attachView(m_grid);
     // A double click chooses a folder or a template, or opens one; typing or F2 edits.
@@ -187,12 +188,6 @@ void CategoryDialogBase::spreadColumns()
     for (int column = 2; column <= 5; ++column)
         m_grid->setColumnWidth(column, seventh);
     m_grid->setColumnWidth(6, qMax(20, seventh - RecordsetModel::twipsToPixels(LastColumnShortfall, this)));
-}
-
-void CategoryDialogBase::resizeEvent(QResizeEvent* event)
-{
-    QDialog::resizeEvent(event);
-    spreadColumns();
 }
 
 bool CategoryDialogBase::reportErrors(const std::function<void()>& action)
@@ -295,6 +290,8 @@ QLineEdit* CategoryDialogBase::templateBox(QObject* object) const
 
 bool CategoryDialogBase::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == m_grid->viewport() && event->type() == QEvent::Resize)
+        spreadColumns();
     // A double click or F4 on a template box opens its template; on a grid cell, the
     // cell's chooser or template.
     const bool chooserKey = isChooserKey(event);

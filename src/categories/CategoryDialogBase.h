@@ -76,7 +76,6 @@ protected:
     // Whether the working folder goes back after the folder chooser gave no answer.
     virtual bool restoreFolderAfterEmptyAnswer() const = 0;
 
-    void resizeEvent(QResizeEvent* event) override;
     void done(int result) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
