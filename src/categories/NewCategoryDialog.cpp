@@ -122,18 +122,18 @@ void NewCategoryDialog::addSubCategory()
 
 void NewCategoryDialog::onGridEnter()
 {
-    // On to the next cell to the right. Moving there first stores the cell being typed,
-    // whose editor goes with the new-row line.
-    m_grid->setFocus(Qt::OtherFocusReason);
+    // A cell being typed is stored once its editor has seen the key; the move waits for that.
+    QMetaObject::invokeMethod(this, &NewCategoryDialog::moveToNextCell, Qt::QueuedConnection);
+}
+
+void NewCategoryDialog::moveToNextCell()
+{
     const QModelIndex current = m_grid->currentIndex();
-    const int row = current.row();
-    const int column
-        = current.isValid() ? qMin(current.column() + 1, m_subCategoryModel->columnCount() - 1) : -1;
-    if (current.isValid())
-        m_grid->setCurrentIndex(m_subCategoryModel->index(row, column));
     m_subCategoryModel->setAllowAddNew(false);
-    if (current.isValid() && row < m_subCategoryModel->rowCount())
-        m_grid->setCurrentIndex(m_subCategoryModel->index(row, column));
+    m_grid->setFocus(Qt::OtherFocusReason);
+    if (current.isValid() && current.row() < m_subCategoryModel->rowCount())
+        m_grid->setCurrentIndex(m_subCategoryModel->index(current.row(), current.column()));
+    EnterAsTab::sendKey(m_grid, Qt::Key_Right);
 }
 
 void NewCategoryDialog::writeCell(int row, int column, const QString& value)

@@ -35,6 +35,7 @@ private:
     void rebindSubCategories();
     void fileNewRowsUnderCategory();
     void onGridEnter();
+    void moveToNextCell();
 
     Recordset* m_category = nullptr;
     Recordset* m_subCategories = nullptr;

@@ -242,7 +242,8 @@ private Q_SLOTS:
                 QCOMPARE(QApplication::focusWidget(), grid(d));
                 typeHere(name);
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-                QCOMPARE(grid(d)->currentIndex().column(), 3);
+                QTRY_COMPARE(grid(d)->currentIndex().column(), 3);
+                QCOMPARE(grid(d)->model()->rowCount(), grid(d)->currentIndex().row() + 1);
             }
             // A folder for the second subcategory.
             fx.prompter.answerFolder("/srv/unpaid");
@@ -392,6 +393,7 @@ private Q_SLOTS:
         click(&d, "cmdAddSub");
         typeHere("Yearly");
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QTRY_COMPARE(grid(&d)->currentIndex().column(), 3);
         typeInto(box(&d, 3), "/srv/never");
         click(&d, "cmdCancel");
         QVERIFY(!d.isVisible());
