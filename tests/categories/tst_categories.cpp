@@ -486,6 +486,84 @@ private Q_SLOTS:
         QCOMPARE(d.findChild<QTableView*>("grdDataGrid")->model()->rowCount(), 2);
     }
 
+    // "Delete SubCategory" removes the current row at once, without a question, and
+    // the next row (or the last) becomes current; Cancel doesn't bring it back.
+    void deleteSubCategory_data()
+    {
+        QTest::addColumn<int>("row");
+        QTest::addColumn<QString>("left");
+        QTest::addColumn<QString>("current");
+        QTest::newRow("first") << 0 << "Sales"
+                               << "Sales";
+        QTest::newRow("last") << 1 << "Leases"
+                              << "Leases";
+    }
+
+    void deleteSubCategory()
+    {
+        QFETCH(int, row);
+        QFETCH(QString, left);
+        QFETCH(QString, current);
+        Fixture fx;
+        const QString categories = fx.categories();
+        CategoryDialog d;
+        activate(&d);
+        QTableView* view = grid(&d);
+        view->setFocus();
+        view->setCurrentIndex(view->model()->index(row, 2));
+        click(&d, "cmdDelete");
+        QCOMPARE(view->model()->rowCount(), 1);
+        QCOMPARE(view->model()->index(view->currentIndex().row(), 2).data().toString(), current);
+        click(&d, "cmdCancel");
+        QVERIFY(fx.prompter.prompts().isEmpty());
+        QCOMPARE(
+            fx.reg.scalar("SELECT GROUP_CONCAT(DokSubKategorija) FROM tbl_Sub_Categories").toString(), left);
+        QCOMPARE(fx.categories(), categories);
+    }
+
+    // Enter moves on in the new-category dialog and does nothing in the details dialog; a
+    // subcategory added in either is filed under the category shown.
+    void keyboard()
+    {
+        Fixture fx;
+        {
+            CategoryDialog d;
+            activate(&d);
+            box(&d, 1)->setFocus();
+            QTest::keyClick(box(&d, 1), Qt::Key_Return);
+            QCOMPARE(QApplication::focusWidget(), box(&d, 1));
+            QVERIFY(d.isVisible());
+            click(&d, "cmdAdd");
+            QVERIFY(d.isAddingSubCategory());
+            typeHere("Rentals");
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            QTest::keyClick(&d, Qt::Key_Escape);
+            QVERIFY(d.isVisible());
+            QVERIFY(fx.prompter.prompts().isEmpty());
+            click(&d, "cmdClose");
+            QVERIFY(!d.isVisible());
+        }
+        QCOMPARE(
+            fx.reg.scalar("SELECT KategID FROM tbl_Sub_Categories WHERE DokSubKategorija='Rentals'").toInt(),
+            fx.contracts);
+        {
+            NewCategoryDialog d;
+            activate(&d);
+            typeInto(box(&d, 1), "Notes");
+            QTest::keyClick(box(&d, 1), Qt::Key_Return);
+            QCOMPARE(QApplication::focusWidget(), box(&d, 2));
+            click(&d, "cmdAddSub");
+            typeHere("Minutes");
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+            QTRY_COMPARE(grid(&d)->currentIndex().column(), 3);
+            click(&d, "cmdOk");
+        }
+        const QVariant notes
+            = fx.reg.scalar("SELECT KategID FROM tbl_Document_Categories WHERE DokKategorija='Notes'");
+        QCOMPARE(
+            fx.reg.scalar("SELECT KategID FROM tbl_Sub_Categories WHERE DokSubKategorija='Minutes'"), notes);
+    }
+
     // From a subcategory node the details dialog shows its whole category; the category's
     // own choosers fill its boxes, and OK stores them.
     void detailsOfSubCategoryNode()
