@@ -166,42 +166,6 @@ class CategoriesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    // What a double click does, column by column: the key columns and the title nothing.
-    void gridCellActions_data()
-    {
-        QTest::addColumn<int>("column");
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<QString>("pattern");
-        QTest::newRow("key") << 0 << int(GridCellAction::Nothing) << ""
-                             << "";
-        QTest::newRow("title") << 2 << int(GridCellAction::Nothing) << ""
-                               << "";
-        QTest::newRow("folder") << 3 << int(GridCellAction::ChooseFolder) << ""
-                                << "";
-        QTest::newRow("Word") << 4 << int(GridCellAction::ChooseOrOpenTemplate) << "Select a Word Template"
-                              << "*.dot";
-        QTest::newRow("Excel") << 5 << int(GridCellAction::ChooseOrOpenTemplate) << "Select a Excel Template"
-                               << "*.xlt";
-        QTest::newRow("PowerPoint") << 6 << int(GridCellAction::ChooseOrOpenTemplate)
-                                    << "Select a PowerPoint Template"
-                                    << "*.pot";
-        QTest::newRow("past the last") << 7 << int(GridCellAction::Nothing) << ""
-                                       << "";
-    }
-
-    void gridCellActions()
-    {
-        QFETCH(int, column);
-        QFETCH(int, kind);
-        QFETCH(QString, title);
-        QFETCH(QString, pattern);
-        const GridCellAction action = gridCellAction(column);
-        QCOMPARE(int(action.kind), kind);
-        QCOMPARE(action.chooser.title, title);
-        QCOMPARE(action.chooser.pattern, pattern);
-    }
-
     // Before the new category is saved it has no key, and there is nothing to list.
     void noSubCategoryStatementWithoutKey()
     {
