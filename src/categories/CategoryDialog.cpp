@@ -31,6 +31,8 @@ CategoryDialog::CategoryDialog(QWidget* parent)
     m_subCategories = new Recordset(this);
     m_subCategories->setObjectName(QStringLiteral("SubCategoryRecordset"));
     bindCategory(m_category);
+    connect(m_subCategories, &Recordset::moveComplete, this,
+        [this] { fileNewRowUnderCategory(m_subCategories, m_categoryKey); });
     connect(m_subCategoryModel, &RecordsetModel::edited, this, [this] { m_edited = true; });
     m_keys->onEscape([this] {
         if (!m_addingSubCategory)

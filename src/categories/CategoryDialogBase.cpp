@@ -5,6 +5,7 @@
 #include "platform/Prompter.h"
 #include "platform/Shell.h"
 #include "store/engine/Recordset.h"
+#include "store/engine/Value.h"
 #include "support/EnterAsTab.h"
 #include "support/FieldBinder.h"
 #include "support/RecordsetModel.h"
@@ -199,6 +200,17 @@ bool CategoryDialogBase::reportErrors(const std::function<void()>& action)
         msgBox(error.description());
         return false;
     }
+}
+
+void CategoryDialogBase::fileNewRowUnderCategory(Recordset* rows, qint32 categoryId)
+{
+    if (categoryId == 0 || !rows->isOpen() || rows->editMode() != EditModeEnum::Add)
+        return;
+    reportErrors([rows, categoryId] {
+        Field key = rows->fields(QStringLiteral("KategID"));
+        if (isNull(key.value()))
+            key.setValue(categoryId);
+    });
 }
 
 void CategoryDialogBase::deleteSubCategory()

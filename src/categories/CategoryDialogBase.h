@@ -65,6 +65,10 @@ protected:
     void spreadColumns();
     // Asks the unapplied-changes question with firstLine; Yes saves, No cancels.
     void askBeforeClosing(const QString& firstLine);
+    // Gives a row just started on rows the key of the category, unless it has one: a row
+    // started on the grid's new-row line belongs to the category as much as one started by
+    // the button. Connect it to the move of the subcategories.
+    static void fileNewRowUnderCategory(Recordset* rows, qint32 categoryId);
     // Runs action, telling any error in a plain message box; false when it failed.
     static bool reportErrors(const std::function<void()>& action);
 

@@ -29,7 +29,7 @@ NewCategoryDialog::NewCategoryDialog(QWidget* parent)
     connect(m_category, &Recordset::moveComplete, this,
         [this] { reportErrors([this] { bindSubCategories(); }); });
     connect(m_subCategories, &Recordset::moveComplete, this,
-        [this] { reportErrors([this] { fileNewRowsUnderCategory(); }); });
+        [this] { fileNewRowUnderCategory(m_subCategories, m_categoryId->text().toInt()); });
 
     for (QLineEdit* box :
         {m_title, m_mnemonic, m_folder, m_wordTemplate, m_excelTemplate, m_powerPointTemplate})
@@ -92,17 +92,6 @@ void NewCategoryDialog::rebindSubCategories()
         m_subCategories->close();
         bindSubCategories();
     });
-}
-
-void NewCategoryDialog::fileNewRowsUnderCategory()
-{
-    // A row started on the grid's new-row line belongs to this category as much as one
-    // started by the button.
-    if (m_subCategories->editMode() != EditModeEnum::Add || m_categoryId->text().isEmpty())
-        return;
-    Field key = m_subCategories->fields(QStringLiteral("KategID"));
-    if (isNull(key.value()))
-        key.setValue(m_categoryId->text().toInt());
 }
 
 void NewCategoryDialog::addSubCategory()

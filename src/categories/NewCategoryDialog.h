@@ -33,7 +33,6 @@ private:
     void saveCategoryRow();
     void bindSubCategories();
     void rebindSubCategories();
-    void fileNewRowsUnderCategory();
     void onGridEnter();
     void moveToNextCell();
 
