@@ -156,6 +156,16 @@ void CategoryDialogBase::buildWidgets(const Names& names)
     layout->addWidget(m_grid, 1);
     layout->addLayout(buttons);
 
+    // Field to field first, so that Enter (as Tab) walks the category's boxes; then their
+    // chooser buttons, the grid and the buttons beneath it.
+    QList<QWidget*> order
+        = {m_title, m_mnemonic, m_folder, m_wordTemplate, m_excelTemplate, m_powerPointTemplate};
+    for (const auto& entry : choosers)
+        order << findChild<QPushButton*>(QLatin1String(entry.name));
+    order << m_grid << m_add << m_delete << m_ok << m_cancel;
+    for (qsizetype i = 1; i < order.size(); ++i)
+        setTabOrder(order[i - 1], order[i]);
+
     m_keys = new EnterAsTab(this);
 }
 

@@ -520,6 +520,10 @@ private Q_SLOTS:
             typeInto(box(&d, 1), "Notes");
             QTest::keyClick(box(&d, 1), Qt::Key_Return);
             QCOMPARE(QApplication::focusWidget(), box(&d, 2));
+            for (int next : {3, 4, 5, 6}) {
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+                QCOMPARE(QApplication::focusWidget(), box(&d, next));
+            }
             click(&d, "cmdAddSub");
             typeHere("Minutes");
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
