@@ -161,7 +161,7 @@ private Q_SLOTS:
         QVERIFY(!w.action("mnuRelated")->isEnabled());
         fx.clickNode("a" + QString::number(fx.id["Raštai"]));
         QVERIFY(w.action("mnuDeleteCategory")->isEnabled());
-        QVERIFY(!w.action("mnuCategoryOptions")->isEnabled());
+        QVERIFY(w.action("mnuCategoryOptions")->isEnabled());
         bool opened = false;
         w.setDialog("frmCoresp", [&](const QString&) { opened = true; });
         QVERIFY(addressBook->isEnabled());
