@@ -8,7 +8,6 @@
 #include "explorer/MainWindow.h"
 #include "explorer/NavigationTree.h"
 #include "options/OptionStore.h"
-#include "explorer/NavigationTree.h"
 #include "registration/NewDocumentDialog.h"
 #include "support/SelectionState.h"
 
