@@ -22,6 +22,8 @@ QString usageText()
     return QStringLiteral("Usage: kartella-db create PATH\n"
                           "       kartella-db sample PATH [--documents N] [--seed S]\n"
                           "       kartella-db info PATH\n"
+                          "       kartella-db report --list\n"
+                          "       kartella-db report NAME PATH.pdf [--register FILE] [--previous-month]\n"
                           "       kartella-db --help\n"
                           "\n"
                           "  create   makes a new, empty register at PATH (an existing file is refused)\n"
@@ -29,6 +31,8 @@ QString usageText()
                           "           its files go into the folder \"<name> files\" beside it\n"
                           "           (N documents, default 400; the same seed S gives the same data)\n"
                           "  info     counts the rows of each table of the register at PATH\n"
+                          "  report   writes the report NAME to the PDF file PATH, from FILE or the\n"
+                          "           register the options name; --list names the reports\n"
                           "\n"
                           "Exit codes: 0 success, 1 failure, 2 usage error.\n");
 }

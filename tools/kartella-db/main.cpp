@@ -1,6 +1,7 @@
 // kartella-db: makes registers, fills them with sample data and tells what they hold.
 #include "Arguments.h"
 #include "Commands.h"
+#include "ReportCommand.h"
 #include "base/Error.h"
 
 #include <QCoreApplication>
@@ -47,6 +48,8 @@ int Run(const Invocation& invocation)
 
 int main(int argc, char** argv)
 {
+    if (isReportCommand(argc, argv))
+        return runReportCommand(argc, argv);
     QCoreApplication app(argc, argv);
     QStringList arguments = QCoreApplication::arguments();
     arguments.removeFirst();
