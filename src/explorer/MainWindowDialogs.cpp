@@ -2,6 +2,7 @@
 
 #include "explorer/MainWindow.h"
 #include "registration/NewDocumentDialog.h"
+#include "reports/ReportPreview.h"
 
 namespace kartella {
 
@@ -13,6 +14,8 @@ void MainWindow::registerDialogs()
             dialog.setLocation(file);
         dialog.exec();
     });
+    for (const ReportMenuEntry& report : reportMenuEntries())
+        setDialog(report.dialog, [this, open = report.open](const QString&) { open(this); });
 }
 
 } // namespace kartella

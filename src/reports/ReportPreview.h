@@ -22,6 +22,8 @@ class ReportPreview : public QPrintPreviewDialog
 public:
     ReportPreview(const ReportLayout& layout, ReportData data, QWidget* parent = nullptr);
 
+    const ReportLayout& layout() const { return m_layout; }
+    const ReportData& data() const { return m_data; }
     // How many pages the last paint gave.
     int pageCount() const { return m_pageCount; }
 
