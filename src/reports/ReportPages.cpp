@@ -222,6 +222,8 @@ void paintReportPages(const QList<ReportPage>& pages, QPainter& painter, QPagedP
     bold.setBold(true);
     QFont title = bold;
     title.setPointSizeF(14.0);
+    const QFont* current = nullptr;
+    double ascent = 0.0;
     for (int page = 0; page < pages.size(); ++page) {
         if (page > 0)
             device.newPage();
@@ -230,10 +232,17 @@ void paintReportPages(const QList<ReportPage>& pages, QPainter& painter, QPagedP
                 painter.drawLine(item.rect.topLeft(), item.rect.topRight());
                 continue;
             }
-            painter.setFont(item.title ? title : item.bold ? bold : plain);
-            painter.drawText(item.rect,
-                (item.wraps ? Qt::TextWordWrap : Qt::TextSingleLine) | Qt::AlignLeft | Qt::AlignTop,
-                item.text);
+            const QFont& font = item.title ? title : item.bold ? bold : plain;
+            if (&font != current) {
+                painter.setFont(font);
+                current = &font;
+                ascent = QFontMetricsF(font, &device).ascent();
+            }
+            // One line goes the short way, without a text layout of its own.
+            if (item.wraps)
+                painter.drawText(item.rect, Qt::TextWordWrap | Qt::AlignLeft | Qt::AlignTop, item.text);
+            else
+                painter.drawText(QPointF(item.rect.left(), item.rect.top() + ascent), item.text);
         }
     }
 }
