@@ -1,9 +1,12 @@
 #include "ReportFixture.h"
+#include "explorer/MainWindow.h"
 #include "harness/ScriptedPrompter.h"
 #include "reports/ReportCommands.h"
 #include "reports/ReportPreview.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QMenu>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -312,6 +315,51 @@ private Q_SLOTS:
         QVERIFY(reminder && reminder->isVisible() && !reminder->isModal());
         QCOMPARE(reminder->windowTitle(), QString("Reminder"));
         reminder->close();
+    }
+
+    void theReportsMenuOpensEachReport()
+    {
+        ReportFixture fx;
+        ReportCommands::instance().setConnectionString(fx.reg.connectionString());
+        ScriptedPrompter prompter;
+        MainWindow window;
+        window.load();
+        window.show();
+        QApplication::setActiveWindow(&window);
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        const QStringList entries {"mnuCategoriesRep", "mnuThisMonth", "mnuAll", "mnuDocByContacts",
+            "mnurptPhones", "mnuContacts", "mnurptPrevMonth"};
+        const QStringList captions {"Categories", "This Month", "List of Documents by Category",
+            "List by Contacts", "Phones", "Addresses", "This Month"};
+        for (int i = 0; i < entries.size(); ++i) {
+            QAction* action = window.action(entries.at(i));
+            QVERIFY2(action && action->isEnabled(), qPrintable(entries.at(i)));
+            QString caption;
+            QTimer::singleShot(0, [&] {
+                if (auto* preview = qobject_cast<ReportPreview*>(QApplication::activeModalWidget())) {
+                    caption = preview->windowTitle();
+                    preview->reject();
+                }
+            });
+            action->trigger();
+            QCOMPARE(caption, captions.at(i));
+        }
+
+        // The keyboard: C in the open Reports menu.
+        auto* menu = window.findChild<QMenu*>("mnuReports");
+        QVERIFY(menu);
+        menu->popup(window.mapToGlobal(QPoint(0, 0)));
+        QTRY_VERIFY(menu->isVisible());
+        QString caption;
+        QTimer::singleShot(0, [&] {
+            if (auto* preview = qobject_cast<ReportPreview*>(QApplication::activeModalWidget())) {
+                caption = preview->windowTitle();
+                preview->reject();
+            }
+        });
+        QTest::keyClick(menu, Qt::Key_C);
+        QTRY_COMPARE(caption, QString("Categories"));
+        QVERIFY(prompter.prompts().isEmpty());
     }
 };
 
