@@ -274,6 +274,17 @@ private Q_SLOTS:
         QVERIFY(!content.contains("Sutartis dėl nuomos"));
         QVERIFY(content.simplified().contains("page 1 of 1"));
 
+        // Without --register the tool reads the register the options name.
+        const QString phones = fx.reg.dir() + "/phones.pdf";
+        tool.start(KARTELLA_DB_TOOL, {"report", "phones", phones});
+        QVERIFY(tool.waitForFinished(60000));
+        QCOMPARE(tool.exitCode(), 0);
+        text.start("pdftotext", {phones, "-"});
+        QVERIFY(text.waitForFinished(60000));
+        const QString phoneText = QString::fromUtf8(text.readAllStandardOutput());
+        QVERIFY2(phoneText.contains("+370 600 1"), qPrintable(phoneText));
+        QVERIFY(!phoneText.contains("Jonas Jonaitis"));
+
         tool.start(KARTELLA_DB_TOOL, {"report", "no-such", pdf, "--register", fx.reg.path()});
         QVERIFY(tool.waitForFinished(60000));
         QCOMPARE(tool.exitCode(), 2);
