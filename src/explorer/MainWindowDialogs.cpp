@@ -9,12 +9,12 @@
 #include "explorer/NavigationTree.h"
 #include "options/OptionStore.h"
 #include "registration/NewDocumentDialog.h"
+#include "reports/ReportPreview.h"
 #include "support/SelectionState.h"
-
-#include <QTreeWidgetItem>
 
 #include <QAction>
 #include <QLabel>
+#include <QTreeWidgetItem>
 
 namespace kartella {
 
@@ -97,6 +97,9 @@ void MainWindow::registerDialogs()
         [this](const QString&) { openCategoryDialog<NewCategoryDialog>(this); });
     setDialog(
         QStringLiteral("frmCategory"), [this](const QString&) { openCategoryDialog<CategoryDialog>(this); });
+
+    for (const ReportMenuEntry& report : reportMenuEntries())
+        setDialog(report.dialog, [this, open = report.open](const QString&) { open(this); });
 }
 
 } // namespace kartella

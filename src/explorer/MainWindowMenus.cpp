@@ -212,26 +212,31 @@ void MainWindow::buildMenus()
     QMenu* reports = bar->addMenu(QStringLiteral("&Reports"));
     reports->setObjectName(QStringLiteral("mnuReports"));
     reports->setToolTipsVisible(true);
-    const QString report = QStringLiteral("reports");
-    addCommand(
-        reports, QStringLiteral("mnuCategoriesRep"), QStringLiteral("&Categories"), nullptr, {}, report);
+    addCommand(reports, QStringLiteral("mnuCategoriesRep"), QStringLiteral("&Categories"), nullptr, {},
+        QStringLiteral("DataReport1"));
     QMenu* lists = reports->addMenu(QStringLiteral("&Documents List's"));
     lists->setObjectName(QStringLiteral("mnuDocumentsLists"));
     lists->setToolTipsVisible(true);
     QMenu* byCategory = lists->addMenu(QStringLiteral("By Category"));
     byCategory->setObjectName(QStringLiteral("mnuDocumByCategory"));
     byCategory->setToolTipsVisible(true);
-    addCommand(byCategory, QStringLiteral("mnuThisMonth"), QStringLiteral("This Month"), nullptr, {}, report);
-    addCommand(
-        byCategory, QStringLiteral("mnurptPrevMonth"), QStringLiteral("Previous Month"), nullptr, {}, report);
-    addCommand(byCategory, QStringLiteral("mnuAll"), QStringLiteral("All"), nullptr, {}, report);
-    addCommand(lists, QStringLiteral("mnuDocByContacts"), QStringLiteral("By Contacts"), nullptr, {}, report);
+    addCommand(byCategory, QStringLiteral("mnuThisMonth"), QStringLiteral("This Month"), nullptr, {},
+        QStringLiteral("rptThisMonth"));
+    addCommand(byCategory, QStringLiteral("mnurptPrevMonth"), QStringLiteral("Previous Month"), nullptr, {},
+        QStringLiteral("rptPreviousMonth"));
+    addCommand(byCategory, QStringLiteral("mnuAll"), QStringLiteral("All"), nullptr, {},
+        QStringLiteral("DataReport4"));
+    addCommand(lists, QStringLiteral("mnuDocByContacts"), QStringLiteral("By Contacts"), nullptr, {},
+        QStringLiteral("DataReport2"));
     QMenu* addressBook = reports->addMenu(QStringLiteral("&Address Book"));
     addressBook->setObjectName(QStringLiteral("mnurptAddressBook"));
     addressBook->setToolTipsVisible(true);
-    addCommand(addressBook, QStringLiteral("mnurptPhones"), QStringLiteral("P&hones"), nullptr, {}, report);
-    addCommand(addressBook, QStringLiteral("mnuContacts"), QStringLiteral("&Contacts"), nullptr, {}, report);
-    addCommand(reports, QStringLiteral("mnuReminder"), QStringLiteral("&Reminder"), nullptr, {}, report);
+    addCommand(addressBook, QStringLiteral("mnurptPhones"), QStringLiteral("P&hones"), nullptr, {},
+        QStringLiteral("DataReport3"));
+    addCommand(addressBook, QStringLiteral("mnuContacts"), QStringLiteral("&Contacts"), nullptr, {},
+        QStringLiteral("AddressBooks"));
+    addCommand(reports, QStringLiteral("mnuReminder"), QStringLiteral("&Reminder"), nullptr, {},
+        QStringLiteral("DataReport5"));
 
     QMenu* help = bar->addMenu(QStringLiteral("&Help"));
     help->setObjectName(QStringLiteral("mnuHelp"));

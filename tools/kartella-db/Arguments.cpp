@@ -24,6 +24,8 @@ QString usageText()
                           "       kartella-db info PATH\n"
                           "       kartella-db upgrade PATH\n"
                           "       kartella-db migrate OLD.mdb NEW [--codepage CP]\n"
+                          "       kartella-db report --list\n"
+                          "       kartella-db report NAME PATH.pdf [--register FILE] [--previous-month]\n"
                           "       kartella-db --help\n"
                           "\n"
                           "  create   makes a new, empty register at PATH (an existing file is refused)\n"
@@ -36,6 +38,8 @@ QString usageText()
                           "  migrate  copies every row of the Jet register OLD.mdb into a new register\n"
                           "           at NEW, keys kept; the text of a Jet 3 file is read in the code\n"
                           "           page CP (default CP1257, the Baltic one; CP1252 for Western)\n"
+                          "  report   writes the report NAME to the PDF file PATH, from FILE or the\n"
+                          "           register the options name; --list names the reports\n"
                           "\n"
                           "Exit codes: 0 success, 1 failure, 2 usage error.\n");
 }

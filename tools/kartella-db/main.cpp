@@ -3,6 +3,7 @@
 #include "Commands.h"
 #include "UpgradeCommand.h"
 #include "Migrate.h"
+#include "ReportCommand.h"
 #include "base/Error.h"
 
 #include <QCoreApplication>
@@ -54,6 +55,8 @@ int run(const Invocation& invocation)
 
 int main(int argc, char** argv)
 {
+    if (isReportCommand(argc, argv))
+        return runReportCommand(argc, argv);
     QCoreApplication app(argc, argv);
     QStringList arguments = QCoreApplication::arguments();
     arguments.removeFirst();

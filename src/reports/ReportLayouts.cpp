@@ -1,0 +1,204 @@
+#include "reports/ReportLayouts.h"
+
+namespace kartella {
+
+namespace {
+
+using Kind = ReportItem::Kind;
+
+ReportItem label(const QString& text, int row, double left, double width, bool grows = false)
+{
+    return {Kind::Label, text, row, left, width, grows, false, false};
+}
+
+ReportItem title(const QString& text)
+{
+    return {Kind::Label, text, 0, 0.0, 1.0, false, false, true};
+}
+
+ReportItem field(const QString& name, int row, double left, double width, bool grows = false)
+{
+    return {Kind::Field, name, row, left, width, grows, false, false};
+}
+
+ReportItem heading(const QString& name, int row, double left, double width, bool grows = false)
+{
+    return {Kind::Field, name, row, left, width, grows, false, true};
+}
+
+ReportItem hidden(const QString& name)
+{
+    return {Kind::Field, name, 0, 0.0, 0.0, false, true, false};
+}
+
+ReportItem rule(int row)
+{
+    return {Kind::Rule, {}, row, 0.0, 1.0, false, false, false};
+}
+
+ReportLayout makeLayout(const QString& name, const QString& scriptName, const QString& caption,
+    const QString& command, const QString& childMember, ReportOrientation orientation)
+{
+    ReportLayout layout;
+    layout.name = name;
+    layout.scriptName = scriptName;
+    layout.caption = caption;
+    layout.command = command;
+    layout.childMember = childMember;
+    layout.orientation = orientation;
+    return layout;
+}
+
+ReportLayout categories()
+{
+    ReportLayout r = makeLayout(QStringLiteral("DataReport1"), QStringLiteral("categories"),
+        QStringLiteral("Categories"), QStringLiteral("Categories"), QStringLiteral("SubCategories"),
+        ReportOrientation::Landscape);
+    r.reportHeader = {title(QStringLiteral("CATEGORIES"))};
+    r.pageHeader = {label(QStringLiteral("Mnem"), 0, 0.20, 0.07),
+        label(QStringLiteral("Location of files"), 0, 0.27, 0.19),
+        label(QStringLiteral("WORD Template"), 0, 0.46, 0.18),
+        label(QStringLiteral("EXCEL Template"), 0, 0.64, 0.18),
+        label(QStringLiteral("POWERPOINT Template"), 0, 0.82, 0.18, true), rule(1)};
+    r.groupHeader = {heading(QStringLiteral("DokKategorija"), 0, 0.0, 0.20, true),
+        field(QStringLiteral("Mnemonic"), 0, 0.20, 0.07),
+        field(QStringLiteral("DokKategDaug"), 0, 0.27, 0.19, true),
+        field(QStringLiteral("DokTemplates"), 0, 0.46, 0.18, true),
+        field(QStringLiteral("DokTemplatesExel"), 0, 0.64, 0.18, true),
+        field(QStringLiteral("DokTemplatesPowPoint"), 0, 0.82, 0.18, true), hidden(QStringLiteral("KategID")),
+        rule(1)};
+    r.detail = {field(QStringLiteral("DokSubKategorija"), 0, 0.02, 0.44),
+        field(QStringLiteral("SubDokTemplates"), 0, 0.46, 0.18, true),
+        field(QStringLiteral("SubDokTemplatesExel"), 0, 0.64, 0.18, true),
+        field(QStringLiteral("SubDokTemplatesPowPoint"), 0, 0.82, 0.18, true),
+        hidden(QStringLiteral("SubKategID"))};
+    return r;
+}
+
+ReportLayout byContacts()
+{
+    ReportLayout r = makeLayout(QStringLiteral("DataReport2"), QStringLiteral("by-contacts"),
+        QStringLiteral("List by Contacts"), QStringLiteral("DocByCor_Grouping"), QStringLiteral("DocByCor"),
+        ReportOrientation::Landscape);
+    r.pageHeader = {title(QStringLiteral("List of Documents by Contacts"))};
+    r.groupHeader = {heading(QStringLiteral("FullName"), 0, 0.0, 0.45, true),
+        heading(QStringLiteral("FullName"), 0, 0.55, 0.45), hidden(QStringLiteral("ContactID"))};
+    r.detail = {field(QStringLiteral("DokAntraste"), 0, 0.03, 0.42, true),
+        field(QStringLiteral("DokRegistracData"), 0, 0.46, 0.12),
+        field(QStringLiteral("DokRegistracIndeksas"), 0, 0.58, 0.17),
+        field(QStringLiteral("DokKategorija"), 0, 0.75, 0.25), hidden(QStringLiteral("RastasID"))};
+    return r;
+}
+
+ReportLayout phones()
+{
+    ReportLayout r
+        = makeLayout(QStringLiteral("DataReport3"), QStringLiteral("phones"), QStringLiteral("Phones"),
+            QStringLiteral("Command1_Grouping"), QStringLiteral("Command1"), ReportOrientation::Portrait);
+    r.reportHeader = {title(QStringLiteral("Phones"))};
+    r.groupHeader = {heading(QStringLiteral("FullName"), 0, 0.0, 1.0), hidden(QStringLiteral("ContactID"))};
+    r.detail = {field(QStringLiteral("PhoneName"), 0, 0.05, 0.45, true),
+        field(QStringLiteral("PhoneNumber"), 0, 0.50, 0.50, true)};
+    return r;
+}
+
+ReportLayout byCategory()
+{
+    ReportLayout r = makeLayout(QStringLiteral("DataReport4"), QStringLiteral("by-category"),
+        QStringLiteral("List of Documents by Category"), QStringLiteral("Command2_Grouping"),
+        QStringLiteral("Command2"), ReportOrientation::Landscape);
+    r.pageHeader = {title(QStringLiteral("List of Documents by Category")),
+        label(QStringLiteral("Doc. Description"), 1, 0.03, 0.42),
+        label(QStringLiteral("Reg. Index"), 1, 0.45, 0.18), label(QStringLiteral("Reg. Date"), 1, 0.63, 0.12),
+        label(QStringLiteral("Sender/Receiver"), 1, 0.75, 0.25)};
+    r.groupHeader
+        = {heading(QStringLiteral("DokKategorija"), 0, 0.0, 1.0, true), hidden(QStringLiteral("KategID"))};
+    r.detail = {field(QStringLiteral("DokAntraste"), 0, 0.03, 0.42, true),
+        field(QStringLiteral("DokRegistracIndeksas"), 0, 0.45, 0.18),
+        field(QStringLiteral("DokRegistracData"), 0, 0.63, 0.12),
+        field(QStringLiteral("FullName"), 0, 0.75, 0.25, true), hidden(QStringLiteral("ContactID"))};
+    return r;
+}
+
+ReportLayout reminder()
+{
+    ReportLayout r
+        = makeLayout(QStringLiteral("DataReport5"), QStringLiteral("reminder"), QStringLiteral("Reminder"),
+            QStringLiteral("Tickler_Grouping"), QStringLiteral("Tickler"), ReportOrientation::Portrait);
+    r.pageHeader = {title(QStringLiteral("Reminder"))};
+    r.groupHeader
+        = {heading(QStringLiteral("DokAntraste"), 0, 0.0, 1.0, true), hidden(QStringLiteral("RastasID"))};
+    r.detail = {field(QStringLiteral("TicklerDate"), 0, 0.05, 0.20),
+        field(QStringLiteral("TicklerText"), 0, 0.25, 0.75, true)};
+    return r;
+}
+
+ReportLayout telephoneList()
+{
+    ReportLayout r = makeLayout(QStringLiteral("PhoneList"), QStringLiteral("telephone-list"),
+        QStringLiteral("Telephone List"), QStringLiteral("Contacts"), QStringLiteral("Phones"),
+        ReportOrientation::Portrait);
+    r.reportHeader = {title(QStringLiteral("Telephone List"))};
+    r.groupHeader = {heading(QStringLiteral("FullName"), 0, 0.0, 0.5, true),
+        field(QStringLiteral("CompanyName"), 0, 0.5, 0.5, true), hidden(QStringLiteral("ContactID"))};
+    r.detail = {field(QStringLiteral("PhoneName"), 0, 0.05, 0.45),
+        field(QStringLiteral("PhoneNumber"), 0, 0.50, 0.50), hidden(QStringLiteral("PhoneID"))};
+    return r;
+}
+
+ReportLayout addresses()
+{
+    ReportLayout r = makeLayout(QStringLiteral("AddressBooks"), QStringLiteral("addresses"),
+        QStringLiteral("Addresses"), QStringLiteral("AddressBook_Grouping"), QStringLiteral("AddressBook"),
+        ReportOrientation::Portrait);
+    r.reportHeader = {title(QStringLiteral("Address Book"))};
+    r.groupHeader = {heading(QStringLiteral("FullName"), 0, 0.0, 0.5, true),
+        field(QStringLiteral("CompanyName"), 0, 0.5, 0.5, true),
+        field(QStringLiteral("Address"), 1, 0.0, 0.35), field(QStringLiteral("City"), 1, 0.35, 0.2),
+        field(QStringLiteral("StateOrProvince"), 1, 0.55, 0.2),
+        field(QStringLiteral("Country"), 1, 0.75, 0.25), hidden(QStringLiteral("ContactID"))};
+    r.detail = {field(QStringLiteral("PhoneName"), 0, 0.05, 0.45, true),
+        field(QStringLiteral("PhoneNumber"), 0, 0.50, 0.50)};
+    r.groupFooter = {rule(0)};
+    return r;
+}
+
+ReportLayout thisMonth()
+{
+    ReportLayout r = makeLayout(QStringLiteral("rptThisMonth"), QStringLiteral("this-month"),
+        QStringLiteral("This Month"), QStringLiteral("This_Month_Grouping"), QStringLiteral("This_Month"),
+        ReportOrientation::Landscape);
+    r.pageHeader = {title(QStringLiteral("List Of documents By Categories"))};
+    r.groupHeader
+        = {heading(QStringLiteral("DokKategorija"), 0, 0.0, 1.0, true), hidden(QStringLiteral("KategID"))};
+    r.detail = {field(QStringLiteral("DokRegistracData"), 0, 0.03, 0.10),
+        field(QStringLiteral("DokRegistracIndeksas"), 0, 0.13, 0.15, true),
+        field(QStringLiteral("DokAntraste"), 0, 0.28, 0.32),
+        field(QStringLiteral("FullName"), 0, 0.60, 0.20, true),
+        field(QStringLiteral("DokKategorija"), 0, 0.80, 0.20, true), hidden(QStringLiteral("RastasID"))};
+    r.pageFooter = {rule(0), label(QStringLiteral("Printed:"), 1, 0.0, 0.08),
+        label(QStringLiteral("%d"), 1, 0.08, 0.14), label(QStringLiteral("page"), 1, 0.72, 0.06),
+        label(QStringLiteral("%p"), 1, 0.78, 0.07), label(QStringLiteral("of"), 1, 0.85, 0.04),
+        label(QStringLiteral("%P"), 1, 0.89, 0.11)};
+    return r;
+}
+
+} // namespace
+
+const QList<ReportLayout>& reportLayouts()
+{
+    static const QList<ReportLayout> layouts = {categories(), byContacts(), phones(), byCategory(),
+        reminder(), telephoneList(), addresses(), thisMonth()};
+    return layouts;
+}
+
+const ReportLayout* findReportLayout(const QString& name)
+{
+    for (const ReportLayout& layout : reportLayouts()) {
+        if (layout.name == name || layout.scriptName == name)
+            return &layout;
+    }
+    return nullptr;
+}
+
+} // namespace kartella

@@ -1,0 +1,107 @@
+#include "reports/ReportPreview.h"
+
+#include "base/Error.h"
+#include "reports/ReportCommands.h"
+#include "reports/ReportPages.h"
+#include "support/BusyCursor.h"
+#include "support/SharedPrinter.h"
+
+#include <QPainter>
+#include <QPrinter>
+
+namespace kartella {
+
+namespace {
+
+enum class Step { Landscape, Portrait, PreviousMonth };
+enum class Shown { Modal, Beside };
+enum class OnError { Ignore, Raise };
+
+void openReport(const QString& name, Step step, Shown shown, OnError onError, QWidget* parent)
+{
+    try {
+        if (step == Step::PreviousMonth)
+            ReportCommands::instance().usePreviousMonth();
+        else
+            setPrinterOrientation(
+                step == Step::Landscape ? ReportOrientation::Landscape : ReportOrientation::Portrait);
+        const ReportLayout& layout = *findReportLayout(name);
+        ReportData data;
+        {
+            BusyCursor busy;
+            data = ReportCommands::instance().run(layout);
+        }
+        auto* preview = new ReportPreview(layout, std::move(data), parent);
+        preview->setAttribute(Qt::WA_DeleteOnClose);
+        if (shown == Shown::Modal)
+            preview->exec();
+        else
+            preview->show();
+    } catch (const Error&) {
+        if (onError == OnError::Raise)
+            throw;
+    }
+}
+
+ReportMenuEntry entry(const QString& dialog, const QString& report, Step step, Shown shown, OnError onError)
+{
+    return {dialog, [=](QWidget* parent) { openReport(report, step, shown, onError, parent); }};
+}
+
+} // namespace
+
+ReportPreview::ReportPreview(const ReportLayout& layout, ReportData data, QWidget* parent)
+    : QPrintPreviewDialog(&sharedPrinter(), parent)
+    , m_layout(layout)
+    , m_data(std::move(data))
+{
+    setObjectName(layout.name);
+    setWindowTitle(layout.caption);
+    connect(this, &QPrintPreviewDialog::paintRequested, this, &ReportPreview::paintReport);
+}
+
+void ReportPreview::paintReport(QPrinter* printer)
+{
+    BusyCursor busy;
+    const QList<ReportPage> pages = ReportPaginator(m_layout, *printer, reportToday()).paginate(m_data);
+    QPainter painter(printer);
+    paintReportPages(pages, painter, *printer);
+    m_pageCount = int(pages.size());
+}
+
+const QList<ReportMenuEntry>& reportMenuEntries()
+{
+    static const QList<ReportMenuEntry> entries = {
+        entry(QStringLiteral("DataReport1"), QStringLiteral("DataReport1"), Step::Landscape, Shown::Modal,
+            OnError::Ignore),
+        entry(QStringLiteral("rptThisMonth"), QStringLiteral("rptThisMonth"), Step::Landscape, Shown::Modal,
+            OnError::Raise),
+        entry(QStringLiteral("rptPreviousMonth"), QStringLiteral("rptThisMonth"), Step::PreviousMonth,
+            Shown::Modal, OnError::Raise),
+        entry(QStringLiteral("DataReport4"), QStringLiteral("DataReport4"), Step::Landscape, Shown::Modal,
+            OnError::Ignore),
+        entry(QStringLiteral("DataReport2"), QStringLiteral("DataReport2"), Step::Landscape, Shown::Modal,
+            OnError::Raise),
+        entry(QStringLiteral("DataReport3"), QStringLiteral("DataReport3"), Step::Portrait, Shown::Modal,
+            OnError::Raise),
+        entry(QStringLiteral("AddressBooks"), QStringLiteral("AddressBooks"), Step::Portrait, Shown::Modal,
+            OnError::Raise),
+        entry(QStringLiteral("DataReport5"), QStringLiteral("DataReport5"), Step::Portrait, Shown::Beside,
+            OnError::Raise),
+        entry(QStringLiteral("PhoneList"), QStringLiteral("PhoneList"), Step::Portrait, Shown::Modal,
+            OnError::Ignore),
+    };
+    return entries;
+}
+
+void setPrinterOrientation(ReportOrientation orientation)
+{
+    QPrinter& printer = sharedPrinter();
+    if (printer.printerName().isEmpty())
+        return;
+    printer.setPageOrientation(
+        orientation == ReportOrientation::Landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+    printer.setDuplex(QPrinter::DuplexNone);
+}
+
+} // namespace kartella

@@ -1,0 +1,107 @@
+#include "ReportCommand.h"
+
+#include "base/Error.h"
+#include "reports/ReportCommands.h"
+#include "reports/ReportLayouts.h"
+#include "reports/ReportPages.h"
+#include "store/Store.h"
+
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QTextStream>
+
+#include <cstring>
+#include <exception>
+
+namespace kartella::tool {
+
+namespace {
+
+constexpr int ExitSuccess = 0;
+constexpr int ExitFailure = 1;
+constexpr int ExitUsage = 2;
+
+int usageError(const QString& problem)
+{
+    QTextStream(stderr) << "kartella-db: " << problem << '\n'
+                        << "Usage: kartella-db report --list\n"
+                           "       kartella-db report NAME PATH.pdf [--register FILE] [--previous-month]\n";
+    return ExitUsage;
+}
+
+void listReports()
+{
+    QTextStream out(stdout);
+    for (const ReportLayout& layout : reportLayouts())
+        out << layout.scriptName.leftJustified(16) << u' ' << layout.caption << '\n';
+}
+
+} // namespace
+
+bool isReportCommand(int argc, char** argv)
+{
+    return argc > 1 && std::strcmp(argv[1], "report") == 0;
+}
+
+int runReportCommand(int argc, char** argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication app(argc, argv);
+    QStringList arguments = QCoreApplication::arguments().mid(2);
+
+    if (arguments == QStringList {QStringLiteral("--list")}) {
+        listReports();
+        return ExitSuccess;
+    }
+    QString registerPath;
+    bool previousMonth = false;
+    QStringList positional;
+    for (int i = 0; i < arguments.size(); ++i) {
+        const QString& argument = arguments.at(i);
+        if (argument == u"--previous-month") {
+            previousMonth = true;
+        } else if (argument.startsWith(QStringLiteral("--register="))) {
+            registerPath = argument.mid(11);
+        } else if (argument == u"--register") {
+            if (i + 1 >= arguments.size())
+                return usageError(QStringLiteral("--register needs a FILE"));
+            registerPath = arguments.at(++i);
+        } else if (argument.startsWith(QStringLiteral("--"))) {
+            return usageError(QStringLiteral("unknown option \"") + argument + u'"');
+        } else {
+            positional << argument;
+        }
+    }
+    if (positional.size() != 2)
+        return usageError(QStringLiteral("report needs a NAME and a PATH.pdf (or --list)"));
+    const ReportLayout* layout = findReportLayout(positional.at(0));
+    if (!layout || layout->scriptName != positional.at(0))
+        return usageError(QStringLiteral("no report named \"") + positional.at(0)
+            + QStringLiteral("\" (kartella-db report --list names them)"));
+    if (previousMonth && layout->scriptName != u"this-month")
+        return usageError(QStringLiteral("--previous-month goes with the this-month report only"));
+
+    try {
+        ReportCommands& commands = ReportCommands::instance();
+        if (!registerPath.isEmpty()) {
+            if (!QFileInfo(registerPath).isFile())
+                throw Error(ErrorNumber::ConnectionFailed,
+                    QStringLiteral("There is no register \"%1\".").arg(registerPath));
+            commands.setConnectionString(
+                plainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"), registerPath));
+        }
+        if (previousMonth)
+            commands.usePreviousMonth();
+        const int pages = writeReportPdf(*layout, commands.run(*layout), positional.at(1));
+        QTextStream(stdout) << "pages: " << pages << '\n';
+        return ExitSuccess;
+    } catch (const Error& error) {
+        QTextStream(stderr) << "kartella-db: " << QString(error.description()).replace(u'\n', u' ') << '\n';
+    } catch (const std::exception& error) {
+        QTextStream(stderr) << "kartella-db: " << QString::fromLocal8Bit(error.what()) << '\n';
+    }
+    return ExitFailure;
+}
+
+} // namespace kartella::tool
