@@ -1,5 +1,6 @@
 // MainWindow: the dialogs its commands open, each registered under its window's name.
 
+#include "addressbook/import/OutlookImportCommand.h"
 #include "explorer/MainWindow.h"
 #include "registration/NewDocumentDialog.h"
 
@@ -13,6 +14,7 @@ void MainWindow::registerDialogs()
             dialog.setLocation(file);
         dialog.exec();
     });
+    setDialog(QStringLiteral("outlookImport"), [](const QString&) { importOutlookData(); });
 }
 
 } // namespace kartella
