@@ -22,6 +22,7 @@ QString usageText()
     return QStringLiteral("Usage: kartella-db create PATH\n"
                           "       kartella-db sample PATH [--documents N] [--seed S]\n"
                           "       kartella-db info PATH\n"
+                          "       kartella-db import PATH FILE [--codepage NAME]\n"
                           "       kartella-db --help\n"
                           "\n"
                           "  create   makes a new, empty register at PATH (an existing file is refused)\n"
@@ -29,6 +30,9 @@ QString usageText()
                           "           its files go into the folder \"<name> files\" beside it\n"
                           "           (N documents, default 400; the same seed S gives the same data)\n"
                           "  info     counts the rows of each table of the register at PATH\n"
+                          "  import   adds the contacts of FILE (vCard or Outlook CSV export) to the\n"
+                          "           register at PATH, skipping names it holds already; text that\n"
+                          "           is not UTF-8 is read in code page NAME (default: guessed)\n"
                           "\n"
                           "Exit codes: 0 success, 1 failure, 2 usage error.\n");
 }
@@ -53,6 +57,8 @@ std::optional<Invocation> parseArguments(const QStringList& arguments, QString& 
         invocation.command = Invocation::Command::Sample;
     else if (command == u"info")
         invocation.command = Invocation::Command::Info;
+    else if (command == u"import")
+        invocation.command = Invocation::Command::Import;
     else {
         problem = QStringLiteral("unknown command \"") + command + u'"';
         return std::nullopt;
@@ -64,6 +70,12 @@ std::optional<Invocation> parseArguments(const QStringList& arguments, QString& 
         if (!argument.startsWith(QStringLiteral("--")) || argument == u"--") {
             paths << argument;
             continue;
+        }
+        if (invocation.command == Invocation::Command::Import) {
+            if (const auto codePage = optionValue(arguments, i, QStringLiteral("--codepage"))) {
+                invocation.codePage = *codePage;
+                continue;
+            }
         }
         if (invocation.command != Invocation::Command::Sample) {
             problem = QStringLiteral("unknown option \"") + argument + u'"';
@@ -86,6 +98,13 @@ std::optional<Invocation> parseArguments(const QStringList& arguments, QString& 
             problem = QStringLiteral("unknown option or missing value: \"") + argument + u'"';
             return std::nullopt;
         }
+    }
+    if (invocation.command == Invocation::Command::Import) {
+        if (paths.size() != 2) {
+            problem = QStringLiteral("import needs PATH and FILE");
+            return std::nullopt;
+        }
+        invocation.contactFile = paths.takeLast();
     }
     if (paths.size() != 1) {
         problem

@@ -10,9 +10,11 @@ namespace kartella::tool {
 // One call of the tool, as read from its command line.
 struct Invocation
 {
-    enum class Command { Help, Create, Sample, Info };
+    enum class Command { Help, Create, Sample, Info, Import };
     Command command = Command::Help;
     QString path;
+    QString contactFile; // import: the contact file
+    QString codePage; // import: the code page of text that is not UTF-8
     int documents = 400;
     quint32 seed = 20240305;
 };

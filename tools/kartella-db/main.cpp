@@ -1,6 +1,7 @@
 // kartella-db: makes registers, fills them with sample data and tells what they hold.
 #include "Arguments.h"
 #include "Commands.h"
+#include "Import.h"
 #include "base/Error.h"
 
 #include <QCoreApplication>
@@ -39,6 +40,11 @@ int Run(const Invocation& invocation)
     case Invocation::Command::Info:
         infoCommand(invocation.path, out);
         break;
+    case Invocation::Command::Import: {
+        QTextStream err(stderr);
+        importCommand(invocation.path, invocation.contactFile, invocation.codePage, out, err);
+        break;
+    }
     }
     return ExitSuccess;
 }
