@@ -6,6 +6,8 @@
 #include "store/engine/Recordset.h"
 #include "store/engine/Value.h"
 
+#include <QElapsedTimer>
+
 namespace kartella {
 
 namespace {
@@ -50,10 +52,11 @@ struct RunStopped
 {
 };
 
-// Rows are written in transactions of this many statements, each committed before the
-// handler is asked and at the end, so that what was written before a failure stays and
-// a large file does not wait for the disk once per row.
-constexpr int RowsPerCommit = 500;
+// Rows are written in transactions, each committed before the error handler is asked, at
+// the end, and once it has been open this long, so that what was written before a failure
+// stays, a large file does not wait for the disk once per row, and another program that
+// wants to write waits no longer than its busy timeout allows.
+constexpr qint64 CommitIntervalMs = 1000;
 
 } // namespace
 
@@ -78,13 +81,12 @@ bool ContactImporter::run(const QList<ContactItem>& items)
     Connection connection;
     connection.setCursorLocation(CursorLocationEnum::UseClient);
     bool inTransaction = false;
-    int pendingRows = 0;
+    QElapsedTimer transactionAge;
 
     const auto commit = [&] {
         if (!inTransaction)
             return;
         inTransaction = false;
-        pendingRows = 0;
         connection.commitTrans();
     };
     const auto step = [&](const auto& action) {
@@ -106,9 +108,10 @@ bool ContactImporter::run(const QList<ContactItem>& items)
             if (!inTransaction && connection.isOpen()) {
                 connection.beginTrans();
                 inTransaction = true;
+                transactionAge.start();
             }
             recordset.update();
-            if (++pendingRows >= RowsPerCommit)
+            if (transactionAge.elapsed() >= CommitIntervalMs)
                 commit();
         });
     };
