@@ -25,6 +25,7 @@ QString ContactNameIndex::folded(const QString& name)
 void ContactNameIndex::load()
 {
     m_ids.clear();
+    m_loaded = false;
     Recordset names;
     names.open(QStringLiteral("SELECT tbl_Contacts.ContactID, tbl_Contacts.FullName FROM tbl_Contacts"),
         m_connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified, -1);
@@ -34,10 +35,13 @@ void ContactNameIndex::load()
             add(name.toString(), names.rowValue(row, 0));
     }
     names.close();
+    m_loaded = true;
 }
 
 QVariant ContactNameIndex::find(const QString& name) const
 {
+    if (!m_loaded)
+        return findWithStatement(name);
     for (const QChar c : name)
         if (c == u'\'' || c == u'%' || c == u'_')
             return findWithStatement(name);

@@ -15,7 +15,8 @@ class Connection;
 // the names read once when the index is loaded and kept up to date with add(), so that
 // a run over many contacts needs no statement per contact. A name holding a quote or a
 // Like wildcard (% or _) is looked up with that statement itself, so it matches what the
-// statement matches and fails where the statement fails.
+// statement matches and fails where the statement fails; so is every name while the
+// names have not been loaded.
 class ContactNameIndex
 {
 public:
@@ -36,6 +37,7 @@ private:
 
     Connection& m_connection;
     QHash<QString, QVariant> m_ids;
+    bool m_loaded = false;
 };
 
 } // namespace kartella
