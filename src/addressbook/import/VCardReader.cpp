@@ -35,11 +35,21 @@ QList<QByteArray> logicalLines(const QByteArray& file)
     QList<QByteArray> lines;
     QByteArray current;
     bool haveCurrent = false;
+    qsizetype colon = -1; // of current; searched for only in what was added since
+    bool quotedPrintable = false;
+    const auto findColon = [&](qsizetype from) {
+        if (colon >= 0)
+            return;
+        colon = current.indexOf(':', from);
+        quotedPrintable = colon > 0 && isQuotedPrintable(current.left(colon));
+    };
     const auto flush = [&] {
         if (haveCurrent)
             lines << current;
         current.clear();
         haveCurrent = false;
+        colon = -1;
+        quotedPrintable = false;
     };
     qsizetype start = 0;
     while (start <= file.size()) {
@@ -51,11 +61,12 @@ QList<QByteArray> logicalLines(const QByteArray& file)
             line.chop(1);
         start = end + 1;
         if (haveCurrent && !line.isEmpty() && (line.front() == ' ' || line.front() == '\t')) {
+            const qsizetype from = current.size();
             current += line.mid(1);
+            findColon(from);
             continue;
         }
-        const qsizetype colon = current.indexOf(':');
-        if (haveCurrent && colon > 0 && isQuotedPrintable(current.left(colon)) && current.endsWith('=')) {
+        if (haveCurrent && quotedPrintable && current.endsWith('=')) {
             current.chop(1);
             current += line;
             continue;
@@ -64,6 +75,7 @@ QList<QByteArray> logicalLines(const QByteArray& file)
         if (!line.isEmpty()) {
             current = line;
             haveCurrent = true;
+            findColon(0);
         }
     }
     flush();
