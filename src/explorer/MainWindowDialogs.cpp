@@ -1,5 +1,6 @@
 // MainWindow: the dialogs its commands open, each registered under its window's name.
 
+#include "addressbook/import/OutlookImportCommand.h"
 #include "categories/CategoryDialog.h"
 #include "categories/NewCategoryDialog.h"
 #include "dialogs/AboutDialog.h"
@@ -100,6 +101,8 @@ void MainWindow::registerDialogs()
 
     for (const ReportMenuEntry& report : reportMenuEntries())
         setDialog(report.dialog, [this, open = report.open](const QString&) { open(this); });
+
+    setDialog(QStringLiteral("outlookImport"), [](const QString&) { importOutlookData(); });
 }
 
 } // namespace kartella

@@ -26,6 +26,7 @@ QString usageText()
                           "       kartella-db migrate OLD.mdb NEW [--codepage CP]\n"
                           "       kartella-db report --list\n"
                           "       kartella-db report NAME PATH.pdf [--register FILE] [--previous-month]\n"
+                          "       kartella-db import PATH FILE [--codepage NAME]\n"
                           "       kartella-db --help\n"
                           "\n"
                           "  create   makes a new, empty register at PATH (an existing file is refused)\n"
@@ -40,6 +41,9 @@ QString usageText()
                           "           page CP (default CP1257, the Baltic one; CP1252 for Western)\n"
                           "  report   writes the report NAME to the PDF file PATH, from FILE or the\n"
                           "           register the options name; --list names the reports\n"
+                          "  import   adds the contacts of FILE (vCard or Outlook CSV export) to the\n"
+                          "           register at PATH, skipping names it holds already; text that\n"
+                          "           is not UTF-8 is read in code page NAME (default: guessed)\n"
                           "\n"
                           "Exit codes: 0 success, 1 failure, 2 usage error.\n");
 }
@@ -68,6 +72,8 @@ std::optional<Invocation> parseArguments(const QStringList& arguments, QString& 
         invocation.command = Invocation::Command::Upgrade;
     else if (command == u"migrate")
         invocation.command = Invocation::Command::Migrate;
+    else if (command == u"import")
+        invocation.command = Invocation::Command::Import;
     else {
         problem = QStringLiteral("unknown command \"") + command + u'"';
         return std::nullopt;
@@ -80,7 +86,8 @@ std::optional<Invocation> parseArguments(const QStringList& arguments, QString& 
             paths << argument;
             continue;
         }
-        if (invocation.command == Invocation::Command::Migrate) {
+        if (invocation.command == Invocation::Command::Migrate
+            || invocation.command == Invocation::Command::Import) {
             const auto codePage = optionValue(arguments, i, QStringLiteral("--codepage"));
             if (!codePage || codePage->isEmpty()) {
                 problem = QStringLiteral("unknown option or missing value: \"") + argument + u'"';
@@ -117,6 +124,13 @@ std::optional<Invocation> parseArguments(const QStringList& arguments, QString& 
             return std::nullopt;
         }
         invocation.target = paths.takeLast();
+    }
+    if (invocation.command == Invocation::Command::Import) {
+        if (paths.size() != 2) {
+            problem = QStringLiteral("import needs PATH and FILE");
+            return std::nullopt;
+        }
+        invocation.contactFile = paths.takeLast();
     }
     if (paths.size() != 1) {
         problem

@@ -10,14 +10,17 @@ namespace kartella::tool {
 // One call of the tool, as read from its command line.
 struct Invocation
 {
-    enum class Command { Help, Create, Sample, Info, Upgrade, Migrate };
+    enum class Command { Help, Create, Sample, Info, Upgrade, Migrate, Import };
     Command command = Command::Help;
     QString path;
+    QString contactFile; // import: the contact file
+    // import: the code page of text that is not UTF-8 (empty: guessed); migrate: the code
+    // page of a Jet 3 file (empty: CP1257).
+    QString codePage;
     int documents = 400;
     quint32 seed = 20240305;
-    // migrate: the new register (path is the old file) and the old file's code page.
+    // migrate: the new register (path is the old file).
     QString target;
-    QString codePage = QStringLiteral("CP1257");
 };
 
 // Reads the arguments (without the program's name). On a usage error gives nothing and

@@ -1,9 +1,10 @@
 // kartella-db: makes registers, fills them with sample data and tells what they hold.
 #include "Arguments.h"
 #include "Commands.h"
-#include "UpgradeCommand.h"
+#include "Import.h"
 #include "Migrate.h"
 #include "ReportCommand.h"
+#include "UpgradeCommand.h"
 #include "base/Error.h"
 
 #include <QCoreApplication>
@@ -46,7 +47,13 @@ int run(const Invocation& invocation)
         upgradeCommand(invocation.path, out);
         break;
     case Invocation::Command::Migrate:
-        return migrateCommand(invocation.path, invocation.target, invocation.codePage, out);
+        return migrateCommand(invocation.path, invocation.target,
+            invocation.codePage.isEmpty() ? QStringLiteral("CP1257") : invocation.codePage, out);
+    case Invocation::Command::Import: {
+        QTextStream err(stderr);
+        importCommand(invocation.path, invocation.contactFile, invocation.codePage, out, err);
+        break;
+    }
     }
     return ExitSuccess;
 }

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <QVariant>
+
+namespace kartella {
+
+class Connection;
+
+// The import's duplicate lookup: the ContactID of a contact whose FullName equals a name
+// but for letter case (every letter, accents not folded), or Null.
+//
+// It answers as "SELECT ... WHERE tbl_Contacts.FullName Like '<name>'" would, but from
+// the names read once when the index is loaded and kept up to date with add(), so that
+// a run over many contacts needs no statement per contact. A name holding a quote or a
+// Like wildcard (% or _) is looked up with that statement itself, so it matches what the
+// statement matches and fails where the statement fails; so is every name while the
+// names have not been loaded.
+class ContactNameIndex
+{
+public:
+    explicit ContactNameIndex(Connection& connection);
+
+    // Reads the names of tbl_Contacts. Throws kartella::Error.
+    void load();
+    // Throws kartella::Error when the statement fails.
+    QVariant find(const QString& name) const;
+    // A contact just stored.
+    void add(const QString& name, const QVariant& contactId);
+
+    // The key names are compared by: each character with its case folded as Like does.
+    static QString folded(const QString& name);
+
+private:
+    QVariant findWithStatement(const QString& name) const;
+
+    Connection& m_connection;
+    QHash<QString, QVariant> m_ids;
+    bool m_loaded = false;
+};
+
+} // namespace kartella

@@ -1,0 +1,329 @@
+#include "tst_contactimport.h"
+
+#include "ContactFiles.h"
+#include "addressbook/import/OutlookImport.h"
+#include "harness/ScriptedPrompter.h"
+#include "harness/TestRegister.h"
+#include "platform/Prompter.h"
+#include "store/engine/Connection.h"
+#include "store/engine/Recordset.h"
+#include "store/engine/Value.h"
+
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace kartella;
+using namespace kartella::test;
+
+namespace {
+
+const QString Question
+    = QStringLiteral("Importing data will bring in ALL contacts from Outlook. Do you wish to continue?");
+const QString Success = QStringLiteral("Contacts successfully imported.");
+const QString Failure = QStringLiteral("Contacts did not import.");
+const QString ClosingTitle = QStringLiteral("Import Contacts from Outlook");
+
+// The rows of sql, each as its fields joined by '|' (Null as "<null>").
+QStringList rows(const TestRegister& reg, const QString& sql)
+{
+    Connection connection(reg.connectionString());
+    connection.open();
+    Recordset recordset;
+    recordset.open(sql, connection);
+    QStringList result;
+    for (int row = 0; row < recordset.recordCount(); ++row) {
+        QStringList fields;
+        for (int column = 0; column < recordset.fieldCount(); ++column) {
+            const QVariant value = recordset.rowValue(row, column);
+            fields << (isNull(value) ? QStringLiteral("<null>") : value.toString());
+        }
+        result << fields.join(u'|');
+    }
+    return result;
+}
+
+QStringList contactNames(const TestRegister& reg)
+{
+    return rows(reg, QStringLiteral("SELECT FullName FROM tbl_Contacts ORDER BY ContactID"));
+}
+
+// One card per name, without phones.
+QByteArray cards(const QStringList& names)
+{
+    QByteArray file;
+    for (const QString& name : names)
+        file += "BEGIN:VCARD\r\nVERSION:3.0\r\nFN:" + name.toUtf8() + "\r\nEND:VCARD\r\n";
+    return file;
+}
+
+// Runs the import of path answering Yes and, when it ends, OK; the answers between are
+// the caller's. Returns the import's result.
+bool importFile(ScriptedPrompter& prompter, const QString& path, QList<int> errorAnswers = {})
+{
+    prompter.answer(MsgBoxResult::Yes).answerFile(path);
+    for (const int answer : errorAnswers)
+        prompter.answer(answer);
+    prompter.answer(MsgBoxResult::Ok);
+    return OutlookImport().run();
+}
+
+} // namespace
+
+void ContactImportTest::importWritesRowsInOrder()
+{
+    TestRegister reg;
+    reg.insert(
+        QStringLiteral("tbl_Contacts"), {{QStringLiteral("FullName"), QStringLiteral("Already There")}});
+    const QByteArray file
+        = "BEGIN:VCARD\r\nVERSION:2.1\r\nFN:Ona Petraitienė\r\nORG:UAB Šviesa\r\nTITLE:Direktorė\r\n"
+          "TEL;PAGER:5\r\nTEL;FAX:4\r\nTEL;CELL:3\r\nTEL;HOME:2\r\nTEL;WORK:1\r\n"
+          "ADR;WORK:;;Gedimino 1;Vilnius;Vilniaus;01103;Lietuva\r\nEMAIL:ona@x.lt\r\n"
+          "URL:http://x.lt\r\nEND:VCARD\r\n"
+          "BEGIN:VCARD\r\nVERSION:2.1\r\nORG:Only Company\r\nTEL:9\r\nEND:VCARD\r\n"
+          "BEGIN:VCARD\r\nVERSION:2.1\r\nFN:No Phone\r\nEND:VCARD\r\n"
+          "BEGIN:VCARD\r\nVERSION:2.1\r\nFN:Web Only\r\nURL:http://w.lt\r\nEND:VCARD\r\n";
+    QTemporaryDir dir;
+    ScriptedPrompter prompter;
+    QSignalSpy imported(&ContactImportNotifier::instance(), &ContactImportNotifier::contactsImported);
+    QVERIFY(importFile(prompter, writeContactFile(dir.path(), QStringLiteral("c.vcf"), file)));
+
+    QCOMPARE(prompter.texts(), (QStringList {Question, Success}));
+    QCOMPARE(prompter.prompts()[0].title, QStringLiteral("Contact Manager"));
+    QCOMPARE(prompter.prompts()[0].style, 36);
+    QCOMPARE(prompter.prompts()[1].title, ClosingTitle);
+    QCOMPARE(prompter.prompts()[1].style, 0);
+    QCOMPARE(imported.size(), 1);
+
+    QCOMPARE(rows(reg,
+                 QStringLiteral(
+                     "SELECT ContactID, CompanyName, Title, Dear, FullName, Address, City, StateOrProvince, "
+                     "PostalCode, Country, EmailName, Notes FROM tbl_Contacts ORDER BY ContactID")),
+        (QStringList {
+            QStringLiteral(
+                "1|<null>|<null>|<null>|Already There|<null>|<null>|<null>|<null>|<null>|<null>|<null>"),
+            QStringLiteral(
+                "2|UAB Šviesa|Direktorė|<null>|Ona Petraitienė|Gedimino 1|Vilnius|Vilniaus|01103|Lietuva|"
+                "ona@x.lt|<null>"),
+            QStringLiteral(
+                "3|<null>|<null>|<null>|No Phone|<null>|<null>|<null>|<null>|<null>|<null>|<null>"),
+            QStringLiteral(
+                "4|<null>|<null>|<null>|Web Only|<null>|<null>|<null>|<null>|<null>|<null>|<null>"),
+        }));
+    QCOMPARE(rows(reg,
+                 QStringLiteral(
+                     "SELECT PhoneID, ContactID, PhoneName, PhoneNumber FROM tbl_Phones ORDER BY PhoneID")),
+        (QStringList {QStringLiteral("1|2|Business|1"), QStringLiteral("2|2|Home|2"),
+            QStringLiteral("3|2|Mobile|3"), QStringLiteral("4|2|Fax|4"), QStringLiteral("5|2|Pager|5")}));
+    QCOMPARE(rows(reg,
+                 QStringLiteral(
+                     "SELECT HomeID, ContactID, Description, HomeWWW FROM tbl_HomePages ORDER BY HomeID")),
+        (QStringList {QStringLiteral("1|2|<null>|http://x.lt"), QStringLiteral("2|4|<null>|http://w.lt")}));
+}
+
+void ContactImportTest::duplicateRuleFoldsCaseOnly_data()
+{
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QString>("imported");
+    QTest::addColumn<bool>("added");
+    QTest::newRow("same") << QStringLiteral("Jonas Jonaitis") << QStringLiteral("Jonas Jonaitis") << false;
+    QTest::newRow("upper case") << QStringLiteral("Jonas Jonaitis") << QStringLiteral("JONAS JONAITIS")
+                                << false;
+    QTest::newRow("every Lithuanian letter")
+        << QStringLiteral("ĄČĘĖĮŠŲŪŽ ąčęėįšųūž") << QStringLiteral("ąčęėįšųūž ĄČĘĖĮŠŲŪŽ") << false;
+    QTest::newRow("other letters") << QStringLiteral("Jürgen Ørsted Δήμος")
+                                   << QStringLiteral("JÜRGEN øRSTED ΔΉΜΟΣ") << false;
+    QTest::newRow("accent differs") << QStringLiteral("Ona Petraitienė") << QStringLiteral("Ona Petraitiene")
+                                    << true;
+    QTest::newRow("base letter for Š") << QStringLiteral("Šarūnas") << QStringLiteral("Sarunas") << true;
+    QTest::newRow("blanks differ") << QStringLiteral("Jonas Jonaitis") << QStringLiteral("Jonas  Jonaitis")
+                                   << true;
+    QTest::newRow("wildcard in name") << QStringLiteral("A_B 100%") << QStringLiteral("a_b 100%") << false;
+    QTest::newRow("wildcard matches as Like does") << QStringLiteral("AxB") << QStringLiteral("a_b") << false;
+}
+
+void ContactImportTest::duplicateRuleFoldsCaseOnly()
+{
+    QFETCH(QString, stored);
+    QFETCH(QString, imported);
+    QFETCH(bool, added);
+    TestRegister reg;
+    reg.insert(QStringLiteral("tbl_Contacts"), {{QStringLiteral("FullName"), stored}});
+    QTemporaryDir dir;
+    const QByteArray file = "BEGIN:VCARD\nFN:" + imported.toUtf8() + "\nTEL:1\nEND:VCARD\n";
+    ScriptedPrompter prompter;
+    QVERIFY(importFile(prompter, writeContactFile(dir.path(), QStringLiteral("c.vcf"), file)));
+    QCOMPARE(contactNames(reg), added ? QStringList({stored, imported}) : QStringList {stored});
+    QCOMPARE(rows(reg, QStringLiteral("SELECT ContactID, PhoneNumber FROM tbl_Phones")),
+        added ? QStringList {QStringLiteral("2|1")} : QStringList {});
+}
+
+void ContactImportTest::cutsAndRepeatedRuns()
+{
+    TestRegister reg;
+    QTemporaryDir dir;
+    const QString name50 = QString(49, u'n') + u'Ž';
+    const QString name51 = QString(50, u'm') + u'X';
+    const QString name60 = QString(60, u'L');
+    const QString street = QString(254, u's') + QStringLiteral("ŪT") + QString(44, u'x'); // 300
+    const QString company = QString(50, u'c') + u'D';
+    const QString state = QString(20, u'r') + u'S';
+    const QString country = QString(80, u'k');
+    QString csv = QStringLiteral(
+        "First Name,Last Name,Company,Business Street,Business State,Business Country/Region,"
+        "Business Phone\r\n");
+    csv += name50 + QStringLiteral(",,") + company + u',' + street + u',' + state + u',' + country
+        + QStringLiteral(",1\r\n");
+    csv += name51 + QStringLiteral(",,,,,,2\r\n");
+    csv += QStringLiteral(",") + name60 + QStringLiteral(",,,,,3\r\n");
+    csv += QStringLiteral(",,Company Only,,,,4\r\n");
+    const QString path = writeContactFile(dir.path(), QStringLiteral("c.csv"), csv.toUtf8());
+
+    ScriptedPrompter prompter;
+    QVERIFY(importFile(prompter, path));
+    QCOMPARE(contactNames(reg), (QStringList {name50, name51.left(50), name60.left(50)}));
+    QCOMPARE(rows(reg,
+                 QStringLiteral("SELECT CompanyName, Address, StateOrProvince, Country FROM tbl_Contacts "
+                                "WHERE ContactID=1")),
+        QStringList {company.left(50) + u'|' + QString(254, u's') + QStringLiteral("Ū|") + state.left(20)
+            + u'|' + country});
+
+    // Found again, apart from the names longer than 50, which are looked up whole and stored cut.
+    QVERIFY(importFile(prompter, path));
+    QCOMPARE(contactNames(reg),
+        (QStringList {name50, name51.left(50), name60.left(50), name51.left(50), name60.left(50)}));
+    QCOMPARE(rows(reg, QStringLiteral("SELECT ContactID, PhoneNumber FROM tbl_Phones ORDER BY PhoneID")),
+        (QStringList {QStringLiteral("1|1"), QStringLiteral("2|2"), QStringLiteral("3|3"),
+            QStringLiteral("4|2"), QStringLiteral("5|3")}));
+    QCOMPARE(prompter.texts().count(Success), 2);
+}
+
+void ContactImportTest::apostropheReachesErrorStep_data()
+{
+    QTest::addColumn<QStringList>("names");
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<QStringList>("stored");
+    QTest::addColumn<QString>("closing");
+    const QStringList names
+        = {QStringLiteral("Jonas"), QStringLiteral("Seán O'Brien"), QStringLiteral("Petras")};
+    // On Yes the id of the item before decides: it exists, so the item is not added.
+    QTest::newRow("yes") << names << int(MsgBoxResult::Yes) << QStringList {names[0], names[2]} << Success;
+    QTest::newRow("no") << names << int(MsgBoxResult::No) << QStringList {names[0]} << Failure;
+    QTest::newRow("first item, yes") << QStringList {names[1], names[2]} << int(MsgBoxResult::Yes)
+                                     << QStringList {names[2]} << Success;
+}
+
+void ContactImportTest::apostropheReachesErrorStep()
+{
+    QFETCH(QStringList, names);
+    QFETCH(int, answer);
+    QFETCH(QStringList, stored);
+    QFETCH(QString, closing);
+    TestRegister reg;
+    QTemporaryDir dir;
+    ScriptedPrompter prompter;
+    QCOMPARE(
+        importFile(prompter, writeContactFile(dir.path(), QStringLiteral("c.vcf"), cards(names)), {answer}),
+        answer == MsgBoxResult::Yes);
+    QCOMPARE(contactNames(reg), stored);
+    const QList<ScriptedPrompter::Prompt> prompts = prompter.prompts();
+    QCOMPARE(prompts.size(), 3);
+    QCOMPARE(prompts[1].title, QStringLiteral("Error in ImportOutlookData()"));
+    QCOMPARE(prompts[1].style, 20);
+    QVERIFY2(prompts[1].text.startsWith(
+                 QStringLiteral("An error occured while importing data. The error was error "
+                                "number -2147217900: ")),
+        qPrintable(prompts[1].text));
+    QVERIFY(prompts[1].text.endsWith(QStringLiteral("Would you like to continue trying to import data?")));
+    QCOMPARE(prompts[2].text, closing);
+    QCOMPARE(prompts[2].title, ClosingTitle);
+}
+
+void ContactImportTest::questionAndFileChoice()
+{
+    TestRegister reg;
+    reg.insert(QStringLiteral("tbl_Contacts"), {{QStringLiteral("FullName"), QStringLiteral("Kept")}});
+    QTemporaryDir dir;
+    const QString good
+        = writeContactFile(dir.path(), QStringLiteral("c.vcf"), cards({QStringLiteral("New")}));
+    ScriptedPrompter prompter;
+
+    prompter.answer(MsgBoxResult::No);
+    QVERIFY(!OutlookImport().run());
+    QCOMPARE(prompter.take().size(), 1);
+    QVERIFY(prompter.fileRequests.isEmpty());
+
+    prompter.answer(MsgBoxResult::Yes).answerFile(QString());
+    QVERIFY(!OutlookImport().run());
+    QCOMPARE(prompter.take().size(), 1);
+    QCOMPARE(prompter.fileRequests.size(), 1);
+
+    const QString missing = dir.filePath(QStringLiteral("missing.csv"));
+    prompter.answer(MsgBoxResult::Yes).answerFile(missing).answer(MsgBoxResult::Ok);
+    QVERIFY(!OutlookImport().run());
+    QList<ScriptedPrompter::Prompt> prompts = prompter.take();
+    QCOMPARE(prompts.size(), 2);
+    QVERIFY(prompts[1].text.startsWith(QStringLiteral("An error occured while importing data.  ")));
+    QVERIFY(prompts[1].text.contains(missing));
+    QCOMPARE(prompts[1].style, 0);
+    QCOMPARE(prompts[1].title, programTitle());
+
+    const QString empty = writeContactFile(dir.path(), QStringLiteral("empty.vcf"), "\r\n");
+    prompter.answer(MsgBoxResult::Yes).answerFile(empty).answer(MsgBoxResult::Ok);
+    QVERIFY(!OutlookImport().run());
+    prompts = prompter.take();
+    QCOMPARE(prompts.size(), 2);
+    QCOMPARE(prompts[1].text, QStringLiteral("Unable to find Outlook Contacts folder"));
+    QCOMPARE(prompts[1].style, 16);
+    QCOMPARE(contactNames(reg), QStringList {QStringLiteral("Kept")});
+
+    // With the register gone every step fails; No at the first question stops the run.
+    QFile::remove(reg.path());
+    prompter.answer(MsgBoxResult::Yes).answerFile(good).answer(MsgBoxResult::No).answer(MsgBoxResult::Ok);
+    QVERIFY(!OutlookImport().run());
+    prompts = prompter.take();
+    QCOMPARE(prompts.size(), 3);
+    QCOMPARE(prompts[2].text, Failure);
+    QVERIFY(prompter.allAnswered());
+}
+
+void ContactImportTest::commandLine()
+{
+    TestRegister reg;
+    reg.insert(QStringLiteral("tbl_Contacts"), {{QStringLiteral("FullName"), QStringLiteral("ŠARŪNAS")}});
+    QTemporaryDir dir;
+    const QByteArray csv = encoded(QStringLiteral("First Name\tLast Name\tMobile Phone\r\nŠarūnas\t\t1\r\n"
+                                                  "Žana\tO'Neil\t2\r\nŽygimantas\t\t3\r\n"),
+        "windows-1257");
+    const QString path = writeContactFile(dir.path(), QStringLiteral("c.csv"), csv);
+    const auto run = [&](const QStringList& arguments, QString* out, QString* err) {
+        QProcess tool;
+        tool.start(QStringLiteral(KARTELLA_DB_PATH), arguments);
+        tool.waitForFinished(60000);
+        *out = QString::fromUtf8(tool.readAllStandardOutput());
+        *err = QString::fromUtf8(tool.readAllStandardError());
+        return tool.exitCode();
+    };
+    QString out;
+    QString err;
+    QCOMPARE(run({QStringLiteral("import"), reg.path(), path, QStringLiteral("--codepage"),
+                     QStringLiteral("windows-1257")},
+                 &out, &err),
+        0);
+    QCOMPARE(out, QStringLiteral("1 contacts added, 2 skipped\n"));
+    QVERIFY2(err.contains(QStringLiteral("error -2147217900")), qPrintable(err));
+    QCOMPARE(contactNames(reg), (QStringList {QStringLiteral("ŠARŪNAS"), QStringLiteral("Žygimantas")}));
+    QCOMPARE(rows(reg, QStringLiteral("SELECT ContactID, PhoneName, PhoneNumber FROM tbl_Phones")),
+        QStringList {QStringLiteral("2|Mobile|3")});
+
+    QCOMPARE(
+        run({QStringLiteral("import"), reg.path(), dir.filePath(QStringLiteral("none.vcf"))}, &out, &err), 1);
+    QVERIFY2(err.contains(QStringLiteral("none.vcf")), qPrintable(err));
+    QCOMPARE(
+        run({QStringLiteral("import"), reg.path(), path, QStringLiteral("--codepage=nonsense")}, &out, &err),
+        1);
+    QCOMPARE(run({QStringLiteral("import"), reg.path()}, &out, &err), 2);
+    QCOMPARE(contactNames(reg).size(), 2);
+}
+
+QTEST_GUILESS_MAIN(ContactImportTest)

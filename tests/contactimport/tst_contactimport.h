@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QObject>
+
+// The contact import: the readers of vCard files and Outlook CSV exports
+// (tst_contactreaders.cpp), and the import into a register (tst_contactimport.cpp).
+class ContactImportTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // readers
+    void outlookVCard21WithQuotedPrintableWindows1252();
+    void vCard40FromAnotherAddressBook();
+    void vCardPhoneTypes_data();
+    void vCardPhoneTypes();
+    void vCardFirstFittingLineWins();
+    void vCardBalticText_data();
+    void vCardBalticText();
+    void outlookCsvSeparators_data();
+    void outlookCsvSeparators();
+    void outlookCsvCodePages_data();
+    void outlookCsvCodePages();
+    void unreadableFiles();
+
+    // import
+    void importWritesRowsInOrder();
+    void duplicateRuleFoldsCaseOnly_data();
+    void duplicateRuleFoldsCaseOnly();
+    void cutsAndRepeatedRuns();
+    void apostropheReachesErrorStep_data();
+    void apostropheReachesErrorStep();
+    void questionAndFileChoice();
+    void commandLine();
+};

@@ -1,0 +1,57 @@
+// The import reached from the main window's menu, by keyboard and by the action.
+#include "ContactFiles.h"
+#include "explorer/MainWindow.h"
+#include "harness/ScriptedPrompter.h"
+#include "harness/TestRegister.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QMenu>
+#include <QTest>
+
+using namespace kartella;
+using namespace kartella::test;
+
+class ContactImportMenuTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void importFromToolsMenuByKeyboard()
+    {
+        TestRegister reg;
+        QTemporaryDir dir;
+        const QString path = writeContactFile(dir.path(), QStringLiteral("c.vcf"),
+            "BEGIN:VCARD\r\nFN:Rūta Jankauskaitė\r\nTEL;CELL:+370 600 1\r\nEND:VCARD\r\n");
+        ScriptedPrompter prompter;
+        MainWindow w;
+        w.show();
+        w.load();
+        QVERIFY(QTest::qWaitForWindowExposed(&w));
+        QAction* command = w.action(QStringLiteral("mnuOutlookData"));
+        QVERIFY(command);
+        QVERIFY(command->isEnabled());
+
+        prompter.answer(MsgBoxResult::Yes).answerFile(path).answer(MsgBoxResult::Ok);
+        QTest::keyClick(&w, Qt::Key_T, Qt::AltModifier);
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_I);
+        QTRY_VERIFY(prompter.allAnswered());
+        QCOMPARE(prompter.texts().last(), QStringLiteral("Contacts successfully imported."));
+        QCOMPARE(reg.scalar(QStringLiteral("SELECT FullName FROM tbl_Contacts")).toString(),
+            QStringLiteral("Rūta Jankauskaitė"));
+        QCOMPARE(reg.scalar(QStringLiteral("SELECT PhoneName FROM tbl_Phones")).toString(),
+            QStringLiteral("Mobile"));
+        QVERIFY(!QGuiApplication::overrideCursor());
+
+        // The second run finds the contact and adds nothing.
+        prompter.answer(MsgBoxResult::Yes).answerFile(path).answer(MsgBoxResult::Ok);
+        command->trigger();
+        QVERIFY(prompter.allAnswered());
+        QCOMPARE(reg.scalar(QStringLiteral("SELECT COUNT(*) FROM tbl_Contacts")).toInt(), 1);
+        QCOMPARE(reg.scalar(QStringLiteral("SELECT COUNT(*) FROM tbl_Phones")).toInt(), 1);
+    }
+};
+
+QTEST_MAIN(ContactImportMenuTest)
+#include "tst_contactimport_menu.moc"
