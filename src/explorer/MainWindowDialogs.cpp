@@ -1,5 +1,7 @@
 // MainWindow: the dialogs its commands open, each registered under its window's name.
 
+#include "addressbook/AddressBookWindow.h"
+#include "addressbook/ContactEditor.h"
 #include "explorer/MainWindow.h"
 #include "registration/NewDocumentDialog.h"
 
@@ -13,6 +15,8 @@ void MainWindow::registerDialogs()
             dialog.setLocation(file);
         dialog.exec();
     });
+    setDialog(QStringLiteral("frmCoresp"), [this](const QString&) { AddressBookWindow(this).exec(); });
+    setDialog(QStringLiteral("frmCorr"), [this](const QString&) { ContactEditor(this).exec(); });
 }
 
 } // namespace kartella
