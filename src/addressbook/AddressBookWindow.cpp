@@ -245,6 +245,15 @@ QWidget* AddressBookWindow::buildFields()
     m_homePageModel = new RecordsetModel(this);
     m_homePageModel->setAllowAddNew(true);
     m_homePageModel->attachView(m_homePageGrid);
+    // The keys are hidden; the settings last across the contacts.
+    const std::array<std::pair<RecordsetModel*, int>, 2> widths
+        = {std::pair {m_phoneModel, 3000}, std::pair {m_homePageModel, 5000}};
+    for (const auto& [model, lastWidth] : widths) {
+        model->setColumnHidden(0, true);
+        model->setColumnHidden(1, true);
+        model->setColumnWidth(2, 2000);
+        model->setColumnWidth(3, lastWidth);
+    }
     connect(m_phoneGrid->selectionModel(), &QItemSelectionModel::currentChanged, this,
         &AddressBookWindow::onPhoneRowChanged);
     connect(m_homePageGrid->selectionModel(), &QItemSelectionModel::currentChanged, this,
@@ -371,14 +380,6 @@ void AddressBookWindow::bindContactChildren()
         m_homePageModel->setRecordset(m_homePages->chapter(QStringLiteral("ChildCMD")));
     } catch (const Error& error) {
         msgBox(error.description());
-    }
-    const std::array<std::pair<RecordsetModel*, int>, 2> widths
-        = {std::pair {m_phoneModel, 3000}, std::pair {m_homePageModel, 5000}};
-    for (const auto& [model, lastWidth] : widths) {
-        model->setColumnHidden(0, true);
-        model->setColumnHidden(1, true);
-        model->setColumnWidth(2, 2000);
-        model->setColumnWidth(3, lastWidth);
     }
     onPhoneRowChanged();
     onHomePageRowChanged();

@@ -224,7 +224,9 @@ void ContactEditor::showHomePages()
         if (m_homePages->isOpen() && m_homePages->hasPendingChanges())
             m_homePages->updateBatch(AffectEnum::All);
         m_homePages->close();
-        m_homePages->open(ContactQueries::homePagesFor(m_contact->collect(QStringLiteral("ContactID"))),
+        const bool onRow = !m_contact->eof() && !m_contact->bof();
+        m_homePages->open(ContactQueries::homePagesFor(
+                              onRow ? m_contact->collect(QStringLiteral("ContactID")) : QVariant()),
             m_homePagesConnection, CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
         m_homePageModel->setRecordset(m_homePages);
         hideKeyColumns(m_homePageModel);
