@@ -76,6 +76,9 @@ void fillContacts(const QString& path)
         }
         for (int i = 0; i < HomePages; ++i)
             pages.add({1 + (i * 7) % Contacts, QStringLiteral("Home"), QStringLiteral("www.c%1.lt").arg(i)});
+        contacts.flush();
+        phones.flush();
+        pages.flush();
     }
     connection.commitTrans();
 }
