@@ -231,6 +231,7 @@ QWidget* AddressBookWindow::buildFields()
     m_notes = new QPlainTextEdit(frame);
     m_notes->setObjectName(QStringLiteral("txtFields_11"));
     m_notes->setAccessibleName(QStringLiteral("Notes"));
+    m_notes->setFixedHeight(m_address->height());
     for (QLineEdit* box : {m_companyName, m_title, m_fullName, m_city})
         box->setMaxLength(50);
 
@@ -289,8 +290,10 @@ QWidget* AddressBookWindow::buildFields()
     auto* phones = makeLabel(QStringLiteral("Phones:"), m_phoneGrid, frame);
     phones->setObjectName(QStringLiteral("Label1"));
     layout->addWidget(phones, line++, 0, 1, 2);
+    layout->setRowStretch(line, 1);
     layout->addWidget(m_phoneGrid, line++, 0, 1, 2);
     layout->addWidget(makeLabel(QStringLiteral("Web Pages URL's:"), m_homePageGrid, frame), line++, 0, 1, 2);
+    layout->setRowStretch(line, 1);
     layout->addWidget(m_homePageGrid, line++, 0, 1, 2);
 
     m_binder = new FieldBinder(m_contacts, this);
