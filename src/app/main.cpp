@@ -2,6 +2,7 @@
 #include "options/FirstRun.h"
 #include "platform/Application.h"
 #include "platform/DesktopShell.h"
+#include "platform/DesktopTelephony.h"
 #include "platform/LibreOfficeSuite.h"
 #include "platform/WidgetPrompter.h"
 #include "support/FileInfo.h"
@@ -20,6 +21,8 @@ int main(int argc, char* argv[])
     kartella::Shell::setInstance(&shell);
     kartella::LibreOfficeSuite office;
     kartella::OfficeSuite::setInstance(&office);
+    kartella::DesktopTelephony telephony;
+    kartella::Telephony::setInstance(&telephony);
 
     // The installer's part: the options exist from the first start on.
     kartella::seedOptionsIfMissing();
@@ -31,6 +34,7 @@ int main(int argc, char* argv[])
         window.load();
         code = QApplication::exec();
     }
+    kartella::Telephony::setInstance(nullptr);
     kartella::OfficeSuite::setInstance(nullptr);
     kartella::Shell::setInstance(nullptr);
     kartella::Prompter::setInstance(nullptr);

@@ -1,5 +1,7 @@
 // MainWindow: the dialogs its commands open, each registered under its window's name.
 
+#include "addressbook/AddressBookWindow.h"
+#include "addressbook/ContactEditor.h"
 #include "addressbook/import/OutlookImportCommand.h"
 #include "categories/CategoryDialog.h"
 #include "categories/NewCategoryDialog.h"
@@ -103,6 +105,9 @@ void MainWindow::registerDialogs()
         setDialog(report.dialog, [this, open = report.open](const QString&) { open(this); });
 
     setDialog(QStringLiteral("outlookImport"), [](const QString&) { importOutlookData(); });
+
+    setDialog(QStringLiteral("frmCoresp"), [this](const QString&) { AddressBookWindow(this).exec(); });
+    setDialog(QStringLiteral("frmCorr"), [this](const QString&) { ContactEditor(this).exec(); });
 }
 
 } // namespace kartella

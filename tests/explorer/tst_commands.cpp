@@ -149,25 +149,26 @@ private Q_SLOTS:
     {
         ExplorerFixture fx;
         MainWindow& w = fx.window();
-        QAction* addressBook = w.action("mnuAddressBook");
-        QVERIFY(!addressBook->isEnabled());
-        QVERIFY(addressBook->toolTip().contains("not available"));
-        QVERIFY(!w.action("btnContacts")->isEnabled());
-        QVERIFY(w.action("btnContacts")->toolTip().startsWith("Address Book\n"));
+        // The document details dialog isn't there yet.
+        fx.clickDocument("contract");
+        QAction* details = w.action("mnuShowDetails");
+        QVERIFY(!details->isEnabled());
+        QVERIFY(details->toolTip().contains("not available"));
+        QVERIFY(!w.action("btnDetails")->isEnabled());
+        QVERIFY(w.action("btnDetails")->toolTip().startsWith("Show Details (F3)\n"));
         QCOMPARE(w.action("btnDelete")->toolTip(), QString("Delete Document (Del)"));
         // The selection enables what it may; a command without its dialog stays off.
-        fx.clickDocument("contract");
         QVERIFY(w.action("mnuDelete")->isEnabled());
         QVERIFY(!w.action("mnuRelated")->isEnabled());
+        bool opened = false;
+        w.setDialog("frmNew", [&](const QString&) { opened = true; });
+        QVERIFY(details->isEnabled());
+        QVERIFY(w.action("btnDetails")->isEnabled());
+        QCOMPARE(w.action("btnDetails")->toolTip(), QString("Show Details (F3)"));
+        w.action("btnDetails")->trigger();
         fx.clickNode("a" + QString::number(fx.id["Raštai"]));
         QVERIFY(w.action("mnuDeleteCategory")->isEnabled());
         QVERIFY(w.action("mnuCategoryOptions")->isEnabled());
-        bool opened = false;
-        w.setDialog("frmCoresp", [&](const QString&) { opened = true; });
-        QVERIFY(addressBook->isEnabled());
-        QVERIFY(w.action("btnContacts")->isEnabled());
-        QCOMPARE(w.action("btnContacts")->toolTip(), QString("Address Book"));
-        w.action("btnContacts")->trigger();
         QVERIFY(opened);
     }
 

@@ -1,0 +1,314 @@
+#include "addressbook/ContactEditor.h"
+
+#include "addressbook/ContactQueries.h"
+#include "base/Error.h"
+#include "options/OptionStore.h"
+#include "platform/Prompter.h"
+#include "store/Store.h"
+#include "store/engine/Recordset.h"
+#include "support/BusyCursor.h"
+#include "support/EnterAsTab.h"
+#include "support/FieldBinder.h"
+#include "support/RecordsetModel.h"
+
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace kartella {
+
+namespace {
+
+QPushButton* makeButton(const QString& name, const QString& caption, QWidget* parent)
+{
+    auto* button = new QPushButton(caption, parent);
+    button->setObjectName(name);
+    button->setAutoDefault(false);
+    return button;
+}
+
+void hideKeyColumns(RecordsetModel* model)
+{
+    model->setColumnHidden(0, true);
+    model->setColumnHidden(1, true);
+}
+
+} // namespace
+
+ContactEditor::ContactEditor(QWidget* parent)
+    : QDialog(parent)
+{
+    setObjectName(QStringLiteral("frmCorr"));
+    setWindowTitle(QStringLiteral("New Contact"));
+    setModal(true);
+    m_contact = new Recordset(this);
+    m_contact->setObjectName(QStringLiteral("datPrimaryRS"));
+    m_homePages = new Recordset(this);
+    m_homePages->setObjectName(QStringLiteral("adoHomePages"));
+    buildWidgets();
+    load();
+}
+
+ContactEditor::~ContactEditor() = default;
+
+QLineEdit* ContactEditor::addTextBox(int index)
+{
+    auto* box = new QLineEdit(this);
+    box->setObjectName(QStringLiteral("txtFields_") + QString::number(index));
+    return box;
+}
+
+void ContactEditor::buildWidgets()
+{
+    m_tabs = new QTabWidget(this);
+    m_tabs->setObjectName(QStringLiteral("SSTab1"));
+    m_tabs->addTab(buildContactTab(), QStringLiteral("Contact Info"));
+
+    const auto gridTab
+        = [this](const char* buttonName, const QString& caption, const char* gridName,
+              const QString& accessibleName, QTableView*& grid, void (ContactEditor::*slot)()) {
+              auto* page = new QWidget(this);
+              QPushButton* add = makeButton(QLatin1String(buttonName), caption, page);
+              connect(add, &QPushButton::clicked, this, slot);
+              grid = new QTableView(page);
+              grid->setObjectName(QLatin1String(gridName));
+              grid->setAccessibleName(accessibleName);
+              auto* layout = new QVBoxLayout(page);
+              layout->addWidget(add, 0, Qt::AlignLeft);
+              layout->addWidget(grid, 1);
+              return page;
+          };
+    m_tabs->addTab(gridTab("cmdAddPhone", QStringLiteral("Add &Phone"), "grdDataGrid",
+                       QStringLiteral("Phones"), m_phoneGrid, &ContactEditor::addPhone),
+        QStringLiteral("Phones"));
+    m_tabs->addTab(gridTab("cmdAddURL", QStringLiteral("Add &URL"), "grdHomePages",
+                       QStringLiteral("Home pages"), m_homePageGrid, &ContactEditor::addUrl),
+        QStringLiteral("Home pages"));
+    m_notes = new QPlainTextEdit(this);
+    m_notes->setObjectName(QStringLiteral("txtFields_11"));
+    m_notes->setAccessibleName(QStringLiteral("Notes"));
+    m_tabs->addTab(m_notes, QStringLiteral("Notes"));
+
+    m_ok = makeButton(QStringLiteral("cmdOk"), QStringLiteral("OK"), this);
+    m_cancel = makeButton(QStringLiteral("cmdClose"), QStringLiteral("Cancel"), this);
+    connect(m_ok, &QPushButton::clicked, this, &ContactEditor::save);
+    connect(m_cancel, &QPushButton::clicked, this, &ContactEditor::cancel);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    buttons->addWidget(m_ok);
+    buttons->addWidget(m_cancel);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_tabs, 1);
+    layout->addLayout(buttons);
+
+    m_phoneModel = new RecordsetModel(this);
+    m_phoneModel->attachView(m_phoneGrid);
+    m_homePageModel = new RecordsetModel(this);
+    m_homePageModel->attachView(m_homePageGrid);
+
+    m_keys = new EnterAsTab(this);
+    for (QLineEdit* box : {m_contactId, m_companyName, m_title, m_dear, m_fullName, m_address, m_city,
+             m_country, m_state, m_postalCode, m_email})
+        m_keys->watch(box);
+    m_keys->watch(m_notes);
+    m_keys->onEnter(m_phoneGrid, [this] { onGridEnter(m_phoneGrid, m_phoneModel); });
+    m_keys->onEnter(m_homePageGrid, [this] { onGridEnter(m_homePageGrid, m_homePageModel); });
+    m_keys->onEscape([this] { return askBeforeClosing(); });
+    resize(520, 420);
+}
+
+QWidget* ContactEditor::buildContactTab()
+{
+    auto* page = new QWidget(this);
+    m_contactId = addTextBox(0);
+    m_contactId->setVisible(false);
+    m_companyName = addTextBox(1);
+    m_title = addTextBox(2);
+    m_dear = addTextBox(3);
+    m_fullName = addTextBox(4);
+    m_address = addTextBox(5);
+    m_city = addTextBox(6);
+    m_country = addTextBox(7);
+    m_state = addTextBox(8);
+    m_postalCode = addTextBox(9);
+    m_email = addTextBox(10);
+    const std::array<std::pair<QString, QLineEdit*>, 10> labelled = {
+        std::pair {QStringLiteral("Company Name:"), m_companyName},
+        std::pair {QStringLiteral("Title:"), m_title},
+        std::pair {QStringLiteral("Dear:"), m_dear},
+        std::pair {QStringLiteral("FullName:"), m_fullName},
+        std::pair {QStringLiteral("Address:"), m_address},
+        std::pair {QStringLiteral("City:"), m_city},
+        std::pair {QStringLiteral("Country:"), m_country},
+        std::pair {QStringLiteral("State/Province:"), m_state},
+        std::pair {QStringLiteral("Zip/Postal Code:"), m_postalCode},
+        std::pair {QStringLiteral("EmailName:"), m_email},
+    };
+    auto* layout = new QGridLayout(page);
+    int line = 0;
+    for (const auto& [caption, box] : labelled) {
+        auto* label = new QLabel(caption, page);
+        label->setObjectName(QStringLiteral("lblLabels_") + QString::number(line + 1));
+        label->setBuddy(box);
+        layout->addWidget(label, line, 0);
+        layout->addWidget(box, line++, 1);
+    }
+    layout->setRowStretch(line, 1);
+    return page;
+}
+
+void ContactEditor::load()
+{
+    const BusyCursor busy;
+    try {
+        const QString provider = getRegValue(QStringLiteral("Provider"));
+        const QString location = getRegValue(QStringLiteral("DbLocation"));
+        m_homePagesConnection = plainConnectionString(provider, location);
+        m_binder = new FieldBinder(m_contact, this);
+        m_binder->bind(m_contactId, QStringLiteral("ContactID"));
+        m_binder->bind(m_companyName, QStringLiteral("CompanyName"));
+        m_binder->bind(m_title, QStringLiteral("Title"));
+        m_binder->bind(m_dear, QStringLiteral("Dear"));
+        m_binder->bind(m_fullName, QStringLiteral("FullName"));
+        m_binder->bind(m_address, QStringLiteral("Address"));
+        m_binder->bind(m_city, QStringLiteral("City"));
+        m_binder->bind(m_country, QStringLiteral("Country"));
+        m_binder->bind(m_state, QStringLiteral("StateOrProvince"));
+        m_binder->bind(m_postalCode, QStringLiteral("PostalCode"));
+        m_binder->bind(m_email, QStringLiteral("EmailName"));
+        m_binder->bind(m_notes, QStringLiteral("Notes"));
+        connect(m_binder, &FieldBinder::changed, this, [this] { m_edited = true; });
+        connect(m_contact, &Recordset::moveComplete, this, &ContactEditor::showHomePages);
+        // Nothing is written until a button stores the row.
+        m_contact->open(ContactQueries::contactsWithPhones(), shapePrefixConnectionString(provider, location),
+            CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
+        m_phoneModel->setRecordset(m_contact->chapter(QStringLiteral("ChildCMD")));
+        addContactRow();
+        hideKeyColumns(m_phoneModel);
+    } catch (const Error& error) {
+        msgBox(QStringLiteral("Data error event hit err:") + error.description());
+    }
+    m_edited = false;
+}
+
+void ContactEditor::addContactRow()
+{
+    try {
+        m_contact->addNew();
+    } catch (const Error& error) {
+        msgBox(error.description());
+    }
+}
+
+void ContactEditor::saveContactRow()
+{
+    try {
+        m_contact->updateBatch(AffectEnum::All);
+        m_contact->moveLast();
+    } catch (const Error& error) {
+        msgBox(error.description());
+    }
+}
+
+void ContactEditor::showHomePages()
+{
+    try {
+        // Web pages typed for the contact before are kept, not dropped with the old rows.
+        if (m_homePages->isOpen() && m_homePages->hasPendingChanges())
+            m_homePages->updateBatch(AffectEnum::All);
+        m_homePages->close();
+        const bool onRow = !m_contact->eof() && !m_contact->bof();
+        m_homePages->open(ContactQueries::homePagesFor(
+                              onRow ? m_contact->collect(QStringLiteral("ContactID")) : QVariant()),
+            m_homePagesConnection, CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
+        m_homePageModel->setRecordset(m_homePages);
+        hideKeyColumns(m_homePageModel);
+    } catch (const Error& error) {
+        msgBox(error.description());
+    }
+}
+
+void ContactEditor::addPhone()
+{
+    saveContactRow();
+    m_phoneModel->setAllowAddNew(true);
+    m_tabs->setCurrentWidget(m_phoneGrid->parentWidget());
+    m_phoneGrid->setFocus(Qt::OtherFocusReason);
+    m_phoneGrid->setCurrentIndex(m_phoneModel->index(m_phoneModel->rowCount() - 1, 2));
+}
+
+void ContactEditor::addUrl()
+{
+    saveContactRow();
+    m_homePageModel->setAllowAddNew(true);
+    try {
+        m_homePages->addNew();
+        // This recordset has no relation that would fill the key.
+        m_homePages->fields(QStringLiteral("ContactID")).setValue(m_contactId->text().toInt());
+    } catch (const Error& error) {
+        msgBox(error.description());
+    }
+    m_tabs->setCurrentWidget(m_homePageGrid->parentWidget());
+    m_homePageGrid->setFocus(Qt::OtherFocusReason);
+    m_homePageGrid->setCurrentIndex(m_homePageModel->index(m_homePages->currentRow(), 2));
+}
+
+void ContactEditor::onGridEnter(QTableView* grid, RecordsetModel* model)
+{
+    // Enter ends the adding of rows and moves one cell on.
+    model->setAllowAddNew(false);
+    grid->setFocus(Qt::OtherFocusReason);
+    EnterAsTab::sendKey(grid, Qt::Key_Right);
+}
+
+void ContactEditor::save()
+{
+    // A refused row keeps the dialog open with what was typed.
+    try {
+        m_binder->validate();
+        m_contact->updateBatch(AffectEnum::All);
+        if (m_homePages->isOpen())
+            m_homePages->updateBatch(AffectEnum::All);
+    } catch (const Error& error) {
+        msgBox(error.description());
+        return;
+    }
+    accept();
+}
+
+void ContactEditor::cancel()
+{
+    reject();
+}
+
+bool ContactEditor::askBeforeClosing()
+{
+    if (!m_edited) {
+        cancel();
+        return true;
+    }
+    const int answer
+        = msgBox(QStringLiteral("Changes to contact have not applied.\n\nDo you want to apply these now?"),
+            MsgBoxStyle::YesNoCancel | MsgBoxStyle::Exclamation, QStringLiteral("Warning"));
+    if (answer == MsgBoxResult::Yes)
+        save();
+    else if (answer == MsgBoxResult::No)
+        cancel();
+    return true;
+}
+
+void ContactEditor::done(int result)
+{
+    while (QGuiApplication::overrideCursor())
+        QGuiApplication::restoreOverrideCursor();
+    QDialog::done(result);
+}
+
+} // namespace kartella

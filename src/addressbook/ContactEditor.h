@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QDialog>
+
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+class QTabWidget;
+class QTableView;
+
+namespace kartella {
+
+class EnterAsTab;
+class FieldBinder;
+class Recordset;
+class RecordsetModel;
+
+// frmCorr, "New Contact": enters one new contact with its phones and web pages. It starts on
+// a new, unsaved row of the contacts. A phone or web page needs its contact's key, which
+// exists only once the contact is stored: so Add Phone and Add URL store the contact first
+// and then open a new line in their grid. OK stores the contact and its web pages (phones
+// go with the contact); Cancel drops what isn't stored yet.
+class ContactEditor : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit ContactEditor(QWidget* parent = nullptr);
+    ~ContactEditor() override;
+
+public Q_SLOTS:
+    void addPhone();
+    void addUrl();
+    void save();
+    void cancel();
+
+protected:
+    void done(int result) override;
+
+private:
+    void buildWidgets();
+    QWidget* buildContactTab();
+    void load();
+    void addContactRow();
+    void saveContactRow();
+    void showHomePages();
+    void onGridEnter(QTableView* grid, RecordsetModel* model);
+    bool askBeforeClosing();
+    QLineEdit* addTextBox(int index);
+
+    Recordset* m_contact = nullptr;
+    Recordset* m_homePages = nullptr;
+    QString m_homePagesConnection;
+    RecordsetModel* m_phoneModel = nullptr;
+    RecordsetModel* m_homePageModel = nullptr;
+    FieldBinder* m_binder = nullptr;
+    EnterAsTab* m_keys = nullptr;
+    bool m_edited = false;
+
+    QTabWidget* m_tabs = nullptr;
+    QTableView* m_phoneGrid = nullptr;
+    QTableView* m_homePageGrid = nullptr;
+    QPushButton* m_ok = nullptr;
+    QPushButton* m_cancel = nullptr;
+
+    // The row's key is in a box nobody sees; it goes into new web page rows.
+    QLineEdit* m_contactId = nullptr;
+    QLineEdit* m_companyName = nullptr;
+    QLineEdit* m_title = nullptr;
+    QLineEdit* m_dear = nullptr;
+    QLineEdit* m_fullName = nullptr;
+    QLineEdit* m_address = nullptr;
+    QLineEdit* m_city = nullptr;
+    QLineEdit* m_country = nullptr;
+    QLineEdit* m_state = nullptr;
+    QLineEdit* m_postalCode = nullptr;
+    QLineEdit* m_email = nullptr;
+    QPlainTextEdit* m_notes = nullptr;
+};
+
+} // namespace kartella

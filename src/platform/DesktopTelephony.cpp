@@ -1,0 +1,18 @@
+#include "platform/DesktopTelephony.h"
+
+#include <QDesktopServices>
+
+namespace kartella {
+
+bool DesktopTelephony::requestCall(const QString& number)
+{
+    const QUrl url = telUrl(number);
+    return url.isValid() && QDesktopServices::openUrl(url);
+}
+
+bool DesktopTelephony::openLink(const QUrl& url)
+{
+    return QDesktopServices::openUrl(url);
+}
+
+} // namespace kartella

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+#include <QUrl>
+
+namespace kartella {
+
+// What the address book hands to the desktop: a phone number to place a call, a web address
+// to open in the browser and a mail link for the mail program. The program uses the one
+// installed instance; tests install a scripted one. The default places no call and opens
+// nothing (every hand-over fails).
+class Telephony
+{
+public:
+    virtual ~Telephony();
+
+    // Asks the desktop's call manager to place a voice call to number, as the user typed it;
+    // false when nothing took the call.
+    virtual bool requestCall(const QString& number) = 0;
+    // Opens url (a web page or a mailto: link) with the desktop's program for it; false when
+    // nothing could be started.
+    virtual bool openLink(const QUrl& url) = 0;
+
+    static Telephony& instance();
+    // Installs telephony (not owned); nullptr restores the default.
+    static void setInstance(Telephony* telephony);
+
+    // The tel: URL of a number as typed: the digits, '*', '#' and a leading '+' are kept,
+    // blanks, brackets, dashes and dots dropped. Empty when the number has no digit.
+    static QUrl telUrl(const QString& number);
+};
+
+} // namespace kartella
