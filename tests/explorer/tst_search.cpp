@@ -8,6 +8,7 @@
 #include "store/engine/Recordset.h"
 
 #include <QHash>
+#include <QProcess>
 #include <QTest>
 
 #include <algorithm>
@@ -243,6 +244,32 @@ private Q_SLOTS:
         connection.open(reg.connectionString());
         QVERIFY(hasSearchIndex(connection));
         QCOMPARE(found(reg, "igaliojim"), Ids {doc});
+    }
+
+    void commandLinePrintsIndexDateAndDescription()
+    {
+        TestRegister reg;
+        addDocument(reg,
+            {{"DokAntraste", "Sutartis\tdėl Šiaulių"}, {"DokRegistracIndeksas", "SUT-0823/4"},
+                {"DokRegistracData", QDate(2024, 3, 9)}});
+        addDocument(reg, {{"DokAntraste", "Šiaulių aktas"}, {"DokRegistracData", QDate(2024, 3, 8)}});
+        addDocument(reg, {{"DokAntraste", "Kita"}});
+        const auto run = [&](const QStringList& arguments, int exitCode) {
+            QProcess tool;
+            tool.start(QStringLiteral(KARTELLA_DB_PATH), arguments);
+            if (!tool.waitForFinished(60000) || tool.exitCode() != exitCode)
+                return QStringLiteral("exit %1: %2")
+                    .arg(tool.exitCode())
+                    .arg(QString::fromUtf8(tool.readAllStandardError()));
+            return QString::fromUtf8(tool.readAllStandardOutput());
+        };
+        QCOMPARE(run({"search", reg.path(), "SIAULIU"}, 0),
+            QString("\t2024-03-08\tŠiaulių aktas\nSUT-0823/4\t2024-03-09\tSutartis dėl Šiaulių\n"));
+        QCOMPARE(run({"search", reg.path(), "0823/4", "šiaul"}, 0),
+            QString("SUT-0823/4\t2024-03-09\tSutartis dėl Šiaulių\n"));
+        QCOMPARE(run({"search", reg.path(), "--nera"}, 0), QString());
+        QVERIFY(run({"search", reg.path()}, 2).isEmpty());
+        QVERIFY(run({"search", reg.dir() + "/nera.mdb", "aktas"}, 1).isEmpty());
     }
 
 private:

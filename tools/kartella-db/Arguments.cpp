@@ -15,6 +15,20 @@ std::optional<QString> optionValue(const QStringList& arguments, int& i, const Q
     return arguments.at(++i);
 }
 
+// search PATH WORD...: every argument after the path is a word, also one that starts with "--".
+std::optional<Invocation> parseSearch(const QStringList& arguments, QString& problem)
+{
+    if (arguments.size() < 3) {
+        problem = arguments.size() < 2 ? QStringLiteral("no PATH given") : QStringLiteral("no WORD given");
+        return std::nullopt;
+    }
+    Invocation invocation;
+    invocation.command = Invocation::Command::Search;
+    invocation.path = arguments.at(1);
+    invocation.words = arguments.mid(2);
+    return invocation;
+}
+
 } // namespace
 
 QString usageText()
@@ -23,6 +37,7 @@ QString usageText()
                           "       kartella-db sample PATH [--documents N] [--seed S]\n"
                           "       kartella-db info PATH\n"
                           "       kartella-db upgrade PATH\n"
+                          "       kartella-db search PATH WORD...\n"
                           "       kartella-db --help\n"
                           "\n"
                           "  create   makes a new, empty register at PATH (an existing file is refused)\n"
@@ -32,6 +47,9 @@ QString usageText()
                           "  info     counts the rows of each table of the register at PATH\n"
                           "  upgrade  brings the register at PATH, made by an earlier Kartella, to this\n"
                           "           version's form, keeping every row\n"
+                          "  search   prints the documents of the register at PATH that hold every WORD\n"
+                          "           (in description, index, notes, contact or file path; case and\n"
+                          "           accents aside): index, date and description, tab-separated\n"
                           "\n"
                           "Exit codes: 0 success, 1 failure, 2 usage error.\n");
 }
@@ -58,6 +76,8 @@ std::optional<Invocation> parseArguments(const QStringList& arguments, QString& 
         invocation.command = Invocation::Command::Info;
     else if (command == u"upgrade")
         invocation.command = Invocation::Command::Upgrade;
+    else if (command == u"search")
+        return parseSearch(arguments, problem);
     else {
         problem = QStringLiteral("unknown command \"") + command + u'"';
         return std::nullopt;

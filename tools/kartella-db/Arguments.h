@@ -10,9 +10,10 @@ namespace kartella::tool {
 // One call of the tool, as read from its command line.
 struct Invocation
 {
-    enum class Command { Help, Create, Sample, Info, Upgrade };
+    enum class Command { Help, Create, Sample, Info, Upgrade, Search };
     Command command = Command::Help;
     QString path;
+    QStringList words; // search
     int documents = 400;
     quint32 seed = 20240305;
 };

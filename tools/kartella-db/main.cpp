@@ -1,6 +1,7 @@
 // kartella-db: makes registers, fills them with sample data and tells what they hold.
 #include "Arguments.h"
 #include "Commands.h"
+#include "SearchCommand.h"
 #include "UpgradeCommand.h"
 #include "base/Error.h"
 
@@ -42,6 +43,9 @@ int Run(const Invocation& invocation)
         break;
     case Invocation::Command::Upgrade:
         upgradeCommand(invocation.path, out);
+        break;
+    case Invocation::Command::Search:
+        searchCommand(invocation.path, invocation.words, out);
         break;
     }
     return ExitSuccess;
