@@ -18,6 +18,8 @@ class Connection;
 inline constexpr const char* SearchTable = "tbl_Documents_Search";
 
 // The schema step that makes the table and its triggers and indexes the documents there are.
+// The triggers sit on tbl_Documents and tbl_Contacts: a later step that makes either table
+// again (as rebuilding a table does) must make them again too.
 void createSearchIndex(Connection& connection);
 
 // Folds a text as the index folds it: the Lithuanian letters onto their base letters,
