@@ -72,6 +72,7 @@ void MainWindow::buildWindow()
     m_band->addWidget(m_direction);
     m_band->addWidget(m_startDate);
     m_band->addWidget(m_endDate);
+    buildSearch();
 
     m_tree = new NavigationTree(this);
     m_tree->setObjectName(QStringLiteral("acxTreeKategorijos"));
@@ -197,6 +198,8 @@ int MainWindow::direction() const
 
 void MainWindow::onDirectionChanged()
 {
+    if (refillSearch())
+        return;
     const int code = direction();
     if (m_categoryView) {
         if (m_state.currentNodeKind == QLatin1String("b"))
@@ -231,6 +234,8 @@ void MainWindow::dateChanged(const QString& message)
 
 void MainWindow::refillByDates()
 {
+    if (refillSearch(true))
+        return;
     const int code = direction();
     if (m_categoryView) {
         if (m_state.currentNodeKind == QLatin1String("b"))

@@ -22,6 +22,7 @@ class DocumentFills;
 class ExplorerList;
 class ListModel;
 class NavigationTree;
+class SearchBox;
 struct SelectionState;
 
 // The main window: a band with the direction box and the two date pickers, the
@@ -77,6 +78,9 @@ public:
     ExplorerList* relatedList() const { return m_related; }
     ListModel* documentModel() const { return m_documentModel; }
     ListModel* relatedModel() const { return m_relatedModel; }
+    SearchBox* searchBox() const { return m_search; }
+    // Whether the document list shows the results of a search.
+    bool isSearching() const { return !m_searchText.isEmpty(); }
 
 public Q_SLOTS:
     void onDirectionChanged();
@@ -84,6 +88,9 @@ public Q_SLOTS:
     void onEndDateChanged();
     void refillByDates();
     void onNodeClicked(QTreeWidgetItem* node);
+    // Lists the documents that hold every word of text; an empty text goes back to the list
+    // of the node last clicked.
+    void search(const QString& text);
     void onDocumentClicked(int row);
     void onRelatedClicked(int row);
 
@@ -168,6 +175,12 @@ private:
     void runFill(const std::function<void()>& fill);
     void reportConnectionError(long number, const QString& description);
     void showRelatedList(bool visible);
+    // The search (MainWindowSearch.cpp): refillSearch runs the search shown again and says
+    // whether there is one; leaveSearch forgets it without a fill and says whether there was.
+    void buildSearch();
+    void runSearch();
+    bool refillSearch(bool datesChanged = false);
+    bool leaveSearch();
 
     SelectionState& m_state;
     bool m_categoryView = true;
@@ -186,6 +199,10 @@ private:
     QLabel* m_count = nullptr;
     QLabel* m_source = nullptr;
     std::unique_ptr<DocumentFills> m_fills;
+    SearchBox* m_search = nullptr;
+    QString m_searchText;
+    QString m_titleBeforeSearch;
+    bool m_searchWithinDates = false;
     bool m_loading = false;
     QHash<QString, QAction*> m_actions;
     // The dialog each command opens, for the commands that open one.

@@ -42,6 +42,9 @@ void MainWindow::fillContactTree()
 
 void MainWindow::onNodeClicked(QTreeWidgetItem* node)
 {
+    // A click leaves a search shown, also on the node last clicked.
+    if (leaveSearch())
+        m_lastNodeIndex = 0;
     const int index = NavigationTree::nodeIndex(node);
     if (index == m_lastNodeIndex)
         return;

@@ -168,6 +168,8 @@ void MainWindow::switchView(bool categories)
 
 void MainWindow::reloadAfterDelete()
 {
+    if (refillSearch())
+        return;
     if (m_state.currentNodeKind == QLatin1String("a"))
         listCategory(m_state.currentCategoryId, direction());
     else if (m_state.currentNodeKind == QLatin1String("b"))
@@ -229,7 +231,8 @@ void MainWindow::deleteDocument()
         connection.execute(deleteDocumentSql(m_state.selectedDocumentId));
         shellDeleteFile(path);
         IconCache::shared().clear();
-        listCategory(0, 0);
+        if (!refillSearch())
+            listCategory(0, 0);
         fillRelatedList();
     } catch (const Error& error) {
         msgBox(error.description());

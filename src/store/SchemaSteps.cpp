@@ -1,6 +1,7 @@
 #include "store/SchemaSteps.h"
 
 #include "base/Error.h"
+#include "store/SearchIndex.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
@@ -49,6 +50,7 @@ const std::vector<SchemaStep>& schemaSteps()
     static const std::vector<SchemaStep> steps = {
         {1, QStringLiteral("tables, indexes, views and triggers of the register"), createFirstForm},
         {2, QStringLiteral("name columns readable by any SQLite tool"), plainNameColumns},
+        {3, QStringLiteral("search index of the documents' texts"), createSearchIndex},
     };
     return steps;
 }

@@ -15,6 +15,20 @@ std::optional<QString> optionValue(const QStringList& arguments, int& i, const Q
     return arguments.at(++i);
 }
 
+// search PATH WORD...: every argument after the path is a word, also one that starts with "--".
+std::optional<Invocation> parseSearch(const QStringList& arguments, QString& problem)
+{
+    if (arguments.size() < 3) {
+        problem = arguments.size() < 2 ? QStringLiteral("no PATH given") : QStringLiteral("no WORD given");
+        return std::nullopt;
+    }
+    Invocation invocation;
+    invocation.command = Invocation::Command::Search;
+    invocation.path = arguments.at(1);
+    invocation.words = arguments.mid(2);
+    return invocation;
+}
+
 } // namespace
 
 QString usageText()
@@ -27,6 +41,7 @@ QString usageText()
                           "       kartella-db report --list\n"
                           "       kartella-db report NAME PATH.pdf [--register FILE] [--previous-month]\n"
                           "       kartella-db import PATH FILE [--codepage NAME]\n"
+                          "       kartella-db search PATH WORD...\n"
                           "       kartella-db --help\n"
                           "\n"
                           "  create   makes a new, empty register at PATH (an existing file is refused)\n"
@@ -44,6 +59,9 @@ QString usageText()
                           "  import   adds the contacts of FILE (vCard or Outlook CSV export) to the\n"
                           "           register at PATH, skipping names it holds already; text that\n"
                           "           is not UTF-8 is read in code page NAME (default: guessed)\n"
+                          "  search   prints the documents of the register at PATH that hold every WORD\n"
+                          "           (in description, index, notes, contact or file path; case and\n"
+                          "           accents aside): index, date and description, tab-separated\n"
                           "\n"
                           "Exit codes: 0 success, 1 failure, 2 usage error.\n");
 }
@@ -74,6 +92,8 @@ std::optional<Invocation> parseArguments(const QStringList& arguments, QString& 
         invocation.command = Invocation::Command::Migrate;
     else if (command == u"import")
         invocation.command = Invocation::Command::Import;
+    else if (command == u"search")
+        return parseSearch(arguments, problem);
     else {
         problem = QStringLiteral("unknown command \"") + command + u'"';
         return std::nullopt;

@@ -4,6 +4,7 @@
 #include "Import.h"
 #include "Migrate.h"
 #include "ReportCommand.h"
+#include "SearchCommand.h"
 #include "UpgradeCommand.h"
 #include "base/Error.h"
 
@@ -54,6 +55,9 @@ int run(const Invocation& invocation)
         importCommand(invocation.path, invocation.contactFile, invocation.codePage, out, err);
         break;
     }
+    case Invocation::Command::Search:
+        searchCommand(invocation.path, invocation.words, out);
+        break;
     }
     return ExitSuccess;
 }

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QString>
+
+namespace kartella {
+
+class Connection;
+
+// The documents' search index: one row per document in the full-text table
+// tbl_Documents_Search (rowid = RastasID), holding the document's description,
+// registration index, notes, contact name and file path in one folded text. The folding is
+// that of names (case, and the Lithuanian letters onto their base letters) and is done by
+// SQLite's own replace() and lower() in triggers, so the index stays right whoever writes
+// the register: this program, a second one, or the sqlite3 shell. The table is FTS5 with
+// the trigram tokenizer, which finds any piece of three characters or more; shorter
+// pieces are found by instr() over the same folded text.
+
+inline constexpr const char* SearchTable = "tbl_Documents_Search";
+
+// The schema step that makes the table and its triggers and indexes the documents there are.
+// The triggers sit on tbl_Documents and tbl_Contacts: a later step that makes either table
+// again (as rebuilding a table does) must make them again too.
+void createSearchIndex(Connection& connection);
+
+// Folds a text as the index folds it: the Lithuanian letters onto their base letters,
+// then ASCII letters onto lower case. Other letters stay as they are (SQLite's lower()
+// leaves them), so the query and the index always agree.
+QString foldSearchText(const QString& text);
+
+// A plain SQLite expression giving the folded, searchable text of a document: `document`
+// is how the document's columns are reached ("NEW", "tbl_Documents"), `contactName` an
+// expression for the name of its contact.
+QString foldedDocumentText(const QString& document, const QString& contactName);
+
+// Whether the open register has the search index (a register of an older schema has not).
+bool hasSearchIndex(Connection& connection);
+
+} // namespace kartella

@@ -1,0 +1,137 @@
+// The main window's search box: typing, Enter, Esc, Ctrl+F, and the refills while a
+// search shows.
+#include "explorer/DocumentFills.h"
+#include "explorer/ExplorerFixture.h"
+#include "explorer/ExplorerList.h"
+#include "explorer/ListModel.h"
+#include "explorer/MainWindow.h"
+#include "explorer/SearchBox.h"
+#include "harness/ScriptedPrompter.h"
+#include "harness/ScriptedShell.h"
+#include "support/SelectionState.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QTest>
+
+using namespace kartella;
+using namespace kartella::test;
+
+namespace {
+
+QString categoryNode(ExplorerFixture& fx, const char* name)
+{
+    return "a" + QString::number(fx.id[QString::fromUtf8(name)]);
+}
+
+} // namespace
+
+class SearchWindowTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { selection() = SelectionState(); }
+
+    void typingListsTheMatchesAndEscGoesBack()
+    {
+        ExplorerFixture fx;
+        ScriptedPrompter prompter;
+        MainWindow& w = fx.window();
+        fx.clickNode(categoryNode(fx, "Raštai"));
+        QCOMPARE(fx.documentTexts(), QStringList({"letter", "note"}));
+        const QString nodeTitle = w.windowTitle();
+
+        SearchBox* box = w.findChild<SearchBox*>("txtSearch");
+        QVERIFY(box);
+        QCOMPARE(box->placeholderText(), QString("Search documents"));
+        QCOMPARE(box->accessibleName(), QString("Search documents"));
+        QTest::keyClick(&w, Qt::Key_F, Qt::ControlModifier);
+        QVERIFY(box->hasFocus());
+
+        // The name of the contact of "work" and "letter", typed without its accents; the
+        // list waits for the pause after the last keystroke.
+        QTest::keyClicks(box, "KAIRYS azuol");
+        QCOMPARE(fx.documentTexts(), QStringList({"letter", "note"}));
+        QTRY_COMPARE(fx.documentTexts(), QStringList({"letter", "work"}));
+        QCOMPARE(w.windowTitle(), QString("Search — KAIRYS azuol"));
+        QCOMPARE(fx.countText(), QString("2 object(s)"));
+        QCOMPARE(fx.columnCaptions(fx.documents()).at(2), QString("Sender/Receiver"));
+        QVERIFY(!w.relatedList()->isVisible());
+
+        // Items of the results act as any list's: the related list of "contract".
+        box->clear();
+        QTest::keyClicks(box, "pasirasyta");
+        QTest::keyClick(box, Qt::Key_Return);
+        QCOMPARE(fx.documentTexts(), QStringList({"contract"}));
+        fx.clickDocument("contract");
+        QCOMPARE(selection().selectedDocumentId, fx.id["contract"]);
+        QVERIFY(w.relatedList()->isVisible());
+        QCOMPARE(selection().activeListName, QString("ListDokSarasas"));
+
+        // A text nothing holds: the empty list.
+        box->setFocus();
+        box->selectAll();
+        QTest::keyClicks(box, "nera tokio");
+        QTest::keyClick(box, Qt::Key_Return);
+        QCOMPARE(fx.documents().item(0).text, DocumentFills::EmptyText);
+        QCOMPARE(fx.countText(), QString("0 object(s)"));
+
+        // Esc: the node's list, title and an empty box; the selection is gone.
+        QTest::keyClick(box, Qt::Key_Escape);
+        QVERIFY(box->text().isEmpty());
+        QCOMPARE(fx.documentTexts(), QStringList({"letter", "note"}));
+        QCOMPARE(w.windowTitle(), nodeTitle);
+        QVERIFY(!w.isSearching());
+        QCOMPARE(selection().selectedDocumentId, 0);
+        QVERIFY(!w.relatedList()->isVisible());
+        QVERIFY(prompter.prompts().isEmpty());
+    }
+
+    void directionDatesAndDeleteSearchAgain()
+    {
+        ExplorerFixture fx;
+        ScriptedPrompter prompter;
+        ScriptedShell shell;
+        MainWindow& w = fx.window();
+        SearchBox* box = w.searchBox();
+        box->setFocus();
+        // The registration indexes "SUT-1" of "contract" (this month) and "SUT-2" of "work" (last month).
+        QTest::keyClicks(box, "sut-");
+        QTest::keyClick(box, Qt::Key_Return);
+        QCOMPARE(fx.documentTexts(), QStringList({"contract", "work"}));
+
+        auto* direction = w.findChild<QComboBox*>("cboDirection");
+        direction->setCurrentIndex(3);
+        QCOMPARE(fx.documentTexts(), QStringList({"work"}));
+        QCOMPARE(w.windowTitle(), QString("Search — sut-"));
+        direction->setCurrentIndex(0);
+        QCOMPARE(fx.documentTexts(), QStringList({"contract", "work"}));
+
+        // A date change narrows the search to the range.
+        auto* start = w.findChild<QDateEdit*>("txtStartDate");
+        start->setDate(fx.thisMonth.addDays(-1));
+        QCOMPARE(fx.documentTexts(), QStringList({"contract"}));
+        start->setDate(fx.lastMonth);
+        QCOMPARE(fx.documentTexts(), QStringList({"contract", "work"}));
+
+        // A delete lists the search's remaining documents.
+        fx.clickDocument("work");
+        w.action("btnDelete")->trigger();
+        QCOMPARE(fx.reg.scalar("SELECT COUNT(*) FROM tbl_Documents WHERE DokAntraste = 'work'").toInt(), 0);
+        QCOMPARE(fx.documentTexts(), QStringList({"contract"}));
+        QVERIFY(w.isSearching());
+
+        // A node click leaves the search, also on the node last clicked (the root).
+        fx.clickNode("ALL");
+        QVERIFY(!w.isSearching());
+        QVERIFY(box->text().isEmpty());
+        QCOMPARE(fx.documentTexts(), QStringList({"contract", "letter", "loose", "note"}));
+        QCOMPARE(w.windowTitle(), QString("CATEGORIES"));
+        QVERIFY(prompter.prompts().isEmpty());
+    }
+};
+
+QTEST_MAIN(SearchWindowTest)
+#include "tst_search_window.moc"
