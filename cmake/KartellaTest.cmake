@@ -23,6 +23,6 @@ function(kartella_add_test area)
     endif()
     set_tests_properties(${area} PROPERTIES
         TIMEOUT ${ARG_TIMEOUT}
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_CONFIG_HOME=${home}/config;HOME=${home};LC_ALL=C.UTF-8;QT_LOGGING_RULES=qt.qpa.*=false"
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;KARTELLA_DATA_DIR=${PROJECT_SOURCE_DIR}/share;XDG_CONFIG_HOME=${home}/config;HOME=${home};LC_ALL=C.UTF-8;QT_LOGGING_RULES=qt.qpa.*=false"
         WORKING_DIRECTORY ${home})
 endfunction()

@@ -5,6 +5,7 @@
 #include "platform/DesktopTelephony.h"
 #include "platform/LibreOfficeSuite.h"
 #include "platform/WidgetPrompter.h"
+#include "support/DataFiles.h"
 #include "support/FileInfo.h"
 
 int main(int argc, char* argv[])
@@ -12,8 +13,15 @@ int main(int argc, char* argv[])
     kartella::Application app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Kartella"));
     QApplication::setApplicationDisplayName(QStringLiteral("Kartella"));
-    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("folder-documents")));
+    QApplication::setDesktopFileName(QStringLiteral("org.kartella.Kartella"));
     kartella::useIconThemeFallback();
+    for (const QString& name : {QStringLiteral("snow.ico"), QStringLiteral("kartella.png")}) {
+        if (kartella::findDataFile(name).isEmpty())
+            qWarning("kartella: the data file %s was not found in %s", qPrintable(name),
+                qPrintable(kartella::dataFolders().join(QStringLiteral(", "))));
+    }
+    QApplication::setWindowIcon(QIcon::fromTheme(
+        QStringLiteral("kartella"), QIcon(kartella::findDataFile(QStringLiteral("kartella.png")))));
 
     kartella::WidgetPrompter prompter;
     kartella::Prompter::setInstance(&prompter);

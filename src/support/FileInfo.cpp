@@ -1,6 +1,7 @@
 #include "support/FileInfo.h"
 
 #include "platform/Prompter.h"
+#include "support/DataFiles.h"
 #include "support/PathUtils.h"
 
 #include <QApplication>
@@ -255,7 +256,7 @@ void useIconThemeFallback()
 
 QString noFileIconPath()
 {
-    return QCoreApplication::applicationDirPath() % QStringLiteral("/snow.ico");
+    return findDataFile(QStringLiteral("snow.ico"));
 }
 
 } // namespace kartella

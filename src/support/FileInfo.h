@@ -65,7 +65,8 @@ FileInfo* getFileInfoObject(const QString& path);
 // the system's icon folders. Called once at start-up.
 void useIconThemeFallback();
 
-// The picture of a document whose file can't be reached: snow.ico in the program's folder.
+// The picture of a document whose file can't be reached: snow.ico among the program's data
+// files (see support/DataFiles.h); empty when it is missing.
 QString noFileIconPath();
 
 } // namespace kartella

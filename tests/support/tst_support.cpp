@@ -1,5 +1,6 @@
 #include "base/Error.h"
 #include "harness/ScriptedPrompter.h"
+#include "support/DataFiles.h"
 #include "support/FileInfo.h"
 #include "support/PathUtils.h"
 #include "support/ShellDialogs.h"
@@ -264,9 +265,23 @@ private Q_SLOTS:
         QVERIFY(!getFileInfoObject(lost)->smallIcon().isNull());
     }
 
+    void dataFilesAreFoundInTheInstalledDataFolders()
+    {
+        QTemporaryDir data;
+        QVERIFY(QDir().mkpath(data.filePath("kartella")));
+        const QString shipped = writeFile(data.filePath("kartella/only-here.txt"), "x");
+        qputenv("XDG_DATA_HOME", QFile::encodeName(data.path()));
+        QCOMPARE(findDataFile("only-here.txt"), QDir::toNativeSeparators(shipped));
+        QCOMPARE(findDataFile("nowhere.txt"), QString());
+        QVERIFY(dataFolders().indexOf(QDir::cleanPath(data.filePath("kartella")))
+            > dataFolders().indexOf(QCoreApplication::applicationDirPath()));
+        qunsetenv("XDG_DATA_HOME");
+    }
+
     void noFileIcon()
     {
-        QCOMPARE(noFileIconPath(), QString(QCoreApplication::applicationDirPath() + "/snow.ico"));
+        QVERIFY(!noFileIconPath().isEmpty());
+        QVERIFY(!QIcon(noFileIconPath()).isNull());
         QVERIFY(!QIcon(KARTELLA_SNOW_ICON).isNull());
         QImageReader reader(KARTELLA_SNOW_ICON);
         const QImage image = reader.read();
