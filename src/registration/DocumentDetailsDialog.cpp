@@ -255,11 +255,12 @@ void DocumentDetailsDialog::load()
         const QString provider = getRegValue(QStringLiteral("Provider"));
         const QString location = getRegValue(QStringLiteral("DbLocation"));
         m_listConnection = plainConnectionString(provider, location);
+        // Filtered before it opens, the table is read for this row alone.
+        m_document->setFilter(QStringLiteral("RastasID=") + QString::number(id));
         m_document->open(
             DocumentTable, m_listConnection, CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
         m_contacts->open(ContactSource, m_listConnection);
         m_categories->open(CategorySource, m_listConnection);
-        m_document->setFilter(QStringLiteral("RastasID=") + QString::number(id));
 
         m_reminders->open(reminderSource(id), shapeConnectionString(provider, location),
             CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);

@@ -102,6 +102,7 @@ void RecordsetData::reset()
     visible.clear();
     pos = -1;
     filterText.clear();
+    restriction.clear();
     filter.reset();
     edit.reset();
     nameCache.fill(NameCacheEntry {});
@@ -151,7 +152,7 @@ void RecordsetData::load(QueryResult&& query)
 
 void RecordsetData::runQuery()
 {
-    load(connection->backend().query(selectText(source)));
+    load(connection->backend().query(restrictedSelect(source, restriction)));
 }
 
 void RecordsetData::parseFilter(const QString& criteria)
@@ -319,11 +320,16 @@ void Recordset::open(const QString& source, Connection& connection, int cursorTy
     d->source = source;
     d->lockType = lockType;
     d->chapters.clear();
+    // A key filter set before opening is read through the select itself: only its rows
+    // come from the database.
+    const QString presetFilter = d->filterText;
+    d->restriction = keyRestriction(presetFilter);
     try {
         if (isShapeCommand(source))
             d->openShape(source);
         else
             d->runQuery();
+        d->parseFilter(presetFilter);
     } catch (...) {
         d->reset();
         d->chapters.clear();
@@ -493,8 +499,20 @@ QString Recordset::filter() const
 
 void Recordset::setFilter(const QString& criteria)
 {
-    d->requireOpen();
+    if (!d->open) {
+        // Kept for the opening, which reads only the rows of a key filter.
+        d->filterText = criteria;
+        d->filter.reset();
+        return;
+    }
     d->commitEdits();
+    if (!d->restriction.isEmpty() && keyRestriction(criteria) != d->restriction && !hasPendingChanges()) {
+        // Rows beyond those read at the opening are wanted now.
+        d->restriction.clear();
+        d->filterText = criteria;
+        requery();
+        return;
+    }
     d->parseFilter(criteria);
     d->rebuildView(-1);
     Q_EMIT recordsetChangeComplete();
