@@ -165,6 +165,12 @@ void RelatedDocumentDialog::load()
     const SelectionState& state = selection();
     try {
         const QString connection = plainConnectionString();
+        // A new row needs none of the stored ones.
+        if (m_mode == Mode::Creating)
+            m_related->setFilterGroup(FilterGroupEnum::PendingRecords);
+        else
+            m_related->setFilter(
+                QStringLiteral("SubRastasID= ") + QString::number(state.selectedSubDocumentId));
         m_related->open(RelatedSource, connection, CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
         m_contacts->open(ContactSource, connection);
         if (m_mode == Mode::Creating) {

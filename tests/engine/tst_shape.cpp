@@ -407,6 +407,33 @@ private Q_SLOTS:
         shaped.updateBatch(AffectEnum::All);
         QCOMPARE(reminders(reg), "1:Call,1:Write,1:Third");
     }
+
+    // Opened to add rows (pending rows only), a shaped source reads nothing, shows its new
+    // rows and stores them with their children; showing all again reads the rest.
+    void pendingRowsOnly()
+    {
+        EngineRegister reg;
+        reg.fillSmall();
+        Recordset parent;
+        parent.setFilterGroup(FilterGroupEnum::PendingRecords);
+        parent.open(
+            NewDocumentShape, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
+        QCOMPARE(parent.recordCount(), 0);
+        QVERIFY(parent.eof());
+        parent.addNew();
+        parent.fields("DokAntraste").setValue("Fourth");
+        Recordset* child = parent.chapter("ChildCMD");
+        QCOMPARE(child->recordCount(), 0);
+        child->addNew();
+        child->fields("TicklerText").setValue("Soon");
+        QCOMPARE(parent.recordCount(), 1);
+        parent.updateBatch(AffectEnum::All);
+        const int id = reg.scalar("SELECT RastasID FROM tbl_Documents WHERE DokAntraste='Fourth'").toInt();
+        QVERIFY(id > 3);
+        QCOMPARE(reminders(reg), "1:Call,1:Write," + QString::number(id) + ":Soon");
+        parent.setFilterGroup(FilterGroupEnum::None);
+        QCOMPARE(parent.recordCount(), 4);
+    }
 };
 
 int runShapeTest(int argc, char** argv)

@@ -102,6 +102,7 @@ void RecordsetData::reset()
     visible.clear();
     pos = -1;
     filterText.clear();
+    filterGroup = FilterGroupEnum::None;
     restriction.clear();
     filter.reset();
     edit.reset();
@@ -171,6 +172,10 @@ void RecordsetData::parseFilter(const QString& criteria)
 
 bool RecordsetData::passesFilter(int row) const
 {
+    if (filterGroup == FilterGroupEnum::PendingRecords) {
+        const RowStatus status = rows[std::size_t(row)].status;
+        return status == RowStatus::New || status == RowStatus::Modified;
+    }
     if (!filter)
         return true;
     return filter->matches([this, row](int field) { return value(row, field); });
@@ -323,7 +328,9 @@ void Recordset::open(const QString& source, Connection& connection, int cursorTy
     // A key filter set before opening is read through the select itself: only its rows
     // come from the database.
     const QString presetFilter = d->filterText;
-    d->restriction = keyRestriction(presetFilter);
+    // Rows to be added need none of those stored.
+    d->restriction = d->filterGroup == FilterGroupEnum::PendingRecords ? QStringLiteral("1=0")
+                                                                       : keyRestriction(presetFilter);
     try {
         if (isShapeCommand(source))
             d->openShape(source);
@@ -499,6 +506,7 @@ QString Recordset::filter() const
 
 void Recordset::setFilter(const QString& criteria)
 {
+    d->filterGroup = FilterGroupEnum::None;
     if (!d->open) {
         // Kept for the opening, which reads only the rows of a key filter.
         d->filterText = criteria;
@@ -517,6 +525,29 @@ void Recordset::setFilter(const QString& criteria)
     d->rebuildView(-1);
     Q_EMIT recordsetChangeComplete();
     d->notifyMoved();
+}
+
+void Recordset::setFilterGroup(int group)
+{
+    d->filterText.clear();
+    d->filter.reset();
+    d->filterGroup = group;
+    if (!d->open)
+        return;
+    d->commitEdits();
+    if (group == FilterGroupEnum::None && !d->restriction.isEmpty() && !hasPendingChanges()) {
+        d->restriction.clear();
+        requery();
+        return;
+    }
+    d->rebuildView(-1);
+    Q_EMIT recordsetChangeComplete();
+    d->notifyMoved();
+}
+
+int Recordset::filterGroup() const
+{
+    return d->filterGroup;
 }
 
 int Recordset::fieldCount() const
