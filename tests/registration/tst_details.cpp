@@ -1,4 +1,5 @@
 #include "explorer/DocumentFills.h"
+#include "explorer/ExplorerList.h"
 #include "explorer/ListModel.h"
 #include "explorer/MainWindow.h"
 #include "harness/ScriptedPrompter.h"
@@ -572,6 +573,56 @@ private Q_SLOTS:
         QCOMPARE(window.documentModel()->item(row).tag, target);
         window.onDocumentClicked(row);
         QCOMPARE(selection().selectedFilePath, target);
+    }
+
+    // Files dropped on the related list open New Related Document one after another, each
+    // with its file in the Location box and marked as changed, so that Esc asks; Show
+    // Details opens the dialog of the list last clicked.
+    void dropOnTheRelatedListAndShowDetails()
+    {
+        Fixture fx;
+        MainWindow window;
+        window.load();
+        window.listCategory(fx.contracts, 0);
+        window.onDocumentClicked(window.documentModel()->rowOfKey(DocumentFills::itemKey(fx.lease)));
+        const QStringList paths = {fx.files.filePath("a.pdf"), fx.files.filePath("b.pdf")};
+        QStringList seen;
+        QList<bool> changed;
+        QTimer responder;
+        connect(&responder, &QTimer::timeout, this, [&] {
+            auto* dialog = qobject_cast<RelatedDocumentDialog*>(QApplication::activeModalWidget());
+            if (!dialog || !dialog->isVisible())
+                return;
+            seen << dialog->objectName() + ":" + dialog->findChild<QLineEdit*>("txtFields_5")->text();
+            changed << dialog->relatedChanged();
+            QTest::mouseClick(
+                dialog->findChild<QPushButton*>(seen.size() == 1 ? "cmdOK" : "cmdCancel"), Qt::LeftButton);
+        });
+        responder.start(20);
+        Q_EMIT window.relatedList()->filesDropped(paths);
+        QCOMPARE(seen, QStringList({"frmRelated:" + paths[0], "frmRelated:" + paths[1]}));
+        QCOMPARE(changed, QList<bool>({true, true}));
+        QCOMPARE(
+            fx.reg
+                .scalar("SELECT COUNT(*) FROM tbl_Sub_Documents WHERE RastasID=" + QString::number(fx.lease))
+                .toInt(),
+            2);
+
+        QStringList shown;
+        disconnect(&responder, nullptr, this, nullptr);
+        connect(&responder, &QTimer::timeout, this, [&] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (!dialog || !dialog->isVisible())
+                return;
+            shown << dialog->objectName();
+            QTest::keyClick(dialog, Qt::Key_Escape);
+        });
+        window.action("mnuShowDetails")->trigger();
+        window.fillRelatedList();
+        window.onRelatedClicked(window.relatedModel()->rowOfKey(DocumentFills::itemKey(fx.annex)));
+        window.action("mnuShowDetails")->trigger();
+        responder.stop();
+        QCOMPARE(shown, QStringList({"frmNew", "frmRelDescr"}));
     }
 
     void storedPathQuotesApostrophes()
