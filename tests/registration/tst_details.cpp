@@ -301,6 +301,35 @@ private Q_SLOTS:
             answer == MsgBoxResult::Yes ? "AGR-2" : "AGR-1");
     }
 
+    // Choosing another category (by the keyboard) refills the subcategory list only: the
+    // row keeps its subcategory until another one is chosen.
+    void categoryChangeKeepsTheSubCategory()
+    {
+        Fixture fx;
+        const qint32 leases = fx.reg.insert(
+            "tbl_Sub_Categories", {{"KategID", fx.contracts}, {"DokSubKategorija", "Leases"}});
+        const qint32 inbound
+            = fx.reg.insert("tbl_Sub_Categories", {{"KategID", fx.letters}, {"DokSubKategorija", "Inbound"}});
+        fx.reg.exec("UPDATE tbl_Documents SET SubKategID=" + QString::number(leases)
+            + " WHERE RastasID=" + QString::number(fx.lease));
+        DocumentDetailsDialog dialog;
+        showActive(dialog);
+        auto* subCategory = dialog.findChild<QComboBox*>("cmbSubCategory");
+        QCOMPARE(subCategory->currentText(), "Leases");
+        auto* category = dialog.findChild<QComboBox*>("cmbCategory");
+        category->setFocus();
+        QTest::keyClick(category, 'L');
+        QCOMPARE(category->currentText(), "Letters");
+        QVERIFY(dialog.detailsChanged());
+        QCOMPARE(subCategory->count(), 1);
+        QCOMPARE(subCategory->itemText(0), "Inbound");
+        QVERIFY(dialog.apply());
+        QCOMPARE(fx.document("KategID", fx.lease).toInt(), fx.letters);
+        QCOMPARE(fx.document("SubKategID", fx.lease).toInt(), leases);
+        QCOMPARE(fx.document("DokRegistracIndeksas", fx.lease).toString(), "AGR-1");
+        Q_UNUSED(inbound);
+    }
+
     // A write the register refuses is reported as an error with its number; the row stays
     // as stored, the dialog open with its changes.
     void refusedApplyLeavesTheRow()
