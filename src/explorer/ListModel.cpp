@@ -50,6 +50,15 @@ void ListModel::appendItem(ListItem item)
     endInsertRows();
 }
 
+void ListModel::setItemTag(int row, const QString& tag)
+{
+    if (row < 0 || row >= itemCount())
+        return;
+    m_items[size_t(row)].tag = tag;
+    m_items[size_t(row)].tagIsNull = false;
+    Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
+}
+
 int ListModel::rowOfKey(const QString& key) const
 {
     for (size_t i = 0; i < m_items.size(); ++i) {

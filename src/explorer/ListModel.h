@@ -49,6 +49,8 @@ public:
     int itemCount() const { return int(m_items.size()); }
     const ListItem& item(int row) const { return m_items[size_t(row)]; }
     int rowOfKey(const QString& key) const;
+    // Gives the item of row another file path (its tag), as after a move of its file.
+    void setItemTag(int row, const QString& tag);
 
     // Large or small pictures for the items (large icons view, or the others).
     void setLargeIcons(bool large);

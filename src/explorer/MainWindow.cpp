@@ -136,6 +136,7 @@ void MainWindow::buildWindow()
     connect(m_documents, &ExplorerList::pressed, this, &MainWindow::onDocumentListPressed);
     connect(m_documents, &ExplorerList::filesDropped, this, &MainWindow::onFilesDropped);
     connect(m_related, &ExplorerList::itemClicked, this, &MainWindow::onRelatedClicked);
+    connect(m_related, &ExplorerList::filesDropped, this, &MainWindow::onRelatedFilesDropped);
     connect(m_related, &ExplorerList::doubleClickedItem, this, &MainWindow::onRelatedDoubleClicked);
     connect(m_related, &ExplorerList::columnClicked, this, &MainWindow::onRelatedColumnClicked);
     connect(m_related, &ExplorerList::pressed, this, &MainWindow::onRelatedListPressed);
@@ -146,6 +147,7 @@ void MainWindow::buildWindow()
     };
     m_documents->setDragFilesOut(true);
     m_documents->setAcceptFileDrops(true);
+    m_related->setAcceptFileDrops(true);
 }
 
 bool MainWindow::fileFound(const QString& path)

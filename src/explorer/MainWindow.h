@@ -149,6 +149,7 @@ public Q_SLOTS:
     void onRelatedListPressed(Qt::MouseButton button, const QPoint& globalPos);
     void onTreePressed(Qt::MouseButton button, const QPoint& globalPos);
     void onFilesDropped(const QStringList& paths);
+    void onRelatedFilesDropped(const QStringList& paths);
 
 protected:
     QToolBar* band() const { return m_band; }

@@ -8,10 +8,15 @@
 #include "dialogs/AboutDialog.h"
 #include "dialogs/SettingsDialog.h"
 #include "dialogs/SettingsStore.h"
+#include "explorer/DocumentFills.h"
+#include "explorer/ListModel.h"
 #include "explorer/MainWindow.h"
 #include "explorer/NavigationTree.h"
 #include "options/OptionStore.h"
+#include "registration/CopyFileDialog.h"
+#include "registration/DocumentDetailsDialog.h"
 #include "registration/NewDocumentDialog.h"
+#include "registration/RelatedDocumentDialog.h"
 #include "reports/ReportPreview.h"
 #include "support/SelectionState.h"
 
@@ -61,6 +66,35 @@ void MainWindow::registerDialogs()
         NewDocumentDialog dialog(this);
         if (!file.isEmpty())
             dialog.setLocation(file);
+        dialog.exec();
+    });
+
+    setDialog(QStringLiteral("frmNew"), [this](const QString&) {
+        DocumentDetailsDialog dialog(this);
+        dialog.exec();
+    });
+    const auto relatedDialog = [this](RelatedDocumentDialog::Mode mode) {
+        return [this, mode](const QString& file) {
+            RelatedDocumentDialog dialog(mode, this);
+            if (!file.isEmpty())
+                dialog.setLocation(file);
+            dialog.exec();
+        };
+    };
+    setDialog(QStringLiteral("frmRelated"), relatedDialog(RelatedDocumentDialog::Mode::Creating));
+    setDialog(QStringLiteral("frmRelDescr"), relatedDialog(RelatedDocumentDialog::Mode::Editing));
+    // A moved file shows its new place in its list item at once, so that the item never
+    // leads to a file that has gone.
+    setDialog(QStringLiteral("frmCopyFile"), [this](const QString&) {
+        CopyFileDialog dialog(this);
+        if (!dialog.hasFile())
+            return;
+        const bool related = m_state.activeListName == QLatin1String("ListSusieti");
+        ListModel* list = related ? m_relatedModel : m_documentModel;
+        const QString key
+            = DocumentFills::itemKey(related ? m_state.selectedSubDocumentId : m_state.selectedDocumentId);
+        connect(&dialog, &CopyFileDialog::fileMoved, this,
+            [list, key](const QString& path) { list->setItemTag(list->rowOfKey(key), path); });
         dialog.exec();
     });
 

@@ -141,4 +141,13 @@ void MainWindow::onFilesDropped(const QStringList& paths)
         openDialog(QStringLiteral("frmNewDocument"), path);
 }
 
+void MainWindow::onRelatedFilesDropped(const QStringList& paths)
+{
+    // Each file opens the New Related Document dialog the same way.
+    if (!hasDialog(QStringLiteral("frmRelated")))
+        return;
+    for (const QString& path : paths)
+        openDialog(QStringLiteral("frmRelated"), path);
+}
+
 } // namespace kartella

@@ -295,6 +295,8 @@ void NewDocumentDialog::load()
     try {
         const QString provider = getRegValue(QStringLiteral("Provider"));
         const QString location = getRegValue(QStringLiteral("DbLocation"));
+        // Opened to add a row: no stored document or reminder is read.
+        m_document->setFilterGroup(FilterGroupEnum::PendingRecords);
         m_document->open(DocumentSource, shapeUpperConnectionString(provider, location),
             CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
 

@@ -1,6 +1,7 @@
 #include "EngineFixture.h"
 #include "base/Error.h"
 #include "store/engine/Recordset.h"
+#include "store/engine/ShapeCommand.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -330,6 +331,108 @@ private Q_SLOTS:
             QVERIFY2(error.description().contains("SHAPE"), qPrintable(error.description()));
         }
         QVERIFY(!recordset.isOpen());
+    }
+
+    // A key filter set before opening goes into the select; any other filter, or none,
+    // reads the source whole.
+    void keyFilterIntoTheSelect_data()
+    {
+        QTest::addColumn<QString>("source");
+        QTest::addColumn<QString>("filter");
+        QTest::addColumn<QString>("select");
+        QTest::newRow("table") << "tbl_Documents"
+                               << "RastasID=5"
+                               << "SELECT * FROM \"tbl_Documents\" WHERE RastasID=5";
+        QTest::newRow("blanks, select with ;")
+            << "select KategID from tbl_Document_Categories;"
+            << " KategID = 12 "
+            << "select KategID from tbl_Document_Categories WHERE KategID=12";
+        QTest::newRow("a where of its own")
+            << "select * from tbl_Tickler where TicklerText='x' order by 1"
+            << "RastasID=-2"
+            << "SELECT * FROM (select * from tbl_Tickler where TicklerText='x' "
+               "order by 1) WHERE RastasID=-2";
+        QTest::newRow("not a key filter") << "tbl_Documents"
+                                          << "RastasID>5"
+                                          << "SELECT * FROM \"tbl_Documents\"";
+        QTest::newRow("text value") << "tbl_Documents"
+                                    << "DokAntraste='5'"
+                                    << "SELECT * FROM \"tbl_Documents\"";
+        QTest::newRow("beyond 32 bits") << "tbl_Documents"
+                                        << "RastasID=2147483648"
+                                        << "SELECT * FROM \"tbl_Documents\"";
+    }
+
+    void keyFilterIntoTheSelect()
+    {
+        QFETCH(QString, source);
+        QFETCH(QString, filter);
+        QFETCH(QString, select);
+        QCOMPARE(engine::restrictedSelect(source, engine::keyRestriction(filter)), select);
+    }
+
+    // Filtered before opening, the recordset holds its row alone and edits it; another
+    // filter later reads what it needs; a shaped source narrowed to one parent gives that
+    // parent's children and stores a new one under its key.
+    void keyFilterBeforeOpening()
+    {
+        EngineRegister reg;
+        reg.fillSmall();
+        Recordset documents;
+        documents.setFilter("RastasID=2");
+        documents.open(
+            "tbl_Documents", reg.connection(), CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
+        QCOMPARE(documents.recordCount(), 1);
+        QCOMPARE(documents.fields("RastasID").value().toInt(), 2);
+        documents.fields("DokAntraste").setValue("Second");
+        documents.updateBatch(AffectEnum::Current);
+        QCOMPARE(reg.scalar("SELECT DokAntraste FROM tbl_Documents WHERE RastasID=2").toString(), "Second");
+        QCOMPARE(reg.scalar("SELECT COUNT(*) FROM tbl_Documents WHERE DokAntraste='Second'").toInt(), 1);
+        documents.setFilter("RastasID=3");
+        QCOMPARE(documents.recordCount(), 1);
+        QCOMPARE(documents.fields("RastasID").value().toInt(), 3);
+        documents.setFilter("");
+        QCOMPARE(documents.recordCount(), 3);
+
+        Recordset shaped;
+        shaped.open(
+            "SHAPE {select RastasID from tbl_Documents WHERE RastasID=1} AS ParentCMD APPEND ({select "
+            "RastasID,TicklerDate,TicklerID,TicklerText from tbl_Tickler } AS ChildCMD RELATE RastasID TO "
+            "RastasID) AS ChildCMD",
+            reg.connection(), CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
+        Recordset* child = shaped.chapter("ChildCMD");
+        QCOMPARE(child->recordCount(), 2);
+        child->addNew();
+        child->fields("TicklerText").setValue("Third");
+        shaped.updateBatch(AffectEnum::All);
+        QCOMPARE(reminders(reg), "1:Call,1:Write,1:Third");
+    }
+
+    // Opened to add rows (pending rows only), a shaped source reads nothing, shows its new
+    // rows and stores them with their children; showing all again reads the rest.
+    void pendingRowsOnly()
+    {
+        EngineRegister reg;
+        reg.fillSmall();
+        Recordset parent;
+        parent.setFilterGroup(FilterGroupEnum::PendingRecords);
+        parent.open(
+            NewDocumentShape, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
+        QCOMPARE(parent.recordCount(), 0);
+        QVERIFY(parent.eof());
+        parent.addNew();
+        parent.fields("DokAntraste").setValue("Fourth");
+        Recordset* child = parent.chapter("ChildCMD");
+        QCOMPARE(child->recordCount(), 0);
+        child->addNew();
+        child->fields("TicklerText").setValue("Soon");
+        QCOMPARE(parent.recordCount(), 1);
+        parent.updateBatch(AffectEnum::All);
+        const int id = reg.scalar("SELECT RastasID FROM tbl_Documents WHERE DokAntraste='Fourth'").toInt();
+        QVERIFY(id > 3);
+        QCOMPARE(reminders(reg), "1:Call,1:Write," + QString::number(id) + ":Soon");
+        parent.setFilterGroup(FilterGroupEnum::None);
+        QCOMPARE(parent.recordCount(), 4);
     }
 };
 

@@ -43,6 +43,13 @@ constexpr int Add = 2;
 } // namespace EditModeEnum
 
 // absolutePosition when there is no current row.
+// Filters that name a kind of row rather than a criterion.
+namespace FilterGroupEnum {
+constexpr int None = 0;
+// The rows with changes that updateBatch hasn't written: added, changed.
+constexpr int PendingRecords = 1;
+} // namespace FilterGroupEnum
+
 namespace PositionEnum {
 constexpr int Unknown = -1;
 constexpr int BOF = -2;

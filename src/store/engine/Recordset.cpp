@@ -102,6 +102,8 @@ void RecordsetData::reset()
     visible.clear();
     pos = -1;
     filterText.clear();
+    filterGroup = FilterGroupEnum::None;
+    restriction.clear();
     filter.reset();
     edit.reset();
     nameCache.fill(NameCacheEntry {});
@@ -151,7 +153,7 @@ void RecordsetData::load(QueryResult&& query)
 
 void RecordsetData::runQuery()
 {
-    load(connection->backend().query(selectText(source)));
+    load(connection->backend().query(restrictedSelect(source, restriction)));
 }
 
 void RecordsetData::parseFilter(const QString& criteria)
@@ -170,6 +172,10 @@ void RecordsetData::parseFilter(const QString& criteria)
 
 bool RecordsetData::passesFilter(int row) const
 {
+    if (filterGroup == FilterGroupEnum::PendingRecords) {
+        const RowStatus status = rows[std::size_t(row)].status;
+        return status == RowStatus::New || status == RowStatus::Modified;
+    }
     if (!filter)
         return true;
     return filter->matches([this, row](int field) { return value(row, field); });
@@ -319,11 +325,18 @@ void Recordset::open(const QString& source, Connection& connection, int cursorTy
     d->source = source;
     d->lockType = lockType;
     d->chapters.clear();
+    // A key filter set before opening is read through the select itself: only its rows
+    // come from the database.
+    const QString presetFilter = d->filterText;
+    // Rows to be added need none of those stored.
+    d->restriction = d->filterGroup == FilterGroupEnum::PendingRecords ? QStringLiteral("1=0")
+                                                                       : keyRestriction(presetFilter);
     try {
         if (isShapeCommand(source))
             d->openShape(source);
         else
             d->runQuery();
+        d->parseFilter(presetFilter);
     } catch (...) {
         d->reset();
         d->chapters.clear();
@@ -493,12 +506,48 @@ QString Recordset::filter() const
 
 void Recordset::setFilter(const QString& criteria)
 {
-    d->requireOpen();
+    d->filterGroup = FilterGroupEnum::None;
+    if (!d->open) {
+        // Kept for the opening, which reads only the rows of a key filter.
+        d->filterText = criteria;
+        d->filter.reset();
+        return;
+    }
     d->commitEdits();
+    if (!d->restriction.isEmpty() && keyRestriction(criteria) != d->restriction && !hasPendingChanges()) {
+        // Rows beyond those read at the opening are wanted now.
+        d->restriction.clear();
+        d->filterText = criteria;
+        requery();
+        return;
+    }
     d->parseFilter(criteria);
     d->rebuildView(-1);
     Q_EMIT recordsetChangeComplete();
     d->notifyMoved();
+}
+
+void Recordset::setFilterGroup(int group)
+{
+    d->filterText.clear();
+    d->filter.reset();
+    d->filterGroup = group;
+    if (!d->open)
+        return;
+    d->commitEdits();
+    if (group == FilterGroupEnum::None && !d->restriction.isEmpty() && !hasPendingChanges()) {
+        d->restriction.clear();
+        requery();
+        return;
+    }
+    d->rebuildView(-1);
+    Q_EMIT recordsetChangeComplete();
+    d->notifyMoved();
+}
+
+int Recordset::filterGroup() const
+{
+    return d->filterGroup;
 }
 
 int Recordset::fieldCount() const

@@ -98,6 +98,10 @@ public:
     // empty text shows all rows again. The first passing row becomes current.
     QString filter() const;
     void setFilter(const QString& criteria);
+    // A FilterGroupEnum. PendingRecords set before opening reads no rows at all: the
+    // recordset is there to add rows. A criteria filter replaces it, and None shows all.
+    void setFilterGroup(int group);
+    int filterGroup() const;
 
     int fieldCount() const;
     QStringList fieldNames() const;

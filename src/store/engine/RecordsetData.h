@@ -105,6 +105,10 @@ struct RecordsetData
     std::vector<int> visible;
     int pos = -1;
     QString filterText;
+    int filterGroup = 0; // a FilterGroupEnum
+    // A condition put into the WHERE of the source's select, so that only the rows a key
+    // filter set before opening (or a small parent's keys) ask for are read.
+    QString restriction;
     std::unique_ptr<engine::Criteria> filter;
     std::optional<engine::EditBuffer> edit;
 

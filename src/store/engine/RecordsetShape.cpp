@@ -97,6 +97,34 @@ QVariant aggregate(
     return best;
 }
 
+// Few parent rows need only their own children: the child select is narrowed to the keys
+// of the parent rows read. Empty (all children) for many parents or a relation of more
+// than one field or of keys that aren't whole numbers.
+QString childRestriction(const RecordsetData& parent, const ShapeCommand::Append& append)
+{
+    constexpr int MostParentsNarrowed = 500;
+    if (append.relations.size() != 1 || int(parent.rows.size()) > MostParentsNarrowed)
+        return {};
+    const int parentField = parent.fieldIndex(append.relations.front().parentField);
+    if (parentField < 0 || parentField >= parent.dataFields)
+        return {};
+    QStringList keys;
+    for (int row = 0; row < int(parent.rows.size()); ++row) {
+        const QVariant key = parent.value(row, parentField);
+        if (key.isNull())
+            continue;
+        bool whole = false;
+        const qint64 number = key.toLongLong(&whole);
+        if (!whole || key.toString() != QString::number(number))
+            return {};
+        keys << QString::number(number);
+    }
+    if (keys.isEmpty())
+        return QStringLiteral("1=0");
+    keys.removeDuplicates();
+    return append.relations.front().childField + QStringLiteral(" IN (") + keys.join(u',') + u')';
+}
+
 } // namespace
 
 void RecordsetData::openShape(const QString& text)
@@ -129,11 +157,12 @@ void RecordsetData::openShape(const QString& text)
     };
 
     if (!command.compute) {
-        load(connection->backend().query(selectText(command.sql)));
+        load(connection->backend().query(restrictedSelect(command.sql, restriction)));
         for (std::size_t i = 0; i < command.appends.size(); ++i) {
             const ShapeCommand::Append& append = command.appends[i];
             ChapterInfo& chapter = chapterAt(i, append.chapter, append.sql);
             RecordsetData& child = *chapter.recordset->d;
+            child.restriction = childRestriction(*this, append);
             child.runQuery();
             for (const ShapeCommand::Relation& relation : append.relations) {
                 const int parentField = fieldIndex(relation.parentField);

@@ -3,6 +3,10 @@
 #include "store/engine/EngineErrors.h"
 #include "store/engine/SqlLexer.h"
 
+#include <QRegularExpression>
+
+#include <limits>
+
 namespace kartella::engine {
 
 namespace {
@@ -209,6 +213,37 @@ QString selectText(const QString& source)
     QString name = unquotedText(source, *only);
     name.replace(u'"', QLatin1String("\"\""));
     return QStringLiteral("SELECT * FROM \"") + name + u'"';
+}
+
+QString restrictedSelect(const QString& source, const QString& condition)
+{
+    QString sql = selectText(source).trimmed();
+    if (condition.isEmpty())
+        return sql;
+    while (sql.endsWith(u';'))
+        sql = sql.chopped(1).trimmed();
+    // A plain select takes the condition as its WHERE; anything that has clauses of its
+    // own is narrowed from outside.
+    static const QRegularExpression clauses(
+        QStringLiteral("\\b(where|group|order|union|having|limit|join)\\b"),
+        QRegularExpression::CaseInsensitiveOption);
+    if (sql.contains(clauses))
+        return QStringLiteral("SELECT * FROM (") + sql + QStringLiteral(") WHERE ") + condition;
+    return sql + QStringLiteral(" WHERE ") + condition;
+}
+
+QString keyRestriction(const QString& filter)
+{
+    static const QRegularExpression key(
+        QStringLiteral("^\\s*([A-Za-z_][A-Za-z0-9_]*)\\s*=\\s*(-?\\d{1,10})\\s*$"));
+    const QRegularExpressionMatch match = key.match(filter);
+    if (!match.hasMatch())
+        return {};
+    bool ok = false;
+    const qint64 value = match.captured(2).toLongLong(&ok);
+    if (!ok || value < std::numeric_limits<qint32>::min() || value > std::numeric_limits<qint32>::max())
+        return {};
+    return match.captured(1) + u'=' + QString::number(value);
 }
 
 } // namespace kartella::engine

@@ -49,5 +49,11 @@ ShapeCommand parseShape(const QString& text);
 // The SELECT for a recordset source: the source itself, or SELECT * FROM it when it is
 // just a table or view name.
 QString selectText(const QString& source);
+// The select of source (as selectText) narrowed to the rows meeting condition, a WHERE
+// condition in Jet's dialect; source as it is for an empty condition.
+QString restrictedSelect(const QString& source, const QString& condition);
+// The condition that a filter of the form "field=number" puts into a select; empty for any
+// other filter.
+QString keyRestriction(const QString& filter);
 
 } // namespace kartella::engine

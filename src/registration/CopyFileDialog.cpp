@@ -1,0 +1,164 @@
+#include "registration/CopyFileDialog.h"
+
+#include "base/Error.h"
+#include "platform/Prompter.h"
+#include "registration/DialogParts.h"
+#include "registration/ShellFiles.h"
+#include "registration/StoredPaths.h"
+#include "support/SelectionState.h"
+#include "support/ShellDialogs.h"
+
+#include <QDateTime>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace kartella {
+
+namespace {
+
+const QString DocumentList = QStringLiteral("ListDokSarasas");
+const QString RelatedList = QStringLiteral("ListSusieti");
+
+QLabel* makeValue(const char* name, QWidget* parent)
+{
+    auto* value = new QLabel(parent);
+    value->setObjectName(QLatin1String(name));
+    value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    return value;
+}
+
+} // namespace
+
+CopyFileDialog::CopyFileDialog(QWidget* parent)
+    : QDialog(parent)
+{
+    setObjectName(QStringLiteral("frmCopyFile"));
+    setWindowTitle(QStringLiteral("Copy/Move File"));
+    setModal(true);
+    buildWidgets();
+    m_hasFile = load();
+}
+
+CopyFileDialog::~CopyFileDialog() = default;
+
+void CopyFileDialog::buildWidgets()
+{
+    m_document = new QLineEdit(this);
+    m_document->setObjectName(QStringLiteral("txtDocument"));
+    m_document->setReadOnly(true);
+    m_pathNow = makeValue("txtPathNow", this);
+    m_fileSize = makeValue("txtFileSize", this);
+    m_fileDate = makeValue("txtFileDate", this);
+    m_destination = new QLineEdit(this);
+    m_destination->setObjectName(QStringLiteral("txtDestination"));
+    m_destination->setAccessibleName(QStringLiteral("Destination folder"));
+
+    auto* chooser = makeDialogButton(QStringLiteral("cmdDestFolder"), QStringLiteral("Destination"), this);
+    auto* copy = makeDialogButton(QStringLiteral("cmdCopy"), QStringLiteral("Copy"), this);
+    auto* move = makeDialogButton(QStringLiteral("cmdMove"), QStringLiteral("Move"), this);
+    auto* close = makeDialogButton(QStringLiteral("cmdClose"), QStringLiteral("Close"), this);
+    connect(chooser, &QPushButton::clicked, this, &CopyFileDialog::chooseDestination);
+    connect(copy, &QPushButton::clicked, this, &CopyFileDialog::copyFile);
+    connect(move, &QPushButton::clicked, this, &CopyFileDialog::moveFile);
+    connect(close, &QPushButton::clicked, this, &QDialog::reject);
+
+    auto* grid = new QGridLayout;
+    int line = 0;
+    for (const auto& [caption, field] :
+        {std::pair<QString, QWidget*> {QStringLiteral("Document Description:"), m_document},
+            std::pair<QString, QWidget*> {QStringLiteral("Current Location:"), m_pathNow},
+            std::pair<QString, QWidget*> {QStringLiteral("Size:"), m_fileSize},
+            std::pair<QString, QWidget*> {QStringLiteral("Date:"), m_fileDate}}) {
+        grid->addWidget(makeBuddyLabel(caption, field, this), line, 0);
+        grid->addWidget(field, line++, 1, 1, 2);
+    }
+    grid->addWidget(chooser, line, 0);
+    grid->addWidget(m_destination, line, 1, 1, 2);
+    grid->setColumnStretch(1, 1);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    buttons->addWidget(copy);
+    buttons->addWidget(move);
+    buttons->addWidget(close);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(grid);
+    layout->addStretch(1);
+    layout->addLayout(buttons);
+    resize(520, 220);
+}
+
+bool CopyFileDialog::load()
+{
+    const SelectionState& state = selection();
+    const bool listed = state.activeListName == DocumentList || state.activeListName == RelatedList;
+    const QString path = listed ? state.selectedFilePath : QString();
+    if (path.isEmpty()) {
+        msgBox(QStringLiteral("Select a document with a file first, please!"),
+            MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, windowTitle());
+        return false;
+    }
+    const QFileInfo file(path);
+    if (!file.isFile()) {
+        msgBox(QStringLiteral("The file of this document can't be found:\n") + path,
+            MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, windowTitle());
+        return false;
+    }
+    m_document->setText(state.selectedItemText);
+    m_fileSize->setText(QString::number(file.size()));
+    m_fileDate->setText(QLocale::system().toString(file.lastModified(), QLocale::ShortFormat));
+    m_pathNow->setText(path);
+    return true;
+}
+
+void CopyFileDialog::chooseDestination()
+{
+    m_destination->setText(chooseFolder(QStringLiteral("Select a Folder in which you'll to copy/move:")));
+}
+
+QString CopyFileDialog::destinationOrAsk() const
+{
+    const QString folder = m_destination->text();
+    if (folder.isEmpty())
+        msgBox(QStringLiteral("Select the destination folder, please!"));
+    return folder;
+}
+
+void CopyFileDialog::copyFile()
+{
+    const QString folder = destinationOrAsk();
+    if (folder.isEmpty())
+        return;
+    const SelectionState& state = selection();
+    QString target = targetInFolder(folder, state.selectedFilePath);
+    shellCopyFile(state.selectedFilePath, target);
+}
+
+void CopyFileDialog::moveFile()
+{
+    const QString folder = destinationOrAsk();
+    if (folder.isEmpty())
+        return;
+    SelectionState& state = selection();
+    QString target = targetInFolder(folder, state.selectedFilePath);
+    if (!shellMoveFile(state.selectedFilePath, target))
+        return;
+    state.selectedFilePath = target;
+    m_pathNow->setText(target);
+    Q_EMIT fileMoved(target);
+    try {
+        storeMovedPath(state.activeListName == RelatedList,
+            state.activeListName == RelatedList ? state.selectedSubDocumentId : state.selectedDocumentId,
+            target);
+    } catch (const Error& error) {
+        msgBox(error.description());
+    }
+}
+
+} // namespace kartella

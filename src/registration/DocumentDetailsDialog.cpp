@@ -1,0 +1,466 @@
+#include "registration/DocumentDetailsDialog.h"
+
+#include "base/Error.h"
+#include "options/OptionStore.h"
+#include "platform/Prompter.h"
+#include "registration/DialogParts.h"
+#include "store/Store.h"
+#include "store/engine/Recordset.h"
+#include "support/BoundList.h"
+#include "support/BusyCursor.h"
+#include "support/EnterAsTab.h"
+#include "support/FieldBinder.h"
+#include "support/FileInfo.h"
+#include "support/RecordsetModel.h"
+#include "support/SelectionState.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace kartella {
+
+namespace {
+
+const QString DocumentTable = QStringLiteral("tbl_Documents");
+const QString ContactSource
+    = QStringLiteral("select ContactID, FullName from tbl_Contacts order by FullName");
+const QString CategorySource
+    = QStringLiteral("select KategID,DokKategorija from tbl_Document_Categories order by DokKategorija;");
+const QString SubCategorySource
+    = QStringLiteral("select SubKategID,KategID,DokSubKategorija from tbl_Sub_Categories where KategID=");
+const QString SentReceivedField = QStringLiteral("DokGavSiuntData");
+const QString RegistrationField = QStringLiteral("DokRegistracData");
+const QString DateFormat = QStringLiteral("yyyy.MM.dd");
+const QString ErrorTitle = QStringLiteral("Document Description");
+
+QString reminderSource(qint32 documentId)
+{
+    const QString id = QString::number(documentId);
+    return QStringLiteral("SHAPE {select RastasID from tbl_Documents WHERE RastasID=") + id
+        + QStringLiteral("} AS ParentCMD APPEND ({select RastasID,TicklerDate,TicklerID,TicklerText from "
+                         "tbl_Tickler } AS ChildCMD RELATE RastasID TO RastasID) AS ChildCMD");
+}
+
+} // namespace
+
+DocumentDetailsDialog::DocumentDetailsDialog(QWidget* parent)
+    : QDialog(parent)
+{
+    setObjectName(QStringLiteral("frmNew"));
+    setWindowTitle(QStringLiteral("Document Description"));
+    setModal(true);
+    const auto dataControl = [this](const char* name) {
+        auto* recordset = new Recordset(this);
+        recordset->setObjectName(QLatin1String(name));
+        return recordset;
+    };
+    m_document = dataControl("Adodc1");
+    m_contacts = dataControl("Adodc2");
+    m_categories = dataControl("Adodc3");
+    m_subCategories = dataControl("Adodc4");
+    m_reminders = dataControl("TicklerRecordset");
+    buildWidgets();
+    bindControls();
+    load();
+}
+
+DocumentDetailsDialog::~DocumentDetailsDialog() = default;
+
+void DocumentDetailsDialog::buildWidgets()
+{
+    m_tabs = new QTabWidget(this);
+    m_tabs->setObjectName(QStringLiteral("SSTab1"));
+    m_tabs->addTab(buildGeneralTab(), QStringLiteral("General"));
+
+    m_grid = new QTableView(this);
+    m_grid->setObjectName(QStringLiteral("grdTickler"));
+    m_grid->setAccessibleName(QStringLiteral("Reminders"));
+    m_tabs->addTab(m_grid, QStringLiteral("Tickler"));
+
+    m_notes = new QPlainTextEdit(this);
+    m_notes->setObjectName(QStringLiteral("txtFields_12"));
+    m_notes->setAccessibleName(QStringLiteral("Notes"));
+    m_tabs->addTab(m_notes, QStringLiteral("Notes"));
+
+    m_ok = makeDialogButton(QStringLiteral("cmdButton_0"), QStringLiteral("OK"), this);
+    m_cancel = makeDialogButton(QStringLiteral("cmdButton_1"), QStringLiteral("Cancel"), this);
+    m_apply = makeDialogButton(QStringLiteral("cmdButton_2"), QStringLiteral("&Apply"), this);
+    connect(m_ok, &QPushButton::clicked, this, &DocumentDetailsDialog::save);
+    connect(m_cancel, &QPushButton::clicked, this, &DocumentDetailsDialog::cancel);
+    connect(m_apply, &QPushButton::clicked, this, &DocumentDetailsDialog::apply);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    buttons->addWidget(m_ok);
+    buttons->addWidget(m_cancel);
+    buttons->addWidget(m_apply);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_tabs, 1);
+    layout->addLayout(buttons);
+
+    m_directionCode = makeFieldBox(4, this);
+    m_directionCode->setVisible(false);
+
+    const QList<QWidget*> order = {m_description, m_sender->box(), m_location, m_sentReceivedDate,
+        m_registrationDate, m_regIndex, m_category->box(), m_subCategory->box(), m_inner, m_outgoing,
+        m_incoming, m_otherDirection, m_ok, m_cancel, m_apply};
+    for (qsizetype i = 1; i < order.size(); ++i)
+        setTabOrder(order[i - 1], order[i]);
+
+    m_keys = new EnterAsTab(this);
+    for (QWidget* box : {static_cast<QWidget*>(m_description), static_cast<QWidget*>(m_location),
+             static_cast<QWidget*>(m_regIndex), static_cast<QWidget*>(m_notes)})
+        m_keys->watch(box);
+    m_keys->onEnter(m_grid, [this] { onReminderGridEnter(); });
+    m_keys->onEscape([this] { return askOnEscape(); });
+    resize(640, 420);
+}
+
+QWidget* DocumentDetailsDialog::buildGeneralTab()
+{
+    auto* page = new QWidget(this);
+    m_icon = new QLabel(page);
+    m_icon->setObjectName(QStringLiteral("imdgLIcon"));
+    m_icon->setAccessibleName(QStringLiteral("File icon"));
+    m_icon->setFixedSize(36, 36);
+    m_description = makeFieldBox(7, this);
+    m_description->setToolTip(QStringLiteral("Short Description of Document"));
+    auto* sender = new QComboBox(page);
+    sender->setObjectName(QStringLiteral("cmbSender"));
+    m_sender = new BoundList(sender, this);
+    m_location = makeFieldBox(14, this);
+    m_location->setReadOnly(true);
+    m_location->setToolTip(QStringLiteral("Location of File"));
+
+    auto* dates = new QGroupBox(QStringLiteral("Date, Index"), page);
+    dates->setObjectName(QStringLiteral("fraDateIndex"));
+    const auto makePicker = [dates](const char* name) {
+        auto* picker = new QDateEdit(dates);
+        picker->setObjectName(QLatin1String(name));
+        picker->setCalendarPopup(true);
+        picker->setDisplayFormat(DateFormat);
+        return picker;
+    };
+    m_sentReceivedDate = makePicker("DTPicker1");
+    m_registrationDate = makePicker("DTPicker2");
+    m_regIndex = makeFieldBox(3, this);
+    auto* datesLayout = new QGridLayout(dates);
+    int line = 0;
+    for (const auto& [caption, box] :
+        {std::pair<QString, QWidget*> {QStringLiteral("Send/Receive Date:"), m_sentReceivedDate},
+            std::pair<QString, QWidget*> {QStringLiteral("Registration Date:"), m_registrationDate},
+            std::pair<QString, QWidget*> {QStringLiteral("Registration Index:"), m_regIndex}}) {
+        datesLayout->addWidget(makeBuddyLabel(caption, box, dates), line, 0);
+        datesLayout->addWidget(box, line++, 1);
+    }
+
+    auto* categories = new QGroupBox(QStringLiteral("Category"), page);
+    categories->setObjectName(QStringLiteral("fraCategory"));
+    auto* categoryBox = new QComboBox(categories);
+    categoryBox->setObjectName(QStringLiteral("cmbCategory"));
+    categoryBox->setAccessibleName(QStringLiteral("Category"));
+    categoryBox->setToolTip(QStringLiteral("Category of Document"));
+    auto* subCategoryBox = new QComboBox(categories);
+    subCategoryBox->setObjectName(QStringLiteral("cmbSubCategory"));
+    subCategoryBox->setAccessibleName(QStringLiteral("Subcategory"));
+    subCategoryBox->setToolTip(QStringLiteral("SubCategory of Document"));
+    m_category = new BoundList(categoryBox, this);
+    m_subCategory = new BoundList(subCategoryBox, this);
+    auto* categoryLayout = new QVBoxLayout(categories);
+    categoryLayout->addWidget(categoryBox);
+    categoryLayout->addWidget(subCategoryBox);
+
+    auto* direction = new QGroupBox(QStringLiteral("Direction"), page);
+    direction->setObjectName(QStringLiteral("fraDirection"));
+    auto* directionLayout = new QVBoxLayout(direction);
+    const auto addDirection = [&](const QString& caption, int code) {
+        auto* option = new QRadioButton(caption, direction);
+        option->setObjectName(QStringLiteral("Option_") + QString::number(code));
+        connect(option, &QRadioButton::toggled, this, [this, code](bool checked) {
+            if (checked)
+                onDirectionChosen(code);
+        });
+        directionLayout->addWidget(option);
+        return option;
+    };
+    m_inner = addDirection(QStringLiteral("Inner"), 1);
+    m_outgoing = addDirection(QStringLiteral("Outgoing"), 2);
+    m_incoming = addDirection(QStringLiteral("Incoming"), 3);
+    m_otherDirection = addDirection(QStringLiteral("Other"), 4);
+
+    auto* layout = new QGridLayout(page);
+    layout->addWidget(m_icon, 0, 0, 2, 1, Qt::AlignTop);
+    layout->addWidget(makeBuddyLabel(QStringLiteral("Description:"), m_description, page), 0, 1);
+    layout->addWidget(m_description, 0, 2, 1, 2);
+    layout->addWidget(makeBuddyLabel(QStringLiteral("Sender/Receiver:"), sender, page), 1, 1);
+    layout->addWidget(sender, 1, 2, 1, 2);
+    layout->addWidget(makeBuddyLabel(QStringLiteral("Location:"), m_location, page), 2, 1);
+    layout->addWidget(m_location, 2, 2, 1, 2);
+    layout->addWidget(dates, 3, 0, 2, 3);
+    layout->addWidget(categories, 3, 3);
+    layout->addWidget(direction, 4, 3);
+    layout->setRowStretch(5, 1);
+    return page;
+}
+
+void DocumentDetailsDialog::bindControls()
+{
+    m_binder = new FieldBinder(m_document, this);
+    m_binder->bind(m_description, QStringLiteral("DokAntraste"));
+    m_binder->bind(m_sender, QStringLiteral("ContactID"));
+    m_binder->bind(m_location, QStringLiteral("RastoKel"));
+    m_binder->bind(m_regIndex, QStringLiteral("DokRegistracIndeksas"));
+    m_binder->bind(m_category, QStringLiteral("KategID"));
+    m_binder->bind(m_subCategory, QStringLiteral("SubKategID"));
+    m_binder->bind(m_directionCode, QStringLiteral("KryptisID"));
+    m_binder->bind(m_notes, QStringLiteral("DokPastaba"));
+    connect(m_binder, &FieldBinder::changed, this, &DocumentDetailsDialog::markChanged);
+
+    m_sender->setRowSource(m_contacts, QStringLiteral("FullName"), QStringLiteral("ContactID"));
+    m_category->setRowSource(m_categories, QStringLiteral("DokKategorija"), QStringLiteral("KategID"));
+    m_subCategory->setRowSource(
+        m_subCategories, QStringLiteral("DokSubKategorija"), QStringLiteral("SubKategID"));
+    connect(m_category, &BoundList::changed, this, &DocumentDetailsDialog::onCategoryChanged);
+    connect(m_document, &Recordset::moveComplete, this, &DocumentDetailsDialog::showRow);
+
+    connect(m_sentReceivedDate, &QDateEdit::dateChanged, this,
+        [this](const QDate& date) { writeDate(date, SentReceivedField); });
+    connect(m_registrationDate, &QDateEdit::dateChanged, this,
+        [this](const QDate& date) { writeDate(date, RegistrationField); });
+
+    m_tickler = new RecordsetModel(this);
+    m_tickler->setAllowAddNew(true);
+    m_tickler->attachView(m_grid);
+    connect(m_tickler, &RecordsetModel::edited, this, &DocumentDetailsDialog::markChanged);
+}
+
+void DocumentDetailsDialog::load()
+{
+    const BusyCursor busy;
+    const qint32 id = selection().selectedDocumentId;
+    try {
+        const QString provider = getRegValue(QStringLiteral("Provider"));
+        const QString location = getRegValue(QStringLiteral("DbLocation"));
+        m_listConnection = plainConnectionString(provider, location);
+        // Filtered before it opens, the table is read for this row alone.
+        m_document->setFilter(QStringLiteral("RastasID=") + QString::number(id));
+        m_document->open(
+            DocumentTable, m_listConnection, CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
+        m_contacts->open(ContactSource, m_listConnection);
+        m_categories->open(CategorySource, m_listConnection);
+
+        m_reminders->open(reminderSource(id), shapeConnectionString(provider, location),
+            CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
+        m_tickler->setRecordset(m_reminders->fields(QStringLiteral("ChildCMD")).chapter());
+        m_tickler->setColumnHidden(0, true);
+        m_tickler->setColumnHidden(2, true);
+        m_tickler->setColumnCaption(1, QStringLiteral("Date"));
+        m_tickler->setColumnWidth(1, 1000);
+        m_tickler->setColumnCaption(3, QStringLiteral("Text"));
+        m_tickler->setColumnWidth(3, 6540);
+    } catch (const Error& error) {
+        reportStoreError(error.number(), error.description(), ErrorTitle);
+    }
+
+    setWindowTitle(m_description->text() + QStringLiteral(" Description"));
+    showIcon();
+
+    const int direction = m_document->isOpen() && !m_document->eof()
+        ? m_document->fields(QStringLiteral("KryptisID")).value().toInt()
+        : 0;
+    QRadioButton* chosen = directionButton(direction);
+    (chosen ? chosen : m_otherDirection)->setChecked(true);
+    setClean();
+}
+
+void DocumentDetailsDialog::showRow()
+{
+    if (m_document->eof() || m_document->bof())
+        return;
+    const QVariant category = m_document->fields(QStringLiteral("KategID")).value();
+    fillSubCategories(category.isNull() ? QString() : category.toString());
+    m_showing = true;
+    showDate(m_sentReceivedDate, SentReceivedField);
+    showDate(m_registrationDate, RegistrationField);
+    m_showing = false;
+}
+
+void DocumentDetailsDialog::showDate(QDateEdit* picker, const QString& field)
+{
+    const QDate date = m_document->fields(field).value().toDate();
+    picker->setDate(date.isValid() ? date : QDate::currentDate());
+}
+
+void DocumentDetailsDialog::writeDate(const QDate& date, const QString& field)
+{
+    if (m_showing || !m_document->isOpen() || m_document->eof())
+        return;
+    try {
+        m_document->fields(field).setValue(date);
+        markChanged();
+    } catch (const Error& error) {
+        msgBox(error.description());
+    }
+}
+
+void DocumentDetailsDialog::fillSubCategories(const QString& category)
+{
+    try {
+        m_subCategories->close();
+        m_subCategories->open(SubCategorySource + category, m_listConnection);
+    } catch (const Error& error) {
+        // A row without a category has no subcategories to offer.
+        if (!category.isEmpty())
+            reportStoreError(error.number(), error.description(), ErrorTitle);
+    }
+}
+
+void DocumentDetailsDialog::onCategoryChanged()
+{
+    if (m_showing)
+        return;
+    fillSubCategories(m_category->value());
+    markChanged();
+}
+
+void DocumentDetailsDialog::onDirectionChosen(int code)
+{
+    m_directionCode->setText(QString::number(code));
+    markChanged();
+}
+
+QRadioButton* DocumentDetailsDialog::directionButton(int code) const
+{
+    switch (code) {
+    case 1:
+        return m_inner;
+    case 2:
+        return m_outgoing;
+    case 3:
+        return m_incoming;
+    case 4:
+        return m_otherDirection;
+    default:
+        return nullptr;
+    }
+}
+
+void DocumentDetailsDialog::showIcon()
+{
+    const QString path = m_location->text();
+    QIcon icon;
+    if (!path.isEmpty() && QFileInfo::exists(path)) {
+        FileInfo info;
+        info.createFromFile(path);
+        icon = info.shellIcon();
+    }
+    if (icon.isNull()) {
+        icon = QIcon(noFileIconPath());
+        m_icon->setProperty("noFile", true);
+    } else {
+        m_icon->setProperty("noFile", false);
+    }
+    m_icon->setPixmap(icon.pixmap(32, 32));
+}
+
+void DocumentDetailsDialog::markChanged()
+{
+    m_changed = true;
+    m_apply->setEnabled(true);
+}
+
+void DocumentDetailsDialog::setClean()
+{
+    m_changed = false;
+    m_apply->setEnabled(false);
+}
+
+bool DocumentDetailsDialog::apply()
+{
+    if (!m_changed)
+        return true;
+    const BusyCursor busy;
+    try {
+        m_binder->validate();
+        m_document->updateBatch(AffectEnum::Current);
+        m_reminders->updateBatch(AffectEnum::All);
+    } catch (const Error& error) {
+        reportStoreError(error.number(), error.description(), ErrorTitle);
+        return false;
+    }
+    setClean();
+    return true;
+}
+
+void DocumentDetailsDialog::save()
+{
+    if (apply())
+        accept();
+}
+
+void DocumentDetailsDialog::cancel()
+{
+    setClean();
+    reject();
+}
+
+bool DocumentDetailsDialog::askOnEscape()
+{
+    if (!m_changed) {
+        cancel();
+        return true;
+    }
+    const int answer = msgBox(QStringLiteral("You have details changes that have not applied.\n\n"
+                                             "Do you want to apply these now?"),
+        MsgBoxStyle::YesNoCancel | MsgBoxStyle::Exclamation, QStringLiteral("Warning"));
+    if (answer == MsgBoxResult::Yes)
+        apply();
+    else if (answer == MsgBoxResult::No)
+        cancel();
+    return true;
+}
+
+void DocumentDetailsDialog::closeEvent(QCloseEvent* event)
+{
+    if (m_changed) {
+        const int answer = msgBox(QStringLiteral("You have details changes that have not applied.\n\n"
+                                                 "Do you want to apply these now?"),
+            MsgBoxStyle::YesNo | MsgBoxStyle::Exclamation, QStringLiteral("Warning"));
+        // A refused write keeps the window, so that nothing typed is lost unasked.
+        if (answer == MsgBoxResult::Yes && !apply()) {
+            event->ignore();
+            return;
+        }
+    }
+    setClean();
+    QDialog::closeEvent(event);
+}
+
+void DocumentDetailsDialog::done(int result)
+{
+    restoreDefaultCursor();
+    QDialog::done(result);
+}
+
+void DocumentDetailsDialog::onReminderGridEnter()
+{
+    m_grid->setFocus(Qt::OtherFocusReason);
+    if (m_grid->currentIndex().column() == 3)
+        EnterAsTab::sendKey(m_grid, Qt::Key_Down);
+    EnterAsTab::sendKey(m_grid, Qt::Key_Right);
+}
+
+} // namespace kartella

@@ -1,0 +1,298 @@
+#include "registration/RelatedDocumentDialog.h"
+
+#include "base/Error.h"
+#include "options/OptionStore.h"
+#include "platform/Prompter.h"
+#include "registration/DialogParts.h"
+#include "registration/RegIndex.h"
+#include "store/Lookups.h"
+#include "store/Store.h"
+#include "store/engine/Recordset.h"
+#include "support/BoundList.h"
+#include "support/BusyCursor.h"
+#include "support/EnterAsTab.h"
+#include "support/FieldBinder.h"
+#include "support/SelectionState.h"
+#include "support/ShellDialogs.h"
+
+#include <QComboBox>
+#include <QDate>
+#include <QDir>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace kartella {
+
+namespace {
+
+const QString RelatedSource
+    = QStringLiteral("select RastasID,SubDocDescript,SubRastasID,SubRastGavimoData,ContactID,SubRastoKelias "
+                     "from tbl_Sub_Documents");
+const QString ContactSource = QStringLiteral("SELECT ContactID,FullName from tbl_Contacts order by FullName");
+const QString DateFormat = QStringLiteral("yyyy.MM.dd");
+
+} // namespace
+
+RelatedDocumentDialog::RelatedDocumentDialog(Mode mode, QWidget* parent)
+    : QDialog(parent)
+    , m_mode(mode)
+{
+    const bool creating = mode == Mode::Creating;
+    setObjectName(creating ? QStringLiteral("frmRelated") : QStringLiteral("frmRelDescr"));
+    setWindowTitle(creating ? QStringLiteral("New Related Document")
+                            : QStringLiteral("Description of Related Document"));
+    setModal(true);
+    m_related = new Recordset(this);
+    m_related->setObjectName(QStringLiteral("datPrimaryRS"));
+    m_contacts = new Recordset(this);
+    m_contacts->setObjectName(QStringLiteral("Adodc1"));
+    buildWidgets();
+    bindControls();
+    load();
+}
+
+RelatedDocumentDialog::~RelatedDocumentDialog() = default;
+
+void RelatedDocumentDialog::buildWidgets()
+{
+    auto* tabs = new QTabWidget(this);
+    tabs->setObjectName(QStringLiteral("SSTab1"));
+    auto* page = new QWidget(tabs);
+    tabs->addTab(page, QString(10, u' '));
+
+    m_parent = new QLineEdit(page);
+    m_parent->setObjectName(QStringLiteral("txtParent"));
+    m_parent->setReadOnly(true);
+    m_description = new QPlainTextEdit(page);
+    m_description->setObjectName(QStringLiteral("txtFields_1"));
+    m_date = makeFieldBox(3, page);
+    auto* contact = new QComboBox(page);
+    contact->setObjectName(QStringLiteral("cmbContact"));
+    contact->setToolTip(QStringLiteral("Select a Contact"));
+    m_contact = new BoundList(contact, this);
+    // The Location box has another place among the fields in each of the two dialogs.
+    m_location = makeFieldBox(m_mode == Mode::Creating ? 5 : 4, page);
+    m_location->setReadOnly(true);
+    m_location->setToolTip(QStringLiteral("Location of File"));
+    m_documentId = makeFieldBox(0, page);
+    m_relatedId = makeFieldBox(2, page);
+    m_documentId->setVisible(false);
+    m_relatedId->setVisible(false);
+
+    auto* grid = new QGridLayout(page);
+    int line = 0;
+    const auto addRow = [&](const QString& caption, QWidget* field) {
+        grid->addWidget(makeBuddyLabel(caption, field, page), line, 0, Qt::AlignTop);
+        grid->addWidget(field, line++, 1);
+    };
+    addRow(QStringLiteral("Parent Document:"), m_parent);
+    addRow(QStringLiteral("Related Document Description:"), m_description);
+    addRow(QStringLiteral("Send/Receive Date:"), m_date);
+    addRow(QStringLiteral("Sender/Receiver:"), contact);
+    addRow(QStringLiteral("Location:"), m_location);
+
+    m_ok = makeDialogButton(QStringLiteral("cmdOK"), QStringLiteral("OK"), this);
+    m_cancel = makeDialogButton(QStringLiteral("cmdCancel"), QStringLiteral("Cancel"), this);
+    connect(m_ok, &QPushButton::clicked, this, &RelatedDocumentDialog::save);
+    connect(m_cancel, &QPushButton::clicked, this, &RelatedDocumentDialog::cancel);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    buttons->addWidget(m_ok);
+    buttons->addWidget(m_cancel);
+
+    auto* upper = new QHBoxLayout;
+    upper->addWidget(tabs, 1);
+    if (m_mode == Mode::Creating)
+        upper->addWidget(buildCreateWith(), 0, Qt::AlignTop);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(upper, 1);
+    layout->addLayout(buttons);
+
+    m_keys = new EnterAsTab(this);
+    m_keys->onEscape([this] { return askOnEscape(); });
+    resize(560, 320);
+}
+
+QWidget* RelatedDocumentDialog::buildCreateWith()
+{
+    auto* frame = new QGroupBox(QStringLiteral("Create With"), this);
+    frame->setObjectName(QStringLiteral("fraCreateWith"));
+    auto* layout = new QVBoxLayout(frame);
+    const struct
+    {
+        const char* name;
+        const char* caption;
+        void (RelatedDocumentDialog::*slot)();
+    } buttons[] = {
+        {"cmdWord", "&Word", &RelatedDocumentDialog::createWithWord},
+        {"cmdExcel", "&Excel", &RelatedDocumentDialog::createWithExcel},
+        {"cmdPower", "&PowerPoint", &RelatedDocumentDialog::createWithPowerPoint},
+        {"cmdAddExisting", "&Add Existing", &RelatedDocumentDialog::addExistingFile},
+    };
+    for (const auto& entry : buttons) {
+        QPushButton* button
+            = makeDialogButton(QString::fromLatin1(entry.name), QString::fromLatin1(entry.caption), frame);
+        connect(button, &QPushButton::clicked, this, entry.slot);
+        layout->addWidget(button);
+    }
+    return frame;
+}
+
+void RelatedDocumentDialog::bindControls()
+{
+    m_binder = new FieldBinder(m_related, this);
+    m_binder->bind(m_documentId, QStringLiteral("RastasID"));
+    m_binder->bind(m_description, QStringLiteral("SubDocDescript"));
+    m_binder->bind(m_relatedId, QStringLiteral("SubRastasID"));
+    m_binder->bindDate(m_date, QStringLiteral("SubRastGavimoData"), DateFormat);
+    m_binder->bind(m_contact, QStringLiteral("ContactID"));
+    m_binder->bind(m_location, QStringLiteral("SubRastoKelias"));
+    connect(m_binder, &FieldBinder::changed, this, [this] { m_changed = true; });
+    m_contact->setRowSource(m_contacts, QStringLiteral("FullName"), QStringLiteral("ContactID"));
+}
+
+void RelatedDocumentDialog::load()
+{
+    const BusyCursor busy;
+    const SelectionState& state = selection();
+    try {
+        const QString connection = plainConnectionString();
+        // A new row needs none of the stored ones.
+        if (m_mode == Mode::Creating)
+            m_related->setFilterGroup(FilterGroupEnum::PendingRecords);
+        else
+            m_related->setFilter(
+                QStringLiteral("SubRastasID= ") + QString::number(state.selectedSubDocumentId));
+        m_related->open(RelatedSource, connection, CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
+        m_contacts->open(ContactSource, connection);
+        if (m_mode == Mode::Creating) {
+            try {
+                m_related->addNew();
+            } catch (const Error& error) {
+                msgBox(error.description());
+            }
+        } else {
+            m_related->setFilter(
+                QStringLiteral("SubRastasID= ") + QString::number(state.selectedSubDocumentId));
+        }
+        m_parent->setText(state.selectedItemText);
+        if (m_mode == Mode::Creating)
+            m_date->setText(QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat));
+    } catch (const Error& error) {
+        msgBox(error.description());
+    }
+    m_changed = false;
+}
+
+void RelatedDocumentDialog::setLocation(const QString& path)
+{
+    m_location->setText(path);
+}
+
+void RelatedDocumentDialog::createWithWord()
+{
+    createDocument({QStringLiteral("Unable to create a new Word Document"),
+        QStringLiteral("SubDocument Description Required!"), &createWordDocument});
+}
+
+void RelatedDocumentDialog::createWithExcel()
+{
+    createDocument({QStringLiteral("Unable to create a new Excel Document"),
+        QStringLiteral("Document Description Required!"), &createExcelDocument});
+}
+
+void RelatedDocumentDialog::createWithPowerPoint()
+{
+    createDocument({QStringLiteral("Unable to create a new PowerPoint Document"),
+        QStringLiteral("SubDocument Description Required!"), &createPowerPointDocument});
+}
+
+void RelatedDocumentDialog::createDocument(const CreatingButton& button)
+{
+    const QString description = m_description->toPlainText();
+    if (description.isEmpty()) {
+        msgBox(button.message, MsgBoxStyle::OkOnly | MsgBoxStyle::Critical, button.title);
+        return;
+    }
+    if (!m_location->text().isEmpty())
+        return;
+    // The file goes to the folder of the category chosen in the tree; the contact view
+    // chooses none.
+    const qint32 category = selection().currentCategoryId;
+    if (category == 0) {
+        msgBox(QStringLiteral("Select any Category, please!"), MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation,
+            button.title);
+        return;
+    }
+    try {
+        const QVariant folder = getFieldValue(QStringLiteral("KategID"), QStringLiteral("DokKategDaug"),
+            QStringLiteral("tbl_Document_Categories"), category);
+        const OfficeDocumentRequest request {
+            description, folder, QVariant(), category, makeRegIndex(category)};
+        const BusyCursor busy;
+        button.create(request, [this](const QString& path) { setLocation(path); });
+    } catch (const Error& error) {
+        msgBox(error.description(), MsgBoxStyle::OkOnly | MsgBoxStyle::Critical, button.title);
+    }
+}
+
+void RelatedDocumentDialog::addExistingFile()
+{
+    const QString directory = QDir::currentPath();
+    const QString file = showOpenDialog({QStringLiteral("Select the Document"), directory,
+        QStringLiteral("All files (*.*)"), QStringLiteral("*.*")});
+    if (file.isEmpty())
+        return;
+    setLocation(file);
+    QDir::setCurrent(directory);
+}
+
+void RelatedDocumentDialog::save()
+{
+    try {
+        m_documentId->setText(QString::number(selection().selectedDocumentId));
+        m_binder->validate();
+        m_related->updateBatch(AffectEnum::All);
+    } catch (const Error& error) {
+        msgBox(error.description());
+        return;
+    }
+    accept();
+}
+
+void RelatedDocumentDialog::cancel()
+{
+    reject();
+}
+
+bool RelatedDocumentDialog::askOnEscape()
+{
+    if (!m_changed) {
+        cancel();
+        return true;
+    }
+    const int answer = msgBox(QStringLiteral("You have details changes that have not applied.\n\n"
+                                             "Do you want to apply these now?"),
+        MsgBoxStyle::YesNoCancel | MsgBoxStyle::Exclamation, QStringLiteral("Warning"));
+    if (answer == MsgBoxResult::Yes)
+        save();
+    else if (answer == MsgBoxResult::No)
+        cancel();
+    return true;
+}
+
+void RelatedDocumentDialog::done(int result)
+{
+    restoreDefaultCursor();
+    QDialog::done(result);
+}
+
+} // namespace kartella
