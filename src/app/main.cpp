@@ -9,8 +9,6 @@
 int main(int argc, char* argv[])
 {
     kartella::Application app(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("Kartella"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Kartella"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("folder-documents")));
     kartella::useIconThemeFallback();
 
