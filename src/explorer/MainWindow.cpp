@@ -8,6 +8,7 @@
 #include "explorer/ListModel.h"
 #include "explorer/NavigationTree.h"
 #include "options/OptionStore.h"
+#include "platform/Clock.h"
 #include "platform/Prompter.h"
 #include "support/BusyCursor.h"
 #include "support/SelectionState.h"
@@ -167,7 +168,7 @@ void MainWindow::load()
     m_source->setText(
         QStringLiteral("Source : ") + getRegValue(QStringLiteral("DbLocation")) + QStringLiteral("   "));
     // 4. This month, from its first day to the first day of the next.
-    const QDate today = QDate::currentDate();
+    const QDate today = Clock::currentDate();
     const QDate first(today.year(), today.month(), 1);
     m_startDate->setDate(first);
     m_endDate->setDate(first.addMonths(1));

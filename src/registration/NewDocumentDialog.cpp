@@ -2,6 +2,7 @@
 
 #include "base/Error.h"
 #include "options/OptionStore.h"
+#include "platform/Clock.h"
 #include "platform/Prompter.h"
 #include "registration/FileNaming.h"
 #include "registration/RegIndex.h"
@@ -324,7 +325,7 @@ void NewDocumentDialog::load()
 
         m_inner->setChecked(true);
 
-        const QString today = QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat);
+        const QString today = QLocale::system().toString(Clock::currentDate(), QLocale::ShortFormat);
         m_sentReceivedDate->setText(today);
         m_registrationDate->setText(today);
 
