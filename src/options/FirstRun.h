@@ -7,8 +7,9 @@
 namespace kartella {
 
 // The installer's part: when the options key is missing, creates it with the initial
-// options (today's date as the day of the running number). An existing key is left as
-// it is. Returns true when it created the key.
+// options (today's date as the day of the running number), in one write. A key that
+// lacks some of them gets those; the values it holds are left as they are. Returns true
+// when it wrote anything.
 bool seedOptionsIfMissing(const QDate& today = Clock::currentDate());
 
 } // namespace kartella
