@@ -136,6 +136,8 @@ void MainWindow::buildWindow()
     connect(m_documents, &ExplorerList::pressed, this, &MainWindow::onDocumentListPressed);
     connect(m_documents, &ExplorerList::filesDropped, this, &MainWindow::onFilesDropped);
     connect(m_related, &ExplorerList::itemClicked, this, &MainWindow::onRelatedClicked);
+    connect(m_documents, &ExplorerList::highlightCleared, this, &MainWindow::onDocumentHighlightCleared);
+    connect(m_related, &ExplorerList::highlightCleared, this, &MainWindow::onRelatedHighlightCleared);
     connect(m_related, &ExplorerList::doubleClickedItem, this, &MainWindow::onRelatedDoubleClicked);
     connect(m_related, &ExplorerList::columnClicked, this, &MainWindow::onRelatedColumnClicked);
     connect(m_related, &ExplorerList::pressed, this, &MainWindow::onRelatedListPressed);

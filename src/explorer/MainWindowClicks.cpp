@@ -117,6 +117,30 @@ void MainWindow::onRelatedClicked(int row)
     updateCommandState();
 }
 
+void MainWindow::onDocumentHighlightCleared()
+{
+    // The document last highlighted may be gone from sight: forget it, and its related
+    // one, so that the commands answer as they do before any click.
+    m_state.activeListName.clear();
+    m_state.selectedDocumentId = 0;
+    m_state.selectedSubDocumentId = 0;
+    m_state.selectedItemText.clear();
+    m_state.selectedFilePath.clear();
+}
+
+void MainWindow::onRelatedHighlightCleared()
+{
+    m_state.selectedSubDocumentId = 0;
+    if (m_state.activeListName != QLatin1String("ListSusieti"))
+        return;
+    // The related document was the one acted on: its parent stays highlighted above.
+    const int row = m_documents->selectedRow();
+    if (row >= 0)
+        onDocumentClicked(row);
+    else
+        onDocumentHighlightCleared();
+}
+
 void MainWindow::fillRelatedList()
 {
     bool found = false;
