@@ -7,9 +7,11 @@
 #include "explorer/NavigationTree.h"
 #include "explorer/RelatedFill.h"
 #include "explorer/TreeFills.h"
+#include "options/OptionStore.h"
 #include "support/BusyCursor.h"
 #include "support/SelectionState.h"
 
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QSplitter>
 
@@ -19,6 +21,12 @@ void MainWindow::fillCategoryTree()
 {
     try {
         const BusyCursor busy;
+        // A database file opens empty where there is nothing in it; it is no register.
+        const QFileInfo location(getRegValue(QStringLiteral("DbLocation")));
+        if (location.isFile() && location.size() == 0)
+            throw Error(ErrorNumber::ConnectionFailed,
+                QStringLiteral("'") + location.filePath()
+                    + QStringLiteral("' is not a register: the file is empty."));
         buildCategoryTree(*m_tree);
     } catch (const Error& error) {
         // Only an unusable register is reported; any other error leaves the tree as far as it got.

@@ -11,6 +11,8 @@
 
 #include <QComboBox>
 #include <QDateEdit>
+#include <QFile>
+#include <QFileInfo>
 #include <QLabel>
 #include <QTest>
 
@@ -390,6 +392,33 @@ private Q_SLOTS:
         QVERIFY(prompt.text.endsWith("\rSelect correct database type and file, please!"));
         QCOMPARE(w.documentModel()->itemCount(), 0);
         QCOMPARE(w.tree()->nodeCount(), 0);
+    }
+
+    // A zero-byte file named as the register fails like any file that is no register.
+    void emptyFileIsNoRegister()
+    {
+        TestRegister reg;
+        const QString empty = reg.dir() + "/Empty.mdb";
+        QFile file(empty);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.close();
+        setRegValue("DbLocation", empty);
+        ScriptedPrompter prompter;
+        prompter.answer(MsgBoxResult::Ok);
+        MainWindow w;
+        int settingsOffered = 0;
+        w.openSettings = [&] { ++settingsOffered; };
+        w.show();
+        w.load();
+        QCOMPARE(prompter.prompts().size(), 1);
+        const auto prompt = prompter.prompts().first();
+        QCOMPARE(prompt.title, QString("Connection to database error:"));
+        QCOMPARE(prompt.style, MsgBoxStyle::OkOnly + MsgBoxStyle::Critical);
+        QVERIFY(prompt.text.startsWith("Error: -2147467259 "));
+        QVERIFY(prompt.text.contains(empty));
+        QCOMPARE(settingsOffered, 1);
+        QCOMPARE(QFileInfo(empty).size(), 0);
+        QCOMPARE(getRegValue("DbLocation"), empty);
     }
 };
 
