@@ -65,7 +65,8 @@ ExplorerList::ExplorerList(ListModel* model, QWidget* parent)
         m_stack->addWidget(view);
     }
     connect(m_selection, &QItemSelectionModel::selectionChanged, this, &ExplorerList::onSelectionChanged);
-    connect(model, &QAbstractItemModel::modelReset, this, &ExplorerList::applyColumnWidths);
+    // New columns get the model's widths; a sort or a refill keeps those the user gave them.
+    connect(model, &ListModel::columnsReplaced, this, &ExplorerList::applyColumnWidths);
     // A reset drops the selection without a word: say so.
     connect(model, &QAbstractItemModel::modelReset, this, &ExplorerList::onSelectionChanged);
     m_stack->setCurrentWidget(m_details);

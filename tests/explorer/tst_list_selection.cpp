@@ -1,6 +1,7 @@
 #include "explorer/DocumentFills.h"
 #include "explorer/ExplorerFixture.h"
 #include "explorer/ExplorerList.h"
+#include "explorer/IconCache.h"
 #include "explorer/ListModel.h"
 #include "explorer/MainWindow.h"
 #include "harness/ScriptedPrompter.h"
@@ -138,6 +139,41 @@ private Q_SLOTS:
         QCOMPARE(selection().selectedFilePath, fx.related().item(1).tag);
         QCOMPARE(selection().activeListName, QString("ListSusieti"));
         QCOMPARE(selection().selectedDocumentId, fx.id["contract"]);
+    }
+
+    // A column sorts in the order of the register's names: every Lithuanian letter beside
+    // its base letter, case ignored; the widths the user gave the columns stay.
+    void sortFoldsLithuanianLettersAndKeepsWidths()
+    {
+        IconCache icons;
+        ListModel model(&icons);
+        model.setColumns({{"Name", 1500}, {"Index", 1500}});
+        const QStringList names = {"Zebra", "žuvis", "Ūla", "Ųla", "uoga", "Šarūnas", "sala", "Įvadas", "ir",
+            "Ėglė", "Ęsas", "ežeras", "Čiurlionis", "cukrus", "Ąžuolas", "ąsa", "Beržas", "Antanas"};
+        std::vector<ListItem> items;
+        for (const QString& name : names) {
+            ListItem item;
+            item.text = name;
+            item.key = name;
+            items.push_back(item);
+        }
+        model.setItems(std::move(items));
+        ExplorerList list(&model);
+        list.resize(600, 400);
+        list.show();
+        list.detailsView()->setColumnWidth(0, 321);
+        model.setSort(0, Qt::AscendingOrder);
+        QStringList sorted;
+        for (int row = 0; row < model.itemCount(); ++row)
+            sorted << model.item(row).text;
+        const QStringList expected = {"Antanas", "ąsa", "Ąžuolas", "Beržas", "Čiurlionis", "cukrus", "Ėglė",
+            "Ęsas", "ežeras", "ir", "Įvadas", "sala", "Šarūnas", "Ūla", "Ųla", "uoga", "Zebra", "žuvis"};
+        QCOMPARE(sorted, expected);
+        QCOMPARE(list.detailsView()->columnWidth(0), 321);
+        model.setSort(0, Qt::DescendingOrder);
+        QCOMPARE(model.item(0).text, QString("žuvis"));
+        QCOMPARE(model.item(model.itemCount() - 1).text, QString("Antanas"));
+        QCOMPARE(list.detailsView()->columnWidth(0), 321);
     }
 
     // Print Setup is the page and printer setup, not a print dialog.
