@@ -290,9 +290,17 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(annex));
         QVERIFY(!QFile::exists(own));
         const QList<ScriptedShell::Call> calls = shell.take();
+        // Each related document's own file, in the order of its rows, then the document's.
         QCOMPARE(calls.size(), 3);
-        QCOMPARE(calls.last().path, own);
-        QCOMPARE(calls.first().kind, ScriptedShell::Kind::Delete);
+        QStringList paths;
+        for (const ScriptedShell::Call& call : calls) {
+            QCOMPARE(call.kind, ScriptedShell::Kind::Delete);
+            paths << call.path;
+        }
+        QCOMPARE(paths, QStringList({annex, fx.existingFile, own}));
+        // The other documents' rows are as they were.
+        QCOMPARE(fx.rowCount("tbl_Documents"), 4);
+        QVERIFY(fx.documentExists("letter"));
         // All documents are listed now, whatever node is selected; the related list is gone.
         QCOMPARE(fx.documentTexts(), QStringList({"letter", "loose", "note", "work"}));
         QVERIFY(!w.relatedList()->isVisible());
