@@ -10,6 +10,7 @@
 #include "options/OptionStore.h"
 #include "platform/Clock.h"
 #include "platform/Prompter.h"
+#include "store/engine/SqliteBackend.h"
 #include "support/BusyCursor.h"
 #include "support/SelectionState.h"
 #include "support/Splitter.h"
@@ -27,6 +28,11 @@
 #include <QToolBar>
 
 namespace kartella {
+
+namespace {
+// How long each opening of the register waits for another program's lock at the start.
+constexpr int StartLockWaitMs = 1500;
+} // namespace
 
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
@@ -163,6 +169,10 @@ QString MainWindow::defaultDbLocation()
 void MainWindow::load()
 {
     m_loading = true;
+    // A register locked by another program is reported after a few seconds, not after
+    // the full wait of every statement; the window shows the busy pointer meanwhile.
+    const BusyCursor busy;
+    const engine::OpeningWait shortWait(StartLockWaitMs);
     // 1. A register that isn't there gives way to the default one.
     if (!fileFound(getRegValue(QStringLiteral("DbLocation"))))
         setRegValue(QStringLiteral("Dblocation"), defaultDbLocation());

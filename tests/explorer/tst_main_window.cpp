@@ -11,9 +11,12 @@
 
 #include <QComboBox>
 #include <QDateEdit>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QLabel>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QTest>
 
 using namespace kartella;
@@ -392,6 +395,45 @@ private Q_SLOTS:
         QVERIFY(prompt.text.endsWith("\rSelect correct database type and file, please!"));
         QCOMPARE(w.documentModel()->itemCount(), 0);
         QCOMPARE(w.tree()->nodeCount(), 0);
+    }
+
+    // A register another program holds locked: the start reports it after a few seconds,
+    // in the connection message, instead of waiting the full time of each statement.
+    void lockedRegisterIsReportedSoon()
+    {
+        const QString sqlite = QStandardPaths::findExecutable("sqlite3");
+        if (sqlite.isEmpty())
+            QSKIP("sqlite3 is not installed: no other program can lock the register");
+        TestRegister reg;
+        setRegValue("DbLocation", reg.path());
+        QProcess locker;
+        locker.start(sqlite, {reg.path()});
+        QVERIFY(locker.waitForStarted());
+        locker.write("BEGIN EXCLUSIVE;\nSELECT 'locked';\n");
+        QVERIFY(locker.waitForReadyRead(10000));
+        QCOMPARE(locker.readAll().trimmed(), QByteArray("locked"));
+
+        ScriptedPrompter prompter;
+        prompter.answer(MsgBoxResult::Ok);
+        MainWindow w;
+        int settingsOffered = 0;
+        w.openSettings = [&] { ++settingsOffered; };
+        QElapsedTimer started;
+        started.start();
+        w.show();
+        w.load();
+        const qint64 waited = started.elapsed();
+        locker.write("ROLLBACK;\n.quit\n");
+        locker.closeWriteChannel();
+        locker.waitForFinished();
+
+        QCOMPARE(prompter.prompts().size(), 1);
+        const auto prompt = prompter.prompts().first();
+        QCOMPARE(prompt.title, QString("Connection to database error:"));
+        QVERIFY2(prompt.text.contains("locked"), qPrintable(prompt.text));
+        QCOMPARE(settingsOffered, 1);
+        // The full wait is ten seconds a statement; the start takes a few in all.
+        QVERIFY2(waited < 8000, qPrintable(QString::number(waited)));
     }
 
     // A zero-byte file named as the register fails like any file that is no register.
