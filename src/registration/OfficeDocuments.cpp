@@ -38,7 +38,8 @@ QString templateText(const QVariant& templatePath)
 bool chooseTemplate(const QVariant& templatePath, QString& chosen)
 {
     chosen = templateText(templatePath);
-    if (chosen.isEmpty() || QFileInfo::exists(chosen))
+    // A folder is no template: it is missing like a file that isn't there.
+    if (chosen.isEmpty() || QFileInfo(chosen).isFile())
         return true;
     const int answer = msgBox(QStringLiteral("Can't achieve desired template ") % chosen
             % QStringLiteral(".\r\rIf you want to continue without template click OK"),
