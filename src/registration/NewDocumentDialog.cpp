@@ -33,6 +33,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScopeGuard>
 #include <QTabWidget>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -415,6 +416,16 @@ void NewDocumentDialog::createDocument(const CreatingButton& button)
             const OfficeDocumentRequest request {
                 m_description->text(), folder, templatePath, category, m_regIndex->text()};
             const BusyCursor busy;
+            // While LibreOffice works the window paints, but a click in it must not start a
+            // second file or close the dialog under the first.
+            QWidget* createWith = findChild<QWidget*>(QStringLiteral("fraCreateWith"));
+            const QList<QWidget*> held = {createWith, m_ok, m_cancel};
+            for (QWidget* widget : held)
+                widget->setEnabled(false);
+            const auto release = qScopeGuard([&held] {
+                for (QWidget* widget : held)
+                    widget->setEnabled(true);
+            });
             button.create(request, [this](const QString& path) { setLocation(path); });
         }
         QDir::setCurrent(directory);

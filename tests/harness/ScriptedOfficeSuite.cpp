@@ -19,6 +19,8 @@ ScriptedOfficeSuite::~ScriptedOfficeSuite()
 void ScriptedOfficeSuite::create(Kind kind, const QString& templatePath, const QString& target)
 {
     made.append({kind, templatePath, target});
+    if (whileCreating)
+        whileCreating();
     if (m_failure != 0)
         throw Error(m_failure, QStringLiteral("The scripted Office suite failed."));
     QFile file(target);

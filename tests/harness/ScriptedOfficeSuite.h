@@ -5,6 +5,8 @@
 #include <QList>
 #include <QStringList>
 
+#include <functional>
+
 namespace kartella::test {
 
 // An Office suite for tests that need no real Office file: it records what it is asked
@@ -30,6 +32,9 @@ public:
 
     void create(Kind kind, const QString& templatePath, const QString& target) override;
     void show(const QString& path) override;
+
+    // Called in create, before the file is made (to look at the window meanwhile).
+    std::function<void()> whileCreating;
 
     QList<Made> made;
     QStringList shown;
