@@ -11,8 +11,6 @@
 int main(int argc, char* argv[])
 {
     kartella::Application app(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("Kartella"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Kartella"));
     QApplication::setDesktopFileName(QStringLiteral("org.kartella.Kartella"));
     kartella::useIconThemeFallback();
     for (const QString& name : {QStringLiteral("snow.ico"), QStringLiteral("kartella.png")}) {

@@ -64,8 +64,11 @@ ExplorerList::ExplorerList(ListModel* model, QWidget* parent)
             [this](const QModelIndex& index) { Q_EMIT doubleClickedItem(index.row()); });
         m_stack->addWidget(view);
     }
-    connect(m_selection, &QItemSelectionModel::currentRowChanged, this, &ExplorerList::onCurrentChanged);
-    connect(model, &QAbstractItemModel::modelReset, this, &ExplorerList::applyColumnWidths);
+    connect(m_selection, &QItemSelectionModel::selectionChanged, this, &ExplorerList::onSelectionChanged);
+    // New columns get the model's widths; a sort or a refill keeps those the user gave them.
+    connect(model, &ListModel::columnsReplaced, this, &ExplorerList::applyColumnWidths);
+    // A reset drops the selection without a word: say so.
+    connect(model, &QAbstractItemModel::modelReset, this, &ExplorerList::onSelectionChanged);
     m_stack->setCurrentWidget(m_details);
     setFocusProxy(m_details);
 }
@@ -163,16 +166,22 @@ void ExplorerList::setDragFilesOut(bool enabled)
     }
 }
 
-void ExplorerList::onCurrentChanged(const QModelIndex& current, const QModelIndex&)
+void ExplorerList::onSelectionChanged()
 {
-    // Only a move by the keyboard counts as a click; a refill or a mouse press doesn't.
-    if (current.isValid() && m_keyPressed && !m_mousePressed)
-        Q_EMIT itemClicked(current.row());
+    // Whatever highlights a row makes it the one the commands act on.
+    m_movedSincePress = true;
+    const int row = selectedRow();
+    if (row >= 0)
+        Q_EMIT itemClicked(row);
+    else
+        Q_EMIT highlightCleared();
 }
 
 void ExplorerList::onClicked(const QModelIndex& index)
 {
-    if (index.isValid())
+    // A press that moved the selection was answered already; a press on the highlighted
+    // row counts as a click of its own.
+    if (index.isValid() && !m_movedSincePress)
         Q_EMIT itemClicked(index.row());
 }
 
@@ -185,22 +194,9 @@ bool ExplorerList::eventFilter(QObject* watched, QEvent* event)
         // The right button selects nothing: the menu acts on the item last clicked.
         if (mouse->button() == Qt::RightButton)
             return true;
-        m_mousePressed = true;
+        m_movedSincePress = false;
         break;
     }
-    case QEvent::MouseButtonRelease:
-        m_mousePressed = false;
-        break;
-    case QEvent::KeyPress:
-        if (watched == currentView() && !m_keyPressed) {
-            // The view moves its current item while it handles the key: deliver it here,
-            // so that the move is known to come from the keyboard.
-            m_keyPressed = true;
-            QCoreApplication::sendEvent(watched, event);
-            m_keyPressed = false;
-            return true;
-        }
-        break;
     case QEvent::ContextMenu: {
         // The menu key acts as the right button over the selected item.
         auto* menu = static_cast<QContextMenuEvent*>(event);

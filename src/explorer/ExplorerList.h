@@ -46,8 +46,11 @@ public:
     static int twipsToPixels(int twips, const QWidget* widget);
 
 Q_SIGNALS:
-    // An item was clicked or reached with the keyboard.
+    // An item was highlighted, whatever did it (a click, a key, Space, a drag across the
+    // rows, focus, code), or a highlighted item was clicked again.
     void itemClicked(int row);
+    // No item is highlighted any more (after a fill, for one).
+    void highlightCleared();
     void doubleClickedItem(int row);
     // A column header was clicked (0-based position).
     void columnClicked(int column);
@@ -61,7 +64,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void onCurrentChanged(const QModelIndex& current, const QModelIndex& previous);
+    void onSelectionChanged();
     void onClicked(const QModelIndex& index);
 
     ListModel* m_model;
@@ -71,8 +74,8 @@ private:
     QItemSelectionModel* m_selection;
     int m_view = Report;
     bool m_acceptDrops = false;
-    bool m_mousePressed = false;
-    bool m_keyPressed = false;
+    // Whether the selection moved since the last mouse press.
+    bool m_movedSincePress = false;
 };
 
 } // namespace kartella

@@ -1,6 +1,7 @@
 #include "explorer/ListModel.h"
 
 #include "explorer/IconCache.h"
+#include "store/engine/TextFold.h"
 
 #include <QMimeData>
 #include <QUrl>
@@ -20,6 +21,7 @@ void ListModel::setColumns(const QList<ListColumn>& columns)
     m_items.clear();
     m_columns = columns;
     endResetModel();
+    Q_EMIT columnsReplaced();
 }
 
 void ListModel::clear()
@@ -105,7 +107,11 @@ void ListModel::applySort()
     const bool ascending = m_sortOrder == Qt::AscendingOrder;
     std::stable_sort(
         m_items.begin(), m_items.end(), [column, ascending](const ListItem& a, const ListItem& b) {
-            const int c = columnText(a, column).compare(columnText(b, column), Qt::CaseInsensitive);
+            // The order of the register's names: Lithuanian letters beside their base letters.
+            const QByteArray left = columnText(a, column).toUtf8();
+            const QByteArray right = columnText(b, column).toUtf8();
+            const int c = engine::compareNames(
+                left.constData(), size_t(left.size()), right.constData(), size_t(right.size()));
             return ascending ? c < 0 : c > 0;
         });
 }

@@ -30,7 +30,8 @@ struct ListItem
 };
 
 // The rows and columns of one explorer list. The sort (key, order, whether sorted) is
-// the list's own and stays in force across refills; sorting compares the columns' text.
+// the list's own and stays in force across refills; sorting compares the columns' text
+// in the order of the register's names (case and Lithuanian letters folded).
 class ListModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -74,6 +75,10 @@ public:
 
     // The text an item shows in a column.
     static const QString& columnText(const ListItem& item, int column);
+
+Q_SIGNALS:
+    // setColumns replaced the columns (their widths are the model's again).
+    void columnsReplaced();
 
 private:
     void applySort();

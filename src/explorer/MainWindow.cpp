@@ -8,7 +8,9 @@
 #include "explorer/ListModel.h"
 #include "explorer/NavigationTree.h"
 #include "options/OptionStore.h"
+#include "platform/Clock.h"
 #include "platform/Prompter.h"
+#include "store/engine/SqliteBackend.h"
 #include "support/BusyCursor.h"
 #include "support/SelectionState.h"
 #include "support/Splitter.h"
@@ -26,6 +28,11 @@
 #include <QToolBar>
 
 namespace kartella {
+
+namespace {
+// How long each opening of the register waits for another program's lock at the start.
+constexpr int StartLockWaitMs = 1500;
+} // namespace
 
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
@@ -137,6 +144,8 @@ void MainWindow::buildWindow()
     connect(m_documents, &ExplorerList::filesDropped, this, &MainWindow::onFilesDropped);
     connect(m_related, &ExplorerList::itemClicked, this, &MainWindow::onRelatedClicked);
     connect(m_related, &ExplorerList::filesDropped, this, &MainWindow::onRelatedFilesDropped);
+    connect(m_documents, &ExplorerList::highlightCleared, this, &MainWindow::onDocumentHighlightCleared);
+    connect(m_related, &ExplorerList::highlightCleared, this, &MainWindow::onRelatedHighlightCleared);
     connect(m_related, &ExplorerList::doubleClickedItem, this, &MainWindow::onRelatedDoubleClicked);
     connect(m_related, &ExplorerList::columnClicked, this, &MainWindow::onRelatedColumnClicked);
     connect(m_related, &ExplorerList::pressed, this, &MainWindow::onRelatedListPressed);
@@ -163,6 +172,10 @@ QString MainWindow::defaultDbLocation()
 void MainWindow::load()
 {
     m_loading = true;
+    // A register locked by another program is reported after a few seconds, not after
+    // the full wait of every statement; the window shows the busy pointer meanwhile.
+    const BusyCursor busy;
+    const engine::OpeningWait shortWait(StartLockWaitMs);
     // 1. A register that isn't there gives way to the default one.
     if (!fileFound(getRegValue(QStringLiteral("DbLocation"))))
         setRegValue(QStringLiteral("Dblocation"), defaultDbLocation());
@@ -170,7 +183,7 @@ void MainWindow::load()
     m_source->setText(
         QStringLiteral("Source : ") + getRegValue(QStringLiteral("DbLocation")) + QStringLiteral("   "));
     // 4. This month, from its first day to the first day of the next.
-    const QDate today = QDate::currentDate();
+    const QDate today = Clock::currentDate();
     const QDate first(today.year(), today.month(), 1);
     m_startDate->setDate(first);
     m_endDate->setDate(first.addMonths(1));

@@ -93,6 +93,9 @@ public Q_SLOTS:
     void search(const QString& text);
     void onDocumentClicked(int row);
     void onRelatedClicked(int row);
+    // No row of the list is highlighted: the commands have no document of it to act on.
+    void onDocumentHighlightCleared();
+    void onRelatedHighlightCleared();
 
     void fillCategoryTree();
     void fillContactTree();

@@ -7,9 +7,11 @@
 #include "explorer/NavigationTree.h"
 #include "explorer/RelatedFill.h"
 #include "explorer/TreeFills.h"
+#include "options/OptionStore.h"
 #include "support/BusyCursor.h"
 #include "support/SelectionState.h"
 
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QSplitter>
 
@@ -19,6 +21,12 @@ void MainWindow::fillCategoryTree()
 {
     try {
         const BusyCursor busy;
+        // A database file opens empty where there is nothing in it; it is no register.
+        const QFileInfo location(getRegValue(QStringLiteral("DbLocation")));
+        if (location.isFile() && location.size() == 0)
+            throw Error(ErrorNumber::ConnectionFailed,
+                QStringLiteral("'") + location.filePath()
+                    + QStringLiteral("' is not a register: the file is empty."));
         buildCategoryTree(*m_tree);
     } catch (const Error& error) {
         // Only an unusable register is reported; any other error leaves the tree as far as it got.
@@ -118,6 +126,30 @@ void MainWindow::onRelatedClicked(int row)
     setCommandEnabled(QStringLiteral("mnuRelated"), false);
     setCommandEnabled(QStringLiteral("mnuShowDetails"), true);
     updateCommandState();
+}
+
+void MainWindow::onDocumentHighlightCleared()
+{
+    // The document last highlighted may be gone from sight: forget it, and its related
+    // one, so that the commands answer as they do before any click.
+    m_state.activeListName.clear();
+    m_state.selectedDocumentId = 0;
+    m_state.selectedSubDocumentId = 0;
+    m_state.selectedItemText.clear();
+    m_state.selectedFilePath.clear();
+}
+
+void MainWindow::onRelatedHighlightCleared()
+{
+    m_state.selectedSubDocumentId = 0;
+    if (m_state.activeListName != QLatin1String("ListSusieti"))
+        return;
+    // The related document was the one acted on: its parent stays highlighted above.
+    const int row = m_documents->selectedRow();
+    if (row >= 0)
+        onDocumentClicked(row);
+    else
+        onDocumentHighlightCleared();
 }
 
 void MainWindow::fillRelatedList()

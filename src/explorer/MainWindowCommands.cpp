@@ -17,7 +17,7 @@
 
 #include <QAction>
 #include <QFileInfo>
-#include <QPrintDialog>
+#include <QPageSetupDialog>
 
 namespace kartella {
 
@@ -71,9 +71,9 @@ void MainWindow::deleteSelectedCategory()
 
 void MainWindow::printSetup()
 {
-    QPrintDialog dialog(&sharedPrinter(), this);
+    // The page and printer of the shared printer; the reports read them when they print.
+    QPageSetupDialog dialog(&sharedPrinter(), this);
     dialog.setWindowTitle(QStringLiteral("Print Setup"));
-    dialog.setOptions(QAbstractPrintDialog::PrintShowPageSize);
     dialog.exec();
 }
 

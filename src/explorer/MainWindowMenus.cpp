@@ -118,7 +118,6 @@ void MainWindow::buildMenus()
     QMenuBar* bar = menuBar();
     QMenu* file = bar->addMenu(QStringLiteral("&File"));
     file->setObjectName(QStringLiteral("mnuFile"));
-    file->setToolTipsVisible(true);
     addCommand(file, QStringLiteral("mnuNew"), QStringLiteral("&New Document"), &MainWindow::newDocument,
         QKeySequence(Qt::CTRL | Qt::Key_N), QStringLiteral("frmNewDocument"));
     addCommand(file, QStringLiteral("mnuOpen"), QStringLiteral("&Open Document"), &MainWindow::openDocument,
@@ -154,7 +153,6 @@ void MainWindow::buildMenus()
 
     QMenu* view = bar->addMenu(QStringLiteral("&View"));
     view->setObjectName(QStringLiteral("mnuView"));
-    view->setToolTipsVisible(true);
     addCommand(
         view, QStringLiteral("mnuByCategory"), QStringLiteral("By Category"), &MainWindow::viewByCategory)
         ->setCheckable(true);
@@ -191,7 +189,6 @@ void MainWindow::buildMenus()
 
     QMenu* go = bar->addMenu(QStringLiteral("&Go"));
     go->setObjectName(QStringLiteral("mnuGo"));
-    go->setToolTipsVisible(true);
     addCommand(go, QStringLiteral("mnuNewContact"), QStringLiteral("&New Contact"), nullptr, {},
         QStringLiteral("frmCorr"));
     addCommand(go, QStringLiteral("mnuNewCategory"), QStringLiteral("Ne&w Category"), nullptr, {},
@@ -202,7 +199,6 @@ void MainWindow::buildMenus()
 
     QMenu* tools = bar->addMenu(QStringLiteral("&Tools"));
     tools->setObjectName(QStringLiteral("mnuTools"));
-    tools->setToolTipsVisible(true);
     addCommand(tools, QStringLiteral("mnuOptions"), QStringLiteral("&Options"), nullptr, {},
         QStringLiteral("frmSettings"));
     tools->addSeparator()->setObjectName(QStringLiteral("sep45"));
@@ -211,15 +207,12 @@ void MainWindow::buildMenus()
 
     QMenu* reports = bar->addMenu(QStringLiteral("&Reports"));
     reports->setObjectName(QStringLiteral("mnuReports"));
-    reports->setToolTipsVisible(true);
     addCommand(reports, QStringLiteral("mnuCategoriesRep"), QStringLiteral("&Categories"), nullptr, {},
         QStringLiteral("DataReport1"));
     QMenu* lists = reports->addMenu(QStringLiteral("&Documents List's"));
     lists->setObjectName(QStringLiteral("mnuDocumentsLists"));
-    lists->setToolTipsVisible(true);
     QMenu* byCategory = lists->addMenu(QStringLiteral("By Category"));
     byCategory->setObjectName(QStringLiteral("mnuDocumByCategory"));
-    byCategory->setToolTipsVisible(true);
     addCommand(byCategory, QStringLiteral("mnuThisMonth"), QStringLiteral("This Month"), nullptr, {},
         QStringLiteral("rptThisMonth"));
     addCommand(byCategory, QStringLiteral("mnurptPrevMonth"), QStringLiteral("Previous Month"), nullptr, {},
@@ -230,7 +223,6 @@ void MainWindow::buildMenus()
         QStringLiteral("DataReport2"));
     QMenu* addressBook = reports->addMenu(QStringLiteral("&Address Book"));
     addressBook->setObjectName(QStringLiteral("mnurptAddressBook"));
-    addressBook->setToolTipsVisible(true);
     addCommand(addressBook, QStringLiteral("mnurptPhones"), QStringLiteral("P&hones"), nullptr, {},
         QStringLiteral("DataReport3"));
     addCommand(addressBook, QStringLiteral("mnuContacts"), QStringLiteral("&Contacts"), nullptr, {},
@@ -240,7 +232,6 @@ void MainWindow::buildMenus()
 
     QMenu* help = bar->addMenu(QStringLiteral("&Help"));
     help->setObjectName(QStringLiteral("mnuHelp"));
-    help->setToolTipsVisible(true);
     addCommand(help, QStringLiteral("mnuAboutKA"), QStringLiteral("&About Kartella"), nullptr, {},
         QStringLiteral("frmAbout"));
 }
@@ -349,7 +340,6 @@ void MainWindow::buildPopups()
         &MainWindow::showDetails, {}, QStringLiteral("frmNew"));
     addCommand(m_documentMenu, QStringLiteral("mnuPopProperties"), QStringLiteral("P&roperties"),
         &MainWindow::showProperties);
-    m_documentMenu->setToolTipsVisible(true);
 
     m_categoryMenu = new QMenu(QStringLiteral("PopCat"), this);
     m_categoryMenu->setObjectName(QStringLiteral("mnuPopCat"));
@@ -359,7 +349,6 @@ void MainWindow::buildPopups()
         &MainWindow::deleteSelectedCategory);
     addCommand(m_categoryMenu, QStringLiteral("mnuPopCatEdit"), QStringLiteral("&Edit Details"),
         &MainWindow::editCategory, {}, QStringLiteral("frmCategory"));
-    m_categoryMenu->setToolTipsVisible(true);
 }
 
 void MainWindow::updateCommandState()

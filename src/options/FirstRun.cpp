@@ -9,8 +9,6 @@ namespace kartella {
 
 bool seedOptionsIfMissing(const QDate& today)
 {
-    if (optionsKeyExists())
-        return false;
     const QList<QPair<QString, QString>> initial = {
         {QStringLiteral("Provider"), QStringLiteral("Microsoft.Jet.OLEDB.4.0")},
         {QStringLiteral("Filter"), QStringLiteral("0")},
@@ -25,11 +23,9 @@ bool seedOptionsIfMissing(const QDate& today)
         {QStringLiteral("TodayNumber"), QStringLiteral("1")},
         {QStringLiteral("FileNumber"), QStringLiteral(" 1")},
     };
-    for (const auto& [name, value] : initial) {
-        if (!writeRegValue(Hive::CurrentUser, optionsKeyPath(), name, value))
-            return false;
-    }
-    return true;
+    // One write for all of them, so that a failure leaves no half a key; a key left
+    // incomplete all the same (by an older version, or by hand) gets the values it lacks.
+    return writeRegValues(Hive::CurrentUser, optionsKeyPath(), initial, true) > 0;
 }
 
 } // namespace kartella

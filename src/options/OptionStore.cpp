@@ -102,6 +102,23 @@ QString readRegValue(Hive hive, const QString& keyPath, const QString& name, con
     return value.size() > MaxValueLength ? defaultValue : value;
 }
 
+int writeRegValues(
+    Hive hive, const QString& keyPath, const QList<QPair<QString, QString>>& values, bool keepExisting)
+{
+    QSettings key(registryPath(hive, keyPath), QSettings::NativeFormat);
+    if (key.status() != QSettings::NoError)
+        return -1;
+    int written = 0;
+    for (const auto& [name, value] : values) {
+        if (keepExisting && key.contains(name))
+            continue;
+        key.setValue(name, value);
+        ++written;
+    }
+    key.sync();
+    return key.status() == QSettings::NoError ? written : -1;
+}
+
 QString iniFilePath()
 {
     return QDir::toNativeSeparators(qEnvironmentVariable("SystemRoot", QStringLiteral("C:\\Windows")))
@@ -128,6 +145,25 @@ bool writeRegValue(Hive hive, const QString& keyPath, const QString& name, const
     }
     file.setValue(key.section, name, value);
     return file.save(key.path);
+}
+
+int writeRegValues(
+    Hive hive, const QString& keyPath, const QList<QPair<QString, QString>>& values, bool keepExisting)
+{
+    const KeyFile key = keyFile(hive, keyPath);
+    SectionFile file;
+    if (file.load(key.path) == SectionFile::Status::Unreadable)
+        return -1;
+    int written = 0;
+    for (const auto& [name, value] : values) {
+        if (keepExisting && file.value(key.section, name))
+            continue;
+        file.setValue(key.section, name, value);
+        ++written;
+    }
+    if (written == 0)
+        return 0;
+    return file.save(key.path) ? written : -1;
 }
 
 QString readRegValue(Hive hive, const QString& keyPath, const QString& name, const QString& defaultValue)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QList>
+#include <QPair>
 #include <QString>
 
 #include <concepts>
@@ -36,6 +38,12 @@ QString getRegValue(const QString& name);
 // The primitives under the two: write or read one value of any key.
 bool writeRegValue(Hive hive, const QString& keyPath, const QString& name, const QString& value);
 QString readRegValue(Hive hive, const QString& keyPath, const QString& name, const QString& defaultValue);
+
+// Writes several values of a key in one step: all of them or, when the store refuses,
+// none. With keepExisting, a value the key already holds is left as it is. Returns how
+// many values it wrote, -1 when the store refused (or couldn't be read).
+int writeRegValues(
+    Hive hive, const QString& keyPath, const QList<QPair<QString, QString>>& values, bool keepExisting);
 
 // Whether the options key is there.
 bool optionsKeyExists();

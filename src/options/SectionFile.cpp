@@ -9,10 +9,17 @@ namespace kartella {
 
 namespace {
 
-QString escape(const QString& value)
+// Values are written as they are, backslashes and all, so that a value written by hand
+// reads back unchanged. Only a value holding a line break, which a line can't hold, is
+// written in the form @Lines(...), with "\\", "\n" and "\r" standing for a backslash
+// and the two breaks.
+const QString LinesPrefix = QStringLiteral("@Lines(");
+
+QString encode(const QString& value)
 {
-    QString out;
-    out.reserve(value.size());
+    if (!value.contains(u'\n') && !value.contains(u'\r') && !value.startsWith(LinesPrefix))
+        return value;
+    QString out = LinesPrefix;
     for (QChar c : value) {
         if (c == u'\\')
             out += QStringLiteral("\\\\");
@@ -23,17 +30,20 @@ QString escape(const QString& value)
         else
             out += c;
     }
-    return out;
+    return out + u')';
 }
 
-QString unescape(QStringView text)
+QString decode(QStringView text)
 {
+    if (!text.startsWith(LinesPrefix) || !text.endsWith(u')'))
+        return text.toString();
+    const QStringView inner = text.mid(LinesPrefix.size(), text.size() - LinesPrefix.size() - 1);
     QString out;
-    out.reserve(text.size());
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const QChar c = text[i];
-        if (c == u'\\' && i + 1 < text.size()) {
-            const QChar next = text[++i];
+    out.reserve(inner.size());
+    for (qsizetype i = 0; i < inner.size(); ++i) {
+        const QChar c = inner[i];
+        if (c == u'\\' && i + 1 < inner.size()) {
+            const QChar next = inner[++i];
             out += next == u'n' ? QChar(u'\n') : next == u'r' ? QChar(u'\r') : next;
         } else {
             out += c;
@@ -119,7 +129,7 @@ std::optional<QString> SectionFile::value(const QString& section, const QString&
             continue;
         const auto entry = entryName(line);
         if (entry && entry->compare(name, Qt::CaseInsensitive) == 0)
-            return unescape(QStringView(line).mid(line.indexOf(u'=') + 1));
+            return decode(QStringView(line).mid(line.indexOf(u'=') + 1));
     }
     return std::nullopt;
 }
@@ -141,13 +151,13 @@ void SectionFile::setValue(const QString& section, const QString& name, const QS
         const auto entry = entryName(line);
         if (entry && entry->compare(name, Qt::CaseInsensitive) == 0) {
             // The stored name keeps its spelling; one option, whatever case it is written in.
-            m_lines[i] = entry->toString() + u'=' + escape(value);
+            m_lines[i] = entry->toString() + u'=' + encode(value);
             return;
         }
         if (!isComment(line))
             sectionEnd = i + 1;
     }
-    const QString entry = name + u'=' + escape(value);
+    const QString entry = name + u'=' + encode(value);
     if (sectionEnd < 0) {
         if (!m_lines.isEmpty() && !m_lines.last().isEmpty())
             m_lines << QString();

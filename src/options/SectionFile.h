@@ -9,8 +9,8 @@ namespace kartella {
 
 // A small sectioned text file of "name=value" lines, the form the options and the ini
 // file take where there is no registry. Names and sections are compared without regard
-// to case; values are kept exactly, leading blanks included (a backslash, a line feed and
-// a carriage return are written escaped). Lines the file holds besides ours are kept.
+// to case; values are kept exactly, leading blanks and backslashes included (only a value with a
+// line break is written in an escaped form, @Lines(...)). Lines the file holds besides ours are kept.
 class SectionFile
 {
 public:

@@ -7,7 +7,11 @@ namespace kartella {
 
 Application::Application(int& argc, char** argv)
     : QApplication(argc, argv)
-{ }
+{
+    // No display name: with one, the platform would append it to every window title, and
+    // captions such as "Confirm Deletion" must show exactly as given.
+    setApplicationName(QStringLiteral("Kartella"));
+}
 
 bool Application::notify(QObject* receiver, QEvent* event)
 {

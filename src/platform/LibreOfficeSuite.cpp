@@ -3,12 +3,15 @@
 #include "base/Error.h"
 #include "platform/Shell.h"
 
+#include <QCoreApplication>
 #include <QDir>
+#include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QUrl>
 
 #ifdef Q_OS_UNIX
@@ -79,6 +82,24 @@ void stopTree(QProcess& process)
     process.waitForFinished(StopWaitMs);
 }
 
+// Waits for the process to end, at most timeoutMs. With an event loop about, the windows
+// keep painting meanwhile (no input reaches them). False when the time ran out.
+bool waitWhileThePainting(QProcess& process, int timeoutMs)
+{
+    if (!QCoreApplication::instance())
+        return process.waitForFinished(timeoutMs);
+    QEventLoop loop;
+    QTimer limit;
+    limit.setSingleShot(true);
+    QObject::connect(&process, &QProcess::finished, &loop, &QEventLoop::quit);
+    QObject::connect(&process, &QProcess::errorOccurred, &loop, &QEventLoop::quit);
+    QObject::connect(&limit, &QTimer::timeout, &loop, &QEventLoop::quit);
+    limit.start(timeoutMs);
+    if (process.state() != QProcess::NotRunning)
+        loop.exec(QEventLoop::ExcludeUserInputEvents);
+    return process.state() == QProcess::NotRunning;
+}
+
 // Runs LibreOffice with arguments; returns its output, or throws when it can't be started,
 // times out, or fails.
 QString run(const QString& program, const QStringList& arguments, int timeoutMs, const QString& what)
@@ -97,7 +118,7 @@ QString run(const QString& program, const QStringList& arguments, int timeoutMs,
         raise(OfficeErrorNumber::NotInstalled,
             QStringLiteral("LibreOffice (") % program % QStringLiteral(") couldn't be started: ")
                 % process.errorString());
-    if (!process.waitForFinished(timeoutMs)) {
+    if (!waitWhileThePainting(process, timeoutMs)) {
         stopTree(process);
         raise(OfficeErrorNumber::TimedOut,
             QStringLiteral("LibreOffice didn't finish making ") % what % QStringLiteral(" within ")

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QPushButton>
 
@@ -125,9 +126,20 @@ QString WidgetPrompter::openFile(const OpenFileRequest& request)
         ownerWindow(), request.title.trimmed(), request.startFolder.trimmed(), filter);
 }
 
+std::unique_ptr<QFileDialog> buildFolderChooser(const QString& prompt, QWidget* parent)
+{
+    auto dialog = std::make_unique<QFileDialog>(parent, prompt, QDir::homePath());
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOption(QFileDialog::ShowDirsOnly, true);
+    return dialog;
+}
+
 QString WidgetPrompter::chooseFolder(const QString& prompt)
 {
-    return QFileDialog::getExistingDirectory(ownerWindow(), prompt, QString(), QFileDialog::ShowDirsOnly);
+    const auto dialog = buildFolderChooser(prompt, ownerWindow());
+    if (dialog->exec() != QDialog::Accepted || dialog->selectedFiles().isEmpty())
+        return {};
+    return dialog->selectedFiles().constFirst();
 }
 
 } // namespace kartella

@@ -2,6 +2,7 @@
 
 #include "platform/Prompter.h"
 
+#include <QFileDialog>
 #include <QMessageBox>
 
 #include <memory>
@@ -19,6 +20,10 @@ int messageBoxResult(const QMessageBox& box, int style);
 
 // The file dialog's filter for a label such as "Word templates (*.dot)" and its pattern.
 QString fileDialogFilter(const QString& label, const QString& pattern);
+
+// Builds the folder chooser for a prompt, without showing it. It starts in the user's home
+// folder.
+std::unique_ptr<QFileDialog> buildFolderChooser(const QString& prompt, QWidget* parent = nullptr);
 
 // The prompter of the running program: Qt's message box and file dialogs, owned by the
 // window that is active at the time.

@@ -2,6 +2,7 @@
 
 #include "base/Error.h"
 #include "options/OptionStore.h"
+#include "platform/Clock.h"
 #include "platform/Prompter.h"
 #include "registration/FileNaming.h"
 #include "registration/RegIndex.h"
@@ -32,6 +33,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScopeGuard>
 #include <QTabWidget>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -326,7 +328,7 @@ void NewDocumentDialog::load()
 
         m_inner->setChecked(true);
 
-        const QString today = QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat);
+        const QString today = QLocale::system().toString(Clock::currentDate(), QLocale::ShortFormat);
         m_sentReceivedDate->setText(today);
         m_registrationDate->setText(today);
 
@@ -416,6 +418,16 @@ void NewDocumentDialog::createDocument(const CreatingButton& button)
             const OfficeDocumentRequest request {
                 m_description->text(), folder, templatePath, category, m_regIndex->text()};
             const BusyCursor busy;
+            // While LibreOffice works the window paints, but a click in it must not start a
+            // second file or close the dialog under the first.
+            QWidget* createWith = findChild<QWidget*>(QStringLiteral("fraCreateWith"));
+            const QList<QWidget*> held = {createWith, m_ok, m_cancel};
+            for (QWidget* widget : held)
+                widget->setEnabled(false);
+            const auto release = qScopeGuard([&held] {
+                for (QWidget* widget : held)
+                    widget->setEnabled(true);
+            });
             button.create(request, [this](const QString& path) { setLocation(path); });
         }
         QDir::setCurrent(directory);

@@ -1,5 +1,6 @@
 #include "registration/OfficeDocuments.h"
 
+#include "base/Error.h"
 #include "platform/OfficeSuite.h"
 #include "platform/Prompter.h"
 #include "registration/FileNaming.h"
@@ -12,6 +13,33 @@ namespace kartella {
 namespace {
 
 using LocationSetter = std::function<void(const QString&)>;
+
+bool g_officeNoticeShown = false;
+
+// Makes the file; a failure that isn't about the document (LibreOffice missing, or
+// stopped at its time limit) is told once per run, naming what to install. The error
+// goes on to the caller either way.
+void createWithSuite(OfficeSuite::Kind kind, const QString& templatePath, const QString& path)
+{
+    try {
+        OfficeSuite::instance().create(kind, templatePath, path);
+    } catch (const Error& error) {
+        const bool missing = error.number() == OfficeErrorNumber::NotInstalled;
+        if ((missing || error.number() == OfficeErrorNumber::TimedOut) && !g_officeNoticeShown) {
+            g_officeNoticeShown = true;
+            const QString what = missing
+                ? QStringLiteral(
+                    "LibreOffice, which makes the Word, Excel and PowerPoint files, isn't installed.")
+                : QStringLiteral("LibreOffice didn't finish making the file in time and was stopped.");
+            msgBox(what
+                    + QStringLiteral(
+                        "\r\rTo make these files and to open and edit them, install the packages "
+                        "libreoffice-writer, libreoffice-calc and libreoffice-impress."),
+                MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, QStringLiteral("Office documents"));
+        }
+        throw;
+    }
+}
 
 // The path of the new file, or empty text when it can't be made or is taken (after the
 // message with takenTitle).
@@ -38,7 +66,8 @@ QString templateText(const QVariant& templatePath)
 bool chooseTemplate(const QVariant& templatePath, QString& chosen)
 {
     chosen = templateText(templatePath);
-    if (chosen.isEmpty() || QFileInfo::exists(chosen))
+    // A folder is no template: it is missing like a file that isn't there.
+    if (chosen.isEmpty() || QFileInfo(chosen).isFile())
         return true;
     const int answer = msgBox(QStringLiteral("Can't achieve desired template ") % chosen
             % QStringLiteral(".\r\rIf you want to continue without template click OK"),
@@ -59,13 +88,17 @@ void createFromTemplate(OfficeSuite::Kind kind, const QString& extension, const 
     QString templatePath;
     if (!chooseTemplate(request.templatePath, templatePath))
         return;
-    OfficeSuite& suite = OfficeSuite::instance();
-    suite.create(kind, templatePath, path);
+    createWithSuite(kind, templatePath, path);
     setLocation(path);
-    suite.show(path);
+    OfficeSuite::instance().show(path);
 }
 
 } // namespace
+
+void forgetOfficeNotice()
+{
+    g_officeNoticeShown = false;
+}
 
 void createWordDocument(const OfficeDocumentRequest& request, const LocationSetter& setLocation)
 {
@@ -86,10 +119,9 @@ void createPowerPointDocument(const OfficeDocumentRequest& request, const Locati
     const QString path = newFilePath(request, QStringLiteral(".ppt"), QStringLiteral("Can't create a file"));
     if (path.isEmpty())
         return;
-    OfficeSuite& suite = OfficeSuite::instance();
-    suite.create(OfficeSuite::Kind::PowerPoint, QString(), path);
+    createWithSuite(OfficeSuite::Kind::PowerPoint, QString(), path);
     setLocation(path);
-    suite.show(path);
+    OfficeSuite::instance().show(path);
 }
 
 } // namespace kartella

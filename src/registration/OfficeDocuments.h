@@ -32,4 +32,7 @@ void createExcelDocument(
 void createPowerPointDocument(
     const OfficeDocumentRequest& request, const std::function<void(const QString&)>& setLocation);
 
+// Lets the next missing or stopped LibreOffice be told again (the notice comes once a run).
+void forgetOfficeNotice();
+
 } // namespace kartella

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Clock.h"
+
 #include <QDate>
 #include <QString>
 #include <QVariant>
@@ -14,18 +16,18 @@ namespace kartella {
 // The proposal for a category (a KategID, or empty text or Null when none is chosen).
 // Empty text when AutoRegIndex is off. When the stored Date isn't today the day's count
 // restarts (resetTodayNumber) before anything else can fail; nothing else is written.
-QString makeRegIndex(const QVariant& category, const QDate& today = QDate::currentDate());
+QString makeRegIndex(const QVariant& category, const QDate& today = Clock::currentDate());
 
 // The date part in one of six styles: 1 yyyymmdd, 2 mmddyyyy, 3 ddmmyyyy, 4 yymmdd,
 // 5 mmddyy, 6 ddmmyy; any other style gives empty text.
 QString formatIndexDate(const QDate& date, int style);
 
 // Sets Date to today and TodayNumber to 1.
-void resetTodayNumber(const QDate& today = QDate::currentDate());
+void resetTodayNumber(const QDate& today = Clock::currentDate());
 
 // The sample of the settings dialog: "AGR" (with UseMnemonic on), Separator1, the date
 // in IndexStyle, Separator2 and "1". Restarts the day's count on a new day whatever
 // AutoRegIndex says.
-QString regIndexSample(const QDate& today = QDate::currentDate());
+QString regIndexSample(const QDate& today = Clock::currentDate());
 
 } // namespace kartella

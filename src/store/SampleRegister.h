@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Clock.h"
+
 #include <QDate>
 #include <QString>
 
@@ -10,7 +12,7 @@ struct SampleOptions
     // Documents to register, spread over the last three months before today.
     int documents = 400;
     // The day the sample counts back from.
-    QDate today = QDate::currentDate();
+    QDate today = Clock::currentDate();
     // Seed of the generator: the same seed gives the same register.
     quint32 seed = 20240305;
     // How many documents get a real file on disk, in the folder FilesFolder(path);

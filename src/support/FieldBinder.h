@@ -60,7 +60,7 @@ public:
 
     // The date of text as a date box reads it: the display format first, then ISO
     // ("yyyy-MM-dd"), "yyyy.MM.dd", the short date forms of the system's and of the
-    // application's locale (a two-digit year as 1930 to 2029), "M/d/yyyy". Invalid when
+    // application's locale (a two-digit year in the century nearest to today), "M/d/yyyy". Invalid when
     // none reads it.
     static QDate readDate(const QString& text, const QString& displayFormat);
 

@@ -11,7 +11,12 @@
 
 #include <QComboBox>
 #include <QDateEdit>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
 #include <QLabel>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QTest>
 
 using namespace kartella;
@@ -393,6 +398,72 @@ private Q_SLOTS:
         QVERIFY(prompt.text.endsWith("\rSelect correct database type and file, please!"));
         QCOMPARE(w.documentModel()->itemCount(), 0);
         QCOMPARE(w.tree()->nodeCount(), 0);
+    }
+
+    // A register another program holds locked: the start reports it after a few seconds,
+    // in the connection message, instead of waiting the full time of each statement.
+    void lockedRegisterIsReportedSoon()
+    {
+        const QString sqlite = QStandardPaths::findExecutable("sqlite3");
+        if (sqlite.isEmpty())
+            QSKIP("sqlite3 is not installed: no other program can lock the register");
+        TestRegister reg;
+        setRegValue("DbLocation", reg.path());
+        QProcess locker;
+        locker.start(sqlite, {reg.path()});
+        QVERIFY(locker.waitForStarted());
+        locker.write("BEGIN EXCLUSIVE;\nSELECT 'locked';\n");
+        QVERIFY(locker.waitForReadyRead(10000));
+        QCOMPARE(locker.readAll().trimmed(), QByteArray("locked"));
+
+        ScriptedPrompter prompter;
+        prompter.answer(MsgBoxResult::Ok);
+        MainWindow w;
+        int settingsOffered = 0;
+        w.openSettings = [&] { ++settingsOffered; };
+        QElapsedTimer started;
+        started.start();
+        w.show();
+        w.load();
+        const qint64 waited = started.elapsed();
+        locker.write("ROLLBACK;\n.quit\n");
+        locker.closeWriteChannel();
+        locker.waitForFinished();
+
+        QCOMPARE(prompter.prompts().size(), 1);
+        const auto prompt = prompter.prompts().first();
+        QCOMPARE(prompt.title, QString("Connection to database error:"));
+        QVERIFY2(prompt.text.contains("locked"), qPrintable(prompt.text));
+        QCOMPARE(settingsOffered, 1);
+        // The full wait is ten seconds a statement; the start takes a few in all.
+        QVERIFY2(waited < 8000, qPrintable(QString::number(waited)));
+    }
+
+    // A zero-byte file named as the register fails like any file that is no register.
+    void emptyFileIsNoRegister()
+    {
+        TestRegister reg;
+        const QString empty = reg.dir() + "/Empty.mdb";
+        QFile file(empty);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.close();
+        setRegValue("DbLocation", empty);
+        ScriptedPrompter prompter;
+        prompter.answer(MsgBoxResult::Ok);
+        MainWindow w;
+        int settingsOffered = 0;
+        w.openSettings = [&] { ++settingsOffered; };
+        w.show();
+        w.load();
+        QCOMPARE(prompter.prompts().size(), 1);
+        const auto prompt = prompter.prompts().first();
+        QCOMPARE(prompt.title, QString("Connection to database error:"));
+        QCOMPARE(prompt.style, MsgBoxStyle::OkOnly + MsgBoxStyle::Critical);
+        QVERIFY(prompt.text.startsWith("Error: -2147467259 "));
+        QVERIFY(prompt.text.contains(empty));
+        QCOMPARE(settingsOffered, 1);
+        QCOMPARE(QFileInfo(empty).size(), 0);
+        QCOMPARE(getRegValue("DbLocation"), empty);
     }
 };
 

@@ -86,6 +86,10 @@ private Q_SLOTS:
                                           << "/home/u/My Documents/Kartella.mdb";
         QTest::newRow("backslashes") << "c:\\Docs\\"
                                      << "c:\\Docs\\";
+        QTest::newRow("backslash before n") << "c:\\new\\r1"
+                                            << "c:\\new\\r1";
+        QTest::newRow("looks like the line form") << "@Lines(a\\nb)"
+                                                  << "@Lines(a\\nb)";
         QTest::newRow("equals sign") << "a=b"
                                      << "a=b";
         QTest::newRow("line breaks") << "one\r\ntwo"
@@ -105,6 +109,36 @@ private Q_SLOTS:
         setRegValue("Separator1", written);
         QCOMPARE(getRegValue("Separator1"), read);
         QVERIFY(prompter.prompts().isEmpty());
+    }
+
+    // A value written by hand, or by another program, reads back as it stands.
+    void handWrittenValuesReadAsTheyStand_data()
+    {
+        QTest::addColumn<QByteArray>("line");
+        QTest::addColumn<QString>("read");
+        QTest::newRow("backslash in a path") << QByteArray("DbLocation=/srv/a\\b") << "/srv/a\\b";
+        QTest::newRow("windows path")
+            << QByteArray("DbLocation=C:\\Docs\\new\\Kartella.mdb") << "C:\\Docs\\new\\Kartella.mdb";
+        QTest::newRow("double backslash")
+            << QByteArray("DbLocation=\\\\server\\share") << "\\\\server\\share";
+        QTest::newRow("trailing backslash") << QByteArray("DbLocation=C:\\") << "C:\\";
+    }
+
+    void handWrittenValuesReadAsTheyStand()
+    {
+        QFETCH(QByteArray, line);
+        QFETCH(QString, read);
+        writeOptionsFile("[Options]\n" + line + "\n");
+        QCOMPARE(getRegValue("DbLocation"), read);
+        QVERIFY(writeIniValue("Company", "x"));
+        QFile ini(iniFilePath());
+        QVERIFY(ini.open(QIODevice::Append));
+        ini.write("AllDocs" + line.mid(line.indexOf('=')) + "\n");
+        ini.close();
+        QCOMPARE(getIniValue("AllDocs"), read);
+        // Writing another value keeps the line as it was.
+        setRegValue("Filter", 1);
+        QVERIFY(optionsText().contains(QString::fromUtf8(line) + "\n"));
     }
 
     void absentValueReadsNotFound()
@@ -240,6 +274,37 @@ private Q_SLOTS:
         QVERIFY(!seedOptionsIfMissing(QDate(2024, 3, 6)));
         QCOMPARE(getRegValue("TodayNumber"), QString("7"));
         QCOMPARE(getRegValue("Date"), QString("2024 03 05"));
+    }
+
+    // A first start that stopped after some values: the next start writes the rest and
+    // keeps what is there.
+    void firstStartFinishesAHalfKey()
+    {
+        writeOptionsFile("[Options]\nProvider=Microsoft.Jet.OLEDB.3.51\nFilter=1\n");
+        QVERIFY(seedOptionsIfMissing(QDate(2030, 1, 1)));
+        QCOMPARE(getRegValue("Provider"), QString("Microsoft.Jet.OLEDB.3.51"));
+        QCOMPARE(getRegValue("Filter"), QString("1"));
+        QCOMPARE(getRegValue("Network"), QString("0"));
+        QCOMPARE(getRegValue("Date"), QString("2030 01 01"));
+        QCOMPARE(getRegValue("FileNumber"), QString(" 1"));
+        QCOMPARE(optionsText().count("Filter="), 1);
+        QVERIFY(!seedOptionsIfMissing(QDate(2030, 1, 2)));
+    }
+
+    // A refused first write leaves no options file behind: the next start tries again.
+    void refusedFirstStartLeavesNoKey()
+    {
+        const QString folder = QFileInfo(optionsFilePath()).absolutePath();
+        QVERIFY(QDir().mkpath(QFileInfo(folder).absolutePath()));
+        // A file where the folder should be: nothing can be written under it.
+        QFile blocker(folder);
+        QVERIFY(blocker.open(QIODevice::WriteOnly));
+        blocker.close();
+        QVERIFY(!seedOptionsIfMissing(QDate(2030, 1, 1)));
+        QVERIFY(!optionsKeyExists());
+        QVERIFY(QFile::remove(folder));
+        QVERIFY(seedOptionsIfMissing(QDate(2030, 1, 1)));
+        QCOMPARE(getRegValue("FileNumber"), QString(" 1"));
     }
 };
 

@@ -3,8 +3,11 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDir>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
@@ -139,6 +142,28 @@ private Q_SLOTS:
         QFETCH(QString, pattern);
         QFETCH(QString, filter);
         QCOMPARE(fileDialogFilter(label, pattern), filter);
+    }
+
+    void folderChooserStartsInTheHomeFolder()
+    {
+        // The program's current folder is elsewhere; the chooser still starts at home.
+        QTemporaryDir elsewhere;
+        const QString before = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(elsewhere.path()));
+        QString shownFolder;
+        QString shownTitle;
+        QTimer::singleShot(0, this, [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            shownFolder = dialog->directory().absolutePath();
+            shownTitle = dialog->windowTitle();
+            dialog->reject();
+        });
+        const QString chosen = WidgetPrompter().chooseFolder("Select Folder");
+        QDir::setCurrent(before);
+        QCOMPARE(chosen, QString());
+        QCOMPARE(shownTitle, QString("Select Folder"));
+        QCOMPARE(shownFolder, QDir(QDir::homePath()).absolutePath());
     }
 
     void scriptedPrompterRecordsAndAnswers()

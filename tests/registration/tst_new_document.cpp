@@ -1,6 +1,7 @@
 #include "explorer/ExplorerList.h"
 #include "explorer/MainWindow.h"
 #include "harness/OfficeTemplates.h"
+#include "harness/ScriptedOfficeSuite.h"
 #include "harness/ScriptedPrompter.h"
 #include "harness/ScriptedShell.h"
 #include "harness/TestRegister.h"
@@ -389,6 +390,31 @@ private Q_SLOTS:
         QCOMPARE(fx.suite.calls.first().templatePath, QString());
         QVERIFY(test::fileHoldsText(path, "WordDocument"));
         QVERIFY(!test::fileHoldsText(path, "Template marker"));
+    }
+
+    // While the file is made the dialog's buttons are off, so that a click in the window
+    // (which keeps painting) starts no second file and doesn't close the dialog; after it
+    // they are on again.
+    void buttonsRestWhileTheFileIsMade()
+    {
+        Fixture fx(m_templatePaths);
+        ScriptedOfficeSuite scripted;
+        Dialog d;
+        const QStringList names = {"cmdWord", "cmdExcel", "cmdPower", "cmdAddExisting", "cmdOK", "cmdCancel"};
+        QStringList enabledMeanwhile;
+        scripted.whileCreating = [&] {
+            for (const QString& name : names) {
+                if (d.dialog.findChild<QPushButton*>(name)->isEnabled())
+                    enabledMeanwhile << name;
+            }
+        };
+        d.type(4, "Yard");
+        d.click("cmdWord");
+        QCOMPARE(scripted.made.size(), 1);
+        QCOMPARE(enabledMeanwhile, QStringList());
+        QCOMPARE(d.box(5)->text(), scripted.made.first().target);
+        for (const QString& name : names)
+            QVERIFY2(d.dialog.findChild<QPushButton*>(name)->isEnabled(), qPrintable(name));
     }
 
     // With no category chosen in the tree: with AutoRegIndex on the load stops at the index

@@ -147,6 +147,8 @@ private Q_SLOTS:
         row("PowerPoint", "taken", stop, "Can't create a file");
         row("Word", "cancel", question, "Warning: Desired template not found");
         row("Excel", "cancel", question, "Warning: Desired template not found");
+        row("Word", "template is a folder", question, "Warning: Desired template not found");
+        row("Excel", "template is a folder", question, "Warning: Desired template not found");
         row("Word", "no index", stop, "The file name must be like Registration Index");
         row("PowerPoint", "no index", stop, "The file name must be like Registration Index");
     }
@@ -160,7 +162,8 @@ private Q_SLOTS:
         Fixture fx;
         const QString extension = kind == "Word" ? ".doc" : kind == "Excel" ? ".xls" : ".ppt";
         const QString taken = fx.path("AGR00012" + extension);
-        const QString missing = fx.reg.dir() + "/Gone.dot";
+        const QString missing = situation == "template is a folder" ? fx.docs : fx.reg.dir() + "/Gone.dot";
+        const bool asked = situation == "cancel" || situation == "template is a folder";
         if (situation == "taken") {
             QFile file(taken);
             QVERIFY(file.open(QIODevice::WriteOnly));
@@ -168,10 +171,9 @@ private Q_SLOTS:
         }
         if (situation == "no index")
             setRegValue("FileName", "2");
-        fx.prompter.answer(situation == "cancel" ? MsgBoxResult::Cancel : MsgBoxResult::Ok);
+        fx.prompter.answer(asked ? MsgBoxResult::Cancel : MsgBoxResult::Ok);
 
-        fx.run(kind, situation == "cancel" ? QVariant(missing) : QVariant(),
-            situation == "no index" ? "" : "A/1");
+        fx.run(kind, asked ? QVariant(missing) : QVariant(), situation == "no index" ? "" : "A/1");
 
         QCOMPARE(fx.prompter.prompts().size(), 1);
         const ScriptedPrompter::Prompt prompt = fx.prompter.prompts().first();
@@ -179,7 +181,7 @@ private Q_SLOTS:
         QCOMPARE(prompt.title, title);
         if (situation == "taken")
             QCOMPARE(prompt.text, fileExistsMessage(taken));
-        else if (situation == "cancel")
+        else if (asked)
             QCOMPARE(prompt.text,
                 "Can't achieve desired template " + missing
                     + ".\r\rIf you want to continue without template click OK");

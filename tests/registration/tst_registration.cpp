@@ -1,8 +1,10 @@
 #include "base/Error.h"
+#include "harness/ScriptedOfficeSuite.h"
 #include "harness/ScriptedPrompter.h"
 #include "harness/TestRegister.h"
 #include "options/OptionStore.h"
 #include "registration/FileNaming.h"
+#include "registration/OfficeDocuments.h"
 #include "registration/RegIndex.h"
 #include "store/engine/Value.h"
 
@@ -72,6 +74,54 @@ class RegistrationTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // LibreOffice missing or stopped is told once a run, naming the packages a desktop user
+    // installs; other failures of the suite stay silent. No file is named in the box.
+    void missingOfficeIsToldOncePerRun()
+    {
+        TestRegister reg;
+        const QString docs = reg.dir() + "/Docs";
+        QDir().mkpath(docs);
+        setRegValue("FileName", "0");
+        setRegValue("FileNumber", " 12");
+        const qint32 category = reg.insert("tbl_Document_Categories",
+            {{"DokKategorija", "Sutartys"}, {"Mnemonic", "AGR"}, {"DokKategDaug", docs}});
+        test::ScriptedOfficeSuite suite;
+        ScriptedPrompter prompter;
+        forgetOfficeNotice();
+        QStringList locations;
+        const auto run = [&](auto create) {
+            const OfficeDocumentRequest request {
+                "Sutartis", docs, QVariant(), QString::number(category), "A/1"};
+            try {
+                create(request, [&](const QString& path) { locations << path; });
+                QFAIL("the suite's failure was swallowed");
+            } catch (const Error&) { }
+        };
+        suite.failWith(OfficeErrorNumber::Failed);
+        run(createWordDocument);
+        QVERIFY(prompter.prompts().isEmpty());
+
+        suite.failWith(OfficeErrorNumber::NotInstalled);
+        prompter.answer(MsgBoxResult::Ok);
+        run(createExcelDocument);
+        QCOMPARE(prompter.prompts().size(), 1);
+        const QString text = prompter.prompts().first().text;
+        for (const char* package : {"libreoffice-writer", "libreoffice-calc", "libreoffice-impress"})
+            QVERIFY2(text.contains(QLatin1String(package)), qPrintable(text));
+        QVERIFY(!text.contains("nogui"));
+        QCOMPARE(prompter.prompts().first().style, MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation);
+
+        // Again, and stopped at the time limit: nothing more is said this run.
+        run(createPowerPointDocument);
+        suite.failWith(OfficeErrorNumber::TimedOut);
+        run(createWordDocument);
+        QCOMPARE(prompter.prompts().size(), 1);
+        QVERIFY(locations.isEmpty());
+        QCOMPARE(suite.made.size(), 4);
+        QVERIFY(suite.shown.isEmpty());
+        QVERIFY(prompter.allAnswered());
+    }
+
     void formatIndexDate()
     {
         QLocale::setDefault(QLocale(QLocale::Lithuanian, QLocale::Lithuania));

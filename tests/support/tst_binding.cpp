@@ -1,6 +1,7 @@
 #include "base/Error.h"
 #include "harness/ScriptedPrompter.h"
 #include "harness/TestRegister.h"
+#include "platform/Clock.h"
 #include "store/engine/Recordset.h"
 #include "support/BoundList.h"
 #include "support/EnterAsTab.h"
@@ -169,6 +170,46 @@ private Q_SLOTS:
         QFETCH(QString, text);
         QFETCH(QDate, date);
         QCOMPARE(FieldBinder::readDate(text, "dd MMM yyyy"), date);
+    }
+
+    // A two-digit year goes to the century nearest to today, whatever the locale.
+    void twoDigitYearsNearToday_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QDate>("today");
+        QTest::addColumn<QDate>("typed");
+        QTest::addColumn<QDate>("read");
+        const QDate lastOf2029(2029, 12, 31);
+        const QDate firstOf2030(2030, 1, 1);
+        for (const QString locale : {"de_DE", "en_US"}) {
+            auto row = [&](const char* name, QDate today, QDate typed, QDate read) {
+                QTest::addRow("%s %s", qPrintable(locale), name) << locale << today << typed << read;
+            };
+            row("new year's day 2030 on the day", firstOf2030, firstOf2030, firstOf2030);
+            row("new year's day 2030 the day before", lastOf2029, firstOf2030, firstOf2030);
+            row("last day of 2029 the day after", firstOf2030, lastOf2029, lastOf2029);
+            row("1980 is 50 years back", firstOf2030, QDate(1980, 6, 1), QDate(1980, 6, 1));
+            row("81 is 1981, not 2081", firstOf2030, QDate(2081, 6, 1), QDate(1981, 6, 1));
+            row("2079 is 49 years ahead", firstOf2030, QDate(2079, 6, 1), QDate(2079, 6, 1));
+            row("99 in 2001 is 1999", QDate(2001, 1, 1), QDate(1999, 12, 31), QDate(1999, 12, 31));
+            row("00 in 2099 is 2100", QDate(2099, 12, 31), QDate(2100, 1, 1), QDate(2100, 1, 1));
+        }
+    }
+
+    void twoDigitYearsNearToday()
+    {
+        QFETCH(QString, locale);
+        QFETCH(QDate, today);
+        QFETCH(QDate, typed);
+        QFETCH(QDate, read);
+        const QLocale before;
+        QLocale::setDefault(QLocale(locale));
+        SettableClock clock(today);
+        const QString text = QLocale(locale).toString(typed, QLocale::ShortFormat);
+        QVERIFY2(QLocale(locale).dateFormat(QLocale::ShortFormat).count(u'y') == 2, qPrintable(text));
+        const QDate date = FieldBinder::readDate(text, "dd MMM yyyy");
+        QLocale::setDefault(before);
+        QCOMPARE(date, read);
     }
 
     // An unreadable date stops the save with a message naming the box; the field and the row

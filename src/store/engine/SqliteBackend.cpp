@@ -109,6 +109,22 @@ void SqliteBackend::StatementDeleter::operator()(sqlite3_stmt* statement) const
     sqlite3_finalize(statement);
 }
 
+namespace {
+// The wait of an opening, in milliseconds; -1: the normal busy timeout.
+int g_openingWait = -1;
+} // namespace
+
+OpeningWait::OpeningWait(int timeoutMs)
+    : m_previous(g_openingWait)
+{
+    g_openingWait = timeoutMs;
+}
+
+OpeningWait::~OpeningWait()
+{
+    g_openingWait = m_previous;
+}
+
 std::unique_ptr<SqliteBackend> SqliteBackend::open(const QString& path)
 {
     if (path.isEmpty())
@@ -145,7 +161,7 @@ std::unique_ptr<SqliteBackend> SqliteBackend::open(const QString& path)
     if (!registerTextFunctions(db))
         failToOpen(QStringLiteral("Could not prepare the register '") + path + QStringLiteral("': ")
             + QString::fromUtf8(sqlite3_errmsg(db)));
-    sqlite3_busy_timeout(db, BusyTimeoutMs);
+    sqlite3_busy_timeout(db, g_openingWait >= 0 ? g_openingWait : BusyTimeoutMs);
     // The register relies on no cascade but its own trigger.
     sqlite3_exec(db, "PRAGMA foreign_keys = OFF", nullptr, nullptr, nullptr);
     if (kind == FileKind::Empty)
@@ -167,6 +183,7 @@ std::unique_ptr<SqliteBackend> SqliteBackend::open(const QString& path)
     if (!isRegister)
         failToOpen(QStringLiteral("'") + path
             + QStringLiteral("' is a database but not a register: it has no table tbl_Documents."));
+    sqlite3_busy_timeout(db, BusyTimeoutMs);
     return backend;
 }
 

@@ -15,6 +15,23 @@ namespace kartella::engine {
 // The embedded back end: a register file read and written through the sqlite3 C API.
 // Every connection gets the NAMEFOLD collation, the engine's LIKE and a busy timeout, so
 // that two programs on one file wait for each other.
+class SqliteBackend;
+
+// While one lives, opening a register waits at most timeoutMs in all for another
+// program's lock before it fails (the start uses it, so that a locked register is
+// reported soon). Statements of an open connection keep the normal wait.
+class OpeningWait
+{
+public:
+    explicit OpeningWait(int timeoutMs);
+    ~OpeningWait();
+    OpeningWait(const OpeningWait&) = delete;
+    OpeningWait& operator=(const OpeningWait&) = delete;
+
+private:
+    int m_previous;
+};
+
 class SqliteBackend final : public Backend
 {
 public:
