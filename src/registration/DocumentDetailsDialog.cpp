@@ -2,6 +2,7 @@
 
 #include "base/Error.h"
 #include "options/OptionStore.h"
+#include "platform/Clock.h"
 #include "platform/Prompter.h"
 #include "registration/DialogParts.h"
 #include "store/Store.h"
@@ -301,7 +302,7 @@ void DocumentDetailsDialog::showRow()
 void DocumentDetailsDialog::showDate(QDateEdit* picker, const QString& field)
 {
     const QDate date = m_document->fields(field).value().toDate();
-    picker->setDate(date.isValid() ? date : QDate::currentDate());
+    picker->setDate(date.isValid() ? date : Clock::currentDate());
 }
 
 void DocumentDetailsDialog::writeDate(const QDate& date, const QString& field)

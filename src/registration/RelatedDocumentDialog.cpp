@@ -2,6 +2,7 @@
 
 #include "base/Error.h"
 #include "options/OptionStore.h"
+#include "platform/Clock.h"
 #include "platform/Prompter.h"
 #include "registration/DialogParts.h"
 #include "registration/RegIndex.h"
@@ -185,7 +186,7 @@ void RelatedDocumentDialog::load()
         }
         m_parent->setText(state.selectedItemText);
         if (m_mode == Mode::Creating)
-            m_date->setText(QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat));
+            m_date->setText(QLocale::system().toString(Clock::currentDate(), QLocale::ShortFormat));
     } catch (const Error& error) {
         msgBox(error.description());
     }

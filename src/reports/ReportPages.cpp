@@ -1,6 +1,7 @@
 #include "reports/ReportPages.h"
 
 #include "base/Error.h"
+#include "platform/Clock.h"
 
 #include <QFontMetricsF>
 #include <QPageLayout>
@@ -283,7 +284,7 @@ int writeReportPdf(const ReportLayout& layout, const ReportData& data, const QSt
 
 QDate reportToday()
 {
-    return QDate::currentDate();
+    return Clock::currentDate();
 }
 
 } // namespace kartella
