@@ -10,6 +10,7 @@
 #include "dialogs/SettingsStore.h"
 #include "explorer/MainWindow.h"
 #include "explorer/NavigationTree.h"
+#include "explorer/RemindersCommand.h"
 #include "options/OptionStore.h"
 #include "registration/NewDocumentDialog.h"
 #include "reports/ReportPreview.h"
@@ -62,6 +63,7 @@ void MainWindow::registerDialogs()
         if (!file.isEmpty())
             dialog.setLocation(file);
         dialog.exec();
+        m_reminders->recount();
     });
 
     // One settings window at a time; a new register location shows in the source panel and
