@@ -51,7 +51,7 @@ QDate reminderToday()
 
 void addReminderDoneColumn(Connection& connection)
 {
-    // A register whose search step was run again by hand may have it already.
+    // SQLite can't add a column twice: a register whose version was set back by hand keeps it.
     if (hasReminderDoneColumn(connection))
         return;
     connection.execute(QStringLiteral("ALTER TABLE tbl_Tickler ADD COLUMN ")

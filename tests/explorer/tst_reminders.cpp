@@ -7,9 +7,12 @@
 #include "harness/ScriptedPrompter.h"
 #include "harness/TestRegister.h"
 #include "options/OptionStore.h"
+#include "reports/ReportCommands.h"
+#include "reports/ReportLayouts.h"
 #include "store/DueReminders.h"
 #include "store/SchemaSteps.h"
 #include "store/engine/Connection.h"
+#include "support/SelectionState.h"
 
 #include <QAction>
 #include <QApplication>
@@ -276,8 +279,16 @@ private Q_SLOTS:
         QCOMPARE(window.findChild<QLabel*>("pnReminders")->text(), QString("2 reminders due"));
         QApplication::processEvents();
         QCOMPARE(window.reminders()->window() != nullptr, shownAtStart);
-        if (RemindersWindow* open = window.reminders()->window())
+        // A line opens its document's details; the main window's selection stays as it was.
+        QList<qint32> opened;
+        window.reminders()->openDetails = [&](qint32 id) { opened << id; };
+        selection().selectedDocumentId = 0;
+        if (RemindersWindow* open = window.reminders()->window()) {
+            QTest::keyClick(list(*open), Qt::Key_Return);
+            QCOMPARE(opened, QList<qint32>({doc}));
+            QCOMPARE(selection().selectedDocumentId, 0);
             open->close();
+        }
         QApplication::processEvents();
 
         reg.exec("UPDATE tbl_Tickler SET TicklerDone = 1");
@@ -290,6 +301,32 @@ private Q_SLOTS:
         QTest::mouseClick(open->findChild<QPushButton*>("cmdLater"), Qt::LeftButton);
         QCOMPARE(window.findChild<QLabel*>("pnReminders")->text(), QString("No reminders due"));
         QVERIFY(prompter.prompts().isEmpty());
+    }
+
+    // The Reminder report prints every reminder, done or not, on a register with the done
+    // column and on one made before it.
+    void reminderReportWithAndWithoutTheColumn_data()
+    {
+        QTest::addColumn<bool>("older");
+        QTest::newRow("with the column") << false;
+        QTest::newRow("older register") << true;
+    }
+
+    void reminderReportWithAndWithoutTheColumn()
+    {
+        QFETCH(bool, older);
+        TestRegister reg;
+        const qint32 doc = addDocument(reg, "A-1", "Aktas");
+        addReminder(reg, doc, QDate(2024, 2, 1), "Pratęsti sutartį");
+        const qint32 done = addReminder(reg, doc, QDate(2024, 2, 2), "Sumokėti");
+        if (older)
+            makeOlder(reg);
+        else
+            reg.exec(QStringLiteral("UPDATE tbl_Tickler SET TicklerDone = 1 WHERE TicklerID = %1").arg(done));
+        ReportCommands commands;
+        commands.setConnectionString(reg.connectionString());
+        const ReportData data = commands.run(*findReportLayout("reminder"));
+        QCOMPARE(data.childCount(), 2);
     }
 
     // The option is stored when clicked and is no change that Esc asks about.
