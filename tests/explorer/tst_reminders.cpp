@@ -1,6 +1,7 @@
 // Due reminders: which are due on a day, their order, "done" kept in the register (and a
 // register made before it could be), the Reminders window and its place in the main window.
 #include "dialogs/SettingsDialog.h"
+#include "explorer/ExplorerList.h"
 #include "explorer/MainWindow.h"
 #include "explorer/RemindersCommand.h"
 #include "explorer/RemindersWindow.h"
@@ -20,6 +21,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 #include <QTreeWidget>
 
 using namespace kartella;
@@ -301,6 +303,36 @@ private Q_SLOTS:
         QTest::mouseClick(open->findChild<QPushButton*>("cmdLater"), Qt::LeftButton);
         QCOMPARE(window.findChild<QLabel*>("pnReminders")->text(), QString("No reminders due"));
         QVERIFY(prompter.prompts().isEmpty());
+    }
+
+    // The count is taken again when the New Document dialog closes, its reminders in mind.
+    void countAgainAfterTheNewDocumentDialog()
+    {
+        TestRegister reg;
+        ScriptedPrompter prompter;
+        setRegValue("ShowDueReminders", 0);
+        MainWindow window;
+        window.reminders()->today = [] { return QDate(2024, 6, 30); };
+        window.load();
+        auto* panel = window.findChild<QLabel*>("pnReminders");
+        QCOMPARE(panel->text(), QString("No reminders due"));
+        addReminder(reg, addDocument(reg, "A-1", "Aktas"), QDate(2024, 6, 30), "today");
+        QCOMPARE(panel->text(), QString("No reminders due"));
+
+        bool closed = false;
+        QTimer responder;
+        connect(&responder, &QTimer::timeout, this, [&] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            if (!dialog || !dialog->isVisible() || dialog->objectName() != "frmNewDocument" || closed)
+                return;
+            closed = true;
+            QTest::mouseClick(dialog->findChild<QPushButton*>("cmdCancel"), Qt::LeftButton);
+        });
+        responder.start(20);
+        Q_EMIT window.documentList()->filesDropped({reg.path()});
+        responder.stop();
+        QVERIFY(closed);
+        QCOMPARE(panel->text(), QString("1 reminder due"));
     }
 
     // The Reminder report prints every reminder, done or not, on a register with the done
