@@ -6,6 +6,7 @@
 #include "platform/Prompter.h"
 #include "registration/RegIndex.h"
 #include "registration/ValueConversions.h"
+#include "store/DueReminders.h"
 #include "support/EnterAsTab.h"
 #include "support/ShellDialogs.h"
 
@@ -20,6 +21,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSignalBlocker>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -130,6 +132,8 @@ QWidget* SettingsDialog::buildDefaultFolderTab()
     connect(choose, &QPushButton::clicked, this, &SettingsDialog::chooseDefaultFolder);
     m_filterByDate = makeCheckBox(QStringLiteral("FilterByDate"), QStringLiteral("Filter by Date  On"), page);
     m_network = makeCheckBox(QStringLiteral("network"), QStringLiteral("Network"), page);
+    m_showReminders = makeCheckBox(
+        QStringLiteral("chkShowReminders"), QStringLiteral("Show due reminders at start"), page);
 
     auto* folderRow = new QHBoxLayout;
     folderRow->addWidget(m_defaultFolder, 1);
@@ -138,6 +142,7 @@ QWidget* SettingsDialog::buildDefaultFolderTab()
     layout->addLayout(folderRow);
     layout->addWidget(m_filterByDate);
     layout->addWidget(m_network);
+    layout->addWidget(m_showReminders);
     layout->addStretch(1);
     return page;
 }
@@ -290,6 +295,8 @@ void SettingsDialog::connectEvents()
         markChanged();
     });
     // Stored at once without counting as a change: Esc closes without a question.
+    connect(m_showReminders, &QCheckBox::toggled, this,
+        [](bool checked) { setShowDueRemindersAtStart(checked); });
     connect(m_createIndexAuto, &QCheckBox::toggled, this,
         [](bool checked) { setRegValue(QStringLiteral("AutoRegIndex"), checked ? 1 : 0); });
     connect(m_dateStyles, &QButtonGroup::idToggled, this, [this](int style, bool checked) {
@@ -342,6 +349,11 @@ void SettingsDialog::load()
     m_dbLocation->setText(getRegValue(QStringLiteral("DbLocation")));
     m_filterByDate->setChecked(flagOption("Filter"));
     m_network->setChecked(flagOption("Network"));
+    {
+        // Shown as stored, not stored again: an option left unset stays so.
+        const QSignalBlocker quiet(m_showReminders);
+        m_showReminders->setChecked(showDueRemindersAtStart());
+    }
     // 8. The load itself is no change.
     m_settingsChanged = false;
     m_databaseChanged = false;

@@ -77,6 +77,7 @@ private:
     QLineEdit* m_postalCode = nullptr;
     QLineEdit* m_company = nullptr;
     QCheckBox* m_createIndexAuto = nullptr;
+    QCheckBox* m_showReminders = nullptr; // stored at once, no change for Esc
     QCheckBox* m_useMnemonic = nullptr;
     QLineEdit* m_separator1 = nullptr;
     QLineEdit* m_separator2 = nullptr;

@@ -7,6 +7,7 @@
 #include "explorer/IconCache.h"
 #include "explorer/ListModel.h"
 #include "explorer/NavigationTree.h"
+#include "explorer/RemindersCommand.h"
 #include "options/OptionStore.h"
 #include "platform/Clock.h"
 #include "platform/Prompter.h"
@@ -133,6 +134,7 @@ void MainWindow::buildWindow()
     buildMenus();
     buildToolbar();
     buildPopups();
+    m_reminders = new RemindersCommand(this);
     registerDialogs();
 
     connect(m_tree, &NavigationTree::nodeClicked, this, &MainWindow::onNodeClicked);
@@ -204,6 +206,7 @@ void MainWindow::load()
     m_loading = false;
     // 8.
     fillCategoryTree();
+    m_reminders->showAtStart();
 }
 
 int MainWindow::direction() const

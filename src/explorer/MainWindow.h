@@ -22,6 +22,7 @@ class DocumentFills;
 class ExplorerList;
 class ListModel;
 class NavigationTree;
+class RemindersCommand;
 class SearchBox;
 struct SelectionState;
 
@@ -79,6 +80,8 @@ public:
     ListModel* documentModel() const { return m_documentModel; }
     ListModel* relatedModel() const { return m_relatedModel; }
     SearchBox* searchBox() const { return m_search; }
+    // The due reminders: the Go menu's command, the status bar panel, the window.
+    RemindersCommand* reminders() const { return m_reminders; }
     // Whether the document list shows the results of a search.
     bool isSearching() const { return !m_searchText.isEmpty(); }
 
@@ -204,6 +207,7 @@ private:
     QLabel* m_source = nullptr;
     std::unique_ptr<DocumentFills> m_fills;
     SearchBox* m_search = nullptr;
+    RemindersCommand* m_reminders = nullptr;
     QString m_searchText;
     QString m_titleBeforeSearch;
     bool m_searchWithinDates = false;

@@ -12,6 +12,7 @@
 #include "explorer/ListModel.h"
 #include "explorer/MainWindow.h"
 #include "explorer/NavigationTree.h"
+#include "explorer/RemindersCommand.h"
 #include "options/OptionStore.h"
 #include "registration/CopyFileDialog.h"
 #include "registration/DocumentDetailsDialog.h"
@@ -67,6 +68,7 @@ void MainWindow::registerDialogs()
         if (!file.isEmpty())
             dialog.setLocation(file);
         dialog.exec();
+        m_reminders->recount();
     });
 
     setDialog(QStringLiteral("frmNew"), [this](const QString&) {

@@ -1,6 +1,7 @@
 #include "store/SchemaSteps.h"
 
 #include "base/Error.h"
+#include "store/DueReminders.h"
 #include "store/SearchIndex.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
@@ -51,6 +52,7 @@ const std::vector<SchemaStep>& schemaSteps()
         {1, QStringLiteral("tables, indexes, views and triggers of the register"), createFirstForm},
         {2, QStringLiteral("name columns readable by any SQLite tool"), plainNameColumns},
         {3, QStringLiteral("search index of the documents' texts"), createSearchIndex},
+        {4, QStringLiteral("reminders that can be marked done"), addReminderDoneColumn},
     };
     return steps;
 }

@@ -46,7 +46,7 @@ QVariantMap fullRow(const QString& table)
     if (table == "tbl_HomePages")
         return {
             {"ContactID", 1}, {"Description", QString::fromUtf8("Svetainė")}, {"HomeWWW", "https://alfa.lt"}};
-    return {{"RastasID", 1}, {"TicklerDate", date}, {"TicklerText", "Priminti"}};
+    return {{"RastasID", 1}, {"TicklerDate", date}, {"TicklerText", "Priminti"}, {"TicklerDone", 1}};
 }
 
 QStringList keys(const TestRegister& reg, const QString& sql)

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "explorer/RemindersWindow.h"
+
+#include <QDate>
+#include <QObject>
+#include <QPointer>
+
+#include <functional>
+
+class QAction;
+class QLabel;
+class QMainWindow;
+
+namespace kartella {
+
+// The main window's reminders: the Go menu's "Reminders" (Ctrl+R), the status bar panel
+// with the number of due reminders, and the Reminders window at start when something is
+// due and the user wants it shown. One window at a time; it doesn't block the main window.
+class RemindersCommand : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Adds the command to the window's menu named "mnuGo" and the panel to its status bar.
+    explicit RemindersCommand(QMainWindow* window);
+
+    // Today's date for the reminders (tests set a day of their own).
+    std::function<QDate()> today;
+    // Opens the details of a document, by its id; the Reminders window's lines use it.
+    std::function<void(qint32 documentId)> openDetails;
+
+    // Counts the due reminders again into the panel; the count of the last time, -1 when the
+    // register couldn't be read (the panel is then empty).
+    int recount();
+    // At the end of the main window's load: counts, and once the load is over shows the
+    // window if something is due and the option asks for it.
+    void showAtStart();
+    // The Reminders window, also when nothing is due.
+    void showWindow();
+
+    int count() const { return m_count; }
+    QAction* action() const { return m_action; }
+    RemindersWindow* window() const { return m_window; }
+
+private:
+    QMainWindow* m_mainWindow;
+    QAction* m_action = nullptr;
+    QLabel* m_panel = nullptr;
+    QPointer<RemindersWindow> m_window;
+    int m_count = -1;
+};
+
+} // namespace kartella

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "store/DueReminders.h"
+
+#include <QDate>
+#include <QDialog>
+
+#include <functional>
+#include <vector>
+
+class QLabel;
+class QPushButton;
+class QTreeWidget;
+
+namespace kartella {
+
+// The "Reminders" window: the reminders due on a given day, overdue ones first and marked
+// so. Enter or a double click on a line opens that document's details through
+// openDetails; "Done" marks the current reminder done and takes it off the list; "Later"
+// (or Esc) closes the window and leaves every reminder as it was.
+class RemindersWindow : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit RemindersWindow(const QDate& today, QWidget* parent = nullptr);
+    ~RemindersWindow() override;
+
+    // Opens the details of a document, by its id.
+    std::function<void(qint32 documentId)> openDetails;
+
+    // Reads the due reminders again from the register.
+    void reload();
+    const std::vector<DueReminder>& reminders() const { return m_reminders; }
+
+public Q_SLOTS:
+    void markDone();
+    void openCurrentDetails();
+
+private:
+    void fill();
+    int currentRow() const;
+    // On a register without the done column: asks to upgrade it; true once it has it.
+    bool offerUpgrade();
+
+    QDate m_today;
+    std::vector<DueReminder> m_reminders;
+    QTreeWidget* m_list = nullptr;
+    QLabel* m_nothingDue = nullptr;
+    QPushButton* m_done = nullptr;
+};
+
+} // namespace kartella
