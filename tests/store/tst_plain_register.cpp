@@ -191,6 +191,11 @@ private Q_SLOTS:
         QTemporaryDir dir;
         const QString path = dir.filePath("Kartella.mdb");
         makeOldRegister(path);
+        {
+            Connection connection(plainConnectionString("Microsoft.Jet.OLEDB.4.0", path));
+            connection.open();
+            connection.execute("CREATE VIEW my_contacts AS SELECT FullName FROM tbl_Contacts");
+        }
         const QStringList before = dumpRegister(path);
         QCOMPARE(before.size(), 24);
         QVERIFY(before.contains("sqlite_sequence: name=tbl_Contacts|seq=8"));
@@ -218,6 +223,9 @@ private Q_SLOTS:
                 "'idx_Sub_Categories_KategID', 'idx_Documents_KategID', "
                 "'trg_Document_Categories_Delete', 'qry_This_Month', 'qry_Previous_Month', 'qry_Phones')"),
             7);
+        int userRows = 0;
+        QCOMPARE(db.run("SELECT * FROM my_contacts", &userRows), QString());
+        QCOMPARE(userRows, 4);
         QCOMPARE(db.run("DELETE FROM tbl_Document_Categories WHERE KategID = 3"), QString());
         QCOMPARE(db.number("SELECT group_concat(SubKategID) FROM tbl_Sub_Categories"), 2);
         // A new row takes a key past the deleted ones, as before the upgrade.
