@@ -7,6 +7,7 @@
 #include "explorer/IconCache.h"
 #include "explorer/ListModel.h"
 #include "explorer/NavigationTree.h"
+#include "explorer/RegisterUpgradeOffer.h"
 #include "explorer/RemindersCommand.h"
 #include "options/OptionStore.h"
 #include "platform/Clock.h"
@@ -184,6 +185,9 @@ void MainWindow::load()
     // 2. The source panel.
     m_source->setText(
         QStringLiteral("Source : ") + getRegValue(QStringLiteral("DbLocation")) + QStringLiteral("   "));
+    // Before any fill: a register of an earlier version is upgraded if the user agrees, and
+    // otherwise counts as one that can't be opened.
+    const std::optional<Error> refused = offerRegisterUpgrade(getRegValue(QStringLiteral("DbLocation")));
     // 4. This month, from its first day to the first day of the next.
     const QDate today = Clock::currentDate();
     const QDate first(today.year(), today.month(), 1);
@@ -199,12 +203,19 @@ void MainWindow::load()
     m_lastNodeIndex = 1;
     // 7. The direction box's click makes the first fill.
     m_direction->setCurrentIndex(0);
-    onDirectionChanged();
+    if (!refused)
+        onDirectionChanged();
     connect(m_direction, &QComboBox::currentIndexChanged, this, &MainWindow::onDirectionChanged);
     connect(m_startDate, &QDateEdit::dateChanged, this, &MainWindow::onStartDateChanged);
     connect(m_endDate, &QDateEdit::dateChanged, this, &MainWindow::onEndDateChanged);
     m_loading = false;
     // 8.
+    if (refused) {
+        reportConnectionError(refused->number(), refused->description());
+        if (openSettings)
+            openSettings();
+        return;
+    }
     fillCategoryTree();
     m_reminders->showAtStart();
 }

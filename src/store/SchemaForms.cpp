@@ -175,9 +175,18 @@ void createFirstForm(Connection& connection)
 void plainNameColumns(Connection& connection)
 {
     dropViewsAndTriggers(connection);
-    rebuildTable(connection, QStringLiteral("tbl_Document_Categories"), CategoriesTable);
-    rebuildTable(connection, QStringLiteral("tbl_Sub_Categories"), SubCategoriesTable);
-    rebuildTable(connection, QStringLiteral("tbl_Contacts"), ContactsTable);
+    // A view or trigger the user added that names a rebuilt table would make a rename
+    // fail while the old table is gone; SQLite's legacy rename doesn't check them.
+    connection.execute(QStringLiteral("PRAGMA legacy_alter_table = ON"));
+    try {
+        rebuildTable(connection, QStringLiteral("tbl_Document_Categories"), CategoriesTable);
+        rebuildTable(connection, QStringLiteral("tbl_Sub_Categories"), SubCategoriesTable);
+        rebuildTable(connection, QStringLiteral("tbl_Contacts"), ContactsTable);
+    } catch (...) {
+        connection.execute(QStringLiteral("PRAGMA legacy_alter_table = OFF"));
+        throw;
+    }
+    connection.execute(QStringLiteral("PRAGMA legacy_alter_table = OFF"));
     executeAll(connection, nameTableIndexes());
     createViewsAndTriggers(connection);
 }
