@@ -72,9 +72,17 @@ void MainWindow::registerDialogs()
     });
 
     setDialog(QStringLiteral("frmNew"), [this](const QString&) {
-        DocumentDetailsDialog dialog(this);
-        dialog.exec();
+        {
+            DocumentDetailsDialog dialog(this);
+            dialog.exec();
+        }
+        m_reminders->recount();
     });
+    // From the reminders window: the document of a reminder, the selection left as it is.
+    m_reminders->openDetails = [this](qint32 documentId) {
+        DocumentDetailsDialog dialog(documentId, this);
+        dialog.exec();
+    };
     const auto relatedDialog = [this](RelatedDocumentDialog::Mode mode) {
         return [this, mode](const QString& file) {
             RelatedDocumentDialog dialog(mode, this);

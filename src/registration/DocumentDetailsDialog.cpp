@@ -58,7 +58,12 @@ QString reminderSource(qint32 documentId)
 } // namespace
 
 DocumentDetailsDialog::DocumentDetailsDialog(QWidget* parent)
+    : DocumentDetailsDialog(selection().selectedDocumentId, parent)
+{ }
+
+DocumentDetailsDialog::DocumentDetailsDialog(qint32 documentId, QWidget* parent)
     : QDialog(parent)
+    , m_documentId(documentId)
 {
     setObjectName(QStringLiteral("frmNew"));
     setWindowTitle(QStringLiteral("Document Description"));
@@ -251,7 +256,7 @@ void DocumentDetailsDialog::bindControls()
 void DocumentDetailsDialog::load()
 {
     const BusyCursor busy;
-    const qint32 id = selection().selectedDocumentId;
+    const qint32 id = m_documentId;
     try {
         const QString provider = getRegValue(QStringLiteral("Provider"));
         const QString location = getRegValue(QStringLiteral("DbLocation"));

@@ -32,6 +32,8 @@ class DocumentDetailsDialog : public QDialog
 public:
     // Loads the row of the selected document; show it with exec().
     explicit DocumentDetailsDialog(QWidget* parent = nullptr);
+    // Loads the row of the document documentId, whatever is selected.
+    explicit DocumentDetailsDialog(qint32 documentId, QWidget* parent = nullptr);
     ~DocumentDetailsDialog() override;
 
     // Something was changed and not yet applied.
@@ -72,6 +74,7 @@ private:
     // The row's reminders, as a child of a shaped recordset of the row alone.
     Recordset* m_reminders = nullptr;
     QString m_listConnection;
+    qint32 m_documentId = 0;
     bool m_changed = false;
     bool m_showing = false;
 

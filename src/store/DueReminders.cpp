@@ -2,6 +2,7 @@
 
 #include "base/Error.h"
 #include "options/OptionStore.h"
+#include "platform/Clock.h"
 #include "store/engine/Connection.h"
 #include "store/engine/DateText.h"
 #include "store/engine/Recordset.h"
@@ -46,7 +47,7 @@ int group(const DueReminder& reminder)
 
 QDate reminderToday()
 {
-    return QDate::currentDate();
+    return Clock::currentDate();
 }
 
 void addReminderDoneColumn(Connection& connection)
