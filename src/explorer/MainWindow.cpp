@@ -12,6 +12,8 @@
 #include "options/OptionStore.h"
 #include "platform/Clock.h"
 #include "platform/Prompter.h"
+#include "store/DefaultRegister.h"
+#include "store/Schema.h"
 #include "store/engine/SqliteBackend.h"
 #include "support/BusyCursor.h"
 #include "support/SelectionState.h"
@@ -169,7 +171,26 @@ bool MainWindow::fileFound(const QString& path)
 
 QString MainWindow::defaultDbLocation()
 {
-    return QDir::toNativeSeparators(QCoreApplication::applicationDirPath() + QStringLiteral("/Kartella.mdb"));
+    return defaultRegisterPath();
+}
+
+void MainWindow::offerDefaultRegister()
+{
+    const QString location = getRegValue(QStringLiteral("DbLocation"));
+    if (!defaultRegisterInDataFolder() || location != defaultDbLocation() || fileFound(location))
+        return;
+    const int answer = msgBox(QStringLiteral("There is no register at ") + location
+            + QStringLiteral(" yet.\n\nCreate an empty register there?"),
+        MsgBoxStyle::YesNo + MsgBoxStyle::Question, QStringLiteral("Kartella"));
+    if (answer != MsgBoxResult::Yes)
+        return;
+    try {
+        QDir().mkpath(QFileInfo(location).absolutePath());
+        createRegister(location);
+    } catch (const Error& error) {
+        // The connection message that follows names the register that couldn't be opened.
+        msgBox(error.description(), MsgBoxStyle::OkOnly + MsgBoxStyle::Critical, QStringLiteral("Kartella"));
+    }
 }
 
 void MainWindow::load()
@@ -182,6 +203,7 @@ void MainWindow::load()
     // 1. A register that isn't there gives way to the default one.
     if (!fileFound(getRegValue(QStringLiteral("DbLocation"))))
         setRegValue(QStringLiteral("Dblocation"), defaultDbLocation());
+    offerDefaultRegister();
     // 2. The source panel.
     m_source->setText(
         QStringLiteral("Source : ") + getRegValue(QStringLiteral("DbLocation")) + QStringLiteral("   "));

@@ -53,7 +53,8 @@ public:
 
     // Whether a file or folder is at path.
     static bool fileFound(const QString& path);
-    // The default register: the program's folder followed by "/Kartella.mdb".
+    // The default register: "Kartella.mdb" in the program's folder, or in the user's data
+    // folder when the program's folder is not writable (store/DefaultRegister.h).
     static QString defaultDbLocation();
 
     // Opens the settings dialog after a connection failure, once that dialog exists.
@@ -165,6 +166,9 @@ private:
     void buildMenus();
     void buildToolbar();
     void buildPopups();
+    // At a start on the default register of an installed program, before it exists: offers
+    // to create it empty, so that a new user lands in a working program.
+    void offerDefaultRegister();
     // Registers the dialog of each command that opens one.
     void registerDialogs();
     QAction* addCommand(QMenu* menu, const QString& name, const QString& caption, void (MainWindow::*slot)(),

@@ -7,6 +7,7 @@
 #include "explorer/NavigationTree.h"
 #include "harness/ScriptedPrompter.h"
 #include "options/OptionStore.h"
+#include "store/DefaultRegister.h"
 #include "support/SelectionState.h"
 
 #include <QComboBox>
@@ -16,7 +17,9 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QProcess>
+#include <QScopeGuard>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace kartella;
@@ -398,6 +401,50 @@ private Q_SLOTS:
         QVERIFY(prompt.text.endsWith("\rSelect correct database type and file, please!"));
         QCOMPARE(w.documentModel()->itemCount(), 0);
         QCOMPARE(w.tree()->nodeCount(), 0);
+    }
+
+    // An installed program (its folder not writable) keeps its register in the user's data
+    // folder and offers to create it at the first start.
+    void installedProgramOffersItsDefaultRegister_data()
+    {
+        QTest::addColumn<bool>("create");
+        QTest::newRow("Yes creates and opens it") << true;
+        QTest::newRow("No gives the connection message") << false;
+    }
+
+    void installedProgramOffersItsDefaultRegister()
+    {
+        QFETCH(bool, create);
+        QTemporaryDir data;
+        qputenv("XDG_DATA_HOME", QFile::encodeName(data.path()));
+        setProgramFolderWritableCheck([] { return false; });
+        const auto restore = qScopeGuard([] {
+            setProgramFolderWritableCheck(nullptr);
+            qunsetenv("XDG_DATA_HOME");
+        });
+        QCOMPARE(
+            defaultRegisterPath("/opt/k/bin", true), QDir::toNativeSeparators("/opt/k/bin/Kartella.mdb"));
+        const QString expected = QDir::toNativeSeparators(data.path() + "/Kartella/Kartella.mdb");
+        QCOMPARE(MainWindow::defaultDbLocation(), expected);
+
+        setRegValue("DbLocation", data.filePath("nowhere/Kartella.mdb"));
+        ScriptedPrompter prompter;
+        prompter.answer(create ? MsgBoxResult::Yes : MsgBoxResult::No);
+        if (!create)
+            prompter.answer(MsgBoxResult::Ok);
+        MainWindow w;
+        int settingsOpened = 0;
+        w.openSettings = [&settingsOpened] { ++settingsOpened; };
+        w.show();
+        w.load();
+        QCOMPARE(getRegValue("DbLocation"), expected);
+        const auto question = prompter.prompts().first();
+        QCOMPARE(question.style, MsgBoxStyle::YesNo + MsgBoxStyle::Question);
+        QVERIFY(question.text.contains(expected));
+        QCOMPARE(QFileInfo::exists(expected), create);
+        QCOMPARE(prompter.prompts().size(), create ? 1 : 2);
+        QCOMPARE(settingsOpened, create ? 0 : 1);
+        QCOMPARE(w.tree()->nodeCount() > 0, create);
     }
 
     // A register another program holds locked: the start reports it after a few seconds,
