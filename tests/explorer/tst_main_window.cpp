@@ -415,6 +415,7 @@ private Q_SLOTS:
     void installedProgramOffersItsDefaultRegister()
     {
         QFETCH(bool, create);
+        TestRegister reg; // the options of a register, whose location is then lost
         QTemporaryDir data;
         qputenv("XDG_DATA_HOME", QFile::encodeName(data.path()));
         setProgramFolderWritableCheck([] { return false; });
