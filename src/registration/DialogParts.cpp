@@ -2,10 +2,14 @@
 
 #include "platform/Prompter.h"
 
+#include <QComboBox>
+#include <QGroupBox>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
 
 namespace kartella {
 
@@ -29,6 +33,44 @@ QLineEdit* makeFieldBox(int index, QWidget* parent)
     auto* box = new QLineEdit(parent);
     box->setObjectName(QStringLiteral("txtFields_") + QString::number(index));
     return box;
+}
+
+CategoryFrame makeCategoryFrame(QWidget* parent)
+{
+    auto* frame = new QGroupBox(QStringLiteral("Category"), parent);
+    frame->setObjectName(QStringLiteral("fraCategory"));
+    auto* category = new QComboBox(frame);
+    category->setObjectName(QStringLiteral("cmbCategory"));
+    category->setAccessibleName(QStringLiteral("Category"));
+    auto* subCategory = new QComboBox(frame);
+    subCategory->setObjectName(QStringLiteral("cmbSubCategory"));
+    subCategory->setAccessibleName(QStringLiteral("Subcategory"));
+    auto* layout = new QVBoxLayout(frame);
+    layout->addWidget(category);
+    layout->addWidget(subCategory);
+    return {frame, category, subCategory};
+}
+
+DirectionFrame makeDirectionFrame(QWidget* parent, const std::function<void(int code)>& chosen)
+{
+    auto* frame = new QGroupBox(QStringLiteral("Direction"), parent);
+    frame->setObjectName(QStringLiteral("fraDirection"));
+    auto* layout = new QVBoxLayout(frame);
+    const auto addDirection = [&](const QString& caption, int code) {
+        auto* option = new QRadioButton(caption, frame);
+        option->setObjectName(QStringLiteral("Option_") + QString::number(code));
+        QObject::connect(option, &QRadioButton::toggled, option, [chosen, code](bool checked) {
+            if (checked)
+                chosen(code);
+        });
+        layout->addWidget(option);
+        return option;
+    };
+    QRadioButton* inner = addDirection(QStringLiteral("Inner"), 1);
+    QRadioButton* outgoing = addDirection(QStringLiteral("Outgoing"), 2);
+    QRadioButton* incoming = addDirection(QStringLiteral("Incoming"), 3);
+    QRadioButton* other = addDirection(QStringLiteral("Other"), 4);
+    return {frame, inner, outgoing, incoming, other};
 }
 
 void restoreDefaultCursor()

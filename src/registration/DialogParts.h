@@ -2,6 +2,11 @@
 
 #include <QString>
 
+#include <functional>
+
+class QComboBox;
+class QGroupBox;
+class QRadioButton;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -17,6 +22,27 @@ QPushButton* makeDialogButton(const QString& name, const QString& caption, QWidg
 QLabel* makeBuddyLabel(const QString& caption, QWidget* buddy, QWidget* parent);
 // A text box named after its place among the dialog's fields ("txtFields_4").
 QLineEdit* makeFieldBox(int index, QWidget* parent);
+
+// The "Category" frame with the category and subcategory boxes (cmbCategory, cmbSubCategory).
+struct CategoryFrame
+{
+    QGroupBox* frame;
+    QComboBox* category;
+    QComboBox* subCategory;
+};
+CategoryFrame makeCategoryFrame(QWidget* parent);
+
+// The "Direction" frame with its buttons Option_1 to Option_4 in the order of their direction
+// codes; chosen is told the code of the button the user checks.
+struct DirectionFrame
+{
+    QGroupBox* frame;
+    QRadioButton* inner;
+    QRadioButton* outgoing;
+    QRadioButton* incoming;
+    QRadioButton* other;
+};
+DirectionFrame makeDirectionFrame(QWidget* parent, const std::function<void(int code)>& chosen);
 
 // Closes whatever busy pointers are still up, as every data dialog does when it closes.
 void restoreDefaultCursor();

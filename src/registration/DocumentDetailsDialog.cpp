@@ -173,39 +173,19 @@ QWidget* DocumentDetailsDialog::buildGeneralTab()
         datesLayout->addWidget(box, line++, 1);
     }
 
-    auto* categories = new QGroupBox(QStringLiteral("Category"), page);
-    categories->setObjectName(QStringLiteral("fraCategory"));
-    auto* categoryBox = new QComboBox(categories);
-    categoryBox->setObjectName(QStringLiteral("cmbCategory"));
-    categoryBox->setAccessibleName(QStringLiteral("Category"));
-    categoryBox->setToolTip(QStringLiteral("Category of Document"));
-    auto* subCategoryBox = new QComboBox(categories);
-    subCategoryBox->setObjectName(QStringLiteral("cmbSubCategory"));
-    subCategoryBox->setAccessibleName(QStringLiteral("Subcategory"));
-    subCategoryBox->setToolTip(QStringLiteral("SubCategory of Document"));
-    m_category = new BoundList(categoryBox, this);
-    m_subCategory = new BoundList(subCategoryBox, this);
-    auto* categoryLayout = new QVBoxLayout(categories);
-    categoryLayout->addWidget(categoryBox);
-    categoryLayout->addWidget(subCategoryBox);
+    const CategoryFrame categoryFrame = makeCategoryFrame(page);
+    QGroupBox* categories = categoryFrame.frame;
+    categoryFrame.category->setToolTip(QStringLiteral("Category of Document"));
+    categoryFrame.subCategory->setToolTip(QStringLiteral("SubCategory of Document"));
+    m_category = new BoundList(categoryFrame.category, this);
+    m_subCategory = new BoundList(categoryFrame.subCategory, this);
 
-    auto* direction = new QGroupBox(QStringLiteral("Direction"), page);
-    direction->setObjectName(QStringLiteral("fraDirection"));
-    auto* directionLayout = new QVBoxLayout(direction);
-    const auto addDirection = [&](const QString& caption, int code) {
-        auto* option = new QRadioButton(caption, direction);
-        option->setObjectName(QStringLiteral("Option_") + QString::number(code));
-        connect(option, &QRadioButton::toggled, this, [this, code](bool checked) {
-            if (checked)
-                onDirectionChosen(code);
-        });
-        directionLayout->addWidget(option);
-        return option;
-    };
-    m_inner = addDirection(QStringLiteral("Inner"), 1);
-    m_outgoing = addDirection(QStringLiteral("Outgoing"), 2);
-    m_incoming = addDirection(QStringLiteral("Incoming"), 3);
-    m_otherDirection = addDirection(QStringLiteral("Other"), 4);
+    const DirectionFrame directions = makeDirectionFrame(page, [this](int code) { onDirectionChosen(code); });
+    QGroupBox* direction = directions.frame;
+    m_inner = directions.inner;
+    m_outgoing = directions.outgoing;
+    m_incoming = directions.incoming;
+    m_otherDirection = directions.other;
 
     auto* layout = new QGridLayout(page);
     layout->addWidget(m_icon, 0, 0, 2, 1, Qt::AlignTop);

@@ -4,6 +4,7 @@
 #include "options/OptionStore.h"
 #include "platform/Clock.h"
 #include "platform/Prompter.h"
+#include "registration/DialogParts.h"
 #include "registration/FileNaming.h"
 #include "registration/RegIndex.h"
 #include "registration/ValueConversions.h"
@@ -55,22 +56,6 @@ const QString SubCategorySource
     = QStringLiteral("select SubKategID,KategID,DokSubKategorija from tbl_Sub_Categories where KategID=");
 const QString DateFormat = QStringLiteral("yyyy.MM.dd");
 
-QPushButton* makeButton(const QString& name, const QString& caption, QWidget* parent)
-{
-    auto* button = new QPushButton(caption, parent);
-    button->setObjectName(name);
-    // Enter never presses a button of this dialog by itself.
-    button->setAutoDefault(false);
-    return button;
-}
-
-QLabel* makeLabel(const QString& caption, QWidget* buddy, QWidget* parent)
-{
-    auto* label = new QLabel(caption, parent);
-    label->setBuddy(buddy);
-    return label;
-}
-
 } // namespace
 
 NewDocumentDialog::NewDocumentDialog(QWidget* parent)
@@ -118,8 +103,8 @@ void NewDocumentDialog::buildWidgets()
     m_notes->setAccessibleName(QStringLiteral("Notes"));
     m_tabs->addTab(m_notes, QStringLiteral("Notes"));
 
-    m_ok = makeButton(QStringLiteral("cmdOK"), QStringLiteral("OK"), this);
-    m_cancel = makeButton(QStringLiteral("cmdCancel"), QStringLiteral("Cancel"), this);
+    m_ok = makeDialogButton(QStringLiteral("cmdOK"), QStringLiteral("OK"), this);
+    m_cancel = makeDialogButton(QStringLiteral("cmdCancel"), QStringLiteral("Cancel"), this);
     connect(m_ok, &QPushButton::clicked, this, &NewDocumentDialog::save);
     connect(m_cancel, &QPushButton::clicked, this, &NewDocumentDialog::cancel);
 
@@ -187,49 +172,28 @@ QWidget* NewDocumentDialog::buildGeneralTab()
             std::pair {QStringLiteral("Registration Index:"), m_regIndex}};
     int line = 0;
     for (const auto& [caption, box] : dateBoxes) {
-        datesLayout->addWidget(makeLabel(caption, box, dates), line, 0);
+        datesLayout->addWidget(makeBuddyLabel(caption, box, dates), line, 0);
         datesLayout->addWidget(box, line++, 1);
     }
 
-    auto* categories = new QGroupBox(QStringLiteral("Category"), page);
-    categories->setObjectName(QStringLiteral("fraCategory"));
-    auto* categoryBox = new QComboBox(categories);
-    categoryBox->setObjectName(QStringLiteral("cmbCategory"));
-    categoryBox->setAccessibleName(QStringLiteral("Category"));
-    auto* subCategoryBox = new QComboBox(categories);
-    subCategoryBox->setObjectName(QStringLiteral("cmbSubCategory"));
-    subCategoryBox->setAccessibleName(QStringLiteral("Subcategory"));
-    m_category = new BoundList(categoryBox, this);
-    m_subCategory = new BoundList(subCategoryBox, this);
-    auto* categoryLayout = new QVBoxLayout(categories);
-    categoryLayout->addWidget(categoryBox);
-    categoryLayout->addWidget(subCategoryBox);
+    const CategoryFrame categoryFrame = makeCategoryFrame(page);
+    QGroupBox* categories = categoryFrame.frame;
+    m_category = new BoundList(categoryFrame.category, this);
+    m_subCategory = new BoundList(categoryFrame.subCategory, this);
 
-    auto* direction = new QGroupBox(QStringLiteral("Direction"), page);
-    direction->setObjectName(QStringLiteral("fraDirection"));
-    auto* directionLayout = new QVBoxLayout(direction);
-    // The buttons in the order of their direction codes, 1 to 4.
-    const auto addDirection = [&](const QString& caption, int code) {
-        auto* option = new QRadioButton(caption, direction);
-        option->setObjectName(QStringLiteral("Option_") + QString::number(code));
-        connect(option, &QRadioButton::toggled, this, [this, code](bool checked) {
-            if (checked)
-                onDirectionChosen(code);
-        });
-        directionLayout->addWidget(option);
-        return option;
-    };
-    m_inner = addDirection(QStringLiteral("Inner"), 1);
-    m_outgoing = addDirection(QStringLiteral("Outgoing"), 2);
-    m_incoming = addDirection(QStringLiteral("Incoming"), 3);
-    m_otherDirection = addDirection(QStringLiteral("Other"), 4);
+    const DirectionFrame directions = makeDirectionFrame(page, [this](int code) { onDirectionChosen(code); });
+    QGroupBox* direction = directions.frame;
+    m_inner = directions.inner;
+    m_outgoing = directions.outgoing;
+    m_incoming = directions.incoming;
+    m_otherDirection = directions.other;
 
     auto* layout = new QGridLayout(page);
-    layout->addWidget(makeLabel(QStringLiteral("Description:"), description, page), 0, 0);
+    layout->addWidget(makeBuddyLabel(QStringLiteral("Description:"), description, page), 0, 0);
     layout->addWidget(description, 0, 1, 1, 2);
-    layout->addWidget(makeLabel(QStringLiteral("Sender/Receiver:"), sender, page), 1, 0);
+    layout->addWidget(makeBuddyLabel(QStringLiteral("Sender/Receiver:"), sender, page), 1, 0);
     layout->addWidget(sender, 1, 1, 1, 2);
-    layout->addWidget(makeLabel(QStringLiteral("Location:"), location, page), 2, 0);
+    layout->addWidget(makeBuddyLabel(QStringLiteral("Location:"), location, page), 2, 0);
     layout->addWidget(location, 2, 1, 1, 2);
     layout->addWidget(dates, 3, 0, 2, 2);
     layout->addWidget(categories, 3, 2);
@@ -256,7 +220,7 @@ QGroupBox* NewDocumentDialog::buildCreateWith()
     };
     for (const auto& entry : buttons) {
         QPushButton* button
-            = makeButton(QString::fromLatin1(entry.name), QString::fromLatin1(entry.caption), frame);
+            = makeDialogButton(QString::fromLatin1(entry.name), QString::fromLatin1(entry.caption), frame);
         connect(button, &QPushButton::clicked, this, entry.slot);
         layout->addWidget(button);
     }
