@@ -73,6 +73,31 @@ DirectionFrame makeDirectionFrame(QWidget* parent, const std::function<void(int 
     return {frame, inner, outgoing, incoming, other};
 }
 
+QGroupBox* makeCreateWithFrame(QWidget* parent, const CreateWithActions& actions)
+{
+    auto* frame = new QGroupBox(QStringLiteral("Create With"), parent);
+    frame->setObjectName(QStringLiteral("fraCreateWith"));
+    auto* layout = new QVBoxLayout(frame);
+    const auto addButton
+        = [&](const QString& name, const QString& caption, const std::function<void()>& action) {
+              QPushButton* button = makeDialogButton(name, caption, frame);
+              QObject::connect(button, &QPushButton::clicked, button, action);
+              layout->addWidget(button);
+          };
+    addButton(QStringLiteral("cmdWord"), QStringLiteral("&Word"), actions.word);
+    addButton(QStringLiteral("cmdExcel"), QStringLiteral("&Excel"), actions.excel);
+    addButton(QStringLiteral("cmdPower"), QStringLiteral("&PowerPoint"), actions.powerPoint);
+    addButton(QStringLiteral("cmdAddExisting"), QStringLiteral("&Add Existing"), actions.addExisting);
+    return frame;
+}
+
+int askToApplyChanges()
+{
+    return msgBox(QStringLiteral("You have details changes that have not applied.\n\n"
+                                 "Do you want to apply these now?"),
+        MsgBoxStyle::YesNoCancel | MsgBoxStyle::Exclamation, QStringLiteral("Warning"));
+}
+
 void restoreDefaultCursor()
 {
     while (QGuiApplication::overrideCursor())

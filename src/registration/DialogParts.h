@@ -44,6 +44,20 @@ struct DirectionFrame
 };
 DirectionFrame makeDirectionFrame(QWidget* parent, const std::function<void(int code)>& chosen);
 
+// The "Create With" frame: cmdWord, cmdExcel, cmdPower and cmdAddExisting, each running
+// its action when clicked.
+struct CreateWithActions
+{
+    std::function<void()> word;
+    std::function<void()> excel;
+    std::function<void()> powerPoint;
+    std::function<void()> addExisting;
+};
+QGroupBox* makeCreateWithFrame(QWidget* parent, const CreateWithActions& actions);
+
+// Asks whether to apply the changes not yet applied: a MsgBoxResult (Yes, No or Cancel).
+int askToApplyChanges();
+
 // Closes whatever busy pointers are still up, as every data dialog does when it closes.
 void restoreDefaultCursor();
 

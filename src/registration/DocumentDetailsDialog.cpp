@@ -409,9 +409,7 @@ bool DocumentDetailsDialog::askOnEscape()
         cancel();
         return true;
     }
-    const int answer = msgBox(QStringLiteral("You have details changes that have not applied.\n\n"
-                                             "Do you want to apply these now?"),
-        MsgBoxStyle::YesNoCancel | MsgBoxStyle::Exclamation, QStringLiteral("Warning"));
+    const int answer = askToApplyChanges();
     if (answer == MsgBoxResult::Yes)
         apply();
     else if (answer == MsgBoxResult::No)

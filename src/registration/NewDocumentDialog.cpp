@@ -204,27 +204,9 @@ QWidget* NewDocumentDialog::buildGeneralTab()
 
 QGroupBox* NewDocumentDialog::buildCreateWith()
 {
-    auto* frame = new QGroupBox(QStringLiteral("Create With"), this);
-    frame->setObjectName(QStringLiteral("fraCreateWith"));
-    auto* layout = new QVBoxLayout(frame);
-    const struct
-    {
-        const char* name;
-        const char* caption;
-        void (NewDocumentDialog::*slot)();
-    } buttons[] = {
-        {"cmdWord", "&Word", &NewDocumentDialog::createWithWord},
-        {"cmdExcel", "&Excel", &NewDocumentDialog::createWithExcel},
-        {"cmdPower", "&PowerPoint", &NewDocumentDialog::createWithPowerPoint},
-        {"cmdAddExisting", "&Add Existing", &NewDocumentDialog::addExistingFile},
-    };
-    for (const auto& entry : buttons) {
-        QPushButton* button
-            = makeDialogButton(QString::fromLatin1(entry.name), QString::fromLatin1(entry.caption), frame);
-        connect(button, &QPushButton::clicked, this, entry.slot);
-        layout->addWidget(button);
-    }
-    return frame;
+    return makeCreateWithFrame(this,
+        {[this] { createWithWord(); }, [this] { createWithExcel(); }, [this] { createWithPowerPoint(); },
+            [this] { addExistingFile(); }});
 }
 
 void NewDocumentDialog::bindControls()

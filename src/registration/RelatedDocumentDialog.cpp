@@ -124,27 +124,9 @@ void RelatedDocumentDialog::buildWidgets()
 
 QWidget* RelatedDocumentDialog::buildCreateWith()
 {
-    auto* frame = new QGroupBox(QStringLiteral("Create With"), this);
-    frame->setObjectName(QStringLiteral("fraCreateWith"));
-    auto* layout = new QVBoxLayout(frame);
-    const struct
-    {
-        const char* name;
-        const char* caption;
-        void (RelatedDocumentDialog::*slot)();
-    } buttons[] = {
-        {"cmdWord", "&Word", &RelatedDocumentDialog::createWithWord},
-        {"cmdExcel", "&Excel", &RelatedDocumentDialog::createWithExcel},
-        {"cmdPower", "&PowerPoint", &RelatedDocumentDialog::createWithPowerPoint},
-        {"cmdAddExisting", "&Add Existing", &RelatedDocumentDialog::addExistingFile},
-    };
-    for (const auto& entry : buttons) {
-        QPushButton* button
-            = makeDialogButton(QString::fromLatin1(entry.name), QString::fromLatin1(entry.caption), frame);
-        connect(button, &QPushButton::clicked, this, entry.slot);
-        layout->addWidget(button);
-    }
-    return frame;
+    return makeCreateWithFrame(this,
+        {[this] { createWithWord(); }, [this] { createWithExcel(); }, [this] { createWithPowerPoint(); },
+            [this] { addExistingFile(); }});
 }
 
 void RelatedDocumentDialog::bindControls()
@@ -280,9 +262,7 @@ bool RelatedDocumentDialog::askOnEscape()
         cancel();
         return true;
     }
-    const int answer = msgBox(QStringLiteral("You have details changes that have not applied.\n\n"
-                                             "Do you want to apply these now?"),
-        MsgBoxStyle::YesNoCancel | MsgBoxStyle::Exclamation, QStringLiteral("Warning"));
+    const int answer = askToApplyChanges();
     if (answer == MsgBoxResult::Yes)
         save();
     else if (answer == MsgBoxResult::No)
