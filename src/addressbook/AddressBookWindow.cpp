@@ -9,6 +9,7 @@
 #include "store/Store.h"
 #include "store/engine/Recordset.h"
 #include "support/BusyCursor.h"
+#include "support/DialogParts.h"
 #include "support/EnterAsTab.h"
 #include "support/FieldBinder.h"
 #include "support/RecordsetModel.h"
@@ -92,13 +93,6 @@ AddressBookWindow::AddressBookWindow(QWidget* parent)
 }
 
 AddressBookWindow::~AddressBookWindow() = default;
-
-QLineEdit* AddressBookWindow::addTextBox(int index)
-{
-    auto* box = new QLineEdit(this);
-    box->setObjectName(QStringLiteral("txtFields_") + QString::number(index));
-    return box;
-}
 
 void AddressBookWindow::buildWidgets()
 {
@@ -214,20 +208,20 @@ QWidget* AddressBookWindow::buildFields()
 {
     auto* frame = new QGroupBox(this);
     frame->setObjectName(QStringLiteral("Frame2"));
-    m_contactId = addTextBox(0);
+    m_contactId = makeFieldBox(0, this);
     m_contactId->setVisible(false);
-    m_companyName = addTextBox(1);
-    m_title = addTextBox(2);
-    m_dear = addTextBox(3);
-    m_fullName = addTextBox(4);
+    m_companyName = makeFieldBox(1, this);
+    m_title = makeFieldBox(2, this);
+    m_dear = makeFieldBox(3, this);
+    m_fullName = makeFieldBox(4, this);
     m_address = new QPlainTextEdit(frame);
     m_address->setObjectName(QStringLiteral("txtFields_5"));
     m_address->setFixedHeight(m_address->fontMetrics().lineSpacing() * 3 + 12);
-    m_city = addTextBox(6);
-    m_state = addTextBox(7);
-    m_postalCode = addTextBox(8);
-    m_country = addTextBox(9);
-    m_email = addTextBox(10);
+    m_city = makeFieldBox(6, this);
+    m_state = makeFieldBox(7, this);
+    m_postalCode = makeFieldBox(8, this);
+    m_country = makeFieldBox(9, this);
+    m_email = makeFieldBox(10, this);
     m_notes = new QPlainTextEdit(frame);
     m_notes->setObjectName(QStringLiteral("txtFields_11"));
     m_notes->setAccessibleName(QStringLiteral("Notes"));

@@ -64,7 +64,6 @@ private:
     void clearFlags();
     void showItemCount();
     void showDataError(const QString& number, const QString& description);
-    QLineEdit* addTextBox(int index);
 
     Connection m_connection;
     Recordset* m_contacts = nullptr;

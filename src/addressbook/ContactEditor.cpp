@@ -7,6 +7,7 @@
 #include "store/Store.h"
 #include "store/engine/Recordset.h"
 #include "support/BusyCursor.h"
+#include "support/DialogParts.h"
 #include "support/EnterAsTab.h"
 #include "support/FieldBinder.h"
 #include "support/RecordsetModel.h"
@@ -57,13 +58,6 @@ ContactEditor::ContactEditor(QWidget* parent)
 }
 
 ContactEditor::~ContactEditor() = default;
-
-QLineEdit* ContactEditor::addTextBox(int index)
-{
-    auto* box = new QLineEdit(this);
-    box->setObjectName(QStringLiteral("txtFields_") + QString::number(index));
-    return box;
-}
 
 void ContactEditor::buildWidgets()
 {
@@ -127,18 +121,18 @@ void ContactEditor::buildWidgets()
 QWidget* ContactEditor::buildContactTab()
 {
     auto* page = new QWidget(this);
-    m_contactId = addTextBox(0);
+    m_contactId = makeFieldBox(0, this);
     m_contactId->setVisible(false);
-    m_companyName = addTextBox(1);
-    m_title = addTextBox(2);
-    m_dear = addTextBox(3);
-    m_fullName = addTextBox(4);
-    m_address = addTextBox(5);
-    m_city = addTextBox(6);
-    m_country = addTextBox(7);
-    m_state = addTextBox(8);
-    m_postalCode = addTextBox(9);
-    m_email = addTextBox(10);
+    m_companyName = makeFieldBox(1, this);
+    m_title = makeFieldBox(2, this);
+    m_dear = makeFieldBox(3, this);
+    m_fullName = makeFieldBox(4, this);
+    m_address = makeFieldBox(5, this);
+    m_city = makeFieldBox(6, this);
+    m_country = makeFieldBox(7, this);
+    m_state = makeFieldBox(8, this);
+    m_postalCode = makeFieldBox(9, this);
+    m_email = makeFieldBox(10, this);
     const std::array<std::pair<QString, QLineEdit*>, 10> labelled = {
         std::pair {QStringLiteral("Company Name:"), m_companyName},
         std::pair {QStringLiteral("Title:"), m_title},

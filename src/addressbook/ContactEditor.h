@@ -46,7 +46,6 @@ private:
     void showHomePages();
     void onGridEnter(QTableView* grid, RecordsetModel* model);
     bool askBeforeClosing();
-    QLineEdit* addTextBox(int index);
 
     Recordset* m_contact = nullptr;
     Recordset* m_homePages = nullptr;

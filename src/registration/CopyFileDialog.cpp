@@ -2,9 +2,9 @@
 
 #include "base/Error.h"
 #include "platform/Prompter.h"
-#include "registration/DialogParts.h"
 #include "registration/ShellFiles.h"
 #include "registration/StoredPaths.h"
+#include "support/DialogParts.h"
 #include "support/SelectionState.h"
 #include "support/ShellDialogs.h"
 

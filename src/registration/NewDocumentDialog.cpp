@@ -4,7 +4,6 @@
 #include "options/OptionStore.h"
 #include "platform/Clock.h"
 #include "platform/Prompter.h"
-#include "registration/DialogParts.h"
 #include "registration/FileNaming.h"
 #include "registration/RegIndex.h"
 #include "registration/ValueConversions.h"
@@ -13,6 +12,7 @@
 #include "store/engine/Recordset.h"
 #include "support/BoundList.h"
 #include "support/BusyCursor.h"
+#include "support/DialogParts.h"
 #include "support/EnterAsTab.h"
 #include "support/FieldBinder.h"
 #include "support/RecordsetModel.h"
@@ -80,13 +80,6 @@ NewDocumentDialog::NewDocumentDialog(QWidget* parent)
 
 NewDocumentDialog::~NewDocumentDialog() = default;
 
-QLineEdit* NewDocumentDialog::addTextBox(int index)
-{
-    auto* box = new QLineEdit(this);
-    box->setObjectName(QStringLiteral("txtFields_") + QString::number(index));
-    return box;
-}
-
 void NewDocumentDialog::buildWidgets()
 {
     m_tabs = new QTabWidget(this);
@@ -120,8 +113,8 @@ void NewDocumentDialog::buildWidgets()
     layout->addLayout(buttons);
 
     // The row's key and its direction code live in boxes of their own that nobody sees.
-    m_documentId = addTextBox(0);
-    m_directionCode = addTextBox(7);
+    m_documentId = makeFieldBox(0, this);
+    m_directionCode = makeFieldBox(7, this);
     m_documentId->setVisible(false);
     m_directionCode->setVisible(false);
 
@@ -151,21 +144,21 @@ void NewDocumentDialog::buildWidgets()
 QWidget* NewDocumentDialog::buildGeneralTab()
 {
     auto* page = new QWidget(this);
-    m_description = addTextBox(4);
+    m_description = makeFieldBox(4, this);
     QLineEdit* description = m_description;
     auto* sender = new QComboBox(page);
     sender->setObjectName(QStringLiteral("cmbSender"));
     m_sender = new BoundList(sender, this);
-    m_location = addTextBox(5);
+    m_location = makeFieldBox(5, this);
     QLineEdit* location = m_location;
     location->setReadOnly(true);
 
     auto* dates = new QGroupBox(QStringLiteral("Date, Index"), page);
     dates->setObjectName(QStringLiteral("fraDateIndex"));
     auto* datesLayout = new QGridLayout(dates);
-    m_sentReceivedDate = addTextBox(1);
-    m_registrationDate = addTextBox(2);
-    m_regIndex = addTextBox(3);
+    m_sentReceivedDate = makeFieldBox(1, this);
+    m_registrationDate = makeFieldBox(2, this);
+    m_regIndex = makeFieldBox(3, this);
     const std::array<std::pair<QString, QLineEdit*>, 3> dateBoxes
         = {std::pair {QStringLiteral("Send/Receive Date:"), m_sentReceivedDate},
             std::pair {QStringLiteral("Registration Date:"), m_registrationDate},

@@ -69,7 +69,6 @@ private:
     void load();
     void createDocument(const CreatingButton& button);
     void onReminderGridEnter();
-    QLineEdit* addTextBox(int index);
 
     // The new row with its reminders, and the rows of the three lists.
     Recordset* m_document = nullptr;

@@ -14,7 +14,7 @@ class QWidget;
 
 namespace kartella {
 
-// Small pieces that the registration dialogs build their windows from.
+// Small pieces that the data dialogs build their windows from.
 
 // A button that Enter never presses by itself.
 QPushButton* makeDialogButton(const QString& name, const QString& caption, QWidget* parent);

@@ -1,4 +1,4 @@
-#include "registration/DialogParts.h"
+#include "support/DialogParts.h"
 
 #include "platform/Prompter.h"
 
