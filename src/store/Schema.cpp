@@ -14,6 +14,21 @@ namespace {
 
 const QString JetProvider = QStringLiteral("Microsoft.Jet.OLEDB.4.0");
 
+// The schema in an empty database of a server.
+void createServerRegister(const QString& location)
+{
+    Connection connection;
+    connection.open(plainConnectionString(JetProvider, location));
+    if (!databaseIsEmpty(connection))
+        throw Error(ErrorNumber::PathFileAccess,
+            QStringLiteral("The database \"") + location
+                + QStringLiteral("\" already holds tables. A register is made only in an empty database."));
+    connection.beginTrans();
+    createRegisterSchema(connection);
+    connection.commitTrans();
+    connection.close();
+}
+
 } // namespace
 
 void createRegisterSchema(Connection& connection)
@@ -23,6 +38,10 @@ void createRegisterSchema(Connection& connection)
 
 void createRegister(const QString& path)
 {
+    if (isServerLocation(path)) {
+        createServerRegister(path);
+        return;
+    }
     const QString nativePath = QFileInfo(path).absoluteFilePath();
     if (QFileInfo::exists(nativePath))
         throw Error(ErrorNumber::PathFileAccess,

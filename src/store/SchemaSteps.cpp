@@ -100,6 +100,19 @@ QString nameOrderKey(const QString& column)
     return QStringLiteral("lower(") + key + u')';
 }
 
+bool databaseIsEmpty(Connection& connection)
+{
+    const QString sql = connection.dialect() == SqlDialect::PostgreSql
+        ? QStringLiteral("SELECT COUNT(*) AS N FROM information_schema.tables WHERE table_schema = "
+                         "current_schema()")
+        : QStringLiteral("SELECT COUNT(*) AS N FROM sqlite_master WHERE type = 'table'");
+    Recordset tables;
+    tables.open(sql, connection);
+    const bool empty = tables.fields(QStringLiteral("N")).value().toInt() == 0;
+    tables.close();
+    return empty;
+}
+
 bool registerNeedsUpgrade(const QString& path)
 {
     Connection connection;

@@ -47,6 +47,9 @@ std::vector<const SchemaStep*> runSchemaSteps(Connection& connection, int from);
 // onto their base letters and ASCII letters onto lower case.
 QString nameOrderKey(const QString& column);
 
+// Whether the open database holds no table at all (a new file, or a new server database).
+bool databaseIsEmpty(Connection& connection);
+
 // Whether the register at path is older than this program: made by an earlier version, it
 // needs the steps it lacks. Throws kartella::Error (ConnectionFailed) when it can't be opened.
 bool registerNeedsUpgrade(const QString& path);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "store/engine/Connection.h"
 #include "store/engine/RowStore.h"
 
 #include <QString>
@@ -64,6 +65,8 @@ class Backend
 {
 public:
     virtual ~Backend() = default;
+
+    virtual SqlDialect dialect() const = 0;
 
     // Runs statements that return no rows.
     virtual void execute(const QString& sql) = 0;

@@ -19,7 +19,7 @@ namespace {
 std::unique_ptr<Backend> openBackend(const QString& connectionString)
 {
     const ConnectionTarget target = parseConnectionString(connectionString);
-    if (target.dataSource.startsWith(QLatin1String("postgresql://"), Qt::CaseInsensitive))
+    if (isServerLocation(target.dataSource))
         failToConnect(QStringLiteral("This build of Kartella can't reach PostgreSQL registers ('")
             + target.dataSource + QStringLiteral("'). Choose a register file instead."));
     if (!isJetProvider(target.provider)) {
@@ -33,6 +33,13 @@ std::unique_ptr<Backend> openBackend(const QString& connectionString)
 }
 
 } // namespace
+
+bool isServerLocation(const QString& dataSource)
+{
+    const QString location = dataSource.trimmed();
+    return location.startsWith(QLatin1String("postgresql://"), Qt::CaseInsensitive)
+        || location.startsWith(QLatin1String("postgres://"), Qt::CaseInsensitive);
+}
 
 Connection::Connection() = default;
 
@@ -110,6 +117,11 @@ void Connection::commitTrans()
 void Connection::rollbackTrans()
 {
     backend().rollbackTransaction();
+}
+
+SqlDialect Connection::dialect()
+{
+    return backend().dialect();
 }
 
 Backend& Connection::backend()

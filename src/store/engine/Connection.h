@@ -10,6 +10,14 @@ namespace kartella {
 
 class Backend;
 
+// The SQL a connection's database speaks beyond the Jet dialect that every back end
+// translates: what schema statements and catalog queries have to be written in.
+enum class SqlDialect { Sqlite, PostgreSql };
+
+// Whether a Data Source names a register on a database server (postgresql://user@host:port/db,
+// also postgres://) rather than a register file.
+bool isServerLocation(const QString& dataSource);
+
 // A connection to a register, made from a connection string of the forms the program
 // builds ("Provider=...;Data Source= <path>", and the MSDataShape forms). The provider
 // picks the back end: the two Jet providers open the file at Data Source with the
@@ -47,6 +55,9 @@ public:
     void beginTrans();
     void commitTrans();
     void rollbackTrans();
+
+    // The dialect of the open back end; throws when the connection is closed.
+    SqlDialect dialect();
 
     // The open back end; throws when the connection is closed.
     Backend& backend();

@@ -42,6 +42,7 @@ public:
 
     static constexpr int BusyTimeoutMs = 10000;
 
+    SqlDialect dialect() const override { return SqlDialect::Sqlite; }
     void execute(const QString& sql) override;
     QueryResult query(const QString& sql) override;
     const TableSchema& tableSchema(const QString& table) override;
