@@ -54,6 +54,27 @@ QString indexedCondition(const QStringList& words)
         + conditions.join(QStringLiteral(" AND ")) + u')';
 }
 
+// A word as a LIKE pattern for a piece anywhere in a text, with \ as the escape.
+QString likePattern(const QString& word)
+{
+    QString escaped = word;
+    escaped.replace(u'\\', QStringLiteral("\\\\"));
+    escaped.replace(u'%', QStringLiteral("\\%"));
+    escaped.replace(u'_', QStringLiteral("\\_"));
+    return sqlText(u'%' + escaped + u'%') + QStringLiteral(" ESCAPE '\\'");
+}
+
+// The table of folded texts on a server: Like finds every word, through the trigram index
+// where there is one.
+QString tableCondition(const QStringList& words)
+{
+    QStringList conditions;
+    for (const QString& word : words)
+        conditions << QStringLiteral("FoldedText LIKE ") + likePattern(word);
+    return QStringLiteral("tbl_Documents.RastasID IN (SELECT RastasID FROM ") + QLatin1String(SearchTable)
+        + QStringLiteral(" WHERE ") + conditions.join(QStringLiteral(" AND ")) + u')';
+}
+
 QString scanCondition(const QStringList& words)
 {
     const QString text
@@ -78,14 +99,18 @@ QStringList searchWords(const QString& text)
     return words;
 }
 
-QString searchListSql(const QStringList& words, bool indexed, int direction, bool withinDates,
+QString searchListSql(const QStringList& words, SearchIndexKind index, int direction, bool withinDates,
     const QDate& start, const QDate& end)
 {
     QString sql = documentSql() + QStringLiteral("WHERE ");
     if (words.isEmpty())
         sql += QStringLiteral("0 = 1");
+    else if (index == SearchIndexKind::FullText)
+        sql += indexedCondition(words);
+    else if (index == SearchIndexKind::Table)
+        sql += tableCondition(words);
     else
-        sql += indexed ? indexedCondition(words) : scanCondition(words);
+        sql += scanCondition(words);
     if (direction != 0)
         sql += QStringLiteral(" AND tbl_Documents.KryptisID=") + QString::number(direction);
     if (withinDates)
@@ -94,14 +119,14 @@ QString searchListSql(const QStringList& words, bool indexed, int direction, boo
     return sql + QStringLiteral(" ORDER BY tbl_Documents.DokRegistracData");
 }
 
-bool registerHasSearchIndex()
+SearchIndexKind registerSearchIndex()
 {
     Connection connection;
     connection.setMode(ConnectModeEnum::ShareDenyNone);
     connection.open(plainConnectionString());
-    const bool has = hasSearchIndex(connection);
+    const SearchIndexKind index = searchIndexKind(connection);
     connection.close();
-    return has;
+    return index;
 }
 
 } // namespace kartella

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/SearchIndex.h"
+
 #include <QDate>
 #include <QString>
 #include <QStringList>
@@ -16,16 +18,16 @@ namespace kartella {
 // in the order typed. Empty when the text holds no word.
 QStringList searchWords(const QString& text);
 
-// The list query for the words (as searchWords gives them; at least one). With `indexed`
-// the register's search index finds the rows (words of three characters or more through
-// its trigrams, shorter ones by a scan of its folded text); without, every document's text
-// is folded and scanned. A direction of 0 adds no clause; the date range applies when
-// withinDates is true.
-QString searchListSql(const QStringList& words, bool indexed, int direction, bool withinDates,
+// The list query for the words (as searchWords gives them; at least one). With the FTS5
+// index of a register file, words of three characters or more are found through its
+// trigrams, shorter ones by a scan of its folded text; with a server's table of folded
+// texts, by Like; without an index, every document's text is folded and scanned. A direction of 0 adds no
+// clause; the date range applies when withinDates is true.
+QString searchListSql(const QStringList& words, SearchIndexKind index, int direction, bool withinDates,
     const QDate& start, const QDate& end);
 
-// Whether the register the options name has the search index. Throws kartella::Error
-// when it can't be opened.
-bool registerHasSearchIndex();
+// The search index of the register the options name. Throws kartella::Error when it
+// can't be opened.
+SearchIndexKind registerSearchIndex();
 
 } // namespace kartella

@@ -58,8 +58,8 @@ void MainWindow::search(const QString& text)
 void MainWindow::runSearch()
 {
     runFill([&] {
-        const bool indexed = registerHasSearchIndex();
-        m_fills->fillDocumentList(searchListSql(searchWords(m_searchText), indexed, direction(),
+        const SearchIndexKind index = registerSearchIndex();
+        m_fills->fillDocumentList(searchListSql(searchWords(m_searchText), index, direction(),
             m_searchWithinDates || filterOptionOn(), m_startDate->date(), m_endDate->date()));
     });
 }

@@ -42,17 +42,25 @@ void openRegister(Connection& connection, const QString& path)
 
 } // namespace
 
-// The steps themselves, in SchemaForms.cpp.
+// The steps themselves, in SchemaForms.cpp and ServerSchemaForms.cpp.
 void createFirstForm(Connection& connection);
 void plainNameColumns(Connection& connection);
+void createServerFirstForm(Connection& connection);
+void keepServerNameColumns(Connection& connection);
+void createServerSearchIndex(Connection& connection);
+void addServerReminderDoneColumn(Connection& connection);
 
 const std::vector<SchemaStep>& schemaSteps()
 {
     static const std::vector<SchemaStep> steps = {
-        {1, QStringLiteral("tables, indexes, views and triggers of the register"), createFirstForm},
-        {2, QStringLiteral("name columns readable by any SQLite tool"), plainNameColumns},
-        {3, QStringLiteral("search index of the documents' texts"), createSearchIndex},
-        {4, QStringLiteral("reminders that can be marked done"), addReminderDoneColumn},
+        {1, QStringLiteral("tables, indexes, views and triggers of the register"), createFirstForm,
+            createServerFirstForm},
+        {2, QStringLiteral("name columns readable by any SQLite tool"), plainNameColumns,
+            keepServerNameColumns},
+        {3, QStringLiteral("search index of the documents' texts"), createSearchIndex,
+            createServerSearchIndex},
+        {4, QStringLiteral("reminders that can be marked done"), addReminderDoneColumn,
+            addServerReminderDoneColumn},
     };
     return steps;
 }
@@ -65,7 +73,19 @@ int newestSchemaVersion()
 int schemaVersion(Connection& connection)
 {
     Recordset pragma;
-    pragma.open(QStringLiteral("PRAGMA user_version"), connection);
+    if (connection.dialect() == SqlDialect::PostgreSql) {
+        // A database without the version's table carries no register of ours.
+        pragma.open(QStringLiteral("SELECT COUNT(*) FROM information_schema.tables WHERE table_schema = "
+                                   "current_schema() AND table_name = 'tbl_Schema_Version'"),
+            connection);
+        const bool versioned = pragma.fields(0).value().toInt() > 0;
+        pragma.close();
+        if (!versioned)
+            return 0;
+        pragma.open(QStringLiteral("SELECT Version FROM tbl_Schema_Version"), connection);
+    } else {
+        pragma.open(QStringLiteral("PRAGMA user_version"), connection);
+    }
     const int version = pragma.eof() ? 0 : pragma.fields(0).value().toInt();
     pragma.close();
     return version;
@@ -74,13 +94,20 @@ int schemaVersion(Connection& connection)
 std::vector<const SchemaStep*> runSchemaSteps(Connection& connection, int from)
 {
     std::vector<const SchemaStep*> done;
+    const bool server = connection.dialect() == SqlDialect::PostgreSql;
     for (const SchemaStep& step : schemaSteps()) {
         if (step.version <= from)
             continue;
         connection.beginTrans();
         try {
-            step.apply(connection);
-            connection.execute(QStringLiteral("PRAGMA user_version = ") + QString::number(step.version));
+            if (server) {
+                step.applyOnServer(connection);
+                connection.execute(QStringLiteral("UPDATE tbl_Schema_Version SET Version = ")
+                    + QString::number(step.version));
+            } else {
+                step.apply(connection);
+                connection.execute(QStringLiteral("PRAGMA user_version = ") + QString::number(step.version));
+            }
             connection.commitTrans();
         } catch (...) {
             connection.rollbackTrans();

@@ -29,13 +29,15 @@ struct SchemaStep
     int version;
     QString summary; // what the step does, for the upgrade tool's report
     std::function<void(Connection&)> apply;
+    std::function<void(Connection&)> applyOnServer; // the same step in PostgreSQL's SQL
 };
 
 // Every step, in order; the version of the last is the newest schema.
 const std::vector<SchemaStep>& schemaSteps();
 int newestSchemaVersion();
 
-// The register's schema version (its user_version): 0 for an empty file.
+// The register's schema version (its user_version; on a server, the row of
+// tbl_Schema_Version): 0 for an empty file or database.
 int schemaVersion(Connection& connection);
 
 // Runs the steps after version `from` on an open register, each in a transaction of its

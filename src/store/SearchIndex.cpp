@@ -85,14 +85,14 @@ QString foldSearchText(const QString& text)
     return folded;
 }
 
-QString foldedDocumentText(const QString& document, const QString& contactName)
+QString foldedDocumentText(const QString& document, const QString& contactName, const QString& quote)
 {
     // One blank between the fields: a searched word holds none, so no match spans two fields.
     const QString text
-        = QStringLiteral("coalesce(%1.DokAntraste, '') || ' ' || coalesce(%1.DokRegistracIndeksas, "
-                         "'') || ' ' || coalesce(%1.DokPastaba, '') || ' ' || coalesce(%2, '') || "
-                         "' ' || coalesce(%1.RastoKel, '')")
-              .arg(document, contactName);
+        = QStringLiteral("coalesce(%1.%3DokAntraste%3, '') || ' ' || coalesce(%1.%3DokRegistracIndeksas%3, "
+                         "'') || ' ' || coalesce(%1.%3DokPastaba%3, '') || ' ' || coalesce(%2, '') || "
+                         "' ' || coalesce(%1.%3RastoKel%3, '')")
+              .arg(document, contactName, quote);
     return nameOrderKey(text);
 }
 
@@ -130,15 +130,27 @@ void createSearchIndex(Connection& connection)
         + reindexContact(QStringLiteral("OLD.ContactID")) + QStringLiteral(" END"));
 }
 
-bool hasSearchIndex(Connection& connection)
+SearchIndexKind searchIndexKind(Connection& connection)
 {
+    const bool server = connection.dialect() == SqlDialect::PostgreSql;
     Recordset found;
-    found.open(QStringLiteral("SELECT COUNT(*) AS N FROM sqlite_master WHERE type = 'table' AND name = '")
-            + QLatin1String(SearchTable) + u'\'',
+    found.open(server
+            ? QStringLiteral("SELECT COUNT(*) AS N FROM information_schema.tables WHERE table_schema = "
+                             "current_schema() AND table_name = '")
+                + QLatin1String(SearchTable) + u'\''
+            : QStringLiteral("SELECT COUNT(*) AS N FROM sqlite_master WHERE type = 'table' AND name = '")
+                + QLatin1String(SearchTable) + u'\'',
         connection);
     const bool has = found.fields(QStringLiteral("N")).value().toInt() > 0;
     found.close();
-    return has;
+    if (!has)
+        return SearchIndexKind::None;
+    return server ? SearchIndexKind::Table : SearchIndexKind::FullText;
+}
+
+bool hasSearchIndex(Connection& connection)
+{
+    return searchIndexKind(connection) != SearchIndexKind::None;
 }
 
 } // namespace kartella

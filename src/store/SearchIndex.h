@@ -27,10 +27,21 @@ void createSearchIndex(Connection& connection);
 // leaves them), so the query and the index always agree.
 QString foldSearchText(const QString& text);
 
-// A plain SQLite expression giving the folded, searchable text of a document: `document`
-// is how the document's columns are reached ("NEW", "tbl_Documents"), `contactName` an
-// expression for the name of its contact.
-QString foldedDocumentText(const QString& document, const QString& contactName);
+// A plain SQL expression (SQLite's, and PostgreSQL's too) giving the folded, searchable
+// text of a document: `document` is how the document's columns are reached ("NEW",
+// "tbl_Documents"), `contactName` an expression for the name of its contact. The column
+// names are written between `quote` characters (PostgreSQL needs " for names declared in
+// mixed case).
+QString foldedDocumentText(const QString& document, const QString& contactName, const QString& quote = {});
+
+// How a register finds documents by their text.
+enum class SearchIndexKind {
+    None, // a register file of an older schema: every document's text is folded and scanned
+    FullText, // a register file: the FTS5 trigram table
+    Table, // a server: the table of folded texts, with a pg_trgm index where the server has one
+};
+
+SearchIndexKind searchIndexKind(Connection& connection);
 
 // Whether the open register has the search index (a register of an older schema has not).
 bool hasSearchIndex(Connection& connection);

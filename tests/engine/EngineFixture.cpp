@@ -9,7 +9,12 @@ namespace kartella::test {
 
 EngineRegister::EngineRegister()
 {
-    m_path = m_dir.filePath(QStringLiteral("Register.mdb"));
+    if (testsOnServer()) {
+        m_server = std::make_unique<ServerDatabase>();
+        m_path = m_server->location();
+    } else {
+        m_path = m_dir.filePath(QStringLiteral("Register.mdb"));
+    }
     createRegister(m_path);
     m_connection = std::make_unique<Connection>(connectionString());
     m_connection->open();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "harness/ServerDatabase.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
 
@@ -10,13 +11,16 @@
 
 namespace kartella::test {
 
-// A register in a temporary folder, made by createRegister, with a connection open on it.
+// A register made by createRegister, with a connection open on it: a file in a temporary
+// folder, or, when the tests run on the server, a database of its own there.
 class EngineRegister
 {
 public:
     EngineRegister();
 
     bool isValid() const { return m_valid; }
+    bool onServer() const { return m_server != nullptr; }
+    // The register's location: the file's path, or the server database's.
     QString path() const { return m_path; }
     QString folder() const { return m_dir.path(); }
     QString connectionString() const;
@@ -32,6 +36,7 @@ public:
 
 private:
     QTemporaryDir m_dir;
+    std::unique_ptr<ServerDatabase> m_server;
     QString m_path;
     std::unique_ptr<Connection> m_connection;
     bool m_valid = false;

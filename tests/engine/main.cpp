@@ -1,5 +1,9 @@
 // The engine's tests, one class after the other.
+#include "harness/ServerDatabase.h"
+
 #include <QCoreApplication>
+
+#include <cstdio>
 
 int runDialectTest(int argc, char** argv);
 int runConnectionTest(int argc, char** argv);
@@ -11,6 +15,11 @@ int runStatementsTest(int argc, char** argv);
 int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
+    using namespace kartella::test;
+    if (testsOnServer() && !ServerDatabase::available()) {
+        std::printf("SKIP: %s\n", qPrintable(ServerDatabase::skipReason()));
+        return 77;
+    }
     int failures = 0;
     for (const auto run :
         {runDialectTest, runConnectionTest, runRecordsetTest, runEditTest, runShapeTest, runStatementsTest})

@@ -29,7 +29,9 @@ Ids found(const TestRegister& reg, const QString& text, bool indexed = true, int
     Connection connection;
     connection.open(reg.connectionString());
     Recordset rs;
-    rs.open(searchListSql(searchWords(text), indexed, direction, withinDates, start, end), connection);
+    rs.open(searchListSql(searchWords(text), indexed ? SearchIndexKind::FullText : SearchIndexKind::None,
+                direction, withinDates, start, end),
+        connection);
     Ids ids;
     while (!rs.eof()) {
         ids << rs.fields(QStringLiteral("RastasID")).value().toInt();

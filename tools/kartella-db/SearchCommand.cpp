@@ -39,7 +39,7 @@ void searchCommand(const QString& path, const QStringList& words, QTextStream& o
     Connection connection;
     connection.open(plainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"), location));
     Recordset rs;
-    rs.open(searchListSql(folded, hasSearchIndex(connection), 0, false, {}, {}), connection);
+    rs.open(searchListSql(folded, searchIndexKind(connection), 0, false, {}, {}), connection);
     while (!rs.eof()) {
         out << cell(rs.fields(QStringLiteral("DokRegistracIndeksas")).value()) << '\t'
             << cell(rs.fields(QStringLiteral("DokRegistracData")).value()) << '\t'

@@ -3,6 +3,7 @@
 #include "store/engine/Backend.h"
 #include "store/engine/ConnectionString.h"
 #include "store/engine/EngineErrors.h"
+#include "store/engine/PostgresBackend.h"
 #include "store/engine/SqliteBackend.h"
 
 namespace kartella {
@@ -20,8 +21,7 @@ std::unique_ptr<Backend> openBackend(const QString& connectionString)
 {
     const ConnectionTarget target = parseConnectionString(connectionString);
     if (isServerLocation(target.dataSource))
-        failToConnect(QStringLiteral("This build of Kartella can't reach PostgreSQL registers ('")
-            + target.dataSource + QStringLiteral("'). Choose a register file instead."));
+        return PostgresBackend::open(target.dataSource);
     if (!isJetProvider(target.provider)) {
         const QString named = target.provider.isEmpty()
             ? QStringLiteral("The connection string names no provider.")

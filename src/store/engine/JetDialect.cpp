@@ -18,8 +18,9 @@ const QString NameCollationClause = QStringLiteral(" COLLATE ") + QLatin1String(
 class Rewriter
 {
 public:
-    explicit Rewriter(const QString& sql)
-        : m_text(sql)
+    explicit Rewriter(const QString& sql, const ServerNames* serverNames = nullptr)
+        : m_serverNames(serverNames)
+        , m_text(sql)
         , m_tokens(tokenizeSql(m_text))
         , m_drop(m_tokens.size(), false)
         , m_replace(m_tokens.size())
@@ -27,9 +28,15 @@ public:
 
     QString run()
     {
-        literals();
         trailingSemicolons();
         const qsizetype first = nextSolid(0);
+        if (m_serverNames
+            && !(isWord(first, u"SELECT") || isWord(first, u"INSERT") || isWord(first, u"UPDATE")
+                || isWord(first, u"DELETE") || isWord(first, u"WITH")))
+            return assemble(0, size());
+        literals();
+        if (m_serverNames)
+            serverNames();
         if (first < size()) {
             if (isKeyword(m_text, m_tokens[first], u"DELETE")) {
                 nameOrder();
@@ -42,6 +49,8 @@ public:
                 rightJoin(first);
             }
         }
+        if (m_serverNames)
+            ilike();
         return assemble(0, size());
     }
 
@@ -73,10 +82,13 @@ private:
             const QStringView raw = tokenText(m_text, token);
             if (token.kind == SqlToken::Date) {
                 const QVariant value = parseJetDate(raw.mid(1, raw.size() - 2));
+                const bool typed = m_serverNames != nullptr;
                 if (value.typeId() == QMetaType::QDate)
-                    m_replace[i] = u'\'' + isoText(value.toDate()) + u'\'';
+                    m_replace[i] = (typed ? QStringLiteral("DATE '") : QStringLiteral("'"))
+                        + isoText(value.toDate()) + u'\'';
                 else if (value.typeId() == QMetaType::QDateTime)
-                    m_replace[i] = u'\'' + isoText(value.toDateTime()) + u'\'';
+                    m_replace[i] = (typed ? QStringLiteral("TIMESTAMP '") : QStringLiteral("'"))
+                        + isoText(value.toDateTime()) + u'\'';
             } else if (token.kind == SqlToken::Quoted && raw.startsWith(u'`')) {
                 QString name = unquotedText(m_text, token);
                 name.replace(u'"', QLatin1String("\"\""));
@@ -298,6 +310,111 @@ private:
             m_drop[i] = true;
     }
 
+    // Known names in their declared case, aliases after AS as written, both quoted.
+    void serverNames()
+    {
+        QHash<QString, QString> aliases;
+        // Whether each open parenthesis is that of a CAST, whose AS names a type.
+        std::vector<bool> inCast(1, false);
+        for (qsizetype i = 0; i < size(); ++i) {
+            if (isPunct(i, u'(')) {
+                inCast.push_back(isWord(previousSolid(i), u"CAST"));
+                continue;
+            }
+            if (isPunct(i, u')')) {
+                if (inCast.size() > 1)
+                    inCast.pop_back();
+                continue;
+            }
+            if (!isWord(i, u"AS") || inCast.back())
+                continue;
+            const qsizetype alias = nextSolid(i + 1);
+            if (!isName(alias) || isWord(alias, u"SELECT") || isWord(alias, u"WITH")
+                || isWord(alias, u"VALUES"))
+                continue;
+            const QString name = unquotedText(m_text, m_tokens[alias]);
+            aliases.insert(name.toLower(), name);
+        }
+        for (qsizetype i = 0; i < size(); ++i) {
+            if (!isName(i))
+                continue;
+            const bool quoted = m_tokens[i].kind == SqlToken::Quoted;
+            // A bare word before ( is a function, but for the table of INSERT INTO t (...).
+            if (!quoted && isPunct(nextSolid(i + 1), u'(') && !isWord(previousSolid(i), u"INTO"))
+                continue;
+            const QString name = unquotedText(m_text, m_tokens[i]);
+            const QString lower = name.toLower();
+            QString declared = m_serverNames->value(lower);
+            if (declared.isEmpty())
+                declared = aliases.value(lower);
+            if (declared.isEmpty() && quoted)
+                declared = name;
+            if (declared.isEmpty())
+                continue;
+            declared.replace(u'"', QLatin1String("\"\""));
+            m_replace[i] = u'"' + declared + u'"';
+        }
+    }
+
+    // x LIKE p -> x ILIKE p ESCAPE '', unless an ESCAPE follows the pattern.
+    void ilike()
+    {
+        for (qsizetype i = 0; i < size(); ++i) {
+            if (!isWord(i, u"LIKE"))
+                continue;
+            m_replace[i] = QStringLiteral("ILIKE");
+            const qsizetype end = operandEnd(nextSolid(i + 1));
+            if (end < 0 || isWord(nextSolid(end + 1), u"ESCAPE"))
+                continue;
+            m_replace[end] = (m_replace[end] ? *m_replace[end] : tokenText(m_text, m_tokens[end]).toString())
+                + QStringLiteral(" ESCAPE ''");
+        }
+    }
+
+    // The last token of the operand that starts at i: a value, a qualified name, a call or
+    // a parenthesised expression, and what || joins to it; -1 when there is none.
+    qsizetype operandEnd(qsizetype i) const
+    {
+        qsizetype end = -1;
+        while (i < size()) {
+            if (isPunct(i, u'-') || isPunct(i, u'+'))
+                i = nextSolid(i + 1);
+            if (i >= size())
+                return -1;
+            qsizetype last = i;
+            if (isName(i)) {
+                while (isPunct(nextSolid(last + 1), u'.') && isName(nextSolid(nextSolid(last + 1) + 1)))
+                    last = nextSolid(nextSolid(last + 1) + 1);
+                if (isPunct(nextSolid(last + 1), u'('))
+                    last = closingParenthesis(nextSolid(last + 1));
+            } else if (isPunct(i, u'(')) {
+                last = closingParenthesis(i);
+            } else if (m_tokens[i].kind == SqlToken::Punct) {
+                return -1;
+            }
+            if (last < 0)
+                return -1;
+            end = last;
+            const qsizetype next = nextSolid(last + 1);
+            if (next >= size() || tokenText(m_text, m_tokens[next]) != u"||")
+                break;
+            i = nextSolid(next + 1);
+        }
+        return end;
+    }
+
+    qsizetype closingParenthesis(qsizetype open) const
+    {
+        int depth = 0;
+        for (qsizetype i = open; i < size(); ++i) {
+            if (isPunct(i, u'('))
+                ++depth;
+            else if (isPunct(i, u')') && --depth == 0)
+                return i;
+        }
+        return -1;
+    }
+
     QString assemble(qsizetype from, qsizetype to) const
     {
         QString out;
@@ -318,6 +435,7 @@ private:
         return out;
     }
 
+    const ServerNames* m_serverNames;
     QString m_text;
     std::vector<SqlToken> m_tokens;
     std::vector<bool> m_drop;
@@ -329,6 +447,11 @@ private:
 QString translateJetToSqlite(const QString& sql)
 {
     return Rewriter(sql).run();
+}
+
+QString translateJetToPostgres(const QString& sql, const ServerNames& names)
+{
+    return Rewriter(sql, &names).run();
 }
 
 } // namespace kartella::engine

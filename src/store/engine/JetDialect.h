@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QString>
 
 namespace kartella::engine {
@@ -26,5 +27,24 @@ inline constexpr const char* NameCollation = "NAMEFOLD";
 // Is Null and Like are SQLite's own (Like with the engine's function), and so are other
 // forms of RIGHT JOIN. Text inside string literals is never changed.
 QString translateJetToSqlite(const QString& sql);
+
+// The names a PostgreSQL database knows, by their lower-case form: each as it was declared,
+// for example "tbl_documents" -> "tbl_Documents".
+using ServerNames = QHash<QString, QString>;
+
+// Turns a statement in Jet's dialect into one that PostgreSQL runs with the same meaning.
+// SELECT, INSERT, UPDATE, DELETE and WITH statements get what SQLite's translation does,
+// and besides:
+//  - a date literal becomes DATE '...' (TIMESTAMP '...' with a time);
+//  - a name the database knows, bare or quoted in any case, becomes its declared name in
+//    double quotes (PostgreSQL folds bare names to lower case, and the register's tables
+//    are declared in mixed case); an alias after AS is quoted as written, and so is every
+//    later use of it; [name] becomes "name";
+//  - Like becomes ILIKE, case-insensitive as the engine's Like, with ESCAPE '' unless the
+//    statement gives an escape (Jet's Like has none, PostgreSQL's is a backslash);
+//  - COLLATE NAMEFOLD stays: a register on a server has a collation of that name.
+// Other statements (CREATE, ALTER, DROP, SET, ...) are the server's own and pass unchanged
+// but for a trailing ;.
+QString translateJetToPostgres(const QString& sql, const ServerNames& names);
 
 } // namespace kartella::engine

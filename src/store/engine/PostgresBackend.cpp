@@ -1,0 +1,682 @@
+#include "store/engine/PostgresBackend.h"
+
+#include "store/engine/DateText.h"
+#include "store/engine/EngineErrors.h"
+#include "store/engine/SqlLexer.h"
+
+#include <QDate>
+#include <QDateTime>
+#include <QTimeZone>
+#include <QUrl>
+#include <QUrlQuery>
+
+#include <charconv>
+#include <cstdlib>
+#include <libpq-fe.h>
+
+namespace kartella::engine {
+
+namespace {
+
+// The built-in types the engine tells apart, by their fixed object ids.
+namespace TypeId {
+constexpr Oid Bool = 16;
+constexpr Oid Bytea = 17;
+constexpr Oid Int8 = 20;
+constexpr Oid Int2 = 21;
+constexpr Oid Int4 = 23;
+constexpr Oid ObjectId = 26;
+constexpr Oid Float4 = 700;
+constexpr Oid Float8 = 701;
+constexpr Oid Date = 1082;
+constexpr Oid Timestamp = 1114;
+constexpr Oid TimestampTz = 1184;
+constexpr Oid Numeric = 1700;
+} // namespace TypeId
+
+// The SQLSTATEs of a lock wait that ran out and of a deadlock.
+constexpr const char* LockNotAvailable = "55P03";
+constexpr const char* DeadlockDetected = "40P01";
+
+[[noreturn]] void failToOpen(const QString& description)
+{
+    throwError(ErrorNumber::ConnectionFailed, description, ConnectionSource);
+}
+
+QString quoted(const QString& name)
+{
+    QString escaped = name;
+    escaped.replace(u'"', QLatin1String("\"\""));
+    return u'"' + escaped + u'"';
+}
+
+QString literal(const QString& text)
+{
+    QString escaped = text;
+    escaped.replace(u'\'', QLatin1String("''"));
+    return u'\'' + escaped + u'\'';
+}
+
+ValueKind kindOfType(Oid type)
+{
+    switch (type) {
+    case TypeId::Bool:
+    case TypeId::Int2:
+    case TypeId::Int4:
+    case TypeId::Int8:
+    case TypeId::ObjectId:
+        return ValueKind::Integer;
+    case TypeId::Float4:
+    case TypeId::Float8:
+    case TypeId::Numeric:
+        return ValueKind::Real;
+    case TypeId::Date:
+        return ValueKind::Date;
+    case TypeId::Timestamp:
+    case TypeId::TimestampTz:
+        return ValueKind::DateTime;
+    case TypeId::Bytea:
+        return ValueKind::Blob;
+    default:
+        return ValueKind::Text;
+    }
+}
+
+// The location without the password, should it hold one, for messages.
+QString shownLocation(const QString& location)
+{
+    QUrl url(location);
+    if (!url.isValid() || url.password().isEmpty())
+        return location;
+    url.setPassword(QString());
+    return url.toString();
+}
+
+// Whether a SELECT may have the row key added to its columns (see SqliteBackend.cpp).
+bool acceptsHiddenKey(const QString& sql)
+{
+    const std::vector<SqlToken> tokens = tokenizeSql(sql);
+    bool first = true;
+    for (const SqlToken& token : tokens) {
+        if (token.kind == SqlToken::Space)
+            continue;
+        if (first) {
+            if (!isKeyword(sql, token, u"SELECT"))
+                return false;
+            first = false;
+            continue;
+        }
+        for (const char16_t* word : {u"DISTINCT", u"GROUP", u"UNION", u"INTERSECT", u"EXCEPT", u"VALUES"}) {
+            if (isKeyword(sql, token, word))
+                return false;
+        }
+    }
+    return !first;
+}
+
+QByteArray hexBytes(const char* text, int size)
+{
+    // bytea's text form: \x and two hex digits a byte.
+    if (size >= 2 && text[0] == '\\' && text[1] == 'x')
+        return QByteArray::fromHex(QByteArray::fromRawData(text + 2, size - 2));
+    return QByteArray(text, size);
+}
+
+} // namespace
+
+void PostgresBackend::ResultDeleter::operator()(pg_result* result) const
+{
+    PQclear(result);
+}
+
+std::unique_ptr<PostgresBackend> PostgresBackend::open(const QString& location)
+{
+    const QString shown = shownLocation(location);
+    const QUrl url(location);
+
+    // Keywords after dbname override what the location says; those before it give way to it.
+    const QByteArray timeout = QByteArray::number(ConnectTimeoutSeconds);
+    const QByteArray dbname = location.toUtf8();
+    const QByteArray options = "-c DateStyle=ISO,YMD -c lock_timeout=" + QByteArray::number(LockTimeoutMs);
+    std::vector<const char*> keywords;
+    std::vector<const char*> values;
+    if (!QUrlQuery(url).hasQueryItem(QStringLiteral("connect_timeout"))) {
+        keywords.push_back("connect_timeout");
+        values.push_back(timeout.constData());
+    }
+    for (const auto& [keyword, value] :
+        {std::pair {"application_name", "Kartella"}, std::pair {"dbname", dbname.constData()},
+            std::pair {"client_encoding", "UTF8"}, std::pair {"options", options.constData()}}) {
+        keywords.push_back(keyword);
+        values.push_back(value);
+    }
+    keywords.push_back(nullptr);
+    values.push_back(nullptr);
+    pg_conn* connection = PQconnectdbParams(keywords.data(), values.data(), 1);
+    if (connection == nullptr)
+        failToOpen(QStringLiteral("Could not connect to '") + shown + QStringLiteral("': out of memory."));
+    if (PQstatus(connection) != CONNECTION_OK) {
+        const QString message = QString::fromUtf8(PQerrorMessage(connection)).trimmed();
+        PQfinish(connection);
+        failToOpen(QStringLiteral("Could not connect to the register server '") + shown
+            + QStringLiteral("': ") + message);
+    }
+    std::unique_ptr<PostgresBackend> backend(new PostgresBackend(connection, location));
+    // Local time for the views of this and the previous month, as on a register file; a
+    // zone the server doesn't know leaves the server's own.
+    const QString zone = QString::fromUtf8(QTimeZone::systemTimeZoneId());
+    if (!zone.isEmpty())
+        PQclear(PQexec(connection, ("SET TimeZone = " + literal(zone)).toUtf8().constData()));
+    backend->loadCatalog();
+    if (!backend->m_relations.empty() && backend->m_relations.count(QStringLiteral("tbl_documents")) == 0)
+        failToOpen(QStringLiteral("'") + shown
+            + QStringLiteral("' is a database but not a register: it has no table tbl_Documents."));
+    return backend;
+}
+
+PostgresBackend::PostgresBackend(pg_conn* connection, QString location)
+    : m_connection(connection)
+    , m_location(std::move(location))
+{ }
+
+PostgresBackend::~PostgresBackend()
+{
+    PQfinish(m_connection);
+}
+
+void PostgresBackend::fail(pg_result* result, const QString& shownSql) const
+{
+    QString message;
+    const char* state = result ? PQresultErrorField(result, PG_DIAG_SQLSTATE) : nullptr;
+    if (state && qstrcmp(state, LockNotAvailable) == 0) {
+        message
+            = QStringLiteral("The register is in use by another program and stayed locked for %1 seconds; "
+                             "try again.")
+                  .arg(LockTimeoutMs / 1000);
+    } else if (state && qstrcmp(state, DeadlockDetected) == 0) {
+        message = QStringLiteral("Another program was changing the same rows at the same moment; try again.");
+    } else if (PQstatus(m_connection) != CONNECTION_OK) {
+        message = QStringLiteral("The connection to the register server was lost: ")
+            + QString::fromUtf8(PQerrorMessage(m_connection)).trimmed();
+    } else {
+        const char* primary = result ? PQresultErrorField(result, PG_DIAG_MESSAGE_PRIMARY) : nullptr;
+        message = QString::fromUtf8(primary ? primary : PQerrorMessage(m_connection)).trimmed();
+        if (const char* detail = result ? PQresultErrorField(result, PG_DIAG_MESSAGE_DETAIL) : nullptr)
+            message += QStringLiteral(" (") + QString::fromUtf8(detail) + u')';
+    }
+    throwError(
+        ErrorNumber::CommandFailed, message + QStringLiteral("\nStatement: ") + shownSql, ConnectionSource);
+}
+
+void PostgresBackend::reconnectIfLost()
+{
+    // Outside a transaction nothing is lost by starting again: the server may have restarted.
+    if (PQstatus(m_connection) != CONNECTION_OK && m_depth == 0)
+        PQreset(m_connection);
+}
+
+PostgresBackend::Result PostgresBackend::run(
+    const QByteArray& sql, const std::vector<QByteArray>& parameters, const QString& shownSql)
+{
+    reconnectIfLost();
+    std::vector<const char*> values;
+    values.reserve(parameters.size());
+    for (const QByteArray& parameter : parameters)
+        values.push_back(parameter.isNull() ? nullptr : parameter.constData());
+    Result result(PQexecParams(
+        m_connection, sql.constData(), int(values.size()), nullptr, values.data(), nullptr, nullptr, 0));
+    const ExecStatusType status = result ? PQresultStatus(result.get()) : PGRES_FATAL_ERROR;
+    if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK)
+        fail(result.get(), shownSql);
+    return result;
+}
+
+PostgresBackend::Result PostgresBackend::runText(const QString& sql, const QString& shownSql)
+{
+    reconnectIfLost();
+    // The simple protocol: the text may hold several statements.
+    Result result(PQexec(m_connection, sql.toUtf8().constData()));
+    const ExecStatusType status = result ? PQresultStatus(result.get()) : PGRES_FATAL_ERROR;
+    if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK && status != PGRES_EMPTY_QUERY)
+        fail(result.get(), shownSql);
+    return result;
+}
+
+void PostgresBackend::loadCatalog()
+{
+    // Every column of the tables and views of the current schema, with the key of each table:
+    // its one-column primary key, and whether the database makes its values.
+    static const QByteArray sql
+        = "SELECT c.oid, c.relname, a.attnum, a.attname, a.atttypid, "
+          "a.attidentity <> '' OR coalesce(pg_get_expr(d.adbin, d.adrelid) LIKE 'nextval(%', false), "
+          "coalesce(i.indnatts = 1 AND a.attnum = i.indkey[0], false) "
+          "FROM pg_class c JOIN pg_attribute a ON a.attrelid = c.oid "
+          "LEFT JOIN pg_attrdef d ON d.adrelid = c.oid AND d.adnum = a.attnum "
+          "LEFT JOIN pg_index i ON i.indrelid = c.oid AND i.indisprimary "
+          "WHERE c.relnamespace = current_schema()::regnamespace AND c.relkind IN ('r', 'v', 'm', 'p', 'f') "
+          "AND a.attnum > 0 AND NOT a.attisdropped ORDER BY c.oid, a.attnum";
+    const Result result = run(sql, {}, QString::fromUtf8(sql));
+    m_relations.clear();
+    m_relationByOid.clear();
+    m_names.clear();
+    const int rows = PQntuples(result.get());
+    for (int r = 0; r < rows; ++r) {
+        const unsigned oid = unsigned(std::strtoul(PQgetvalue(result.get(), r, 0), nullptr, 10));
+        const QString table = QString::fromUtf8(PQgetvalue(result.get(), r, 1));
+        const QString lower = table.toLower();
+        Relation& relation = m_relations[lower];
+        if (relation.schema.name.isEmpty()) {
+            relation.schema.name = table;
+            m_relationByOid.insert(oid, lower);
+            m_names.insert(lower, table);
+        }
+        TableColumn column;
+        column.name = QString::fromUtf8(PQgetvalue(result.get(), r, 3));
+        column.declared = kindOfType(Oid(std::strtoul(PQgetvalue(result.get(), r, 4), nullptr, 10)));
+        relation.columnsByNumber.emplace(std::atoi(PQgetvalue(result.get(), r, 2)), column.name);
+        if (*PQgetvalue(result.get(), r, 6) == 't') {
+            relation.schema.key = column.name;
+            relation.schema.keyGenerated = *PQgetvalue(result.get(), r, 5) == 't';
+        }
+        m_names.insert(column.name.toLower(), column.name);
+        relation.schema.columns.push_back(std::move(column));
+    }
+    for (auto& [name, relation] : m_relations) {
+        // A table without a one-column key is written by its row's place.
+        if (relation.schema.key.isEmpty())
+            relation.schema.key = QStringLiteral("ctid");
+    }
+    m_catalogLoaded = true;
+}
+
+const ServerNames& PostgresBackend::names()
+{
+    if (!m_catalogLoaded)
+        loadCatalog();
+    return m_names;
+}
+
+QString PostgresBackend::translate(const QString& sql)
+{
+    return translateJetToPostgres(sql, names());
+}
+
+void PostgresBackend::execute(const QString& sql)
+{
+    const QString translated = translate(sql);
+    const QStringView head = QStringView(translated).trimmed();
+    const bool changesSchema = head.startsWith(u"CREATE", Qt::CaseInsensitive)
+        || head.startsWith(u"ALTER", Qt::CaseInsensitive) || head.startsWith(u"DROP", Qt::CaseInsensitive);
+    runText(translated, sql);
+    if (changesSchema)
+        m_catalogLoaded = false;
+    noteInsert(translated);
+}
+
+void PostgresBackend::noteInsert(const QString& translatedSql)
+{
+    const std::vector<SqlToken> tokens = tokenizeSql(translatedSql);
+    std::vector<const SqlToken*> solid;
+    for (const SqlToken& token : tokens) {
+        if (token.kind != SqlToken::Space)
+            solid.push_back(&token);
+        if (solid.size() == 3)
+            break;
+    }
+    if (solid.size() < 3 || !isKeyword(translatedSql, *solid[0], u"INSERT")
+        || !isKeyword(translatedSql, *solid[1], u"INTO"))
+        return;
+    const auto found = m_relations.find(unquotedText(translatedSql, *solid[2]).toLower());
+    if (found != m_relations.end())
+        noteExplicitKey(found->second.schema);
+}
+
+void PostgresBackend::noteExplicitKey(const TableSchema& table)
+{
+    if (!table.keyGenerated)
+        return;
+    m_explicitKeys.insert(table.name.toLower());
+    if (m_depth == 0)
+        advanceKeyGenerators();
+}
+
+void PostgresBackend::advanceKeyGenerators()
+{
+    // Rows written with their keys given leave the key generator behind: move it past the
+    // largest key, never back, so that new rows get keys no row has had.
+    for (const QString& lower : std::as_const(m_explicitKeys)) {
+        const auto found = m_relations.find(lower);
+        if (found == m_relations.end())
+            continue;
+        const TableSchema& table = found->second.schema;
+        const QString sql
+            = QStringLiteral("SELECT setval(s, m) FROM (SELECT pg_get_serial_sequence(%1, %2) AS s, "
+                             "(SELECT max(%3) FROM %4) AS m) q "
+                             "WHERE s IS NOT NULL AND m > coalesce(pg_sequence_last_value(s::regclass), 0)")
+                  .arg(
+                      literal(quoted(table.name)), literal(table.key), quoted(table.key), quoted(table.name));
+        run(sql.toUtf8(), {}, sql);
+    }
+    m_explicitKeys.clear();
+}
+
+void PostgresBackend::describe(pg_result* description, QueryResult& result)
+{
+    result.columns.clear();
+    const int count = PQnfields(description);
+    for (int c = 0; c < count; ++c) {
+        ColumnInfo column;
+        column.name = QString::fromUtf8(PQfname(description, c));
+        column.declared = kindOfType(PQftype(description, c));
+        const auto relation = m_relationByOid.constFind(unsigned(PQftable(description, c)));
+        if (relation != m_relationByOid.constEnd()) {
+            const Relation& source = m_relations.at(*relation);
+            const auto origin = source.columnsByNumber.find(PQftablecol(description, c));
+            if (origin != source.columnsByNumber.end()) {
+                column.table = source.schema.name;
+                column.origin = origin->second;
+            }
+        }
+        result.columns.push_back(column);
+    }
+}
+
+QueryResult PostgresBackend::query(const QString& sql)
+{
+    QString translated = translate(sql);
+    reconnectIfLost();
+    QueryResult result;
+    auto prepare = [this, &sql](const QString& text) {
+        Result prepared(PQprepare(m_connection, "", text.toUtf8().constData(), 0, nullptr));
+        if (!prepared || PQresultStatus(prepared.get()) != PGRES_COMMAND_OK)
+            return Result(prepared.release());
+        Result description(PQdescribePrepared(m_connection, ""));
+        if (!description || PQresultStatus(description.get()) != PGRES_COMMAND_OK)
+            fail(description.get(), sql);
+        return description;
+    };
+    Result description = prepare(translated);
+    if (!description || PQresultStatus(description.get()) != PGRES_COMMAND_OK)
+        fail(description.get(), sql);
+    describe(description.get(), result);
+    result.visibleColumns = int(result.columns.size());
+
+    // The one table that every column comes from, if there is one.
+    QString table;
+    for (const ColumnInfo& column : result.columns) {
+        if (column.table.isEmpty()
+            || (!table.isEmpty() && column.table.compare(table, Qt::CaseInsensitive) != 0)) {
+            table.clear();
+            break;
+        }
+        table = column.table;
+    }
+    bool keyFirst = false;
+    if (!table.isEmpty()) {
+        const TableSchema& schema = tableSchema(table);
+        for (int c = 0; c < result.visibleColumns; ++c) {
+            if (result.columns[std::size_t(c)].origin.compare(schema.key, Qt::CaseInsensitive) == 0) {
+                result.keyColumn = c;
+                result.keyName = schema.key;
+                break;
+            }
+        }
+        if (result.keyColumn < 0 && acceptsHiddenKey(translated)) {
+            // Read the key too, first, and keep it behind the visible columns. The name of
+            // the table may not reach the key (an alias); a savepoint keeps a refusal from
+            // spoiling a transaction.
+            const qsizetype after = translated.indexOf(QLatin1String("select"), 0, Qt::CaseInsensitive) + 6;
+            for (const QString& qualifier : QStringList {quoted(table) + u'.', QString()}) {
+                const QString keyed = translated.left(after) + u' ' + qualifier + quoted(schema.key) + u','
+                    + translated.mid(after);
+                if (m_depth > 0)
+                    runText(QStringLiteral("SAVEPOINT hidden_key"), sql);
+                Result keyedDescription = prepare(keyed);
+                const bool accepted
+                    = keyedDescription && PQresultStatus(keyedDescription.get()) == PGRES_COMMAND_OK;
+                if (m_depth > 0)
+                    runText(accepted ? QStringLiteral("RELEASE hidden_key")
+                                     : QStringLiteral("ROLLBACK TO hidden_key; RELEASE hidden_key"),
+                        sql);
+                if (!accepted)
+                    continue;
+                translated = keyed;
+                describe(keyedDescription.get(), result);
+                std::rotate(result.columns.begin(), result.columns.begin() + 1, result.columns.end());
+                result.keyColumn = result.visibleColumns;
+                result.keyName = schema.key;
+                keyFirst = true;
+                break;
+            }
+            if (!keyFirst) {
+                // The statement that was described last must be the one that runs.
+                description = prepare(translated);
+                if (!description || PQresultStatus(description.get()) != PGRES_COMMAND_OK)
+                    fail(description.get(), sql);
+            }
+        }
+    }
+
+    Result rows(PQexecPrepared(m_connection, "", 0, nullptr, nullptr, nullptr, 0));
+    if (!rows || PQresultStatus(rows.get()) != PGRES_TUPLES_OK)
+        fail(rows.get(), sql);
+    result.rows = RowStore(int(result.columns.size()));
+    // A hidden key came first from the server and goes behind the visible columns.
+    const int count = int(result.columns.size());
+    std::vector<int> order(static_cast<std::size_t>(count));
+    for (int c = 0; c < count; ++c)
+        order[std::size_t(c)] = keyFirst ? (c + 1) % count : c;
+    readRows(rows.get(), result, order);
+    return result;
+}
+
+void PostgresBackend::readRows(pg_result* rows, QueryResult& result, const std::vector<int>& order)
+{
+    RowStore& store = result.rows;
+    const int count = int(result.columns.size());
+    std::vector<Oid> types(static_cast<std::size_t>(count));
+    std::vector<int> source(static_cast<std::size_t>(count));
+    for (int c = 0; c < count; ++c) {
+        source[std::size_t(c)] = order[std::size_t(c)];
+        types[std::size_t(c)] = PQftype(rows, source[std::size_t(c)]);
+    }
+    const int rowCount = PQntuples(rows);
+    for (int r = 0; r < rowCount; ++r) {
+        for (int c = 0; c < count; ++c) {
+            const int s = source[std::size_t(c)];
+            if (PQgetisnull(rows, r, s)) {
+                store.addNull();
+                continue;
+            }
+            const char* text = PQgetvalue(rows, r, s);
+            const int size = PQgetlength(rows, r, s);
+            switch (types[std::size_t(c)]) {
+            case TypeId::Int2:
+            case TypeId::Int4:
+            case TypeId::Int8:
+            case TypeId::ObjectId: {
+                qint64 value = 0;
+                std::from_chars(text, text + size, value);
+                store.addInteger(value);
+                break;
+            }
+            case TypeId::Bool:
+                store.addInteger(*text == 't' ? -1 : 0);
+                break;
+            case TypeId::Float4:
+            case TypeId::Float8:
+            case TypeId::Numeric:
+                store.addReal(std::strtod(text, nullptr));
+                break;
+            case TypeId::Date:
+            case TypeId::Timestamp: {
+                qint64 julianDay = 0;
+                int msecs = 0;
+                bool hasTime = false;
+                if (!parseIsoBytes(text, std::size_t(size), julianDay, msecs, hasTime))
+                    store.addText(text, std::size_t(size));
+                else if (hasTime)
+                    store.addDateTime(julianDay, msecs);
+                else
+                    store.addDate(julianDay);
+                break;
+            }
+            case TypeId::Bytea: {
+                const QByteArray bytes = hexBytes(text, size);
+                store.addBlob(bytes.constData(), std::size_t(bytes.size()));
+                break;
+            }
+            default:
+                store.addText(text, std::size_t(size));
+                break;
+            }
+        }
+    }
+}
+
+const TableSchema& PostgresBackend::tableSchema(const QString& table)
+{
+    names();
+    auto found = m_relations.find(table.toLower());
+    if (found == m_relations.end()) {
+        loadCatalog();
+        found = m_relations.find(table.toLower());
+    }
+    if (found == m_relations.end())
+        throwError(ErrorNumber::CommandFailed, QStringLiteral("The register has no table '") + table + u'\'',
+            ConnectionSource);
+    return found->second.schema;
+}
+
+std::vector<QByteArray> PostgresBackend::textParameters(const QVariantList& values)
+{
+    std::vector<QByteArray> parameters;
+    parameters.reserve(std::size_t(values.size()));
+    for (const QVariant& value : values) {
+        if (!value.isValid() || value.isNull()) {
+            parameters.emplace_back();
+            continue;
+        }
+        switch (value.typeId()) {
+        case QMetaType::Bool:
+            parameters.push_back(value.toBool() ? "-1" : "0");
+            break;
+        case QMetaType::QDate:
+            parameters.push_back(isoText(value.toDate()).toUtf8());
+            break;
+        case QMetaType::QDateTime:
+            parameters.push_back(isoText(value.toDateTime()).toUtf8());
+            break;
+        case QMetaType::QByteArray:
+            parameters.push_back("\\x" + value.toByteArray().toHex());
+            break;
+        default:
+            // A value is never Null by its text: an empty text stays empty.
+            parameters.push_back(value.toString().toUtf8());
+            if (parameters.back().isNull())
+                parameters.back() = QByteArray("");
+            break;
+        }
+    }
+    return parameters;
+}
+
+QVariant PostgresBackend::insertRow(
+    const TableSchema& table, const QStringList& columns, const QVariantList& values)
+{
+    QString sql = QStringLiteral("INSERT INTO ") + quoted(table.name);
+    if (columns.isEmpty()) {
+        sql += QStringLiteral(" DEFAULT VALUES");
+    } else {
+        QStringList names;
+        QStringList places;
+        for (qsizetype i = 0; i < columns.size(); ++i) {
+            names << quoted(columns[i]);
+            places << u'$' + QString::number(i + 1);
+        }
+        sql += QStringLiteral(" (") + names.join(u',') + QStringLiteral(") VALUES (") + places.join(u',')
+            + u')';
+    }
+    qsizetype given = -1;
+    for (qsizetype i = 0; i < columns.size(); ++i) {
+        if (columns[i].compare(table.key, Qt::CaseInsensitive) == 0)
+            given = i;
+    }
+    if (given >= 0 && !values[given].isNull()) {
+        run(sql.toUtf8(), textParameters(values), sql);
+        noteExplicitKey(table);
+        return values[given];
+    }
+    sql += QStringLiteral(" RETURNING ") + quoted(table.key);
+    const Result result = run(sql.toUtf8(), textParameters(values), sql);
+    if (table.key == QLatin1String("ctid"))
+        return QString::fromUtf8(PQgetvalue(result.get(), 0, 0));
+    return QVariant(qint64(std::strtoll(PQgetvalue(result.get(), 0, 0), nullptr, 10)));
+}
+
+void PostgresBackend::updateRow(const TableSchema& table, const QString& keyName, const QVariant& key,
+    const QStringList& columns, const QVariantList& values)
+{
+    if (columns.isEmpty())
+        return;
+    QStringList assignments;
+    for (qsizetype i = 0; i < columns.size(); ++i)
+        assignments << quoted(columns[i]) + QStringLiteral("=$") + QString::number(i + 1);
+    const QString sql = QStringLiteral("UPDATE ") + quoted(table.name) + QStringLiteral(" SET ")
+        + assignments.join(u',') + QStringLiteral(" WHERE ") + quoted(keyName) + QStringLiteral("=$")
+        + QString::number(columns.size() + 1);
+    QVariantList parameters = values;
+    parameters << key;
+    const Result result = run(sql.toUtf8(), textParameters(parameters), sql);
+    if (qstrcmp(PQcmdTuples(result.get()), "0") == 0)
+        throwError(ErrorNumber::CommandFailed,
+            QStringLiteral("Row cannot be located for updating: another user may have deleted it (")
+                + table.name + u' ' + keyName + u'=' + key.toString() + u')',
+            ConnectionSource);
+}
+
+void PostgresBackend::deleteRow(const TableSchema& table, const QString& keyName, const QVariant& key)
+{
+    const QString sql = QStringLiteral("DELETE FROM ") + quoted(table.name) + QStringLiteral(" WHERE ")
+        + quoted(keyName) + QStringLiteral("=$1");
+    run(sql.toUtf8(), textParameters({key}), sql);
+}
+
+void PostgresBackend::beginTransaction()
+{
+    const QString sql = m_depth == 0 ? QStringLiteral("BEGIN")
+                                     : QStringLiteral("SAVEPOINT level") + QString::number(m_depth);
+    runText(sql, sql);
+    ++m_depth;
+}
+
+void PostgresBackend::commitTransaction()
+{
+    if (m_depth == 0)
+        throwError(ErrorNumber::CommandFailed, QStringLiteral("There is no transaction to commit."),
+            ConnectionSource);
+    if (m_depth == 1)
+        advanceKeyGenerators();
+    const QString sql = m_depth == 1 ? QStringLiteral("COMMIT")
+                                     : QStringLiteral("RELEASE level") + QString::number(m_depth - 1);
+    runText(sql, sql);
+    --m_depth;
+}
+
+void PostgresBackend::rollbackTransaction()
+{
+    if (m_depth == 0)
+        throwError(ErrorNumber::CommandFailed, QStringLiteral("There is no transaction to roll back."),
+            ConnectionSource);
+    const QString sql = m_depth == 1
+        ? QStringLiteral("ROLLBACK")
+        : QStringLiteral("ROLLBACK TO level%1; RELEASE level%1").arg(m_depth - 1);
+    --m_depth;
+    if (m_depth == 0)
+        m_explicitKeys.clear();
+    // A schema change may have been undone.
+    m_catalogLoaded = false;
+    runText(sql, sql);
+}
+
+} // namespace kartella::engine

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "store/engine/Backend.h"
+#include "store/engine/JetDialect.h"
+
+#include <QHash>
+#include <QSet>
+
+#include <map>
+#include <memory>
+
+struct pg_conn;
+struct pg_result;
+
+namespace kartella::engine {
+
+// The server back end: a register in a PostgreSQL database, reached through libpq. The
+// location is a URI, postgresql://user@host:port/database; the password comes from libpq's
+// own sources (~/.pgpass, PGPASSWORD), never from the location. Statements in Jet's dialect
+// are translated for PostgreSQL (see JetDialect.h) against the names the database declares.
+class PostgresBackend final : public Backend
+{
+public:
+    // Connects, waiting at most ConnectTimeoutSeconds for the server unless the location
+    // sets connect_timeout itself. A database without tables opens, for the schema to be
+    // made in it; one with tables but no tbl_Documents is refused. Throws
+    // ErrorNumber::ConnectionFailed.
+    static std::unique_ptr<PostgresBackend> open(const QString& location);
+    ~PostgresBackend() override;
+
+    static constexpr int ConnectTimeoutSeconds = 5;
+    // How long a statement waits for a row another program holds locked.
+    static constexpr int LockTimeoutMs = 10000;
+
+    SqlDialect dialect() const override { return SqlDialect::PostgreSql; }
+    void execute(const QString& sql) override;
+    QueryResult query(const QString& sql) override;
+    const TableSchema& tableSchema(const QString& table) override;
+    QVariant insertRow(
+        const TableSchema& table, const QStringList& columns, const QVariantList& values) override;
+    void updateRow(const TableSchema& table, const QString& keyName, const QVariant& key,
+        const QStringList& columns, const QVariantList& values) override;
+    void deleteRow(const TableSchema& table, const QString& keyName, const QVariant& key) override;
+    void beginTransaction() override;
+    void commitTransaction() override;
+    void rollbackTransaction() override;
+
+private:
+    explicit PostgresBackend(pg_conn* connection, QString location);
+
+    // A result that clears itself.
+    struct ResultDeleter
+    {
+        void operator()(pg_result* result) const;
+    };
+    using Result = std::unique_ptr<pg_result, ResultDeleter>;
+
+    // A relation of the current schema: its columns by attribute number.
+    struct Relation
+    {
+        TableSchema schema;
+        std::map<int, QString> columnsByNumber;
+    };
+
+    // Runs server SQL as it stands, with text parameters (nullptr for Null); throws on failure.
+    Result run(const QByteArray& sql, const std::vector<QByteArray>& parameters, const QString& shownSql);
+    Result runText(const QString& sql, const QString& shownSql);
+    [[noreturn]] void fail(pg_result* result, const QString& shownSql) const;
+    void reconnectIfLost();
+
+    void loadCatalog();
+    const ServerNames& names();
+    QString translate(const QString& sql);
+    // The statement's table when it is an INSERT, for the key generators to follow.
+    void noteInsert(const QString& translatedSql);
+    void noteExplicitKey(const TableSchema& table);
+    void advanceKeyGenerators();
+
+    static std::vector<QByteArray> textParameters(const QVariantList& values);
+    void describe(pg_result* description, QueryResult& result);
+    void readRows(pg_result* rows, QueryResult& result, const std::vector<int>& order);
+
+    pg_conn* m_connection;
+    QString m_location;
+    int m_depth = 0;
+    bool m_catalogLoaded = false;
+    ServerNames m_names;
+    std::map<QString, Relation> m_relations; // by lower-case name
+    QHash<unsigned, QString> m_relationByOid; // lower-case name
+    QSet<QString> m_explicitKeys; // lower-case names of tables written with keys given
+};
+
+} // namespace kartella::engine
