@@ -1,4 +1,4 @@
-# kartella_add_test(<area> SOURCES <files...> [LIBS <targets...>] [GUI])
+# kartella_add_test(<area> SOURCES <files...> [LIBS <targets...>] [GUI] [TIMEOUT <seconds>])
 #
 # Adds one QtTest executable tst_<area> and registers it with ctest. Each test runs
 # offscreen with its own XDG_CONFIG_HOME and HOME under the build tree, so it never
@@ -15,14 +15,44 @@ function(kartella_add_test area)
         list(APPEND libs Qt6::Widgets)
     endif()
     target_link_libraries(${target} PRIVATE ${ARG_LIBS} ${libs})
-    set(home ${CMAKE_CURRENT_BINARY_DIR}/${target}.home)
-    file(MAKE_DIRECTORY ${home}/config)
-    add_test(NAME ${area} COMMAND ${target})
-    if(NOT ARG_TIMEOUT)
-        set(ARG_TIMEOUT 600)
+    _kartella_register_test(${area} ${target} ${CMAKE_CURRENT_BINARY_DIR}/${target}.home "${ARG_TIMEOUT}")
+endfunction()
+
+# kartella_add_test_run(<name> <area> [TIMEOUT <seconds>] [SKIP_RETURN_CODE <code>]
+#                       [ENVIRONMENT <VAR=value>...])
+#
+# Registers tst_<area> a second time, as the ctest test <name>: with a HOME of its own, the
+# private environment of kartella_add_test and the given variables besides. An exit status of
+# SKIP_RETURN_CODE reports the run as skipped. Variables the environment sets are not cleared
+# (ctest passes its own environment on), so KARTELLA_TEST_POSTGRESQL reaches every test.
+function(kartella_add_test_run name area)
+    cmake_parse_arguments(ARG "" "TIMEOUT;SKIP_RETURN_CODE" "ENVIRONMENT" ${ARGN})
+    set(target tst_${area})
+    _kartella_register_test(${name} ${target} ${CMAKE_CURRENT_BINARY_DIR}/${target}.${name}.home
+        "${ARG_TIMEOUT}" ${ARG_ENVIRONMENT})
+    if(DEFINED ARG_SKIP_RETURN_CODE)
+        set_tests_properties(${name} PROPERTIES SKIP_RETURN_CODE ${ARG_SKIP_RETURN_CODE})
     endif()
-    set_tests_properties(${area} PROPERTIES
-        TIMEOUT ${ARG_TIMEOUT}
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;KARTELLA_DATA_DIR=${PROJECT_SOURCE_DIR}/share;XDG_CONFIG_HOME=${home}/config;HOME=${home};LC_ALL=C.UTF-8;QT_LOGGING_RULES=qt.qpa.*=false"
+endfunction()
+
+# Adds the ctest test <name> running <target> in <home>, with the environment every test gets
+# and the VAR=value arguments after <timeout> besides.
+function(_kartella_register_test name target home timeout)
+    file(MAKE_DIRECTORY ${home}/config)
+    add_test(NAME ${name} COMMAND ${target})
+    if(NOT timeout)
+        set(timeout 600)
+    endif()
+    set(environment
+        QT_QPA_PLATFORM=offscreen
+        KARTELLA_DATA_DIR=${PROJECT_SOURCE_DIR}/share
+        XDG_CONFIG_HOME=${home}/config
+        HOME=${home}
+        LC_ALL=C.UTF-8
+        QT_LOGGING_RULES=qt.qpa.*=false
+        ${ARGN})
+    set_tests_properties(${name} PROPERTIES
+        TIMEOUT ${timeout}
+        ENVIRONMENT "${environment}"
         WORKING_DIRECTORY ${home})
 endfunction()
