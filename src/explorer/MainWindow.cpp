@@ -15,7 +15,6 @@
 #include "platform/Prompter.h"
 #include "store/DefaultRegister.h"
 #include "store/Schema.h"
-#include "store/engine/Connection.h"
 #include "store/engine/SqliteBackend.h"
 #include "support/BusyCursor.h"
 #include "support/SelectionState.h"
@@ -205,12 +204,9 @@ void MainWindow::load()
     const engine::OpeningWait shortWait(StartLockWaitMs);
     // 1. A register file that isn't there gives way to the default one. A register on a
     // server is opened as it stands: it is never replaced, created or looked for on disk.
-    const QString written = getRegValue(QStringLiteral("DbLocation"));
-    if (!isServerLocation(written)) {
-        if (registerLocationMissing(written))
-            setRegValue(QStringLiteral("Dblocation"), defaultDbLocation());
-        offerDefaultRegister();
-    }
+    if (registerLocationMissing(getRegValue(QStringLiteral("DbLocation"))))
+        setRegValue(QStringLiteral("Dblocation"), defaultDbLocation());
+    offerDefaultRegister();
     // 2. The source panel, with the location as the options hold it.
     const QString location = getRegValue(QStringLiteral("DbLocation"));
     m_source->setText(sourcePanelText(location));
