@@ -13,6 +13,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -496,6 +497,58 @@ private Q_SLOTS:
         QCOMPARE(window.findChild<QLabel*>("pnSource")->text(), "Source : " + reg.path() + "   ");
         QCOMPARE(prompter.prompts().size(), 1);
         QVERIFY(prompter.allAnswered());
+    }
+
+    // A change to a server that can't be reached: the source panel shows the location as
+    // typed, the rebuilt tree fails with the connection message and the settings open
+    // again modally, with no busy pointer over either.
+    void unreachableServerAfterAChange()
+    {
+        TestRegister reg;
+        ScriptedPrompter prompter;
+        reg.insert("tbl_Document_Categories", {{"DokKategorija", "Alpha"}});
+        MainWindow window;
+        window.show();
+        window.load();
+        QCOMPARE(categoryNodeTexts(window), QStringList({"Alpha"}));
+
+        window.action("mnuOptions")->trigger();
+        auto* dialog = window.findChild<SettingsDialog*>("frmSettings");
+        QVERIFY(dialog);
+        auto* box = dialog->findChild<QLineEdit*>("txtDbLocation");
+        const QString server = "postgresql://nobody@127.0.0.1:1/none";
+        box->setFocus();
+        box->selectAll();
+        QTest::keyClicks(box, server);
+        prompter.answer(MsgBoxResult::Ok);
+        bool reopened = false;
+        bool busy = true;
+        QString shownAgain;
+        // The settings come back modally from inside the refresh: answered from a timer.
+        QTimer watch;
+        watch.setInterval(10);
+        connect(&watch, &QTimer::timeout, this, [&] {
+            auto* again = qobject_cast<SettingsDialog*>(QApplication::activeModalWidget());
+            if (!again)
+                return;
+            watch.stop();
+            reopened = true;
+            busy = QGuiApplication::overrideCursor() != nullptr;
+            shownAgain = again->findChild<QLineEdit*>("txtDbLocation")->text();
+            QTest::mouseClick(again->findChild<QPushButton*>("btnCancel"), Qt::LeftButton);
+        });
+        watch.start();
+        QTest::keyClick(box, Qt::Key_Return);
+        QTRY_VERIFY(reopened);
+        QVERIFY(!busy);
+        QCOMPARE(shownAgain, server);
+        QCOMPARE(getRegValue("DbLocation"), server);
+        QCOMPARE(window.findChild<QLabel*>("pnSource")->text(), "Source : " + server + "   ");
+        QCOMPARE(prompter.prompts().size(), 1);
+        QCOMPARE(prompter.prompts().first().title, "Connection to database error:");
+        QVERIFY(prompter.prompts().first().text.startsWith("Error: -2147467259 "));
+        QCOMPARE(window.tree()->nodeCount(), 0);
+        QVERIFY(!QGuiApplication::overrideCursor());
     }
 
     // A register on a server is typed into the location box and stored as typed, with no
