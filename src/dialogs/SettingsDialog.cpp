@@ -63,6 +63,14 @@ int indexOption(const char* name)
     }
 }
 
+// How a register on a server is written, under the location box.
+QString serverLocationHint()
+{
+    return QStringLiteral("A register on a PostgreSQL server: postgresql://user@host:port/database. "
+                          "Its password comes from ")
+        + serverPasswordFileName() + QStringLiteral(" or PGPASSWORD, never from these settings.");
+}
+
 void selectButton(QButtonGroup* group, int id)
 {
     if (QAbstractButton* button = group->button(id))
@@ -226,11 +234,18 @@ QWidget* SettingsDialog::buildDatabaseTab()
     m_dbType->setInsertPolicy(QComboBox::NoInsert);
     m_dbType->addItems({QStringLiteral("MS Access 2000"), QStringLiteral("MS Access 97")});
     m_dbType->setCurrentIndex(-1);
-    m_dbLocation = addTextBox(QStringLiteral("txtDbLocation"), QStringLiteral("Database file"));
+    m_dbLocation = addTextBox(QStringLiteral("txtDbLocation"), QStringLiteral("Register location"));
     auto* choose = new QPushButton(QStringLiteral("Database File"), page);
     choose->setObjectName(QStringLiteral("btnDbName"));
     choose->setAutoDefault(false);
     connect(choose, &QPushButton::clicked, this, &SettingsDialog::chooseDatabaseFile);
+
+    // A register file is chosen with the button or typed; one on a server is typed.
+    auto* serverHint = new QLabel(serverLocationHint(), page);
+    serverHint->setObjectName(QStringLiteral("lblServerLocation"));
+    serverHint->setWordWrap(true);
+    serverHint->setTextFormat(Qt::PlainText);
+    m_dbLocation->setAccessibleDescription(serverHint->text());
 
     auto* locationRow = new QHBoxLayout;
     locationRow->addWidget(m_dbLocation, 1);
@@ -239,6 +254,7 @@ QWidget* SettingsDialog::buildDatabaseTab()
     layout->addWidget(makeLabel(QStringLiteral("Label1"), QStringLiteral("Database Type:"), m_dbType, page));
     layout->addWidget(m_dbType);
     layout->addLayout(locationRow);
+    layout->addWidget(serverHint);
     layout->addStretch(1);
     return page;
 }
@@ -390,8 +406,24 @@ void SettingsDialog::chooseDatabaseFile()
         m_dbLocation->setText(file);
 }
 
+bool SettingsDialog::refusePasswordInLocation()
+{
+    if (!serverLocationHoldsPassword(m_dbLocation->text()))
+        return false;
+    msgBox(QStringLiteral("The register location holds a password. It is not stored, since the "
+                          "settings file would keep it for anyone to read.\r\rWrite the location "
+                          "without it (postgresql://user@host:port/database) and put the password in ")
+            + serverPasswordFileName() + QStringLiteral(" or in the environment variable PGPASSWORD."),
+        MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation, windowTitle());
+    m_tabs->setCurrentWidget(m_dbLocation->parentWidget());
+    m_dbLocation->setFocus();
+    return true;
+}
+
 void SettingsDialog::save()
 {
+    if (refusePasswordInLocation())
+        return;
     ConfirmedSettings settings;
     settings.defaultFolder = m_defaultFolder->text();
     settings.filterByDate = m_filterByDate->isChecked();

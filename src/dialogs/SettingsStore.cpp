@@ -2,8 +2,10 @@
 
 #include "options/OptionStore.h"
 #include "registration/ValueConversions.h"
+#include "store/engine/Connection.h"
 
 #include <QStringList>
+#include <QUrl>
 
 namespace kartella {
 
@@ -64,6 +66,44 @@ bool writeConfirmedSettings(const ConfirmedSettings& settings)
 QString sourcePanelText(const QString& dbLocation)
 {
     return QStringLiteral("Source : ") + dbLocation + QStringLiteral("   ");
+}
+
+bool serverLocationHoldsPassword(const QString& location)
+{
+    if (!isServerLocation(location))
+        return false;
+    const QString text = location.trimmed();
+    const qsizetype start = text.indexOf(QLatin1String("://")) + 3;
+    qsizetype hostEnd = start;
+    while (hostEnd < text.size() && text[hostEnd] != u'/' && text[hostEnd] != u'?')
+        ++hostEnd;
+    // user[:password]@host[:port]: the user part ends at the first "@", as the client reads it.
+    const QStringView hosts = QStringView(text).mid(start, hostEnd - start);
+    const qsizetype at = hosts.indexOf(u'@');
+    const qsizetype colon = at < 0 ? -1 : hosts.left(at).indexOf(u':');
+    if (colon >= 0 && colon + 1 < at)
+        return true;
+    const qsizetype query = text.indexOf(u'?', start);
+    if (query < 0)
+        return false;
+    for (const QString& parameter : text.mid(query + 1).split(u'&')) {
+        const qsizetype eq = parameter.indexOf(u'=');
+        const QString name
+            = QUrl::fromPercentEncoding(parameter.left(eq < 0 ? parameter.size() : eq).toUtf8());
+        if (name.trimmed().compare(QLatin1String("password"), Qt::CaseInsensitive) == 0 && eq >= 0
+            && eq + 1 < parameter.size())
+            return true;
+    }
+    return false;
+}
+
+QString serverPasswordFileName()
+{
+#ifdef Q_OS_WIN
+    return QStringLiteral("%APPDATA%\\postgresql\\pgpass.conf");
+#else
+    return QStringLiteral("~/.pgpass");
+#endif
 }
 
 } // namespace kartella

@@ -1,6 +1,7 @@
 #include "explorer/MainWindow.h"
 
 #include "base/Error.h"
+#include "dialogs/SettingsStore.h"
 #include "explorer/DocumentFills.h"
 #include "explorer/DocumentQueries.h"
 #include "explorer/ExplorerList.h"
@@ -185,6 +186,7 @@ void MainWindow::offerDefaultRegister()
     if (answer != MsgBoxResult::Yes)
         return;
     try {
+        const BusyCursor busy;
         QDir().mkpath(QFileInfo(location).absolutePath());
         createRegister(location);
     } catch (const Error& error) {
@@ -197,19 +199,21 @@ void MainWindow::load()
 {
     m_loading = true;
     // A register locked by another program is reported after a few seconds, not after
-    // the full wait of every statement; the window shows the busy pointer meanwhile.
-    const BusyCursor busy;
+    // the full wait of every statement. Each step that opens the register shows the busy
+    // pointer while it works; the questions and messages between them show the normal one.
     const engine::OpeningWait shortWait(StartLockWaitMs);
-    // 1. A register that isn't there gives way to the default one.
-    if (!fileFound(getRegValue(QStringLiteral("DbLocation"))))
+    // 1. A register file that isn't there gives way to the default one. A register on a
+    // server is opened as it stands: it is never replaced, created or looked for on disk.
+    if (registerLocationMissing(getRegValue(QStringLiteral("DbLocation"))))
         setRegValue(QStringLiteral("Dblocation"), defaultDbLocation());
     offerDefaultRegister();
-    // 2. The source panel.
-    m_source->setText(
-        QStringLiteral("Source : ") + getRegValue(QStringLiteral("DbLocation")) + QStringLiteral("   "));
+    // 2. The source panel, with the location as the options hold it.
+    const QString location = getRegValue(QStringLiteral("DbLocation"));
+    m_source->setText(sourcePanelText(location));
     // Before any fill: a register of an earlier version is upgraded if the user agrees, and
-    // otherwise counts as one that can't be opened.
-    const std::optional<Error> refused = offerRegisterUpgrade(getRegValue(QStringLiteral("DbLocation")));
+    // otherwise counts as one that can't be opened. So does a server that can't be reached,
+    // so that the start waits for it once rather than at every fill.
+    const std::optional<Error> refused = offerRegisterUpgrade(location);
     // 4. This month, from its first day to the first day of the next.
     const QDate today = Clock::currentDate();
     const QDate first(today.year(), today.month(), 1);

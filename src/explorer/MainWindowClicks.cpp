@@ -8,6 +8,7 @@
 #include "explorer/RelatedFill.h"
 #include "explorer/TreeFills.h"
 #include "options/OptionStore.h"
+#include "store/engine/Connection.h"
 #include "support/BusyCursor.h"
 #include "support/SelectionState.h"
 
@@ -21,9 +22,11 @@ void MainWindow::fillCategoryTree()
 {
     try {
         const BusyCursor busy;
-        // A database file opens empty where there is nothing in it; it is no register.
-        const QFileInfo location(getRegValue(QStringLiteral("DbLocation")));
-        if (location.isFile() && location.size() == 0)
+        // A database file opens empty where there is nothing in it; it is no register. A
+        // location on a server names no file.
+        const QString written = getRegValue(QStringLiteral("DbLocation"));
+        const QFileInfo location(written);
+        if (!isServerLocation(written) && location.isFile() && location.size() == 0)
             throw Error(ErrorNumber::ConnectionFailed,
                 QStringLiteral("'") + location.filePath()
                     + QStringLiteral("' is not a register: the file is empty."));

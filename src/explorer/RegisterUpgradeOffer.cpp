@@ -2,18 +2,22 @@
 
 #include "platform/Prompter.h"
 #include "store/SchemaSteps.h"
-
-#include <QCursor>
-#include <QGuiApplication>
+#include "store/engine/Connection.h"
+#include "support/BusyCursor.h"
 
 namespace kartella {
 
 std::optional<Error> offerRegisterUpgrade(const QString& path)
 {
     try {
+        const BusyCursor busy;
         if (!registerNeedsUpgrade(path))
             return std::nullopt;
-    } catch (const Error&) {
+    } catch (const Error& error) {
+        // A register file that can't be read is reported by the first fill; a server that
+        // can't be reached is reported now, as one more try would only wait for it again.
+        if (isServerLocation(path) && error.number() == ErrorNumber::ConnectionFailed)
+            return error;
         return std::nullopt;
     }
     const int answer = msgBox(QStringLiteral("The register \"") + path
@@ -25,12 +29,10 @@ std::optional<Error> offerRegisterUpgrade(const QString& path)
             QStringLiteral("The register \"") + path
                 + QStringLiteral("\" was made by an earlier version of Kartella and was not upgraded. "
                                  "Upgrade it, or choose another register."));
-    QGuiApplication::setOverrideCursor(QCursor(Qt::WaitCursor));
     try {
+        const BusyCursor busy;
         upgradeRegister(path);
-        QGuiApplication::restoreOverrideCursor();
     } catch (const Error& error) {
-        QGuiApplication::restoreOverrideCursor();
         return Error(ErrorNumber::ConnectionFailed,
             QStringLiteral("The register \"") + path
                 + QStringLiteral("\" could not be upgraded; it is left as it was. ") + error.description());

@@ -5,6 +5,7 @@
 #include "store/DueReminders.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
+#include "support/BusyCursor.h"
 
 #include <QAction>
 #include <QLabel>
@@ -52,6 +53,7 @@ RemindersCommand::RemindersCommand(QMainWindow* window)
 int RemindersCommand::recount()
 {
     try {
+        const BusyCursor busy;
         Connection connection;
         connection.open(plainConnectionString());
         m_count = int(dueReminders(connection, today()).size());

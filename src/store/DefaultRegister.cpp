@@ -1,5 +1,7 @@
 #include "store/DefaultRegister.h"
 
+#include "store/engine/Connection.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -40,6 +42,13 @@ QString defaultRegisterPath()
 bool defaultRegisterInDataFolder()
 {
     return !programFolderWritable();
+}
+
+bool registerLocationMissing(const QString& location)
+{
+    if (isServerLocation(location))
+        return false;
+    return location.isEmpty() || !QFileInfo::exists(location);
 }
 
 void setProgramFolderWritableCheck(std::function<bool()> check)

@@ -2,6 +2,7 @@
 #include "explorer/ListModel.h"
 #include "explorer/MainWindow.h"
 #include "explorer/NavigationTree.h"
+#include "explorer/RegisterUpgradeOffer.h"
 #include "harness/OldRegister.h"
 #include "harness/ScriptedPrompter.h"
 #include "harness/TestRegister.h"
@@ -12,6 +13,7 @@
 #include "store/engine/Recordset.h"
 
 #include <QFile>
+#include <QGuiApplication>
 #include <QTest>
 #include <QTreeWidgetItem>
 
@@ -102,6 +104,38 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.readAll(), before);
         QCOMPARE(getRegValue("DbLocation"), path);
+    }
+
+    // A register file that can't be read is left to the first fill to report; a server
+    // that can't be reached is reported by the offer itself, so that the start doesn't
+    // wait for it again at every fill. No question either way.
+    void unopenedRegisterWithoutQuestion_data()
+    {
+        QTest::addColumn<QString>("location"); // relative to the test's folder, or a server
+        QTest::addColumn<bool>("reported");
+        QTest::newRow("missing file") << "nowhere/Kartella.mdb" << false;
+        QTest::newRow("file that is no register") << "Junk.mdb" << false;
+        QTest::newRow("unreachable server") << "postgresql://nobody@127.0.0.1:1/none" << true;
+        QTest::newRow("unreachable server, postgres://") << "postgres://nobody@127.0.0.1:1/none" << true;
+    }
+
+    void unopenedRegisterWithoutQuestion()
+    {
+        QFETCH(QString, location);
+        QFETCH(bool, reported);
+        TestRegister reg;
+        if (!isServerLocation(location)) {
+            location = reg.dir() + "/" + location;
+            QFile junk(reg.dir() + "/Junk.mdb");
+            QVERIFY(junk.open(QIODevice::WriteOnly));
+            junk.write("not a register");
+        }
+        ScriptedPrompter prompter; // fails on any prompt
+        const std::optional<Error> refused = offerRegisterUpgrade(location);
+        QCOMPARE(refused.has_value(), reported);
+        if (refused)
+            QCOMPARE(refused->number(), ErrorNumber::ConnectionFailed);
+        QVERIFY(!QGuiApplication::overrideCursor());
     }
 
     void currentRegisterOpensWithoutQuestion()
