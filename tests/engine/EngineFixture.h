@@ -33,6 +33,10 @@ public:
 
     // The value of the first row's first column of a SELECT.
     QVariant scalar(const QString& sql);
+    // The first column of every row of a SELECT, joined by ",", Null as "-".
+    QString joined(const QString& sql);
+    // A table of no use to the program, with a key the database makes: (id, name NOT NULL).
+    void createStrictTable();
 
 private:
     QTemporaryDir m_dir;

@@ -16,10 +16,7 @@ const QString Contacts
 
 QString names(EngineRegister& reg)
 {
-    return reg
-        .scalar(
-            "SELECT group_concat(FullName, ',') FROM (SELECT FullName FROM tbl_Contacts ORDER BY ContactID)")
-        .toString();
+    return reg.joined("SELECT FullName FROM tbl_Contacts ORDER BY ContactID");
 }
 
 long errorOf(const std::function<void()>& action, QString* description = nullptr)
@@ -205,6 +202,9 @@ private Q_SLOTS:
         }
         QCOMPARE(error, 0L);
         recordset.update();
+        // A server's date column keeps the day of a time given.
+        if (reg.onServer() && stored.typeId() == QMetaType::QString)
+            stored = stored.toString().left(10);
         QCOMPARE(
             reg.scalar("SELECT CAST(DokRegistracData AS TEXT) FROM tbl_Documents WHERE RastasID=1"), stored);
         recordset.requery();
@@ -245,8 +245,8 @@ private Q_SLOTS:
         recordset.update();
         recordset.moveNext();
         recordset.deleteRecord();
-        QCOMPARE(reg.scalar("SELECT group_concat(SubRastasID || ':' || RastasID) FROM tbl_Sub_Documents")
-                     .toString(),
+        QCOMPARE(
+            reg.joined("SELECT SubRastasID || ':' || RastasID FROM tbl_Sub_Documents ORDER BY SubRastasID"),
             QString("1:2"));
     }
 
@@ -325,7 +325,7 @@ private Q_SLOTS:
     void refusedBatchLeavesDataIntact()
     {
         EngineRegister reg;
-        reg.execute("CREATE TABLE strict (id INTEGER PRIMARY KEY AUTOINCREMENT, name TEXT NOT NULL)");
+        reg.createStrictTable();
         Recordset recordset;
         recordset.open("SELECT id, name FROM strict", reg.connection(), CursorTypeEnum::Static,
             LockTypeEnum::BatchOptimistic);
@@ -334,14 +334,16 @@ private Q_SLOTS:
         recordset.addNew();
         QString description;
         QCOMPARE(errorOf([&] { recordset.updateBatch(); }, &description), ErrorNumber::CommandFailed);
-        QVERIFY2(description.contains("NOT NULL"), qPrintable(description));
+        QVERIFY2(description.contains("NOT NULL") || description.contains("not-null constraint"),
+            qPrintable(description));
         QCOMPARE(reg.scalar("SELECT count(*) FROM strict").toInt(), 0);
         QVERIFY(recordset.hasPendingChanges());
         QVERIFY(isNull(recordset.collect("id")));
         recordset.fields("name").setValue("second");
         recordset.updateBatch();
-        QCOMPARE(
-            reg.scalar("SELECT group_concat(id || name) FROM strict").toString(), QString("1first,2second"));
+        // A server's key generator doesn't go back with the refused rows: the keys may skip.
+        QCOMPARE(reg.joined("SELECT name FROM strict ORDER BY id"), QString("first,second"));
+        QCOMPARE(reg.scalar("SELECT count(DISTINCT id) FROM strict").toInt(), 2);
 
         // An immediate Update that fails keeps the edit.
         recordset.close();
@@ -352,7 +354,10 @@ private Q_SLOTS:
         QCOMPARE(recordset.editMode(), int(EditModeEnum::Add));
         recordset.fields("name").setValue("third");
         recordset.update();
-        QCOMPARE(recordset.collect("id").toInt(), 3);
+        QCOMPARE(
+            reg.scalar("SELECT name FROM strict WHERE id = " + recordset.collect("id").toString()).toString(),
+            QString("third"));
+        QCOMPARE(reg.scalar("SELECT count(DISTINCT id) FROM strict").toInt(), 3);
     }
 };
 

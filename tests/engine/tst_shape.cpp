@@ -20,10 +20,7 @@ const QString NewDocumentShape = QStringLiteral(
 
 QString reminders(EngineRegister& reg)
 {
-    return reg
-        .scalar("SELECT group_concat(RastasID || ':' || TicklerText, ',') FROM (SELECT * FROM tbl_Tickler "
-                "ORDER BY TicklerID)")
-        .toString();
+    return reg.joined("SELECT RastasID || ':' || TicklerText FROM tbl_Tickler ORDER BY TicklerID");
 }
 
 } // namespace
@@ -184,8 +181,7 @@ private Q_SLOTS:
         child->fields("TicklerText").setValue("Old note");
         parent.moveLast();
         parent.updateBatch(AffectEnum::Current);
-        QCOMPARE(
-            reg.scalar("SELECT group_concat(DokAntraste) FROM tbl_Documents WHERE RastasID > 3").toString(),
+        QCOMPARE(reg.joined("SELECT DokAntraste FROM tbl_Documents WHERE RastasID > 3 ORDER BY RastasID"),
             QString("B"));
         QCOMPARE(reminders(reg), QString("1:Call,1:Write,4:B note"));
         QVERIFY(parent.hasPendingChanges());
@@ -351,7 +347,7 @@ private Q_SLOTS:
             << "select * from tbl_Tickler where TicklerText='x' order by 1"
             << "RastasID=-2"
             << "SELECT * FROM (select * from tbl_Tickler where TicklerText='x' "
-               "order by 1) WHERE RastasID=-2";
+               "order by 1) AS narrowed WHERE RastasID=-2";
         QTest::newRow("not a key filter") << "tbl_Documents"
                                           << "RastasID>5"
                                           << "SELECT * FROM \"tbl_Documents\"";

@@ -501,7 +501,8 @@ void PostgresBackend::readRows(pg_result* rows, QueryResult& result, const std::
                 break;
             }
             case TypeId::Bool:
-                store.addInteger(*text == 't' ? -1 : 0);
+                // As SQLite gives a comparison's truth.
+                store.addInteger(*text == 't' ? 1 : 0);
                 break;
             case TypeId::Float4:
             case TypeId::Float8:

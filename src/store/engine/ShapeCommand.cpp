@@ -228,7 +228,7 @@ QString restrictedSelect(const QString& source, const QString& condition)
         QStringLiteral("\\b(where|group|order|union|having|limit|join)\\b"),
         QRegularExpression::CaseInsensitiveOption);
     if (sql.contains(clauses))
-        return QStringLiteral("SELECT * FROM (") + sql + QStringLiteral(") WHERE ") + condition;
+        return QStringLiteral("SELECT * FROM (") + sql + QStringLiteral(") AS narrowed WHERE ") + condition;
     return sql + QStringLiteral(" WHERE ") + condition;
 }
 
