@@ -11,6 +11,7 @@ int runRecordsetTest(int argc, char** argv);
 int runEditTest(int argc, char** argv);
 int runShapeTest(int argc, char** argv);
 int runStatementsTest(int argc, char** argv);
+int runConcurrencyTest(int argc, char** argv);
 
 int main(int argc, char** argv)
 {
@@ -21,8 +22,8 @@ int main(int argc, char** argv)
         return 77;
     }
     int failures = 0;
-    for (const auto run :
-        {runDialectTest, runConnectionTest, runRecordsetTest, runEditTest, runShapeTest, runStatementsTest})
+    for (const auto run : {runDialectTest, runConnectionTest, runRecordsetTest, runEditTest, runShapeTest,
+             runStatementsTest, runConcurrencyTest})
         failures += run(argc, argv);
     return failures;
 }

@@ -105,6 +105,57 @@ private Q_SLOTS:
         QCOMPARE(engine::translateJetToSqlite(jet), sqlite);
     }
 
+    // The same statements for PostgreSQL, whose register declares its names in mixed case.
+    void serverTranslation_data()
+    {
+        QTest::addColumn<QString>("jet");
+        QTest::addColumn<QString>("server");
+
+        QTest::newRow("names in any case")
+            << "SELECT tbl_documents.rastasid, DokAntraste FROM TBL_Documents WHERE `KategID` = 7"
+            << "SELECT \"tbl_Documents\".\"RastasID\", \"DokAntraste\" FROM \"tbl_Documents\" WHERE "
+               "\"KategID\" = 7";
+        QTest::newRow("bracketed and unknown names")
+            << "SELECT [FullName], other FROM tbl_Contacts t WHERE t.ContactID = 1"
+            << "SELECT \"FullName\", other FROM \"tbl_Contacts\" t WHERE t.\"ContactID\" = 1";
+        QTest::newRow("aliases kept as written")
+            << "SELECT COUNT(*) AS N, max(RastasID) AS Top FROM tbl_Documents ORDER BY n"
+            << "SELECT COUNT(*) AS \"N\", max(\"RastasID\") AS \"Top\" FROM \"tbl_Documents\" ORDER BY \"N\"";
+        QTest::newRow("functions and casts")
+            << "SELECT lower(FullName), CAST(KategID AS text) FROM tbl_Contacts"
+            << "SELECT lower(\"FullName\"), CAST(\"KategID\" AS text) FROM \"tbl_Contacts\"";
+        QTest::newRow("insert into a table")
+            << "INSERT INTO tbl_Contacts (FullName) VALUES ('FullName')"
+            << "INSERT INTO \"tbl_Contacts\" (\"FullName\") VALUES ('FullName')";
+        QTest::newRow("dates typed")
+            << "SELECT 1 WHERE DokRegistracData between #3/1/2024# and #3/5/2024 14:00#"
+            << "SELECT 1 WHERE \"DokRegistracData\" between DATE '2024-03-01' and "
+               "TIMESTAMP '2024-03-05 14:00:00'";
+        QTest::newRow("like")
+            << "SELECT 1 FROM tbl_Contacts WHERE FullName Like 'a\\%' AND Title NOT LIKE '%' || Dear || '_'"
+            << "SELECT 1 FROM \"tbl_Contacts\" WHERE \"FullName\" ILIKE 'a\\%' ESCAPE '' AND "
+               "\"Title\" NOT ILIKE '%' || \"Dear\" || '_' ESCAPE ''";
+        QTest::newRow("like with its escape") << "SELECT 1 WHERE FullName LIKE '50!%' ESCAPE '!'"
+                                              << "SELECT 1 WHERE \"FullName\" ILIKE '50!%' ESCAPE '!'";
+        QTest::newRow("name order")
+            << "DELETE tbl_Contacts.* FROM tbl_Contacts WHERE FullName < 'B' ORDER BY FullName"
+            << "DELETE FROM \"tbl_Contacts\" WHERE \"FullName\" COLLATE NAMEFOLD < 'B' ORDER BY \"FullName\" "
+               "COLLATE NAMEFOLD";
+        QTest::newRow("schema statements as they stand") << "CREATE TABLE strict (id integer, FullName text);"
+                                                         << "CREATE TABLE strict (id integer, FullName text)";
+    }
+
+    void serverTranslation()
+    {
+        QFETCH(QString, jet);
+        QFETCH(QString, server);
+        engine::ServerNames names;
+        for (const char* name : {"tbl_Documents", "tbl_Contacts", "RastasID", "DokAntraste", "KategID",
+                 "FullName", "ContactID", "DokRegistracData", "Title", "Dear"})
+            names.insert(QString::fromLatin1(name).toLower(), QString::fromLatin1(name));
+        QCOMPARE(engine::translateJetToPostgres(jet, names), server);
+    }
+
     void dateLiteralIsMonthFirstInAnyLocale()
     {
         const QLocale previous;
