@@ -141,10 +141,21 @@ public:
     QString location() const { return m_location; }
 
 private:
+    // Only a database that is there is dropped, so that the server has no notice to print.
     void drop()
     {
-        runOn(m_maintenance,
-            QStringLiteral("DROP DATABASE IF EXISTS ") + DatabaseName + QStringLiteral(" WITH (FORCE)"));
+        Connection connection(plainConnectionString(JetProvider, m_maintenance));
+        connection.open();
+        Recordset existing;
+        existing.open(
+            QStringLiteral("SELECT datname FROM pg_database WHERE datname = '") + DatabaseName + u'\'',
+            connection);
+        const bool exists = !existing.eof();
+        existing.close();
+        connection.close();
+        if (exists)
+            runOn(m_maintenance,
+                QStringLiteral("DROP DATABASE IF EXISTS ") + DatabaseName + QStringLiteral(" WITH (FORCE)"));
     }
 
     QString m_maintenance;
