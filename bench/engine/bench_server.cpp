@@ -12,7 +12,8 @@
 // Without a server it says so and reads nothing.
 //
 // Options: --documents <n> (100000), --runs <n> (7), --phases to print also the medians of
-// opening the recordset and of walking it on each side (pg_open_ms, pg_walk_ms, ...).
+// opening the recordset and of walking it on each side (pg_open_ms, pg_walk_ms, ...),
+// --keep to leave the server database behind for a look at the statement in psql.
 // The fill times (pg_fill_ms, sqlite_fill_ms) are printed for information; they are not part
 // of the ratio.
 #include "BenchRegister.h"
@@ -115,8 +116,9 @@ void runOn(const QString& location, const QString& sql)
 class BenchDatabase
 {
 public:
-    explicit BenchDatabase(const QString& maintenance)
+    BenchDatabase(const QString& maintenance, bool keep)
         : m_maintenance(maintenance)
+        , m_keep(keep)
     {
         drop();
         runOn(m_maintenance,
@@ -128,6 +130,8 @@ public:
     }
     ~BenchDatabase()
     {
+        if (m_keep)
+            return;
         try {
             drop();
         } catch (const Error& error) {
@@ -159,6 +163,7 @@ private:
     }
 
     QString m_maintenance;
+    bool m_keep;
     QString m_location;
 };
 
@@ -190,7 +195,7 @@ int main(int argc, char** argv)
     try {
         QTemporaryDir dir;
         const QString file = dir.filePath(QStringLiteral("Bench.mdb"));
-        BenchDatabase database(server);
+        BenchDatabase database(server, arguments.contains(QStringLiteral("--keep")));
         const double sqliteFill = fillMs(file, documents);
         const double pgFill = fillMs(database.location(), documents);
 
