@@ -192,6 +192,12 @@ int main(int argc, char** argv)
         return 0;
     }
 
+    if (!isServerLocation(server)) {
+        std::fprintf(stderr, "\"%s\" is not a server location (postgresql://user@host:port/database).\n",
+            qPrintable(server));
+        return 1;
+    }
+
     try {
         QTemporaryDir dir;
         const QString file = dir.filePath(QStringLiteral("Bench.mdb"));
