@@ -161,6 +161,8 @@ std::unique_ptr<PostgresBackend> PostgresBackend::open(const QString& location)
         failToOpen(QStringLiteral("Could not connect to the register server '") + shown
             + QStringLiteral("': ") + message);
     }
+    // The server's notices ("... does not exist, skipping") are no news to a user.
+    PQsetNoticeProcessor(connection, [](void*, const char*) {}, nullptr);
     std::unique_ptr<PostgresBackend> backend(new PostgresBackend(connection, location));
     // Local time for the views of this and the previous month, as on a register file; a
     // zone the server doesn't know leaves the server's own.
