@@ -98,7 +98,7 @@ private Q_SLOTS:
         const Run run = runTool(arguments);
         QCOMPARE(run.exitCode, 2);
         QVERIFY(run.err.startsWith("kartella-db: "));
-        QVERIFY(run.err.contains("Usage: kartella-db create PATH"));
+        QVERIFY(run.err.contains("Usage: kartella-db create LOCATION"));
         QVERIFY(!QFile::exists(m_dir.filePath("x.mdb")));
     }
 
