@@ -2,6 +2,7 @@
 
 #include "base/Error.h"
 #include "store/InsertBatch.h"
+#include "store/KeyGenerators.h"
 #include "store/Schema.h"
 #include "store/SchemaSteps.h"
 #include "store/Store.h"
@@ -124,26 +125,6 @@ TableCopyCount copyTable(Connection& source, Connection& target, const migration
     return count;
 }
 
-// A server database makes a new key from a sequence, which rows written with their keys
-// leave where it was: it has to go on after the highest key copied. The table's and the
-// column's names are looked up as the catalog spells them; a key without a sequence, or an
-// empty table, is passed over.
-void continueServerKeys(Connection& target)
-{
-    for (const migration::TableMapping& mapping : migration::registerTables()) {
-        const QString key = mapping.fields.first().name;
-        Recordset sequence;
-        sequence.open(
-            QStringLiteral("SELECT setval(pg_get_serial_sequence(quote_ident(c.table_name), c.column_name), "
-                           "(SELECT MAX(%2) FROM %1)) AS LastKey FROM information_schema.columns c "
-                           "WHERE c.table_schema = current_schema() AND lower(c.table_name) = lower('%1') "
-                           "AND lower(c.column_name) = lower('%2') AND EXISTS (SELECT %2 FROM %1)")
-                .arg(mapping.table, key),
-            target);
-        sequence.close();
-    }
-}
-
 void rollbackQuietly(Connection& connection)
 {
     try {
@@ -225,8 +206,7 @@ RegisterCopyReport copyRegister(const QString& from, const QString& to, const Re
                 report.tables << copyTable(source, connection, mapping, progress);
             counted = true;
             if (report.complete()) {
-                if (connection.dialect() == SqlDialect::PostgreSql)
-                    continueServerKeys(connection);
+                continueKeyGenerators(connection);
                 connection.commitTrans();
             } else {
                 connection.rollbackTrans();

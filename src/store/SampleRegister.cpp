@@ -2,6 +2,7 @@
 
 #include "base/Error.h"
 #include "store/InsertBatch.h"
+#include "store/KeyGenerators.h"
 #include "store/SampleData.h"
 #include "store/SampleFiles.h"
 #include "store/Store.h"
@@ -451,6 +452,7 @@ void fillSampleRegister(const QString& registerPath, const SampleOptions& option
     connection.beginTrans();
     try {
         writer.writeRows();
+        continueKeyGenerators(connection);
         connection.commitTrans();
     } catch (...) {
         connection.rollbackTrans();
