@@ -5,6 +5,7 @@
 #include "addressbook/import/ContactImporter.h"
 #include "addressbook/import/TextDecoding.h"
 #include "base/Error.h"
+#include "store/engine/Connection.h"
 
 #include <QDir>
 
@@ -20,6 +21,12 @@ void importCommand(const QString& registerPath, const QString& file, const QStri
     if (items.isEmpty())
         throw Error(ErrorNumber::PathFileAccess,
             QStringLiteral("the contact file \"%1\" holds no contacts").arg(QDir::toNativeSeparators(file)));
+
+    // A register that can't be opened (a server out of reach) fails the command here rather
+    // than each contact's steps one by one.
+    Connection probe;
+    probe.open(registerConnectionString(location));
+    probe.close();
 
     ContactImporter importer(registerConnectionString(location), [&err](const Error& error) {
         err << "kartella-db: error " << error.number() << ": "
