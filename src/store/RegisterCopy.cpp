@@ -182,7 +182,8 @@ RegisterCopyReport copyRegister(const QString& from, const QString& to, const Re
 {
     // The source is opened and checked first, so a source that can't be copied leaves no new register.
     Connection source;
-    source.open(plainConnectionString(JetProvider, from));
+    source.open(plainConnectionString(
+        JetProvider, isServerLocation(from) ? from : QFileInfo(from).absoluteFilePath()));
     requireNewestSchema(source, from);
 
     try {
