@@ -2,7 +2,6 @@
 
 #include "base/Error.h"
 #include "store/InsertBatch.h"
-#include "store/KeyGenerators.h"
 #include "store/Schema.h"
 #include "store/SchemaSteps.h"
 #include "store/Store.h"
@@ -206,12 +205,11 @@ RegisterCopyReport copyRegister(const QString& from, const QString& to, const Re
             for (const migration::TableMapping& mapping : migration::registerTables())
                 report.tables << copyTable(source, connection, mapping, progress);
             counted = true;
-            if (report.complete()) {
-                continueKeyGenerators(connection);
+            // The engine moves a server's key generators past the copied keys as it commits.
+            if (report.complete())
                 connection.commitTrans();
-            } else {
+            else
                 connection.rollbackTrans();
-            }
         } catch (...) {
             rollbackQuietly(connection);
             throw;

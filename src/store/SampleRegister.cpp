@@ -2,7 +2,6 @@
 
 #include "base/Error.h"
 #include "store/InsertBatch.h"
-#include "store/KeyGenerators.h"
 #include "store/SampleData.h"
 #include "store/SampleFiles.h"
 #include "store/Store.h"
@@ -452,7 +451,6 @@ void fillSampleRegister(const QString& registerPath, const SampleOptions& option
     connection.beginTrans();
     try {
         writer.writeRows();
-        continueKeyGenerators(connection);
         connection.commitTrans();
     } catch (...) {
         connection.rollbackTrans();

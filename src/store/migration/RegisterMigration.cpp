@@ -1,7 +1,6 @@
 #include "store/migration/RegisterMigration.h"
 
 #include "store/InsertBatch.h"
-#include "store/KeyGenerators.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
@@ -103,7 +102,6 @@ MigrationReport migrateRegister(SourceDatabase& source, const QString& registerP
     try {
         for (const TableMapping& mapping : mappings)
             report.tables << copyTable(source, connection, mapping);
-        continueKeyGenerators(connection);
         connection.commitTrans();
     } catch (...) {
         connection.rollbackTrans();
