@@ -91,6 +91,18 @@ TableCopyCount copyTable(Connection& source, Connection& target, const migration
         throw Error(ErrorNumber::CommandFailed,
             QStringLiteral("The table %1 of the source has no key column %2.").arg(mapping.table, key));
 
+    // The date fields, when the target keeps days only.
+    QList<bool> dayOnly;
+    const bool serverTarget = target.dialect() == SqlDialect::PostgreSql;
+    for (const QString& column : std::as_const(columns)) {
+        bool date = false;
+        for (const migration::FieldMapping& field : mapping.fields)
+            date = date
+                || (field.kind == migration::FieldKind::Date
+                    && field.name.compare(column, Qt::CaseInsensitive) == 0);
+        dayOnly << (serverTarget && date);
+    }
+
     Recordset rows;
     rows.open(QStringLiteral("SELECT ") + columns.join(QStringLiteral(", ")) + QStringLiteral(" FROM ")
             + mapping.table + QStringLiteral(" ORDER BY ") + key,
@@ -101,13 +113,17 @@ TableCopyCount copyTable(Connection& source, Connection& target, const migration
     for (int row = 0; row < total; ++row) {
         values.clear();
         for (int column = 0; column < columns.size(); ++column) {
-            const QVariant value = rows.rowValue(row, column);
+            QVariant value = rows.rowValue(row, column);
             // A register holds no binary data; written as text it would not be the same value.
             if (value.typeId() == QMetaType::QByteArray)
                 throw Error(ErrorNumber::TypeMismatch,
                     QStringLiteral("%1, row %2, field %3 holds binary data, which a register doesn't keep.")
                         .arg(mapping.table, rows.rowValue(row, int(columns.indexOf(key))).toString(),
                             columns.at(column)));
+            if (dayOnly.at(column) && value.typeId() == QMetaType::QDateTime) {
+                value = value.toDateTime().date();
+                ++count.timesOfDayDropped;
+            }
             values << value;
         }
         batch.add(values);
@@ -173,6 +189,10 @@ QStringList RegisterCopyReport::lines() const
         if (!table.columnsLeftOut.isEmpty())
             lines << QStringLiteral("  columns the new register lacks, not copied: ")
                     + table.columnsLeftOut.join(QStringLiteral(", "));
+        if (table.timesOfDayDropped > 0)
+            lines << QStringLiteral(
+                         "  dates that lost their time of day (a register on a server keeps the day): ")
+                    + QString::number(table.timesOfDayDropped);
     }
     return lines;
 }

@@ -16,6 +16,8 @@ struct TableCopyCount
     qint64 targetRows = 0;
     // Columns of the source table that the new register's table lacks (added by hand).
     QStringList columnsLeftOut;
+    // Dates with a time of day written to a server register, which keeps the day only.
+    qint64 timesOfDayDropped = 0;
 
     bool matches() const { return sourceRows == targetRows; }
 };
@@ -28,8 +30,8 @@ struct RegisterCopyReport
     QString undone;
 
     bool complete() const;
-    // One line per table, "tbl_Documents: 400 copied" or the two counts that differ, and the
-    // columns left out.
+    // One line per table, "tbl_Documents: 400 copied" or the two counts that differ, then
+    // the columns left out and the times of day dropped.
     QStringList lines() const;
 };
 
@@ -40,7 +42,9 @@ using RegisterCopyProgress = std::function<void(const QString& table, qint64 wri
 // Copies a whole register from one location to a new one: each a register file or a server
 // location (postgresql://user@host:port/db), in any of the four pairings. Every row of the
 // eight tables goes over with its key and every column the new register has; the search
-// index of the new register is filled by its own triggers. `to` is made by createRegister,
+// index of the new register is filled by its own triggers. A register on a server keeps
+// dates without a time of day: a file's date with one arrives as its day, and the report
+// counts them. `to` is made by createRegister,
 // so a file there, or a server database holding tables, is refused and left as it is.
 //
 // A source of an older schema than this program's is refused (it is to be upgraded first),

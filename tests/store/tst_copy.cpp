@@ -13,6 +13,7 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -312,16 +313,24 @@ private Q_SLOTS:
             return;
         QVERIFY(report.complete());
         QVERIFY(report.undone.isEmpty());
+        const bool fileToServer = !isServerLocation(where.from) && isServerLocation(where.to);
         QStringList expected;
         for (const auto& [table, key] : Tables) {
             const qint64 rows = rowCount(where.from, table);
             QVERIFY2(rows > 0, qPrintable(table));
             expected << table + ": " + QString::number(rows) + " copied";
+            // A server keeps the day of a date with a time of day.
+            if (fileToServer && table == "tbl_Documents")
+                expected << "  dates that lost their time of day (a register on a server keeps the day): 1";
         }
         QCOMPARE(report.lines(), expected);
 
-        for (const auto& [table, key] : Tables)
-            QCOMPARE(engineRows(where.to, table, key), engineRows(where.from, table, key));
+        for (const auto& [table, key] : Tables) {
+            QStringList rows = engineRows(where.from, table, key);
+            if (fileToServer)
+                rows.replaceInStrings(QRegularExpression("T:(\\d{4}-\\d\\d-\\d\\d)T[0-9:]+"), "D:\\1");
+            QCOMPARE(engineRows(where.to, table, key), rows);
+        }
         if (!isServerLocation(where.from) && !isServerLocation(where.to)) {
             for (const auto& [table, key] : Tables) {
                 const QStringList stored = storedRows(where.from, table, key);
@@ -370,25 +379,22 @@ private Q_SLOTS:
 
     void occupiedTargetIsRefused_data() { backEndPairs(); }
 
+    // A register is there already, with a contact of its own.
     void occupiedTargetIsRefused()
     {
         Locations where;
         if (!locations(where))
             return;
+        if (!guarded([&] {
+                createRegister(where.to);
+                execute(where.to, {"INSERT INTO tbl_Contacts (ContactID, FullName) VALUES (7, 'Lieka')"});
+            }))
+            return;
         QByteArray before;
-        if (isServerLocation(where.to)) {
-            if (!guarded([&] {
-                    execute(where.to,
-                        {"CREATE TABLE Kita (KitaID INTEGER PRIMARY KEY, Pavadinimas TEXT)",
-                            "INSERT INTO Kita (KitaID, Pavadinimas) VALUES (1, 'lieka')"});
-                }))
-                return;
-        } else {
+        if (!isServerLocation(where.to)) {
             QFile file(where.to);
-            QVERIFY(file.open(QIODevice::WriteOnly));
-            file.write("not a register, and it stays");
-            file.close();
-            before = "not a register, and it stays";
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            before = file.readAll();
         }
 
         try {
@@ -397,10 +403,13 @@ private Q_SLOTS:
         } catch (const Error& error) {
             QVERIFY2(error.description().contains("Nothing was copied"), qPrintable(error.description()));
         }
-        if (isServerLocation(where.to)) {
-            QCOMPARE(scalar(where.to, "SELECT Pavadinimas FROM Kita WHERE KitaID = 1").toString(), "lieka");
-            QCOMPARE(scalar(where.to, "SELECT COUNT(*) FROM Kita").toInt(), 1);
-        } else {
+        QVERIFY(guarded([&] {
+            QCOMPARE(engineRows(where.to, "tbl_Contacts", "ContactID").mid(1),
+                QStringList {"Null|Null|Null|I:7|Null|Null|Null|S:Lieka|Null|Null|Null|Null|Null"});
+            for (const auto& [table, key] : Tables)
+                QCOMPARE(rowCount(where.to, table), table == "tbl_Contacts" ? 1 : 0);
+        }));
+        if (!isServerLocation(where.to)) {
             QFile file(where.to);
             QVERIFY(file.open(QIODevice::ReadOnly));
             QCOMPARE(file.readAll(), before);
