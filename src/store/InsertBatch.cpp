@@ -27,6 +27,12 @@ QString sqlLiteral(const QVariant& value)
         return u'#' + QString::number(date.month()) + u'/' + QString::number(date.day()) + u'/'
             + QString::number(date.year()) + u'#';
     }
+    case QMetaType::QDateTime: {
+        const QDateTime moment = value.toDateTime();
+        const QDate date = moment.date();
+        return u'#' + QString::number(date.month()) + u'/' + QString::number(date.day()) + u'/'
+            + QString::number(date.year()) + u' ' + moment.time().toString(QStringLiteral("HH:mm:ss")) + u'#';
+    }
     default: {
         QString text = value.toString();
         text.replace(u'\'', QStringLiteral("''"));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDate>
+#include <QDateTime>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -10,7 +11,7 @@ namespace kartella {
 class Connection;
 
 // A value as a literal of Jet's dialect: Null, a number, 'text' with quotes doubled,
-// #m/d/yyyy# for a date, -1/0 for a truth value.
+// #m/d/yyyy# for a date (#m/d/yyyy HH:mm:ss# with a time), -1/0 for a truth value.
 QString sqlLiteral(const QVariant& value);
 
 // Collects rows for one table and writes them as multi-row INSERT statements, a few

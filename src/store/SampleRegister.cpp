@@ -10,6 +10,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QUrl>
 
 namespace kartella {
 
@@ -420,6 +421,14 @@ bool registerIsEmpty(Connection& connection)
 
 QString sampleFilesFolder(const QString& registerPath)
 {
+    // A register on a server has no folder beside it: its files go into the current folder,
+    // under the name of its database.
+    if (isServerLocation(registerPath)) {
+        QString database = QUrl(registerPath.trimmed()).path().section(u'/', -1);
+        if (database.isEmpty())
+            database = QStringLiteral("Kartella");
+        return QDir::current().absoluteFilePath(database + QStringLiteral(" files"));
+    }
     const QFileInfo info(registerPath);
     return info.absolutePath() + u'/' + info.completeBaseName() + QStringLiteral(" files");
 }
@@ -429,7 +438,8 @@ void fillSampleRegister(const QString& registerPath, const SampleOptions& option
     if (!options.today.isValid())
         throw Error(ErrorNumber::IllegalOperation,
             QStringLiteral("The sample needs a valid day to count back from."));
-    const QString path = QFileInfo(registerPath).absoluteFilePath();
+    const QString path
+        = isServerLocation(registerPath) ? registerPath : QFileInfo(registerPath).absoluteFilePath();
     Connection connection;
     connection.open(plainConnectionString(JetProvider, path));
     if (!registerIsEmpty(connection))

@@ -20,7 +20,8 @@ struct SampleOptions
     int filesOnDisk = -1;
 };
 
-// The folder beside a register that holds its sample files: "<folder>/<base name> files".
+// The folder beside a register that holds its sample files: "<folder>/<base name> files";
+// for a register on a server, "<database> files" in the current folder.
 QString sampleFilesFolder(const QString& registerPath);
 
 // Fills an existing, empty register (made by createRegister) with realistic data:

@@ -1,3 +1,5 @@
+#include "harness/OldRegister.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -79,6 +81,89 @@ private Q_SLOTS:
         QVERIFY(QFileInfo(m_dir.filePath("Pavyzdys files")).isDir());
     }
 
+    void copyOfASample()
+    {
+        const QString from = m_dir.filePath("Pavyzdys kopijai.mdb");
+        const QString to = m_dir.filePath("Kopija.mdb");
+        QCOMPARE(runTool({"sample", from, "--documents", "30", "--seed=5"}).exitCode, 0);
+
+        Run run = runTool({"copy", from, to});
+        QCOMPARE(run.exitCode, 0);
+        QVERIFY2(run.err.isEmpty(), qPrintable(run.err));
+        const QStringList lines = run.out.split('\n', Qt::SkipEmptyParts);
+        QCOMPARE(lines.size(), 9);
+        QCOMPARE(lines.at(5), "tbl_Documents: 30 copied");
+        QCOMPARE(lines.at(8), "Copied " + from + " to " + to);
+        run = runTool({"info", to});
+        QCOMPARE(run.exitCode, 0);
+        QVERIFY(run.out.contains("tbl_Documents: 30\n"));
+
+        // A second copy to the same file is refused and leaves the first as it is.
+        const qint64 size = QFileInfo(to).size();
+        const QDateTime modified = QFileInfo(to).lastModified();
+        run = runTool({"copy", from, to});
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY2(run.out.isEmpty(), qPrintable(run.out));
+        QCOMPARE(run.err.count('\n'), 1);
+        QVERIFY2(run.err.startsWith("kartella-db: A file named"), qPrintable(run.err));
+        QVERIFY2(run.err.contains("Nothing was copied"), qPrintable(run.err));
+        QCOMPARE(QFileInfo(to).size(), size);
+        QCOMPARE(QFileInfo(to).lastModified(), modified);
+
+        // A register of an older form is to be upgraded first.
+        const QString old = m_dir.filePath("Senas.mdb");
+        kartella::test::makeOldRegister(old);
+        run = runTool({"copy", old, m_dir.filePath("Senojo kopija.mdb")});
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY2(run.err.contains("kartella-db upgrade"), qPrintable(run.err));
+        QVERIFY(!QFile::exists(m_dir.filePath("Senojo kopija.mdb")));
+        QCOMPARE(runTool({"upgrade", old}).exitCode, 0);
+        QCOMPARE(runTool({"copy", old, m_dir.filePath("Senojo kopija.mdb")}).exitCode, 0);
+
+        run = runTool({"copy", m_dir.filePath("nera.mdb"), m_dir.filePath("Niekas.mdb")});
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY2(run.err.startsWith("kartella-db: no register at"), qPrintable(run.err));
+        QVERIFY(!QFile::exists(m_dir.filePath("Niekas.mdb")));
+    }
+
+    // A server location goes to the engine as written: no command makes it a path of the
+    // current folder or looks for a file by its name. The server named is not there.
+    void serverLocationPassesThrough_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        const QString server = "postgresql://kartella@127.0.0.1:1/nera";
+        QTest::newRow("create") << QStringList {"create", server};
+        QTest::newRow("sample") << QStringList {"sample", server, "--documents", "3"};
+        QTest::newRow("info") << QStringList {"info", server};
+        QTest::newRow("upgrade") << QStringList {"upgrade", server};
+        QTest::newRow("search") << QStringList {"search", server, "sutartis"};
+        QTest::newRow("import") << QStringList {"import", server, "kontaktai.vcf"};
+        QTest::newRow("report") << QStringList {"report", "phones", "ataskaita.pdf", "--register", server};
+        QTest::newRow("copy from") << QStringList {"copy", server, "kopija.mdb"};
+        QTest::newRow("copy to") << QStringList {"copy", "registras.mdb", server};
+    }
+
+    void serverLocationPassesThrough()
+    {
+        QFETCH(QStringList, arguments);
+        QTemporaryDir folder;
+        QDir::setCurrent(folder.path());
+        QFile contacts(folder.filePath("kontaktai.vcf"));
+        QVERIFY(contacts.open(QIODevice::WriteOnly));
+        contacts.write("BEGIN:VCARD\r\nVERSION:3.0\r\nFN:Ona Petraitiene\r\nEND:VCARD\r\n");
+        contacts.close();
+        QCOMPARE(runTool({"create", "registras.mdb"}).exitCode, 0);
+        const QStringList before = QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+
+        const Run run = runTool(arguments);
+        QCOMPARE(run.exitCode, 1);
+        // (Qt may warn on its own lines before.)
+        QCOMPARE(run.err.count("kartella-db: "), 1);
+        QVERIFY2(run.err.section('\n', -2).startsWith("kartella-db: "), qPrintable(run.err));
+        QVERIFY2(!run.err.contains(folder.path()), qPrintable(run.err));
+        QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), before);
+    }
+
     void usageErrors_data()
     {
         QTest::addColumn<QStringList>("arguments");
@@ -86,6 +171,8 @@ private Q_SLOTS:
         QTest::newRow("unknown command") << QStringList({"drop", "x.mdb"});
         QTest::newRow("no path") << QStringList({"create"});
         QTest::newRow("two paths") << QStringList({"info", "a.mdb", "b.mdb"});
+        QTest::newRow("copy without TO") << QStringList({"copy", "x.mdb"});
+        QTest::newRow("copy with three") << QStringList({"copy", "a.mdb", "b.mdb", "x.mdb"});
         QTest::newRow("bad count") << QStringList({"sample", "x.mdb", "--documents", "many"});
         QTest::newRow("missing value") << QStringList({"sample", "x.mdb", "--seed"});
         QTest::newRow("option of another command") << QStringList({"create", "x.mdb", "--documents", "5"});
@@ -98,7 +185,7 @@ private Q_SLOTS:
         const Run run = runTool(arguments);
         QCOMPARE(run.exitCode, 2);
         QVERIFY(run.err.startsWith("kartella-db: "));
-        QVERIFY(run.err.contains("Usage: kartella-db create PATH"));
+        QVERIFY(run.err.contains("Usage: kartella-db create LOCATION"));
         QVERIFY(!QFile::exists(m_dir.filePath("x.mdb")));
     }
 

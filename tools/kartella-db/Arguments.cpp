@@ -33,10 +33,11 @@ std::optional<Invocation> parseSearch(const QStringList& arguments, QString& pro
 
 QString usageText()
 {
-    return QStringLiteral("Usage: kartella-db create PATH\n"
+    return QStringLiteral("Usage: kartella-db create LOCATION\n"
                           "       kartella-db sample PATH [--documents N] [--seed S]\n"
                           "       kartella-db info PATH\n"
                           "       kartella-db upgrade PATH\n"
+                          "       kartella-db copy FROM TO\n"
                           "       kartella-db migrate OLD.mdb NEW [--codepage CP]\n"
                           "       kartella-db report --list\n"
                           "       kartella-db report NAME PATH.pdf [--register FILE] [--previous-month]\n"
@@ -44,13 +45,18 @@ QString usageText()
                           "       kartella-db search PATH WORD...\n"
                           "       kartella-db --help\n"
                           "\n"
-                          "  create   makes a new, empty register at PATH (an existing file is refused)\n"
+                          "  create   makes a new, empty register at LOCATION: a file (an existing file\n"
+                          "           is refused) or an empty database on a server\n"
                           "  sample   makes a new register at PATH and fills it with sample data;\n"
                           "           its files go into the folder \"<name> files\" beside it\n"
                           "           (N documents, default 400; the same seed S gives the same data)\n"
                           "  info     counts the rows of each table of the register at PATH\n"
                           "  upgrade  brings the register at PATH, made by an earlier Kartella, to this\n"
                           "           version's form, keeping every row\n"
+                          "  copy     copies the whole register FROM, keys kept, into a new register\n"
+                          "           at TO (a file that doesn't exist yet, or an empty database on a\n"
+                          "           server), then counts the rows of each table in both; FROM must\n"
+                          "           be up to date (see upgrade). On a failure nothing is kept at TO\n"
                           "  migrate  copies every row of the Jet register OLD.mdb into a new register\n"
                           "           at NEW, keys kept; the text of a Jet 3 file is read in the code\n"
                           "           page CP (default CP1257, the Baltic one; CP1252 for Western)\n"
@@ -62,6 +68,12 @@ QString usageText()
                           "  search   prints the documents of the register at PATH that hold every WORD\n"
                           "           (in description, index, notes, contact or file path; case and\n"
                           "           accents aside): index, date and description, tab-separated\n"
+                          "\n"
+                          "Every register named (LOCATION, FROM, TO, NEW, the register's PATH or FILE)\n"
+                          "is a file or a database on a PostgreSQL server, written\n"
+                          "postgresql://USER@HOST:PORT/DATABASE; the password comes from ~/.pgpass or\n"
+                          "the environment variable PGPASSWORD. The sample files of a register on a\n"
+                          "server go into \"<database> files\" in the current folder.\n"
                           "\n"
                           "Exit codes: 0 success, 1 failure, 2 usage error.\n");
 }
@@ -92,6 +104,8 @@ std::optional<Invocation> parseArguments(const QStringList& arguments, QString& 
         invocation.command = Invocation::Command::Migrate;
     else if (command == u"import")
         invocation.command = Invocation::Command::Import;
+    else if (command == u"copy")
+        invocation.command = Invocation::Command::Copy;
     else if (command == u"search")
         return parseSearch(arguments, problem);
     else {
@@ -141,6 +155,13 @@ std::optional<Invocation> parseArguments(const QStringList& arguments, QString& 
     if (invocation.command == Invocation::Command::Migrate) {
         if (paths.size() != 2) {
             problem = QStringLiteral("migrate needs OLD.mdb and NEW");
+            return std::nullopt;
+        }
+        invocation.target = paths.takeLast();
+    }
+    if (invocation.command == Invocation::Command::Copy) {
+        if (paths.size() != 2) {
+            problem = QStringLiteral("copy needs FROM and TO");
             return std::nullopt;
         }
         invocation.target = paths.takeLast();

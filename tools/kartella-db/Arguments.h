@@ -10,7 +10,7 @@ namespace kartella::tool {
 // One call of the tool, as read from its command line.
 struct Invocation
 {
-    enum class Command { Help, Create, Sample, Info, Upgrade, Migrate, Import, Search };
+    enum class Command { Help, Create, Sample, Info, Upgrade, Migrate, Import, Search, Copy };
     Command command = Command::Help;
     QString path;
     QStringList words; // search
@@ -20,7 +20,8 @@ struct Invocation
     QString codePage;
     int documents = 400;
     quint32 seed = 20240305;
-    // migrate: the new register (path is the old file).
+    // migrate: the new register (path is the old file); copy: the new register (path is the
+    // register copied).
     QString target;
 };
 

@@ -1,14 +1,13 @@
 #include "Commands.h"
 
+#include "RegisterArgument.h"
 #include "base/Error.h"
 #include "store/SampleRegister.h"
 #include "store/Schema.h"
-#include "store/Store.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QStringList>
 
 namespace kartella::tool {
@@ -35,27 +34,28 @@ void createCommand(const QString& path)
 
 void sampleCommand(const QString& path, int documents, quint32 seed, QTextStream& out)
 {
-    createRegister(path);
+    const QString location = registerLocation(path);
+    createRegister(location);
     SampleOptions options;
     options.documents = documents;
     options.seed = seed;
     try {
-        fillSampleRegister(path, options);
+        fillSampleRegister(location, options);
     } catch (...) {
-        QFile::remove(path);
+        // The fill writes its rows in one transaction: a server database keeps the empty schema.
+        if (!isServerLocation(location))
+            QFile::remove(location);
         throw;
     }
-    out << "Created " << QFileInfo(path).absoluteFilePath() << " with " << documents
-        << " documents; files in " << sampleFilesFolder(path) << Qt::endl;
+    out << "Created " << location << " with " << documents << " documents; files in "
+        << sampleFilesFolder(location) << Qt::endl;
 }
 
 void infoCommand(const QString& path, QTextStream& out)
 {
-    const QString location = QFileInfo(path).absoluteFilePath();
-    if (!QFileInfo(location).isFile())
-        throw Error(ErrorNumber::PathFileAccess, QStringLiteral("no register at \"") + location + u'"');
+    const QString location = existingRegister(path);
     Connection connection;
-    connection.open(plainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"), location));
+    connection.open(registerConnectionString(location));
     QStringList lines;
     for (const QString& table : Tables) {
         Recordset count;

@@ -1,13 +1,13 @@
 #include "Import.h"
 
+#include "RegisterArgument.h"
 #include "addressbook/import/ContactFile.h"
 #include "addressbook/import/ContactImporter.h"
 #include "addressbook/import/TextDecoding.h"
 #include "base/Error.h"
-#include "store/Store.h"
+#include "store/engine/Connection.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 namespace kartella::tool {
 
@@ -16,20 +16,23 @@ void importCommand(const QString& registerPath, const QString& file, const QStri
 {
     if (!codePage.isEmpty() && !isKnownCodePage(codePage))
         throw Error(ErrorNumber::PathFileAccess, QStringLiteral("unknown code page \"%1\"").arg(codePage));
-    if (!QFileInfo(registerPath).isFile())
-        throw Error(ErrorNumber::ConnectionFailed,
-            QStringLiteral("no register at \"%1\"").arg(QDir::toNativeSeparators(registerPath)));
+    const QString location = existingRegister(registerPath);
     const QList<ContactItem> items = readContactFile(file, codePage);
     if (items.isEmpty())
         throw Error(ErrorNumber::PathFileAccess,
             QStringLiteral("the contact file \"%1\" holds no contacts").arg(QDir::toNativeSeparators(file)));
 
-    ContactImporter importer(plainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"), registerPath),
-        [&err](const Error& error) {
-            err << "kartella-db: error " << error.number() << ": "
-                << QString(error.description()).replace(u'\n', u' ') << Qt::endl;
-            return true;
-        });
+    // A register that can't be opened (a server out of reach) fails the command here rather
+    // than each contact's steps one by one.
+    Connection probe;
+    probe.open(registerConnectionString(location));
+    probe.close();
+
+    ContactImporter importer(registerConnectionString(location), [&err](const Error& error) {
+        err << "kartella-db: error " << error.number() << ": "
+            << QString(error.description()).replace(u'\n', u' ') << Qt::endl;
+        return true;
+    });
     importer.run(items);
     out << importer.counts().added << " contacts added, " << importer.counts().skipped << " skipped"
         << Qt::endl;

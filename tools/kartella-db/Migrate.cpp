@@ -1,7 +1,9 @@
 #include "Migrate.h"
 
 #include "MdbSource.h"
+#include "RegisterArgument.h"
 #include "store/Schema.h"
+#include "store/engine/Connection.h"
 #include "store/migration/RegisterMigration.h"
 
 #include <QFile>
@@ -9,8 +11,10 @@
 
 namespace kartella::tool {
 
-int migrateCommand(const QString& oldPath, const QString& newPath, const QString& codePage, QTextStream& out)
+int migrateCommand(
+    const QString& oldPath, const QString& newRegister, const QString& codePage, QTextStream& out)
 {
+    const QString newPath = registerLocation(newRegister);
     // The old file is opened first, so a file that can't be read leaves no new register.
     MdbSource source(oldPath, codePage);
     createRegister(newPath);
@@ -18,14 +22,16 @@ int migrateCommand(const QString& oldPath, const QString& newPath, const QString
     try {
         report = migration::migrateRegister(source, newPath);
     } catch (...) {
-        QFile::remove(newPath);
+        // The rows go in one transaction: a server database keeps the empty schema.
+        if (!isServerLocation(newPath))
+            QFile::remove(newPath);
         throw;
     }
     out << "Read " << QFileInfo(oldPath).absoluteFilePath() << " (" << source.version() << ")\n";
     for (const QString& line : report.lines())
         out << line << '\n';
-    out << (report.complete() ? "Everything arrived in " : "Not everything arrived in ")
-        << QFileInfo(newPath).absoluteFilePath() << Qt::endl;
+    out << (report.complete() ? "Everything arrived in " : "Not everything arrived in ") << newPath
+        << Qt::endl;
     return report.complete() ? 0 : 1;
 }
 

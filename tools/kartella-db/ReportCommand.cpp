@@ -1,12 +1,11 @@
 #include "ReportCommand.h"
 
+#include "RegisterArgument.h"
 #include "base/Error.h"
 #include "reports/ReportCommands.h"
 #include "reports/ReportLayouts.h"
 #include "reports/ReportPages.h"
-#include "store/Store.h"
 
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QTextStream>
 
@@ -84,13 +83,8 @@ int runReportCommand(int argc, char** argv)
 
     try {
         ReportCommands& commands = ReportCommands::instance();
-        if (!registerPath.isEmpty()) {
-            if (!QFileInfo(registerPath).isFile())
-                throw Error(ErrorNumber::ConnectionFailed,
-                    QStringLiteral("There is no register \"%1\".").arg(registerPath));
-            commands.setConnectionString(
-                plainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"), registerPath));
-        }
+        if (!registerPath.isEmpty())
+            commands.setConnectionString(registerConnectionString(existingRegister(registerPath)));
         if (previousMonth)
             commands.usePreviousMonth();
         const int pages = writeReportPdf(*layout, commands.run(*layout), positional.at(1));

@@ -1,13 +1,11 @@
 #include "SearchCommand.h"
 
+#include "RegisterArgument.h"
 #include "base/Error.h"
 #include "explorer/DocumentSearch.h"
 #include "store/SearchIndex.h"
-#include "store/Store.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
-
-#include <QFileInfo>
 
 namespace kartella::tool {
 
@@ -30,14 +28,12 @@ QString cell(const QVariant& value)
 
 void searchCommand(const QString& path, const QStringList& words, QTextStream& out)
 {
-    const QString location = QFileInfo(path).absoluteFilePath();
-    if (!QFileInfo(location).isFile())
-        throw Error(ErrorNumber::PathFileAccess, QStringLiteral("no register at \"") + location + u'"');
+    const QString location = existingRegister(path);
     const QStringList folded = searchWords(words.join(u' '));
     if (folded.isEmpty())
         throw Error(ErrorNumber::CommandFailed, QStringLiteral("no word to search for"));
     Connection connection;
-    connection.open(plainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"), location));
+    connection.open(registerConnectionString(location));
     Recordset rs;
     rs.open(searchListSql(folded, searchIndexKind(connection), 0, false, {}, {}), connection);
     while (!rs.eof()) {

@@ -1,12 +1,13 @@
 #include "UpgradeCommand.h"
 
+#include "RegisterArgument.h"
 #include "store/SchemaSteps.h"
 
 namespace kartella::tool {
 
 void upgradeCommand(const QString& path, QTextStream& out)
 {
-    const std::vector<const SchemaStep*> done = upgradeRegister(path);
+    const std::vector<const SchemaStep*> done = upgradeRegister(existingRegister(path));
     if (done.empty()) {
         out << "The register is up to date (schema version " << newestSchemaVersion() << ").\n";
         return;

@@ -1,6 +1,7 @@
-// kartella-db: makes registers, fills them with sample data and tells what they hold.
+// kartella-db: makes, fills and copies registers and tells what they hold.
 #include "Arguments.h"
 #include "Commands.h"
+#include "CopyCommand.h"
 #include "Import.h"
 #include "Migrate.h"
 #include "ReportCommand.h"
@@ -58,6 +59,10 @@ int run(const Invocation& invocation)
     case Invocation::Command::Search:
         searchCommand(invocation.path, invocation.words, out);
         break;
+    case Invocation::Command::Copy: {
+        QTextStream err(stderr);
+        return copyCommand(invocation.path, invocation.target, out, err);
+    }
     }
     return ExitSuccess;
 }

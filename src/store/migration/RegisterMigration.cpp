@@ -96,8 +96,8 @@ MigrationReport migrateRegister(SourceDatabase& source, const QString& registerP
     }
 
     Connection connection;
-    connection.open(plainConnectionString(
-        QStringLiteral("Microsoft.Jet.OLEDB.4.0"), QFileInfo(registerPath).absoluteFilePath()));
+    connection.open(plainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"),
+        isServerLocation(registerPath) ? registerPath : QFileInfo(registerPath).absoluteFilePath()));
     connection.beginTrans();
     try {
         for (const TableMapping& mapping : mappings)
