@@ -1,6 +1,7 @@
 // Copying a whole register between files and server databases.
 #include "base/Error.h"
 #include "harness/OldRegister.h"
+#include "harness/ServerDatabase.h"
 #include "store/RegisterCopy.h"
 #include "store/SampleRegister.h"
 #include "store/Schema.h"
@@ -36,54 +37,6 @@ const QList<QPair<QString, QString>> Tables = {
     {"tbl_Documents", "RastasID"},
     {"tbl_Sub_Documents", "SubRastasID"},
     {"tbl_Tickler", "TicklerID"},
-};
-
-QString serverMaintenance()
-{
-    return qEnvironmentVariable("KARTELLA_TEST_POSTGRESQL");
-}
-
-// A new, empty database on the test server, dropped again with the object.
-class ServerScratch
-{
-public:
-    ServerScratch()
-    {
-        static int made = 0;
-        m_name = QStringLiteral("kartella_copy_%1_%2").arg(QCoreApplication::applicationPid()).arg(++made);
-        maintenance("DROP DATABASE IF EXISTS " + m_name);
-        maintenance("CREATE DATABASE " + m_name);
-        // The maintenance location with its database part replaced.
-        QString location = serverMaintenance();
-        const qsizetype query = location.indexOf(u'?');
-        const QString options = query < 0 ? QString() : location.mid(query);
-        location.truncate(query < 0 ? location.size() : query);
-        m_location = location.left(location.lastIndexOf(u'/') + 1) + m_name + options;
-    }
-    ~ServerScratch()
-    {
-        try {
-            maintenance("DROP DATABASE IF EXISTS " + m_name);
-        } catch (const Error& error) {
-            qWarning("%s", qPrintable(error.description()));
-        }
-    }
-    ServerScratch(const ServerScratch&) = delete;
-    ServerScratch& operator=(const ServerScratch&) = delete;
-
-    QString location() const { return m_location; }
-
-private:
-    static void maintenance(const QString& sql)
-    {
-        Connection connection(plainConnectionString(JetProvider, serverMaintenance()));
-        connection.open();
-        connection.execute(sql);
-        connection.close();
-    }
-
-    QString m_name;
-    QString m_location;
 };
 
 void execute(const QString& location, const QStringList& statements)
@@ -229,8 +182,8 @@ struct Locations
 {
     QString from;
     QString to;
-    std::unique_ptr<ServerScratch> fromServer;
-    std::unique_ptr<ServerScratch> toServer;
+    std::unique_ptr<test::ServerDatabase> fromServer;
+    std::unique_ptr<test::ServerDatabase> toServer;
 };
 
 } // namespace
@@ -246,20 +199,20 @@ class CopyTest : public QObject
     {
         QFETCH(bool, fromServer);
         QFETCH(bool, toServer);
-        if ((fromServer || toServer) && serverMaintenance().isEmpty()) {
+        if ((fromServer || toServer) && !test::ServerDatabase::available()) {
             QTest::qSkip("KARTELLA_TEST_POSTGRESQL is not set: no PostgreSQL server to copy to or from",
                 __FILE__, __LINE__);
             return false;
         }
         return guarded([&] {
             if (fromServer) {
-                where.fromServer = std::make_unique<ServerScratch>();
+                where.fromServer = std::make_unique<test::ServerDatabase>();
                 where.from = where.fromServer->location();
             } else {
                 where.from = m_dir->filePath("Šaltinis.mdb");
             }
             if (toServer) {
-                where.toServer = std::make_unique<ServerScratch>();
+                where.toServer = std::make_unique<test::ServerDatabase>();
                 where.to = where.toServer->location();
             } else {
                 where.to = m_dir->filePath("Kopija.mdb");
