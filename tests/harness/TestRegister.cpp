@@ -1,9 +1,9 @@
 #include "harness/TestRegister.h"
 
 #include "base/Error.h"
+#include "harness/ServerDatabase.h"
 #include "options/FirstRun.h"
 #include "options/OptionStore.h"
-#include "store/InsertBatch.h"
 #include "store/Schema.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
@@ -42,13 +42,32 @@ TestRegister::TestRegister(const QString& fileName)
     , m_previousConfig(qgetenv("XDG_CONFIG_HOME"))
     , m_hadConfig(qEnvironmentVariableIsSet("XDG_CONFIG_HOME"))
 {
+    setUp(m_path);
+}
+
+TestRegister::TestRegister(Where where)
+    : m_path(m_dir.filePath(QStringLiteral("Kartella.mdb")))
+    , m_previousConfig(qgetenv("XDG_CONFIG_HOME"))
+    , m_hadConfig(qEnvironmentVariableIsSet("XDG_CONFIG_HOME"))
+{
+    if (where == Server) {
+        if (!ServerDatabase::available())
+            throw Error(ErrorNumber::ConnectionFailed, ServerDatabase::skipReason());
+        m_server = std::make_unique<ServerDatabase>();
+        m_path = m_server->location();
+    }
+    setUp(m_path);
+}
+
+void TestRegister::setUp(const QString& location)
+{
     if (!m_dir.isValid())
         throw Error(ErrorNumber::PathFileAccess, QStringLiteral("Can't make a temporary folder"));
     qputenv("XDG_CONFIG_HOME", m_dir.filePath(QStringLiteral("config")).toUtf8());
     try {
         seedOptionsIfMissing();
-        createRegister(m_path);
-        setRegValue(QStringLiteral("DbLocation"), m_path);
+        createRegister(location);
+        setRegValue(QStringLiteral("DbLocation"), location);
         setRegValue(QStringLiteral("Provider"), Provider);
     } catch (...) {
         restoreConfig();
@@ -93,30 +112,25 @@ QVariant TestRegister::scalar(const QString& sql) const
 qint32 TestRegister::insert(const QString& table, const QVariantMap& values) const
 {
     const QString key = keyOf(table);
-    QStringList fields;
-    QStringList literals;
-    for (auto it = values.cbegin(); it != values.cend(); ++it) {
-        fields << it.key();
-        literals << sqlLiteral(it.value());
-    }
-    QString sql = QStringLiteral("INSERT INTO ") + table;
-    sql += fields.isEmpty() ? QStringLiteral(" DEFAULT VALUES")
-                            : QStringLiteral(" (") + fields.join(u',') + QStringLiteral(") VALUES (")
-            + literals.join(u',') + u')';
     Connection connection(connectionString());
     connection.open();
-    connection.execute(sql);
-    // A given key is the new one; otherwise the generator's latest.
-    if (values.contains(key))
-        return values.value(key).toInt();
-    Recordset last;
-    last.open(QStringLiteral("SELECT MAX(") + key + QStringLiteral(") AS NewKey FROM ") + table, connection);
-    return last.fields(QStringLiteral("NewKey")).value().toInt();
+    Recordset recordset;
+    // Read for no row: the new one is all this needs.
+    recordset.open(QStringLiteral("SELECT * FROM ") + table + QStringLiteral(" WHERE 1=0"), connection,
+        CursorTypeEnum::Keyset, LockTypeEnum::Optimistic);
+    recordset.addNew();
+    for (auto it = values.cbegin(); it != values.cend(); ++it)
+        recordset.fields(it.key()).setValue(it.value());
+    recordset.update();
+    return recordset.fields(key).value().toInt();
 }
 
 void TestRegister::fillSample(const SampleOptions& options) const
 {
-    fillSampleRegister(m_path, options);
+    if (m_server)
+        fillSampleRegister(m_path, dir() + QStringLiteral("/Kartella files"), options);
+    else
+        fillSampleRegister(m_path, options);
 }
 
 } // namespace kartella::test

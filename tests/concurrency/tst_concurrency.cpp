@@ -1,0 +1,225 @@
+#include "addressbook/AddressBookWindow.h"
+#include "categories/CategoryDialog.h"
+#include "harness/ScriptedPrompter.h"
+#include "harness/ServerDatabase.h"
+#include "harness/TestRegister.h"
+#include "platform/Prompter.h"
+#include "registration/DocumentDetailsDialog.h"
+#include "support/SelectionState.h"
+
+#include "../addressbook/AddressBookFixture.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+#include <memory>
+
+using namespace kartella;
+using namespace kartella::test;
+
+namespace {
+
+// Every case runs on a register file, and on a register on the tests' server when there is one.
+void addPlaces()
+{
+    QTest::addColumn<int>("where");
+    QTest::newRow("file") << int(TestRegister::File);
+    QTest::newRow("server") << int(TestRegister::Server);
+}
+
+std::unique_ptr<TestRegister> makeRegister()
+{
+    QFETCH(int, where);
+    if (where == TestRegister::Server && !ServerDatabase::available())
+        return nullptr;
+    return std::make_unique<TestRegister>(TestRegister::Where(where));
+}
+
+#define REGISTER_OR_SKIP(reg)                                                                         \
+    const std::unique_ptr<TestRegister> reg = makeRegister();                                        \
+    if (!reg)                                                                                          \
+        QSKIP(qPrintable(ServerDatabase::skipReason()));
+
+void showActive(QWidget* widget)
+{
+    widget->show();
+    widget->activateWindow();
+    QApplication::setActiveWindow(widget);
+    if (!QTest::qWaitForWindowActive(widget))
+        qWarning("The window didn't become active");
+}
+
+template <typename T>
+T* child(QWidget* parent, const char* name)
+{
+    T* found = parent->findChild<T*>(QLatin1String(name));
+    if (!found)
+        qWarning("No control %s", name);
+    return found;
+}
+
+void retype(QLineEdit* box, const QString& text)
+{
+    box->setFocus();
+    box->selectAll();
+    QTest::keyClick(box, Qt::Key_Delete);
+    QTest::keyClicks(box, text);
+}
+
+QString idText(qint32 id)
+{
+    return QString::number(id);
+}
+
+} // namespace
+
+class ConcurrencyTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { selection() = SelectionState(); }
+
+    void harnessOnBothPlaces_data() { addPlaces(); }
+    void harnessOnBothPlaces()
+    {
+        REGISTER_OR_SKIP(reg);
+        const qint32 first = reg->insert("tbl_Contacts", {{"FullName", "Ona"}});
+        const qint32 second = reg->insert("tbl_Contacts", {{"FullName", "Jonas"}, {"City", QVariant()}});
+        QVERIFY(first > 0);
+        QVERIFY(second != first);
+        QCOMPARE(reg->scalar("SELECT FullName FROM tbl_Contacts WHERE ContactID=" + idText(second)), "Jonas");
+        reg->exec("DELETE FROM tbl_Contacts WHERE ContactID=" + idText(first));
+        QCOMPARE(reg->scalar("SELECT COUNT(*) FROM tbl_Contacts").toInt(), 1);
+        const qint32 document = reg->insert("tbl_Documents",
+            {{"DokAntraste", "Lease"}, {"ContactID", second}, {"DokRegistracData", QDate(2024, 2, 29)}});
+        QCOMPARE(reg->scalar("SELECT DokRegistracData FROM tbl_Documents WHERE RastasID=" + idText(document))
+                     .toDate(),
+            QDate(2024, 2, 29));
+        QVERIFY(reg->path().startsWith("postgresql://") == (QTest::currentDataTag() == QByteArray("server")));
+    }
+
+    void sampleOnBothPlaces_data() { addPlaces(); }
+    void sampleOnBothPlaces()
+    {
+        REGISTER_OR_SKIP(reg);
+        SampleOptions options;
+        options.documents = 20;
+        options.today = QDate(2024, 3, 5);
+        reg->fillSample(options);
+        QCOMPARE(reg->scalar("SELECT COUNT(*) FROM tbl_Documents").toInt(), 20);
+    }
+
+    // The details dialog is open on a document another program then deletes: the user's
+    // change is refused with a message that says so, and the dialog stays to be cancelled.
+    void detailsOfDeletedDocument_data() { addPlaces(); }
+    void detailsOfDeletedDocument()
+    {
+        REGISTER_OR_SKIP(reg);
+        ScriptedPrompter prompter;
+        const qint32 lease = reg->insert("tbl_Documents", {{"DokAntraste", "Lease"}});
+        const qint32 other = reg->insert("tbl_Documents", {{"DokAntraste", "Other"}});
+        selection().selectedDocumentId = lease;
+        DocumentDetailsDialog dialog;
+        showActive(&dialog);
+        reg->exec("DELETE FROM tbl_Documents WHERE RastasID=" + idText(lease));
+        auto* description = child<QLineEdit>(&dialog, "txtFields_7");
+        retype(description, "Changed");
+        prompter.answer(MsgBoxResult::Ok);
+        QTest::keyClick(description, Qt::Key_A, Qt::AltModifier);
+        QCOMPARE(prompter.texts(),
+            QStringList {"This document was deleted by another user; your changes were not saved."});
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(description->text(), "Changed");
+        QCOMPARE(reg->scalar("SELECT COUNT(*) FROM tbl_Documents").toInt(), 1);
+        QCOMPARE(reg->scalar("SELECT DokAntraste FROM tbl_Documents WHERE RastasID=" + idText(other)), "Other");
+        // Cancel closes it, asking nothing.
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        prompter.take();
+        if (dialog.isVisible())
+            child<QPushButton>(&dialog, "cmdButton_1")->click();
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(reg->scalar("SELECT COUNT(*) FROM tbl_Documents").toInt(), 1);
+    }
+
+    // Opened by key (as the reminders open it) for a document that is gone: it says so and
+    // stores nothing.
+    void detailsOpenedForDeletedDocument_data() { addPlaces(); }
+    void detailsOpenedForDeletedDocument()
+    {
+        REGISTER_OR_SKIP(reg);
+        ScriptedPrompter prompter;
+        const qint32 lease = reg->insert("tbl_Documents", {{"DokAntraste", "Lease"}});
+        reg->exec("DELETE FROM tbl_Documents WHERE RastasID=" + idText(lease));
+        prompter.answer(MsgBoxResult::Ok);
+        DocumentDetailsDialog dialog(lease);
+        QCOMPARE(prompter.texts(), QStringList {"This document was deleted by another user."});
+        QCOMPARE(dialog.exec(), int(QDialog::Rejected));
+        QCOMPARE(reg->scalar("SELECT COUNT(*) FROM tbl_Documents").toInt(), 0);
+    }
+
+    // The category dialog open on a category another program deletes.
+    void categoryDeleted_data() { addPlaces(); }
+    void categoryDeleted()
+    {
+        REGISTER_OR_SKIP(reg);
+        ScriptedPrompter prompter;
+        const qint32 contracts
+            = reg->insert("tbl_Document_Categories", {{"DokKategorija", "Contracts"}, {"Mnemonic", "AGR"}});
+        const qint32 letters = reg->insert("tbl_Document_Categories", {{"DokKategorija", "Letters"}});
+        selection().currentCategoryId = contracts;
+        selection().currentNodeKind = "a";
+        CategoryDialog dialog;
+        showActive(&dialog);
+        reg->exec("DELETE FROM tbl_Document_Categories WHERE KategID=" + idText(contracts));
+        auto* name = child<QLineEdit>(&dialog, "txtFields_1");
+        retype(name, "Agreements");
+        prompter.answer(MsgBoxResult::Ok);
+        auto* ok = child<QPushButton>(&dialog, "cmdClose");
+        ok->setFocus();
+        QTest::keyClick(ok, Qt::Key_Space);
+        QCOMPARE(prompter.texts(),
+            QStringList {"This category was deleted by another user; your changes were not saved."});
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(name->text(), "Agreements");
+        QCOMPARE(reg->scalar("SELECT COUNT(*) FROM tbl_Document_Categories").toInt(), 1);
+        QCOMPARE(reg->scalar("SELECT DokKategorija FROM tbl_Document_Categories WHERE KategID=" + idText(letters)),
+            "Letters");
+        dialog.reject();
+        QVERIFY(!dialog.isVisible());
+    }
+
+    // The address book on a contact another program deletes: saving says so.
+    void contactDeleted_data() { addPlaces(); }
+    void contactDeleted()
+    {
+        REGISTER_OR_SKIP(reg);
+        ScriptedPrompter prompter;
+        const qint32 ona = reg->insert("tbl_Contacts", {{"FullName", "Ona Petraitiene"}, {"City", "Vilnius"}});
+        const qint32 jonas = reg->insert("tbl_Contacts", {{"FullName", "Jonas Jonaitis"}, {"City", "Kaunas"}});
+        reg->insert("tbl_Phones", {{"ContactID", ona}, {"PhoneName", "Office"}, {"PhoneNumber", "212"}});
+        AddressBookWindow window;
+        Shown w(&window);
+        w.clickLine("Ona Petraitiene");
+        reg->exec("DELETE FROM tbl_Phones WHERE ContactID=" + idText(ona));
+        reg->exec("DELETE FROM tbl_Contacts WHERE ContactID=" + idText(ona));
+        retype(w.box(6), "Trakai");
+        prompter.answer(MsgBoxResult::Yes).answer(MsgBoxResult::Ok);
+        w.clickLine("Jonas Jonaitis");
+        QCOMPARE(prompter.texts(),
+            QStringList({"Do you want to save changes you made to Contact?",
+                "This contact was deleted by another user; your changes were not saved."}));
+        QCOMPARE(reg->scalar("SELECT COUNT(*) FROM tbl_Contacts").toInt(), 1);
+        QCOMPARE(reg->scalar("SELECT City FROM tbl_Contacts WHERE ContactID=" + idText(jonas)), "Kaunas");
+        // The window goes on working: the other contact is shown and closes without a question.
+        QCOMPARE(w.box(4)->text(), "Jonas Jonaitis");
+        QTest::keyClick(&window, Qt::Key_Escape);
+        QVERIFY(!window.isVisible());
+        QVERIFY(prompter.allAnswered());
+    }
+};
+
+QTEST_MAIN(ConcurrencyTest)
+#include "tst_concurrency.moc"
