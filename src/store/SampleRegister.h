@@ -29,7 +29,6 @@ QString sampleFilesFolder(const QString& registerPath);
 // category or notes; related documents; reminders. Throws kartella::Error on failure.
 void fillSampleRegister(const QString& registerPath, const SampleOptions& options = {});
 // The same for a register at any location (a file or a server), its files going into filesFolder.
-void fillSampleRegister(
-    const QString& location, const QString& filesFolder, const SampleOptions& options);
+void fillSampleRegister(const QString& location, const QString& filesFolder, const SampleOptions& options);
 
 } // namespace kartella

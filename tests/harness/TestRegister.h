@@ -2,13 +2,13 @@
 
 #include "store/SampleRegister.h"
 
-#include <memory>
-
 #include <QByteArray>
 #include <QString>
 #include <QTemporaryDir>
 #include <QVariant>
 #include <QVariantMap>
+
+#include <memory>
 
 namespace kartella::test {
 
