@@ -6,10 +6,12 @@
 #include "harness/TestRegister.h"
 #include "platform/Prompter.h"
 #include "registration/DocumentDetailsDialog.h"
+#include "registration/RelatedDocumentDialog.h"
 #include "support/SelectionState.h"
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
 
@@ -158,6 +160,63 @@ private Q_SLOTS:
         QCOMPARE(prompter.texts(), QStringList {"This document was deleted by another user."});
         QCOMPARE(dialog.exec(), int(QDialog::Rejected));
         QCOMPARE(reg->scalar("SELECT COUNT(*) FROM tbl_Documents").toInt(), 0);
+    }
+
+    // The related document's description, open on a row another program deletes: Esc's Yes
+    // applies, which is refused with a message; the dialog stays with the typed text.
+    void relatedDocumentDeleted_data() { addPlaces(); }
+    void relatedDocumentDeleted()
+    {
+        REGISTER_OR_SKIP(reg);
+        ScriptedPrompter prompter;
+        const qint32 lease = reg->insert("tbl_Documents", {{"DokAntraste", "Lease"}});
+        const qint32 annex
+            = reg->insert("tbl_Sub_Documents", {{"RastasID", lease}, {"SubDocDescript", "Annex"}});
+        const qint32 other
+            = reg->insert("tbl_Sub_Documents", {{"RastasID", lease}, {"SubDocDescript", "Other"}});
+        selection().selectedDocumentId = lease;
+        selection().selectedSubDocumentId = annex;
+        selection().selectedItemText = "Annex";
+        RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Editing);
+        showActive(&dialog);
+        reg->exec("DELETE FROM tbl_Sub_Documents WHERE SubRastasID=" + idText(annex));
+        auto* description = child<QPlainTextEdit>(&dialog, "txtFields_1");
+        description->setFocus();
+        QTest::keyClick(description, Qt::Key_End);
+        QTest::keyClicks(description, " 2");
+        prompter.answer(MsgBoxResult::Yes).answer(MsgBoxResult::Ok);
+        QTest::keyClick(description, Qt::Key_Escape);
+        QCOMPARE(prompter.take().last().text,
+            "This related document was deleted by another user; your changes were not saved.");
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(description->toPlainText(), "Annex 2");
+        QCOMPARE(reg->scalar("SELECT COUNT(*) FROM tbl_Sub_Documents").toInt(), 1);
+        QCOMPARE(
+            reg->scalar("SELECT SubDocDescript FROM tbl_Sub_Documents WHERE SubRastasID=" + idText(other)),
+            "Other");
+        auto* cancel = child<QPushButton>(&dialog, "cmdCancel");
+        cancel->setFocus();
+        QTest::keyClick(cancel, Qt::Key_Space);
+        QVERIFY(!dialog.isVisible());
+        QVERIFY(prompter.allAnswered());
+    }
+
+    void relatedDocumentOpenedAfterDeletion_data() { addPlaces(); }
+    void relatedDocumentOpenedAfterDeletion()
+    {
+        REGISTER_OR_SKIP(reg);
+        ScriptedPrompter prompter;
+        const qint32 lease = reg->insert("tbl_Documents", {{"DokAntraste", "Lease"}});
+        const qint32 annex
+            = reg->insert("tbl_Sub_Documents", {{"RastasID", lease}, {"SubDocDescript", "Annex"}});
+        selection().selectedDocumentId = lease;
+        selection().selectedSubDocumentId = annex;
+        reg->exec("DELETE FROM tbl_Sub_Documents WHERE SubRastasID=" + idText(annex));
+        prompter.answer(MsgBoxResult::Ok);
+        RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Editing);
+        QCOMPARE(prompter.texts(), QStringList {"This related document was deleted by another user."});
+        QCOMPARE(dialog.exec(), int(QDialog::Rejected));
+        QCOMPARE(reg->scalar("SELECT COUNT(*) FROM tbl_Sub_Documents").toInt(), 0);
     }
 
     // The category dialog open on a category another program deletes.
