@@ -1,11 +1,19 @@
 #include "../addressbook/AddressBookFixture.h"
 #include "addressbook/AddressBookWindow.h"
 #include "categories/CategoryDialog.h"
+#include "explorer/ExplorerFixture.h"
+#include "explorer/ListModel.h"
+#include "explorer/MainWindow.h"
+#include "explorer/NavigationTree.h"
 #include "harness/ScriptedPrompter.h"
 #include "harness/ServerDatabase.h"
 #include "harness/TestRegister.h"
+#include "options/FirstRun.h"
+#include "options/OptionStore.h"
 #include "platform/Prompter.h"
 #include "registration/DocumentDetailsDialog.h"
+#include "registration/FileNaming.h"
+#include "registration/RegIndex.h"
 #include "registration/RelatedDocumentDialog.h"
 #include "support/SelectionState.h"
 
@@ -13,8 +21,10 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTest>
 
+#include <functional>
 #include <memory>
 
 using namespace kartella;
@@ -217,6 +227,82 @@ private Q_SLOTS:
         QCOMPARE(prompter.texts(), QStringList {"This related document was deleted by another user."});
         QCOMPARE(dialog.exec(), int(QDialog::Rejected));
         QCOMPARE(reg->scalar("SELECT COUNT(*) FROM tbl_Sub_Documents").toInt(), 0);
+    }
+
+    // The main window with a document selected that another program then deletes: F5 shows
+    // the register as it is now, and F3 on the stale selection says the document is gone.
+    void mainWindowAfterDeletion_data() { addPlaces(); }
+    void mainWindowAfterDeletion()
+    {
+        QFETCH(int, where);
+        if (where == TestRegister::Server && !ServerDatabase::available())
+            QSKIP(qPrintable(ServerDatabase::skipReason()));
+        ExplorerFixture fx {TestRegister::Where(where)};
+        ScriptedPrompter prompter;
+        MainWindow& w = fx.window();
+        fx.clickDocument("contract");
+        QCOMPARE(selection().selectedDocumentId, fx.id["contract"]);
+        QCOMPARE(fx.related().itemCount(), 2);
+        const QString contract = idText(fx.id["contract"]);
+        fx.reg.exec("DELETE FROM tbl_Sub_Documents WHERE RastasID=" + contract);
+        fx.reg.exec("DELETE FROM tbl_Documents WHERE RastasID=" + contract);
+
+        // F5 builds the tree again; the lists stay as they were until the next choice.
+        QTest::keyClick(&w, Qt::Key_F5);
+        QVERIFY(w.tree()->nodeByKey("a" + idText(fx.id["Sutartys"])));
+        QVERIFY(prompter.prompts().isEmpty());
+        // The stale line, chosen again: no related documents, and details say it is gone.
+        fx.clickDocument("letter");
+        fx.clickDocument("contract");
+        QCOMPARE(selection().selectedDocumentId, fx.id["contract"]);
+        QCOMPARE(fx.related().itemCount(), 0);
+        QVERIFY(w.action("mnuShowDetails")->isEnabled());
+        prompter.answer(MsgBoxResult::Ok);
+        QTest::keyClick(&w, Qt::Key_F3);
+        QCOMPARE(prompter.texts(), QStringList {"This document was deleted by another user."});
+        QCOMPARE(fx.reg.scalar("SELECT COUNT(*) FROM tbl_Documents").toInt(), 4);
+        // The window goes on: another document is chosen as before.
+        fx.clickDocument("letter");
+        QCOMPARE(selection().selectedDocumentId, fx.id["letter"]);
+    }
+
+    // Two users on one register: each keeps the day's count of registration indexes and the
+    // file number counter in the options of their own, whatever the other one takes.
+    void countersPerUser_data() { addPlaces(); }
+    void countersPerUser()
+    {
+        REGISTER_OR_SKIP(reg);
+        const QDate today(2024, 3, 5);
+        const qint32 contracts
+            = reg->insert("tbl_Document_Categories", {{"DokKategorija", "Contracts"}, {"Mnemonic", "AGR"}});
+        const QByteArray first = qgetenv("XDG_CONFIG_HOME");
+        QTemporaryDir otherHome;
+        const QByteArray second = otherHome.filePath("config").toUtf8();
+        qputenv("XDG_CONFIG_HOME", second);
+        seedOptionsIfMissing();
+        setRegValue("DbLocation", reg->path());
+        setRegValue("Provider", "Microsoft.Jet.OLEDB.4.0");
+        resetTodayNumber(today);
+        qputenv("XDG_CONFIG_HOME", first);
+        resetTodayNumber(today);
+        setRegValue("TodayNumber", "3");
+
+        const auto asUser = [](const QByteArray& config, const std::function<QString()>& action) {
+            qputenv("XDG_CONFIG_HOME", config);
+            return action();
+        };
+        const auto index = [&] { return makeRegIndex(contracts, today); };
+        const auto fileName = [&] { return makeFileNumberName(contracts); };
+        QCOMPARE(asUser(first, index), "AGR-20240305/3");
+        QCOMPARE(asUser(second, index), "AGR-20240305/1");
+        QCOMPARE(asUser(first, fileName), "AGR00001");
+        QCOMPARE(asUser(first, fileName), "AGR00002");
+        QCOMPARE(asUser(second, fileName), "AGR00001");
+        QCOMPARE(asUser(first, fileName), "AGR00003");
+        QCOMPARE(asUser(second, [] { return getRegValue("FileNumber"); }), " 2");
+        QCOMPARE(asUser(first, [] { return getRegValue("FileNumber"); }), " 4");
+        QCOMPARE(asUser(second, [] { return getRegValue("TodayNumber"); }), "1");
+        QCOMPARE(asUser(first, [] { return getRegValue("TodayNumber"); }), "3");
     }
 
     // The category dialog open on a category another program deletes.
