@@ -337,10 +337,21 @@ private Q_SLOTS:
         QVERIFY(!dialog.isVisible());
     }
 
-    // The address book on a contact another program deletes: saving says so.
-    void contactDeleted_data() { addPlaces(); }
+    // The address book on a contact another program deletes with its phones and web pages:
+    // saving a change to the contact's boxes, or writing its web page in the grid, says so.
+    void contactDeleted_data()
+    {
+        QTest::addColumn<int>("where");
+        QTest::addColumn<bool>("webPage");
+        for (const int where : {int(TestRegister::File), int(TestRegister::Server)}) {
+            const char* place = where == TestRegister::File ? "file" : "server";
+            QTest::addRow("%s, box", place) << where << false;
+            QTest::addRow("%s, web page", place) << where << true;
+        }
+    }
     void contactDeleted()
     {
+        QFETCH(bool, webPage);
         REGISTER_OR_SKIP(reg);
         ScriptedPrompter prompter;
         const qint32 ona
@@ -348,21 +359,39 @@ private Q_SLOTS:
         const qint32 jonas
             = reg->insert("tbl_Contacts", {{"FullName", "Jonas Jonaitis"}, {"City", "Kaunas"}});
         reg->insert("tbl_Phones", {{"ContactID", ona}, {"PhoneName", "Office"}, {"PhoneNumber", "212"}});
+        reg->insert("tbl_HomePages", {{"ContactID", ona}, {"Description", "Own"}, {"HomeWWW", "www.ona.lt"}});
+        reg->insert(
+            "tbl_HomePages", {{"ContactID", jonas}, {"Description", "Own"}, {"HomeWWW", "www.jonas.lt"}});
         AddressBookWindow window;
         Shown w(&window);
         w.clickLine("Ona Petraitiene");
-        reg->exec("DELETE FROM tbl_Phones WHERE ContactID=" + idText(ona));
-        reg->exec("DELETE FROM tbl_Contacts WHERE ContactID=" + idText(ona));
-        retype(w.box(6), "Trakai");
-        prompter.answer(MsgBoxResult::Yes).answer(MsgBoxResult::Ok);
-        w.clickLine("Jonas Jonaitis");
-        QCOMPARE(prompter.texts(),
-            QStringList({"Do you want to save changes you made to Contact?",
-                "This contact was deleted by another user; your changes were not saved."}));
+        for (const char* table : {"tbl_Phones", "tbl_HomePages", "tbl_Contacts"})
+            reg->exec(QString("DELETE FROM ") + table + " WHERE ContactID=" + idText(ona));
+        // A grid writes its cell at once; the boxes wait for the save question.
+        if (webPage) {
+            prompter.answer(MsgBoxResult::Ok);
+            w.typeCell("dgrHP", 0, 3, "www.ona.eu");
+            QCOMPARE(prompter.take().first().text,
+                "This row was deleted by another user; your change was not saved.");
+            QCOMPARE(w.column("dgrHP", 3), QStringList {"www.ona.lt"});
+            w.clickLine("Jonas Jonaitis");
+            QVERIFY(prompter.prompts().isEmpty());
+        } else {
+            retype(w.box(6), "Trakai");
+            prompter.answer(MsgBoxResult::Yes).answer(MsgBoxResult::Ok);
+            w.clickLine("Jonas Jonaitis");
+            QCOMPARE(prompter.texts(),
+                QStringList({"Do you want to save changes you made to Contact?",
+                    "This contact was deleted by another user; your changes were not saved."}));
+        }
         QCOMPARE(reg->scalar("SELECT COUNT(*) FROM tbl_Contacts").toInt(), 1);
         QCOMPARE(reg->scalar("SELECT City FROM tbl_Contacts WHERE ContactID=" + idText(jonas)), "Kaunas");
+        QCOMPARE(reg->scalar("SELECT COUNT(*) FROM tbl_HomePages").toInt(), 1);
+        QCOMPARE(reg->scalar("SELECT HomeWWW FROM tbl_HomePages WHERE ContactID=" + idText(jonas)),
+            "www.jonas.lt");
         // The window goes on working: the other contact is shown and closes without a question.
         QCOMPARE(w.box(4)->text(), "Jonas Jonaitis");
+        QCOMPARE(w.column("dgrHP", 3), QStringList {"www.jonas.lt"});
         QTest::keyClick(&window, Qt::Key_Escape);
         QVERIFY(!window.isVisible());
         QVERIFY(prompter.allAnswered());
