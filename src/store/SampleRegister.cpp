@@ -426,23 +426,18 @@ QString sampleFilesFolder(const QString& registerPath)
 
 void fillSampleRegister(const QString& registerPath, const SampleOptions& options)
 {
-    const QString path = QFileInfo(registerPath).absoluteFilePath();
-    fillSampleRegister(path, sampleFilesFolder(path), options);
-}
-
-void fillSampleRegister(const QString& location, const QString& filesFolder, const SampleOptions& options)
-{
     if (!options.today.isValid())
         throw Error(ErrorNumber::IllegalOperation,
             QStringLiteral("The sample needs a valid day to count back from."));
+    const QString path = QFileInfo(registerPath).absoluteFilePath();
     Connection connection;
-    connection.open(plainConnectionString(JetProvider, location));
+    connection.open(plainConnectionString(JetProvider, path));
     if (!registerIsEmpty(connection))
         throw Error(ErrorNumber::IllegalOperation,
-            QStringLiteral("The register \"") + location
+            QStringLiteral("The register \"") + path
                 + QStringLiteral("\" already holds data; a sample goes into an empty one."));
 
-    SampleWriter writer(connection, options, filesFolder);
+    SampleWriter writer(connection, options, sampleFilesFolder(path));
     connection.beginTrans();
     try {
         writer.writeRows();
@@ -455,7 +450,7 @@ void fillSampleRegister(const QString& location, const QString& filesFolder, con
 
     // The files come after the rows are stored, so a failed fill leaves none behind.
     QStringList folders = writer.folders();
-    folders.prepend(filesFolder);
+    folders.prepend(sampleFilesFolder(path));
     for (const QString& folder : std::as_const(folders)) {
         if (!QDir().mkpath(folder))
             throw Error(

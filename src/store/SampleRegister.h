@@ -28,7 +28,5 @@ QString sampleFilesFolder(const QString& registerPath);
 // phones and web pages; documents in all four directions, some without contact, file,
 // category or notes; related documents; reminders. Throws kartella::Error on failure.
 void fillSampleRegister(const QString& registerPath, const SampleOptions& options = {});
-// The same for a register at any location (a file or a server), its files going into filesFolder.
-void fillSampleRegister(const QString& location, const QString& filesFolder, const SampleOptions& options);
 
 } // namespace kartella

@@ -10,6 +10,7 @@
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
 
+#include <QDir>
 #include <QHash>
 
 namespace kartella::test {
@@ -139,10 +140,20 @@ qint32 TestRegister::insert(const QString& table, const QVariantMap& values) con
 
 void TestRegister::fillSample(const SampleOptions& options) const
 {
-    if (m_server)
-        fillSampleRegister(m_path, dir() + QStringLiteral("/Kartella files"), options);
-    else
+    if (!m_server) {
         fillSampleRegister(m_path, options);
+        return;
+    }
+    // A register on a server keeps its sample files in the current folder: the temporary one.
+    const QString previous = QDir::currentPath();
+    QDir::setCurrent(dir());
+    try {
+        fillSampleRegister(m_path, options);
+    } catch (...) {
+        QDir::setCurrent(previous);
+        throw;
+    }
+    QDir::setCurrent(previous);
 }
 
 } // namespace kartella::test

@@ -50,8 +50,8 @@ public:
     // Adds one row of the given field values (Null as an invalid QVariant, dates as QDate)
     // and returns its new key.
     qint32 insert(const QString& table, const QVariantMap& values) const;
-    // Fills the register with sample data (files in sampleFilesFolder(path()) for a file,
-    // in "<dir()>/Kartella files" for a server register).
+    // Fills the register with sample data (files in sampleFilesFolder(path()), which for a
+    // server register is a folder in dir()).
     void fillSample(const SampleOptions& options = {}) const;
 
 private:
