@@ -465,7 +465,15 @@ void AddressBookWindow::saveChanges()
         if (m_homePagesChanged && m_homePages->isOpen())
             m_homePages->updateBatch(AffectEnum::All);
     } catch (const Error& error) {
-        msgBox(error.description());
+        if (!rowWasDeleted(error.description())) {
+            msgBox(error.description());
+            return;
+        }
+        reportDeletedRow(QStringLiteral("contact"), windowTitle());
+        // Nothing of the gone contact can be stored: its pending changes are dropped.
+        try {
+            m_contacts->cancelBatch();
+        } catch (const Error&) { }
     }
 }
 

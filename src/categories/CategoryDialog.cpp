@@ -8,6 +8,7 @@
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
 #include "support/BusyCursor.h"
+#include "support/DialogParts.h"
 #include "support/EnterAsTab.h"
 #include "support/RecordsetModel.h"
 #include "support/SelectionState.h"
@@ -122,14 +123,19 @@ void CategoryDialog::refreshSubCategories()
 
 void CategoryDialog::save()
 {
-    const bool stored = reportErrors([this] {
+    try {
         if (m_category->isOpen())
             m_category->updateBatch(AffectEnum::Current);
         if (m_subCategories->isOpen())
             m_subCategories->updateBatch(AffectEnum::All);
-    });
-    if (!stored)
+    } catch (const Error& error) {
+        // Refused: the dialog stays with what was typed, for the user to cancel or retry.
+        if (rowWasDeleted(error.description()))
+            reportDeletedRow(QStringLiteral("category"), windowTitle());
+        else
+            msgBox(error.description());
         return;
+    }
     m_edited = false;
     m_addingSubCategory = false;
     accept();

@@ -260,6 +260,16 @@ void DocumentDetailsDialog::load()
     } catch (const Error& error) {
         reportStoreError(error.number(), error.description(), ErrorTitle);
     }
+    // A document deleted by another program since its key was taken: nothing to show, and
+    // nothing the form could store but a new row.
+    if (m_document->isOpen() && m_document->eof()) {
+        m_gone = true;
+        msgBox(QStringLiteral("This document was deleted by another user."),
+            MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, ErrorTitle);
+        for (QWidget* editing :
+            {static_cast<QWidget*>(m_tabs), static_cast<QWidget*>(m_ok), static_cast<QWidget*>(m_apply)})
+            editing->setEnabled(false);
+    }
 
     setWindowTitle(m_description->text() + QStringLiteral(" Description"));
     showIcon();
@@ -384,7 +394,10 @@ bool DocumentDetailsDialog::apply()
         m_document->updateBatch(AffectEnum::Current);
         m_reminders->updateBatch(AffectEnum::All);
     } catch (const Error& error) {
-        reportStoreError(error.number(), error.description(), ErrorTitle);
+        if (rowWasDeleted(error.description()))
+            reportDeletedRow(QStringLiteral("document"), ErrorTitle);
+        else
+            reportStoreError(error.number(), error.description(), ErrorTitle);
         return false;
     }
     setClean();
@@ -431,6 +444,11 @@ void DocumentDetailsDialog::closeEvent(QCloseEvent* event)
     }
     setClean();
     QDialog::closeEvent(event);
+}
+
+int DocumentDetailsDialog::exec()
+{
+    return m_gone ? int(QDialog::Rejected) : QDialog::exec();
 }
 
 void DocumentDetailsDialog::done(int result)

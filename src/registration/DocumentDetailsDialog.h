@@ -38,6 +38,10 @@ public:
 
     // Something was changed and not yet applied.
     bool detailsChanged() const { return m_changed; }
+    // The document is no longer in the register (told on loading); exec() then shows nothing.
+    bool documentGone() const { return m_gone; }
+
+    int exec() override;
 
 public Q_SLOTS:
     // Stores the row and the reminders when something changed; false when the store refused.
@@ -77,6 +81,7 @@ private:
     qint32 m_documentId = 0;
     bool m_changed = false;
     bool m_showing = false;
+    bool m_gone = false;
 
     QLabel* m_icon = nullptr;
     QLineEdit* m_description = nullptr;

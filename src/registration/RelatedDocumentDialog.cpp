@@ -64,7 +64,8 @@ RelatedDocumentDialog::~RelatedDocumentDialog() = default;
 
 void RelatedDocumentDialog::buildWidgets()
 {
-    auto* tabs = new QTabWidget(this);
+    m_tabs = new QTabWidget(this);
+    auto* tabs = m_tabs;
     tabs->setObjectName(QStringLiteral("SSTab1"));
     auto* page = new QWidget(tabs);
     tabs->addTab(page, QString(10, u' '));
@@ -172,7 +173,22 @@ void RelatedDocumentDialog::load()
     } catch (const Error& error) {
         msgBox(error.description());
     }
+    // A related document deleted by another program since it was selected: there is
+    // nothing to edit, and the form could store nothing but a new row.
+    if (m_mode == Mode::Editing && m_related->isOpen() && m_related->eof()) {
+        m_gone = true;
+        msgBox(QStringLiteral("This related document was deleted by another user."),
+            MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, windowTitle());
+        const QList<QWidget*> editing = {m_tabs, m_ok};
+        for (QWidget* widget : editing)
+            widget->setEnabled(false);
+    }
     m_changed = false;
+}
+
+int RelatedDocumentDialog::exec()
+{
+    return m_gone ? int(QDialog::Rejected) : QDialog::exec();
 }
 
 void RelatedDocumentDialog::setLocation(const QString& path)
@@ -245,7 +261,10 @@ void RelatedDocumentDialog::save()
         m_binder->validate();
         m_related->updateBatch(AffectEnum::All);
     } catch (const Error& error) {
-        msgBox(error.description());
+        if (rowWasDeleted(error.description()))
+            reportDeletedRow(QStringLiteral("related document"), windowTitle());
+        else
+            msgBox(error.description());
         return;
     }
     accept();

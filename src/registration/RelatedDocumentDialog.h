@@ -7,6 +7,7 @@
 class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
+class QTabWidget;
 
 namespace kartella {
 
@@ -34,6 +35,11 @@ public:
     // Writes path into the Location box, as a file dropped on the related list does.
     void setLocation(const QString& path);
     bool relatedChanged() const { return m_changed; }
+    // The related document is no longer in the register (told on loading); exec() then
+    // shows nothing.
+    bool relatedGone() const { return m_gone; }
+
+    int exec() override;
 
 public Q_SLOTS:
     void createWithWord();
@@ -65,7 +71,9 @@ private:
     Recordset* m_related = nullptr;
     Recordset* m_contacts = nullptr;
     bool m_changed = false;
+    bool m_gone = false;
 
+    QTabWidget* m_tabs = nullptr;
     QLineEdit* m_parent = nullptr;
     QPlainTextEdit* m_description = nullptr;
     QLineEdit* m_date = nullptr;

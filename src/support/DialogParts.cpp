@@ -110,4 +110,16 @@ void reportStoreError(long number, const QString& description, const QString& ti
         MsgBoxStyle::OkOnly | MsgBoxStyle::Critical, title);
 }
 
+bool rowWasDeleted(const QString& description)
+{
+    return description.startsWith(QLatin1String("Row cannot be located for updating"));
+}
+
+void reportDeletedRow(const QString& what, const QString& title)
+{
+    msgBox(QStringLiteral("This ") + what
+            + QStringLiteral(" was deleted by another user; your changes were not saved."),
+        MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, title);
+}
+
 } // namespace kartella

@@ -65,4 +65,12 @@ void restoreDefaultCursor();
 // the register is told.
 void reportStoreError(long number, const QString& description, const QString& title);
 
+// Whether a refused write says that its row is no longer in the register: another program
+// deleted it while it was open here.
+bool rowWasDeleted(const QString& description);
+
+// "This <what> was deleted by another user; your changes were not saved." in an
+// exclamation box under title.
+void reportDeletedRow(const QString& what, const QString& title);
+
 } // namespace kartella

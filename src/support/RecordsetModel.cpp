@@ -4,6 +4,7 @@
 #include "platform/Prompter.h"
 #include "store/engine/Recordset.h"
 #include "store/engine/Value.h"
+#include "support/DialogParts.h"
 
 #include <QDate>
 #include <QDateTime>
@@ -198,6 +199,19 @@ bool RecordsetModel::setCell(int row, int column, const QVariant& value)
         if (m_recordset->editMode() != EditModeEnum::None)
             m_recordset->update();
     } catch (const Error& error) {
+        if (rowWasDeleted(error.description())) {
+            // Nothing can be stored in a row that is gone: the cell goes back to what it showed.
+            try {
+                m_recordset->cancelUpdate();
+            } catch (const Error&) {
+                // Not in an edit any more: nothing to undo.
+            }
+            m_self = false;
+            Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
+            msgBox(QStringLiteral("This row was deleted by another user; your change was not saved."),
+                MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, QString());
+            return false;
+        }
         m_self = false;
         msgBox(error.description());
         return false;

@@ -14,7 +14,8 @@
 
 namespace kartella::test {
 
-ExplorerFixture::ExplorerFixture()
+ExplorerFixture::ExplorerFixture(TestRegister::Where where)
+    : reg(where)
 {
     const QDate today = QDate::currentDate();
     thisMonth = QDate(today.year(), today.month(), 10);

@@ -22,7 +22,8 @@ namespace kartella::test {
 class ExplorerFixture
 {
 public:
-    ExplorerFixture();
+    // The register is a file, or a database on the tests' server.
+    explicit ExplorerFixture(TestRegister::Where where = TestRegister::File);
     ~ExplorerFixture();
 
     TestRegister reg;

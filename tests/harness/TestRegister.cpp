@@ -1,6 +1,7 @@
 #include "harness/TestRegister.h"
 
 #include "base/Error.h"
+#include "harness/ServerDatabase.h"
 #include "options/FirstRun.h"
 #include "options/OptionStore.h"
 #include "store/InsertBatch.h"
@@ -9,6 +10,7 @@
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
 
+#include <QDir>
 #include <QHash>
 
 namespace kartella::test {
@@ -42,13 +44,32 @@ TestRegister::TestRegister(const QString& fileName)
     , m_previousConfig(qgetenv("XDG_CONFIG_HOME"))
     , m_hadConfig(qEnvironmentVariableIsSet("XDG_CONFIG_HOME"))
 {
+    setUp(m_path);
+}
+
+TestRegister::TestRegister(Where where)
+    : m_path(m_dir.filePath(QStringLiteral("Kartella.mdb")))
+    , m_previousConfig(qgetenv("XDG_CONFIG_HOME"))
+    , m_hadConfig(qEnvironmentVariableIsSet("XDG_CONFIG_HOME"))
+{
+    if (where == Server) {
+        if (!ServerDatabase::available())
+            throw Error(ErrorNumber::ConnectionFailed, ServerDatabase::skipReason());
+        m_server = std::make_unique<ServerDatabase>();
+        m_path = m_server->location();
+    }
+    setUp(m_path);
+}
+
+void TestRegister::setUp(const QString& location)
+{
     if (!m_dir.isValid())
         throw Error(ErrorNumber::PathFileAccess, QStringLiteral("Can't make a temporary folder"));
     qputenv("XDG_CONFIG_HOME", m_dir.filePath(QStringLiteral("config")).toUtf8());
     try {
         seedOptionsIfMissing();
-        createRegister(m_path);
-        setRegValue(QStringLiteral("DbLocation"), m_path);
+        createRegister(location);
+        setRegValue(QStringLiteral("DbLocation"), location);
         setRegValue(QStringLiteral("Provider"), Provider);
     } catch (...) {
         restoreConfig();
@@ -99,6 +120,8 @@ qint32 TestRegister::insert(const QString& table, const QVariantMap& values) con
         fields << it.key();
         literals << sqlLiteral(it.value());
     }
+    // A statement rather than a recordset, so that a test can store what the program's
+    // own writes would refuse (text in a date column of an old register, say).
     QString sql = QStringLiteral("INSERT INTO ") + table;
     sql += fields.isEmpty() ? QStringLiteral(" DEFAULT VALUES")
                             : QStringLiteral(" (") + fields.join(u',') + QStringLiteral(") VALUES (")
@@ -106,7 +129,8 @@ qint32 TestRegister::insert(const QString& table, const QVariantMap& values) con
     Connection connection(connectionString());
     connection.open();
     connection.execute(sql);
-    // A given key is the new one; otherwise the generator's latest.
+    // A given key is the new one; otherwise the highest, as nobody else writes to a test's
+    // register (this works on either back end).
     if (values.contains(key))
         return values.value(key).toInt();
     Recordset last;
@@ -116,7 +140,20 @@ qint32 TestRegister::insert(const QString& table, const QVariantMap& values) con
 
 void TestRegister::fillSample(const SampleOptions& options) const
 {
-    fillSampleRegister(m_path, options);
+    if (!m_server) {
+        fillSampleRegister(m_path, options);
+        return;
+    }
+    // A register on a server keeps its sample files in the current folder: the temporary one.
+    const QString previous = QDir::currentPath();
+    QDir::setCurrent(dir());
+    try {
+        fillSampleRegister(m_path, options);
+    } catch (...) {
+        QDir::setCurrent(previous);
+        throw;
+    }
+    QDir::setCurrent(previous);
 }
 
 } // namespace kartella::test

@@ -8,7 +8,11 @@
 #include <QVariant>
 #include <QVariantMap>
 
+#include <memory>
+
 namespace kartella::test {
+
+class ServerDatabase;
 
 // A fresh, empty register for one test: a temporary folder holding the register file and
 // the options (XDG_CONFIG_HOME points into it while the object lives), seeded with the
@@ -18,15 +22,22 @@ namespace kartella::test {
 //     TestRegister reg;
 //     const qint32 id = reg.insert("tbl_Contacts", {{"FullName", "Ona Petraitienė"}});
 //     QCOMPARE(reg.scalar("SELECT COUNT(*) FROM tbl_Contacts").toInt(), 1);
+//
+// TestRegister(TestRegister::Server) keeps the register in a throwaway database on the tests'
+// PostgreSQL server instead (see ServerDatabase; check ServerDatabase::available() first).
 class TestRegister
 {
 public:
+    enum Where { File, Server };
+
     explicit TestRegister(const QString& fileName = QStringLiteral("Kartella.mdb"));
+    explicit TestRegister(Where where);
     ~TestRegister();
     TestRegister(const TestRegister&) = delete;
     TestRegister& operator=(const TestRegister&) = delete;
 
-    // The register file and the temporary folder that holds it.
+    // The register's location (its file, or the postgresql:// location of its database) and
+    // the temporary folder that holds the options.
     QString path() const { return m_path; }
     QString dir() const { return m_dir.path(); }
     // The connection string of the register, in the program's plain form.
@@ -39,13 +50,16 @@ public:
     // Adds one row of the given field values (Null as an invalid QVariant, dates as QDate)
     // and returns its new key.
     qint32 insert(const QString& table, const QVariantMap& values) const;
-    // Fills the register with sample data (files in sampleFilesFolder(path())).
+    // Fills the register with sample data (files in sampleFilesFolder(path()), which for a
+    // server register is a folder in dir()).
     void fillSample(const SampleOptions& options = {}) const;
 
 private:
+    void setUp(const QString& location);
     void restoreConfig() const;
 
     QTemporaryDir m_dir;
+    std::unique_ptr<ServerDatabase> m_server;
     QString m_path;
     QByteArray m_previousConfig;
     bool m_hadConfig = false;
