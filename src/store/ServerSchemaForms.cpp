@@ -88,7 +88,7 @@ QString monthView(const QString& viewName, const QString& firstDay, const QStrin
         "FROM (\"tbl_Documents\" d LEFT JOIN \"tbl_Contacts\" p ON p.\"ContactID\" = d.\"ContactID\") "
         "LEFT JOIN \"tbl_Document_Categories\" c ON c.\"KategID\" = d.\"KategID\" "
         "WHERE d.\"DokRegistracData\" >= %2 AND d.\"DokRegistracData\" < %3 "
-        "ORDER BY c.\"DokKategorija\", d.\"DokRegistracData\"")
+        "ORDER BY c.\"DokKategorija\" NULLS FIRST, d.\"DokRegistracData\" NULLS FIRST")
         .arg(viewName, firstDay, nextFirstDay);
 }
 
@@ -105,7 +105,8 @@ QStringList views()
         QStringLiteral(
             "CREATE VIEW \"qry_Phones\" AS SELECT c.\"ContactID\", c.\"FullName\", p.\"PhoneName\", "
             "p.\"PhoneNumber\" FROM \"tbl_Contacts\" c INNER JOIN \"tbl_Phones\" p "
-            "ON c.\"ContactID\" = p.\"ContactID\" ORDER BY c.\"FullName\", p.\"PhoneName\""),
+            "ON c.\"ContactID\" = p.\"ContactID\" ORDER BY c.\"FullName\" NULLS FIRST, p.\"PhoneName\" NULLS "
+            "FIRST"),
     };
 }
 

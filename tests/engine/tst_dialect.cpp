@@ -120,7 +120,8 @@ private Q_SLOTS:
             << "SELECT \"FullName\", other FROM \"tbl_Contacts\" t WHERE t.\"ContactID\" = 1";
         QTest::newRow("aliases kept as written")
             << "SELECT COUNT(*) AS N, max(RastasID) AS Top FROM tbl_Documents ORDER BY n"
-            << "SELECT COUNT(*) AS \"N\", max(\"RastasID\") AS \"Top\" FROM \"tbl_Documents\" ORDER BY \"N\"";
+            << "SELECT COUNT(*) AS \"N\", max(\"RastasID\") AS \"Top\" FROM \"tbl_Documents\" ORDER BY \"N\" "
+               "NULLS FIRST";
         QTest::newRow("functions and casts")
             << "SELECT lower(FullName), CAST(KategID AS text) FROM tbl_Contacts"
             << "SELECT lower(\"FullName\"), CAST(\"KategID\" AS text) FROM \"tbl_Contacts\"";
@@ -140,7 +141,16 @@ private Q_SLOTS:
         QTest::newRow("name order")
             << "DELETE tbl_Contacts.* FROM tbl_Contacts WHERE FullName < 'B' ORDER BY FullName"
             << "DELETE FROM \"tbl_Contacts\" WHERE \"FullName\" COLLATE NAMEFOLD < 'B' ORDER BY \"FullName\" "
-               "COLLATE NAMEFOLD";
+               "COLLATE NAMEFOLD NULLS FIRST";
+        QTest::newRow("null first as in Jet")
+            << "SELECT (SELECT max(Title) FROM tbl_Contacts ORDER BY Dear DESC LIMIT 1) AS T FROM "
+               "tbl_Documents "
+               "ORDER BY KategID, DokRegistracData DESC, RastasID NULLS LAST, lower(DokAntraste) ASC"
+            << "SELECT (SELECT max(\"Title\") FROM \"tbl_Contacts\" ORDER BY \"Dear\" DESC NULLS LAST LIMIT "
+               "1) AS "
+               "\"T\" FROM \"tbl_Documents\" ORDER BY \"KategID\" NULLS FIRST, \"DokRegistracData\" DESC "
+               "NULLS LAST, "
+               "\"RastasID\" NULLS LAST, lower(\"DokAntraste\") ASC NULLS FIRST";
         QTest::newRow("schema statements as they stand") << "CREATE TABLE strict (id integer, FullName text);"
                                                          << "CREATE TABLE strict (id integer, FullName text)";
     }

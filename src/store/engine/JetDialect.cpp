@@ -49,8 +49,10 @@ public:
                 rightJoin(first);
             }
         }
-        if (m_serverNames)
+        if (m_serverNames) {
             ilike();
+            nullsFirst();
+        }
         return assemble(0, size());
     }
 
@@ -354,6 +356,71 @@ private:
             declared.replace(u'"', QLatin1String("\"\""));
             m_replace[i] = u'"' + declared + u'"';
         }
+    }
+
+    // Null comes first in an ascending order, as in Jet and SQLite (PostgreSQL puts it last):
+    // each ORDER BY term without NULLS of its own gets NULLS FIRST, or NULLS LAST after DESC.
+    void nullsFirst()
+    {
+        struct Level
+        {
+            bool inOrderBy = false;
+            qsizetype last = -1; // the last solid token of the term so far
+            bool hasNulls = false;
+        };
+        std::vector<Level> levels(1);
+        auto endTerm = [this](Level& level) {
+            if (level.inOrderBy && level.last >= 0 && !level.hasNulls) {
+                const QString text = m_replace[level.last]
+                    ? *m_replace[level.last]
+                    : tokenText(m_text, m_tokens[level.last]).toString();
+                m_replace[level.last] = text
+                    + (isWord(level.last, u"DESC") ? QStringLiteral(" NULLS LAST")
+                                                   : QStringLiteral(" NULLS FIRST"));
+            }
+            level.last = -1;
+            level.hasNulls = false;
+        };
+        for (qsizetype i = 0; i < size(); ++i) {
+            if (m_tokens[i].kind == SqlToken::Space)
+                continue;
+            Level& level = levels.back();
+            if (isPunct(i, u'(')) {
+                if (level.inOrderBy)
+                    level.last = i;
+                levels.emplace_back();
+                continue;
+            }
+            if (isPunct(i, u')')) {
+                if (levels.size() > 1) {
+                    endTerm(levels.back());
+                    levels.pop_back();
+                    if (levels.back().inOrderBy)
+                        levels.back().last = i;
+                }
+                continue;
+            }
+            if (isWord(i, u"BY") && isWord(previousSolid(i), u"ORDER")) {
+                level.inOrderBy = true;
+                level.last = -1;
+                continue;
+            }
+            if (!level.inOrderBy)
+                continue;
+            if (isPunct(i, u',')) {
+                endTerm(level);
+            } else if (isWord(i, u"LIMIT") || isWord(i, u"OFFSET") || isWord(i, u"FOR") || isPunct(i, u';')
+                || isWord(i, u"UNION") || isWord(i, u"EXCEPT") || isWord(i, u"INTERSECT")) {
+                endTerm(level);
+                level.inOrderBy = false;
+            } else {
+                if (isWord(i, u"NULLS"))
+                    level.hasNulls = true;
+                level.last = i;
+            }
+        }
+        for (Level& level : levels)
+            endTerm(level);
     }
 
     // x LIKE p -> x ILIKE p ESCAPE '', unless an ESCAPE follows the pattern.

@@ -42,7 +42,9 @@ using ServerNames = QHash<QString, QString>;
 //    later use of it; [name] becomes "name";
 //  - Like becomes ILIKE, case-insensitive as the engine's Like, with ESCAPE '' unless the
 //    statement gives an escape (Jet's Like has none, PostgreSQL's is a backslash);
-//  - COLLATE NAMEFOLD stays: a register on a server has a collation of that name.
+//  - COLLATE NAMEFOLD stays: a register on a server has a collation of that name;
+//  - an ORDER BY term gets NULLS FIRST (NULLS LAST when descending), where Jet and SQLite
+//    put Null, unless it says NULLS itself.
 // Other statements (CREATE, ALTER, DROP, SET, ...) are the server's own and pass unchanged
 // but for a trailing ;.
 QString translateJetToPostgres(const QString& sql, const ServerNames& names);
