@@ -1,6 +1,7 @@
 // The search across the register, without a window: the index the schema keeps, the
 // folding, and the query texts run on a real register.
 #include "explorer/DocumentSearch.h"
+#include "harness/ServerDatabase.h"
 #include "harness/TestRegister.h"
 #include "store/SchemaSteps.h"
 #include "store/SearchIndex.h"
@@ -23,21 +24,34 @@ namespace {
 using Ids = QList<qint32>;
 
 // The documents found for a text, in list order.
-Ids found(const TestRegister& reg, const QString& text, bool indexed = true, int direction = 0,
+Ids found(const TestRegister& reg, const QString& text, SearchIndexKind index, int direction = 0,
     bool withinDates = false, const QDate& start = {}, const QDate& end = {})
 {
     Connection connection;
     connection.open(reg.connectionString());
     Recordset rs;
-    rs.open(searchListSql(searchWords(text), indexed ? SearchIndexKind::FullText : SearchIndexKind::None,
-                direction, withinDates, start, end),
-        connection);
+    rs.open(searchListSql(searchWords(text), index, direction, withinDates, start, end), connection);
     Ids ids;
     while (!rs.eof()) {
         ids << rs.fields(QStringLiteral("RastasID")).value().toInt();
         rs.moveNext();
     }
     return ids;
+}
+
+Ids found(const TestRegister& reg, const QString& text, bool indexed = true, int direction = 0,
+    bool withinDates = false, const QDate& start = {}, const QDate& end = {})
+{
+    return found(reg, text, indexed ? SearchIndexKind::FullText : SearchIndexKind::None, direction,
+        withinDates, start, end);
+}
+
+// The ways a register of each place finds documents.
+QList<SearchIndexKind> indexesOf(TestRegister::Where where)
+{
+    if (where == TestRegister::Server)
+        return {SearchIndexKind::Table};
+    return {SearchIndexKind::FullText, SearchIndexKind::None};
 }
 
 qint32 addDocument(const TestRegister& reg, const QVariantMap& values)
@@ -68,6 +82,14 @@ class SearchTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // A register file and, when the tests have one, a server register.
+    static void places()
+    {
+        QTest::addColumn<TestRegister::Where>("where");
+        QTest::newRow("file") << TestRegister::File;
+        QTest::newRow("server") << TestRegister::Server;
+    }
+
     void wordsAreSplitFoldedAndKeptOnce()
     {
         QCOMPARE(searchWords(QStringLiteral("  Šiaulių\tSUTARTIS šiaulių\n0823/4 ")),
@@ -122,9 +144,14 @@ private Q_SLOTS:
         }
     }
 
+    void everyFieldAndWordsInAnyOrder_data() { places(); }
+
     void everyFieldAndWordsInAnyOrder()
     {
-        TestRegister reg;
+        QFETCH(TestRegister::Where, where);
+        if (where == TestRegister::Server && !ServerDatabase::available())
+            QSKIP(qPrintable(ServerDatabase::skipReason()));
+        TestRegister reg(where);
         const qint32 contact = reg.insert(QStringLiteral("tbl_Contacts"), {{"FullName", "Ona Petraitienė"}});
         const qint32 byDescription = addDocument(reg,
             {{"DokAntraste", "Sutartis dėl Šiaulių"}, {"DokRegistracIndeksas", "SUT-0823/4"},
@@ -137,7 +164,7 @@ private Q_SLOTS:
                 {"DokRegistracData", QDate(2024, 3, 3)}});
         const qint32 nothing = addDocument(reg, {{"DokAntraste", "Kita"}});
 
-        for (const bool indexed : {true, false}) {
+        for (const SearchIndexKind indexed : indexesOf(where)) {
             QCOMPARE(found(reg, "siauliu sutartis", indexed), Ids {byDescription});
             QCOMPARE(found(reg, "SUTARTIS ŠIAULIŲ", indexed), Ids {byDescription});
             QCOMPARE(found(reg, "0823/4", indexed), Ids {byDescription});
@@ -161,26 +188,32 @@ private Q_SLOTS:
         }
     }
 
+    void editsAndDeletesShowAtOnce_data() { places(); }
+
     void editsAndDeletesShowAtOnce()
     {
-        TestRegister reg;
+        QFETCH(TestRegister::Where, where);
+        if (where == TestRegister::Server && !ServerDatabase::available())
+            QSKIP(qPrintable(ServerDatabase::skipReason()));
+        TestRegister reg(where);
+        const SearchIndexKind index = indexesOf(where).front();
         const qint32 contact = reg.insert(QStringLiteral("tbl_Contacts"), {{"FullName", "Jonas Žukauskas"}});
         const qint32 doc = addDocument(reg, {{"DokAntraste", "Prašymas"}, {"ContactID", contact}});
-        QCOMPARE(found(reg, "zukausk"), Ids {doc});
+        QCOMPARE(found(reg, "zukausk", index), Ids {doc});
         reg.exec(
             QStringLiteral("UPDATE tbl_Documents SET DokAntraste = 'Įsakymas' WHERE RastasID = %1").arg(doc));
-        QCOMPARE(found(reg, "prasymas"), Ids {});
-        QCOMPARE(found(reg, "isakymas"), Ids {doc});
+        QCOMPARE(found(reg, "prasymas", index), Ids {});
+        QCOMPARE(found(reg, "isakymas", index), Ids {doc});
         // The contact's new name, and a document moved to no contact.
         reg.exec(QStringLiteral("UPDATE tbl_Contacts SET FullName = 'Jonas Čepas' WHERE ContactID = %1")
                      .arg(contact));
-        QCOMPARE(found(reg, "zukausk"), Ids {});
-        QCOMPARE(found(reg, "cepas isak"), Ids {doc});
+        QCOMPARE(found(reg, "zukausk", index), Ids {});
+        QCOMPARE(found(reg, "cepas isak", index), Ids {doc});
         reg.exec(QStringLiteral("DELETE FROM tbl_Contacts WHERE ContactID = %1").arg(contact));
-        QCOMPARE(found(reg, "cepas"), Ids {});
-        QCOMPARE(found(reg, "isakymas"), Ids {doc});
+        QCOMPARE(found(reg, "cepas", index), Ids {});
+        QCOMPARE(found(reg, "isakymas", index), Ids {doc});
         reg.exec(QStringLiteral("DELETE FROM tbl_Documents WHERE RastasID = %1").arg(doc));
-        QCOMPARE(found(reg, "isakymas"), Ids {});
+        QCOMPARE(found(reg, "isakymas", index), Ids {});
         QCOMPARE(reg.scalar(QStringLiteral("SELECT COUNT(*) FROM tbl_Documents_Search")).toInt(), 0);
     }
 
