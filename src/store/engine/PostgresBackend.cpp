@@ -1,5 +1,6 @@
 #include "store/engine/PostgresBackend.h"
 
+#include "store/engine/BackendParts.h"
 #include "store/engine/DateText.h"
 #include "store/engine/EngineErrors.h"
 #include "store/engine/SqlLexer.h"
@@ -43,13 +44,6 @@ constexpr const char* DeadlockDetected = "40P01";
     throwError(ErrorNumber::ConnectionFailed, description, ConnectionSource);
 }
 
-QString quoted(const QString& name)
-{
-    QString escaped = name;
-    escaped.replace(u'"', QLatin1String("\"\""));
-    return u'"' + escaped + u'"';
-}
-
 QString literal(const QString& text)
 {
     QString escaped = text;
@@ -90,28 +84,6 @@ QString shownLocation(const QString& location)
         return location;
     url.setPassword(QString());
     return url.toString();
-}
-
-// Whether a SELECT may have the row key added to its columns (see SqliteBackend.cpp).
-bool acceptsHiddenKey(const QString& sql)
-{
-    const std::vector<SqlToken> tokens = tokenizeSql(sql);
-    bool first = true;
-    for (const SqlToken& token : tokens) {
-        if (token.kind == SqlToken::Space)
-            continue;
-        if (first) {
-            if (!isKeyword(sql, token, u"SELECT"))
-                return false;
-            first = false;
-            continue;
-        }
-        for (const char16_t* word : {u"DISTINCT", u"GROUP", u"UNION", u"INTERSECT", u"EXCEPT", u"VALUES"}) {
-            if (isKeyword(sql, token, word))
-                return false;
-        }
-    }
-    return !first;
 }
 
 QByteArray hexBytes(const char* text, int size)
@@ -162,7 +134,8 @@ std::unique_ptr<PostgresBackend> PostgresBackend::open(const QString& location)
             + QStringLiteral("': ") + message);
     }
     // The server's notices ("... does not exist, skipping") are no news to a user.
-    PQsetNoticeProcessor(connection, [](void*, const char*) {}, nullptr);
+    PQsetNoticeProcessor(
+        connection, [](void*, const char*) {}, nullptr);
     std::unique_ptr<PostgresBackend> backend(new PostgresBackend(connection, location));
     // Local time for the views of this and the previous month, as on a register file; a
     // zone the server doesn't know leaves the server's own.
@@ -355,8 +328,8 @@ void PostgresBackend::advanceKeyGenerators()
             = QStringLiteral("SELECT setval(s, m) FROM (SELECT pg_get_serial_sequence(%1, %2) AS s, "
                              "(SELECT max(%3) FROM %4) AS m) q "
                              "WHERE s IS NOT NULL AND m > coalesce(pg_sequence_last_value(s::regclass), 0)")
-                  .arg(
-                      literal(quoted(table.name)), literal(table.key), quoted(table.key), quoted(table.name));
+                  .arg(literal(quotedName(table.name)), literal(table.key), quotedName(table.key),
+                      quotedName(table.name));
         run(sql.toUtf8(), {}, sql);
     }
     m_explicitKeys.clear();
@@ -403,34 +376,19 @@ QueryResult PostgresBackend::query(const QString& sql)
     describe(description.get(), result);
     result.visibleColumns = int(result.columns.size());
 
-    // The one table that every column comes from, if there is one.
-    QString table;
-    for (const ColumnInfo& column : result.columns) {
-        if (column.table.isEmpty()
-            || (!table.isEmpty() && column.table.compare(table, Qt::CaseInsensitive) != 0)) {
-            table.clear();
-            break;
-        }
-        table = column.table;
-    }
+    const QString table = singleSourceTable(result.columns);
     bool keyFirst = false;
     if (!table.isEmpty()) {
         const TableSchema& schema = tableSchema(table);
-        for (int c = 0; c < result.visibleColumns; ++c) {
-            if (result.columns[std::size_t(c)].origin.compare(schema.key, Qt::CaseInsensitive) == 0) {
-                result.keyColumn = c;
-                result.keyName = schema.key;
-                break;
-            }
-        }
+        findKeyColumn(result, schema);
         if (result.keyColumn < 0 && acceptsHiddenKey(translated)) {
             // Read the key too, first, and keep it behind the visible columns. The name of
             // the table may not reach the key (an alias); a savepoint keeps a refusal from
             // spoiling a transaction.
             const qsizetype after = translated.indexOf(QLatin1String("select"), 0, Qt::CaseInsensitive) + 6;
-            for (const QString& qualifier : QStringList {quoted(table) + u'.', QString()}) {
-                const QString keyed = translated.left(after) + u' ' + qualifier + quoted(schema.key) + u','
-                    + translated.mid(after);
+            for (const QString& qualifier : QStringList {quotedName(table) + u'.', QString()}) {
+                const QString keyed = translated.left(after) + u' ' + qualifier + quotedName(schema.key)
+                    + u',' + translated.mid(after);
                 if (m_depth > 0)
                     runText(QStringLiteral("SAVEPOINT hidden_key"), sql);
                 Result keyedDescription = prepare(keyed);
@@ -587,14 +545,14 @@ std::vector<QByteArray> PostgresBackend::textParameters(const QVariantList& valu
 QVariant PostgresBackend::insertRow(
     const TableSchema& table, const QStringList& columns, const QVariantList& values)
 {
-    QString sql = QStringLiteral("INSERT INTO ") + quoted(table.name);
+    QString sql = QStringLiteral("INSERT INTO ") + quotedName(table.name);
     if (columns.isEmpty()) {
         sql += QStringLiteral(" DEFAULT VALUES");
     } else {
         QStringList names;
         QStringList places;
         for (qsizetype i = 0; i < columns.size(); ++i) {
-            names << quoted(columns[i]);
+            names << quotedName(columns[i]);
             places << u'$' + QString::number(i + 1);
         }
         sql += QStringLiteral(" (") + names.join(u',') + QStringLiteral(") VALUES (") + places.join(u',')
@@ -610,7 +568,7 @@ QVariant PostgresBackend::insertRow(
         noteExplicitKey(table);
         return values[given];
     }
-    sql += QStringLiteral(" RETURNING ") + quoted(table.key);
+    sql += QStringLiteral(" RETURNING ") + quotedName(table.key);
     const Result result = run(sql.toUtf8(), textParameters(values), sql);
     if (table.key == QLatin1String("ctid"))
         return QString::fromUtf8(PQgetvalue(result.get(), 0, 0));
@@ -624,9 +582,9 @@ void PostgresBackend::updateRow(const TableSchema& table, const QString& keyName
         return;
     QStringList assignments;
     for (qsizetype i = 0; i < columns.size(); ++i)
-        assignments << quoted(columns[i]) + QStringLiteral("=$") + QString::number(i + 1);
-    const QString sql = QStringLiteral("UPDATE ") + quoted(table.name) + QStringLiteral(" SET ")
-        + assignments.join(u',') + QStringLiteral(" WHERE ") + quoted(keyName) + QStringLiteral("=$")
+        assignments << quotedName(columns[i]) + QStringLiteral("=$") + QString::number(i + 1);
+    const QString sql = QStringLiteral("UPDATE ") + quotedName(table.name) + QStringLiteral(" SET ")
+        + assignments.join(u',') + QStringLiteral(" WHERE ") + quotedName(keyName) + QStringLiteral("=$")
         + QString::number(columns.size() + 1);
     QVariantList parameters = values;
     parameters << key;
@@ -640,8 +598,8 @@ void PostgresBackend::updateRow(const TableSchema& table, const QString& keyName
 
 void PostgresBackend::deleteRow(const TableSchema& table, const QString& keyName, const QVariant& key)
 {
-    const QString sql = QStringLiteral("DELETE FROM ") + quoted(table.name) + QStringLiteral(" WHERE ")
-        + quoted(keyName) + QStringLiteral("=$1");
+    const QString sql = QStringLiteral("DELETE FROM ") + quotedName(table.name) + QStringLiteral(" WHERE ")
+        + quotedName(keyName) + QStringLiteral("=$1");
     run(sql.toUtf8(), textParameters({key}), sql);
 }
 

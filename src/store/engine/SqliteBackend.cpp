@@ -1,5 +1,6 @@
 #include "store/engine/SqliteBackend.h"
 
+#include "store/engine/BackendParts.h"
 #include "store/engine/DateText.h"
 #include "store/engine/EngineErrors.h"
 #include "store/engine/JetDialect.h"
@@ -20,13 +21,6 @@ namespace {
 [[noreturn]] void failToOpen(const QString& description)
 {
     throwError(ErrorNumber::ConnectionFailed, description, ConnectionSource);
-}
-
-QString quoted(const QString& name)
-{
-    QString escaped = name;
-    escaped.replace(u'"', QLatin1String("\"\""));
-    return u'"' + escaped + u'"';
 }
 
 ValueKind declaredKind(const char* declared)
@@ -69,29 +63,6 @@ FileKind fileKind(const QString& path, QString& error)
     if (jetName == "Standard Jet DB" || jetName == "Standard ACE DB")
         return FileKind::Access;
     return FileKind::Other;
-}
-
-// Whether a SELECT may have the row key added to its columns: a plain one, with no
-// grouping, DISTINCT or compound part.
-bool acceptsHiddenKey(const QString& sql)
-{
-    const std::vector<SqlToken> tokens = tokenizeSql(sql);
-    bool first = true;
-    for (const SqlToken& token : tokens) {
-        if (token.kind == SqlToken::Space)
-            continue;
-        if (first) {
-            if (!isKeyword(sql, token, u"SELECT"))
-                return false;
-            first = false;
-            continue;
-        }
-        for (const char16_t* word : {u"DISTINCT", u"GROUP", u"UNION", u"INTERSECT", u"EXCEPT", u"VALUES"}) {
-            if (isKeyword(sql, token, word))
-                return false;
-        }
-    }
-    return !first;
 }
 
 // The SELECT with the source table's rowid as its first column.
@@ -281,28 +252,13 @@ QueryResult SqliteBackend::query(const QString& sql)
     describe(statement.get(), 0);
     result.visibleColumns = int(result.columns.size());
 
-    // The one table that every column comes from, if there is one.
-    QString table;
-    for (const ColumnInfo& column : result.columns) {
-        if (column.table.isEmpty()
-            || (!table.isEmpty() && column.table.compare(table, Qt::CaseInsensitive) != 0)) {
-            table.clear();
-            break;
-        }
-        table = column.table;
-    }
+    const QString table = singleSourceTable(result.columns);
     if (!table.isEmpty()) {
         const TableSchema& schema = tableSchema(table);
-        for (int c = 0; c < result.visibleColumns; ++c) {
-            if (result.columns[std::size_t(c)].origin.compare(schema.key, Qt::CaseInsensitive) == 0) {
-                result.keyColumn = c;
-                result.keyName = schema.key;
-                break;
-            }
-        }
+        findKeyColumn(result, schema);
         if (result.keyColumn < 0 && acceptsHiddenKey(translated)) {
             // Read the rowid too, first, and keep it behind the visible columns.
-            for (const QString& qualifier : QStringList {quoted(table) + u'.', QString()}) {
+            for (const QString& qualifier : QStringList {quotedName(table) + u'.', QString()}) {
                 sqlite3_stmt* keyed = nullptr;
                 const QByteArray keyedSql = withRowid(translated, qualifier).toUtf8();
                 if (sqlite3_prepare_v2(m_db, keyedSql.constData(), int(keyedSql.size()), &keyed, nullptr)
@@ -392,7 +348,7 @@ const TableSchema& SqliteBackend::tableSchema(const QString& table)
     if (found != m_schemas.end())
         return found->second;
 
-    const QString sql = QStringLiteral("PRAGMA table_info(") + quoted(table) + u')';
+    const QString sql = QStringLiteral("PRAGMA table_info(") + quotedName(table) + u')';
     Statement statement = prepare(sql.toUtf8(), sql);
     TableSchema schema;
     schema.name = table;
@@ -489,13 +445,13 @@ void SqliteBackend::bind(sqlite3_stmt* statement, int index, const QVariant& val
 QVariant SqliteBackend::insertRow(
     const TableSchema& table, const QStringList& columns, const QVariantList& values)
 {
-    QString sql = QStringLiteral("INSERT INTO ") + quoted(table.name);
+    QString sql = QStringLiteral("INSERT INTO ") + quotedName(table.name);
     if (columns.isEmpty()) {
         sql += QStringLiteral(" DEFAULT VALUES");
     } else {
         QStringList names;
         for (const QString& column : columns)
-            names << quoted(column);
+            names << quotedName(column);
         sql += QStringLiteral(" (") + names.join(u',') + QStringLiteral(") VALUES (")
             + QString(QStringLiteral("?,")).repeated(columns.size()).chopped(1) + u')';
     }
@@ -519,9 +475,9 @@ void SqliteBackend::updateRow(const TableSchema& table, const QString& keyName, 
         return;
     QStringList assignments;
     for (const QString& column : columns)
-        assignments << quoted(column) + QStringLiteral("=?");
-    const QString sql = QStringLiteral("UPDATE ") + quoted(table.name) + QStringLiteral(" SET ")
-        + assignments.join(u',') + QStringLiteral(" WHERE ") + quoted(keyName) + QStringLiteral("=?");
+        assignments << quotedName(column) + QStringLiteral("=?");
+    const QString sql = QStringLiteral("UPDATE ") + quotedName(table.name) + QStringLiteral(" SET ")
+        + assignments.join(u',') + QStringLiteral(" WHERE ") + quotedName(keyName) + QStringLiteral("=?");
     sqlite3_stmt* statement = cachedStatement(sql);
     for (int i = 0; i < values.size(); ++i)
         bind(statement, i + 1, values[i], sql);
@@ -535,8 +491,8 @@ void SqliteBackend::updateRow(const TableSchema& table, const QString& keyName, 
 
 void SqliteBackend::deleteRow(const TableSchema& table, const QString& keyName, const QVariant& key)
 {
-    const QString sql = QStringLiteral("DELETE FROM ") + quoted(table.name) + QStringLiteral(" WHERE ")
-        + quoted(keyName) + QStringLiteral("=?");
+    const QString sql = QStringLiteral("DELETE FROM ") + quotedName(table.name) + QStringLiteral(" WHERE ")
+        + quotedName(keyName) + QStringLiteral("=?");
     sqlite3_stmt* statement = cachedStatement(sql);
     bind(statement, 1, key, sql);
     run(statement, sql);

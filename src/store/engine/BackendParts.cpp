@@ -1,0 +1,58 @@
+#include "store/engine/BackendParts.h"
+
+#include "store/engine/SqlLexer.h"
+
+namespace kartella::engine {
+
+QString quotedName(const QString& name)
+{
+    QString escaped = name;
+    escaped.replace(u'"', QLatin1String("\"\""));
+    return u'"' + escaped + u'"';
+}
+
+bool acceptsHiddenKey(const QString& sql)
+{
+    const std::vector<SqlToken> tokens = tokenizeSql(sql);
+    bool first = true;
+    for (const SqlToken& token : tokens) {
+        if (token.kind == SqlToken::Space)
+            continue;
+        if (first) {
+            if (!isKeyword(sql, token, u"SELECT"))
+                return false;
+            first = false;
+            continue;
+        }
+        for (const char16_t* word : {u"DISTINCT", u"GROUP", u"UNION", u"INTERSECT", u"EXCEPT", u"VALUES"}) {
+            if (isKeyword(sql, token, word))
+                return false;
+        }
+    }
+    return !first;
+}
+
+QString singleSourceTable(const std::vector<ColumnInfo>& columns)
+{
+    QString table;
+    for (const ColumnInfo& column : columns) {
+        if (column.table.isEmpty()
+            || (!table.isEmpty() && column.table.compare(table, Qt::CaseInsensitive) != 0))
+            return {};
+        table = column.table;
+    }
+    return table;
+}
+
+void findKeyColumn(QueryResult& result, const TableSchema& schema)
+{
+    for (int c = 0; c < result.visibleColumns; ++c) {
+        if (result.columns[std::size_t(c)].origin.compare(schema.key, Qt::CaseInsensitive) == 0) {
+            result.keyColumn = c;
+            result.keyName = schema.key;
+            return;
+        }
+    }
+}
+
+} // namespace kartella::engine

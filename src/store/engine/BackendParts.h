@@ -1,0 +1,25 @@
+#pragma once
+
+#include "store/engine/Backend.h"
+
+#include <QString>
+
+namespace kartella::engine {
+
+// What both back ends do alike around a query.
+
+// A name in double quotes, a double quote inside doubled.
+QString quotedName(const QString& name);
+
+// Whether a SELECT may have the row key added to its columns: a plain one, with no
+// grouping, DISTINCT or compound part.
+bool acceptsHiddenKey(const QString& sql);
+
+// The one table every column of the result comes from, or an empty text when the columns
+// come from several tables or from expressions.
+QString singleSourceTable(const std::vector<ColumnInfo>& columns);
+
+// Sets the result's key column and name when the table's key is among its visible columns.
+void findKeyColumn(QueryResult& result, const TableSchema& schema);
+
+} // namespace kartella::engine
