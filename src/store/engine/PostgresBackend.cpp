@@ -3,7 +3,7 @@
 #include "store/engine/BackendParts.h"
 #include "store/engine/DateText.h"
 #include "store/engine/EngineErrors.h"
-#include "store/engine/SqlLexer.h"
+#include "store/engine/PostgresTypes.h"
 
 #include <QDate>
 #include <QDateTime>
@@ -19,21 +19,7 @@ namespace kartella::engine {
 
 namespace {
 
-// The built-in types the engine tells apart, by their fixed object ids.
-namespace TypeId {
-constexpr Oid Bool = 16;
-constexpr Oid Bytea = 17;
-constexpr Oid Int8 = 20;
-constexpr Oid Int2 = 21;
-constexpr Oid Int4 = 23;
-constexpr Oid ObjectId = 26;
-constexpr Oid Float4 = 700;
-constexpr Oid Float8 = 701;
-constexpr Oid Date = 1082;
-constexpr Oid Timestamp = 1114;
-constexpr Oid TimestampTz = 1184;
-constexpr Oid Numeric = 1700;
-} // namespace TypeId
+using namespace postgres;
 
 // The SQLSTATEs of a lock wait that ran out and of a deadlock.
 constexpr const char* LockNotAvailable = "55P03";
@@ -42,38 +28,6 @@ constexpr const char* DeadlockDetected = "40P01";
 [[noreturn]] void failToOpen(const QString& description)
 {
     throwError(ErrorNumber::ConnectionFailed, description, ConnectionSource);
-}
-
-QString literal(const QString& text)
-{
-    QString escaped = text;
-    escaped.replace(u'\'', QLatin1String("''"));
-    return u'\'' + escaped + u'\'';
-}
-
-ValueKind kindOfType(Oid type)
-{
-    switch (type) {
-    case TypeId::Bool:
-    case TypeId::Int2:
-    case TypeId::Int4:
-    case TypeId::Int8:
-    case TypeId::ObjectId:
-        return ValueKind::Integer;
-    case TypeId::Float4:
-    case TypeId::Float8:
-    case TypeId::Numeric:
-        return ValueKind::Real;
-    case TypeId::Date:
-        return ValueKind::Date;
-    case TypeId::Timestamp:
-    case TypeId::TimestampTz:
-        return ValueKind::DateTime;
-    case TypeId::Bytea:
-        return ValueKind::Blob;
-    default:
-        return ValueKind::Text;
-    }
 }
 
 // The location without the password, should it hold one, for messages.
@@ -217,65 +171,6 @@ PostgresBackend::Result PostgresBackend::runText(const QString& sql, const QStri
     return result;
 }
 
-void PostgresBackend::loadCatalog()
-{
-    // Every column of the tables and views of the current schema, with the key of each table:
-    // its one-column primary key, and whether the database makes its values.
-    static const QByteArray sql
-        = "SELECT c.oid, c.relname, a.attnum, a.attname, a.atttypid, "
-          "a.attidentity <> '' OR coalesce(pg_get_expr(d.adbin, d.adrelid) LIKE 'nextval(%', false), "
-          "coalesce(i.indnatts = 1 AND a.attnum = i.indkey[0], false) "
-          "FROM pg_class c JOIN pg_attribute a ON a.attrelid = c.oid "
-          "LEFT JOIN pg_attrdef d ON d.adrelid = c.oid AND d.adnum = a.attnum "
-          "LEFT JOIN pg_index i ON i.indrelid = c.oid AND i.indisprimary "
-          "WHERE c.relnamespace = current_schema()::regnamespace AND c.relkind IN ('r', 'v', 'm', 'p', 'f') "
-          "AND a.attnum > 0 AND NOT a.attisdropped ORDER BY c.oid, a.attnum";
-    const Result result = run(sql, {}, QString::fromUtf8(sql));
-    m_relations.clear();
-    m_relationByOid.clear();
-    m_names.clear();
-    const int rows = PQntuples(result.get());
-    for (int r = 0; r < rows; ++r) {
-        const unsigned oid = unsigned(std::strtoul(PQgetvalue(result.get(), r, 0), nullptr, 10));
-        const QString table = QString::fromUtf8(PQgetvalue(result.get(), r, 1));
-        const QString lower = table.toLower();
-        Relation& relation = m_relations[lower];
-        if (relation.schema.name.isEmpty()) {
-            relation.schema.name = table;
-            m_relationByOid.insert(oid, lower);
-            m_names.insert(lower, table);
-        }
-        TableColumn column;
-        column.name = QString::fromUtf8(PQgetvalue(result.get(), r, 3));
-        column.declared = kindOfType(Oid(std::strtoul(PQgetvalue(result.get(), r, 4), nullptr, 10)));
-        relation.columnsByNumber.emplace(std::atoi(PQgetvalue(result.get(), r, 2)), column.name);
-        if (*PQgetvalue(result.get(), r, 6) == 't') {
-            relation.schema.key = column.name;
-            relation.schema.keyGenerated = *PQgetvalue(result.get(), r, 5) == 't';
-        }
-        m_names.insert(column.name.toLower(), column.name);
-        relation.schema.columns.push_back(std::move(column));
-    }
-    for (auto& [name, relation] : m_relations) {
-        // A table without a one-column key is written by its row's place.
-        if (relation.schema.key.isEmpty())
-            relation.schema.key = QStringLiteral("ctid");
-    }
-    m_catalogLoaded = true;
-}
-
-const ServerNames& PostgresBackend::names()
-{
-    if (!m_catalogLoaded)
-        loadCatalog();
-    return m_names;
-}
-
-QString PostgresBackend::translate(const QString& sql)
-{
-    return translateJetToPostgres(sql, names());
-}
-
 void PostgresBackend::execute(const QString& sql)
 {
     const QString translated = translate(sql);
@@ -286,53 +181,6 @@ void PostgresBackend::execute(const QString& sql)
     if (changesSchema)
         m_catalogLoaded = false;
     noteInsert(translated);
-}
-
-void PostgresBackend::noteInsert(const QString& translatedSql)
-{
-    const std::vector<SqlToken> tokens = tokenizeSql(translatedSql);
-    std::vector<const SqlToken*> solid;
-    for (const SqlToken& token : tokens) {
-        if (token.kind != SqlToken::Space)
-            solid.push_back(&token);
-        if (solid.size() == 3)
-            break;
-    }
-    if (solid.size() < 3 || !isKeyword(translatedSql, *solid[0], u"INSERT")
-        || !isKeyword(translatedSql, *solid[1], u"INTO"))
-        return;
-    const auto found = m_relations.find(unquotedText(translatedSql, *solid[2]).toLower());
-    if (found != m_relations.end())
-        noteExplicitKey(found->second.schema);
-}
-
-void PostgresBackend::noteExplicitKey(const TableSchema& table)
-{
-    if (!table.keyGenerated)
-        return;
-    m_explicitKeys.insert(table.name.toLower());
-    if (m_depth == 0)
-        advanceKeyGenerators();
-}
-
-void PostgresBackend::advanceKeyGenerators()
-{
-    // Rows written with their keys given leave the key generator behind: move it past the
-    // largest key, never back, so that new rows get keys no row has had.
-    for (const QString& lower : std::as_const(m_explicitKeys)) {
-        const auto found = m_relations.find(lower);
-        if (found == m_relations.end())
-            continue;
-        const TableSchema& table = found->second.schema;
-        const QString sql
-            = QStringLiteral("SELECT setval(s, m) FROM (SELECT pg_get_serial_sequence(%1, %2) AS s, "
-                             "(SELECT max(%3) FROM %4) AS m) q "
-                             "WHERE s IS NOT NULL AND m > coalesce(pg_sequence_last_value(s::regclass), 0)")
-                  .arg(literal(quotedName(table.name)), literal(table.key), quotedName(table.key),
-                      quotedName(table.name));
-        run(sql.toUtf8(), {}, sql);
-    }
-    m_explicitKeys.clear();
 }
 
 void PostgresBackend::describe(pg_result* description, QueryResult& result)
@@ -493,20 +341,6 @@ void PostgresBackend::readRows(pg_result* rows, QueryResult& result, const std::
             }
         }
     }
-}
-
-const TableSchema& PostgresBackend::tableSchema(const QString& table)
-{
-    names();
-    auto found = m_relations.find(table.toLower());
-    if (found == m_relations.end()) {
-        loadCatalog();
-        found = m_relations.find(table.toLower());
-    }
-    if (found == m_relations.end())
-        throwError(ErrorNumber::CommandFailed, QStringLiteral("The register has no table '") + table + u'\'',
-            ConnectionSource);
-    return found->second.schema;
 }
 
 std::vector<QByteArray> PostgresBackend::textParameters(const QVariantList& values)

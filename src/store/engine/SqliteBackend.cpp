@@ -4,7 +4,6 @@
 #include "store/engine/DateText.h"
 #include "store/engine/EngineErrors.h"
 #include "store/engine/JetDialect.h"
-#include "store/engine/SqlLexer.h"
 
 #include <QDate>
 #include <QDateTime>
