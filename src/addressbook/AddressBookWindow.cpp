@@ -465,7 +465,7 @@ void AddressBookWindow::saveChanges()
         if (m_homePagesChanged && m_homePages->isOpen())
             m_homePages->updateBatch(AffectEnum::All);
     } catch (const Error& error) {
-        if (!rowWasDeleted(error.description())) {
+        if (!rowWasDeleted(error)) {
             msgBox(error.description());
             return;
         }

@@ -37,6 +37,9 @@ namespace ErrorNumber {
 constexpr long ConnectionFailed = -2147467259;
 // A statement the database refused (DB_E_ERRORSINCOMMAND, 0x80040E14).
 constexpr long CommandFailed = -2147217900;
+// A row to change is no longer in the database: another program deleted it
+// (DB_E_DELETEDROW, 0x80040E23).
+constexpr long RowDeleted = -2147217885;
 // Operation not allowed in the object's present state (adErrIllegalOperation).
 constexpr long IllegalOperation = 3219;
 // Either BOF or EOF is true, or the current record has been deleted (adErrNoCurrentRecord).

@@ -130,7 +130,7 @@ void CategoryDialog::save()
             m_subCategories->updateBatch(AffectEnum::All);
     } catch (const Error& error) {
         // Refused: the dialog stays with what was typed, for the user to cancel or retry.
-        if (rowWasDeleted(error.description()))
+        if (rowWasDeleted(error))
             reportDeletedRow(QStringLiteral("category"), windowTitle());
         else
             msgBox(error.description());

@@ -394,7 +394,7 @@ bool DocumentDetailsDialog::apply()
         m_document->updateBatch(AffectEnum::Current);
         m_reminders->updateBatch(AffectEnum::All);
     } catch (const Error& error) {
-        if (rowWasDeleted(error.description()))
+        if (rowWasDeleted(error))
             reportDeletedRow(QStringLiteral("document"), ErrorTitle);
         else
             reportStoreError(error.number(), error.description(), ErrorTitle);

@@ -261,7 +261,7 @@ void RelatedDocumentDialog::save()
         m_binder->validate();
         m_related->updateBatch(AffectEnum::All);
     } catch (const Error& error) {
-        if (rowWasDeleted(error.description()))
+        if (rowWasDeleted(error))
             reportDeletedRow(QStringLiteral("related document"), windowTitle());
         else
             msgBox(error.description());

@@ -1,5 +1,6 @@
 #include "support/DialogParts.h"
 
+#include "base/Error.h"
 #include "platform/Prompter.h"
 
 #include <QComboBox>
@@ -110,9 +111,9 @@ void reportStoreError(long number, const QString& description, const QString& ti
         MsgBoxStyle::OkOnly | MsgBoxStyle::Critical, title);
 }
 
-bool rowWasDeleted(const QString& description)
+bool rowWasDeleted(const Error& error)
 {
-    return description.startsWith(QLatin1String("Row cannot be located for updating"));
+    return error.number() == ErrorNumber::RowDeleted;
 }
 
 void reportDeletedRow(const QString& what, const QString& title)

@@ -14,6 +14,8 @@ class QWidget;
 
 namespace kartella {
 
+class Error;
+
 // Small pieces that the data dialogs build their windows from.
 
 // A button that Enter never presses by itself.
@@ -67,7 +69,7 @@ void reportStoreError(long number, const QString& description, const QString& ti
 
 // Whether a refused write says that its row is no longer in the register: another program
 // deleted it while it was open here.
-bool rowWasDeleted(const QString& description);
+bool rowWasDeleted(const Error& error);
 
 // "This <what> was deleted by another user; your changes were not saved." in an
 // exclamation box under title.

@@ -199,7 +199,7 @@ bool RecordsetModel::setCell(int row, int column, const QVariant& value)
         if (m_recordset->editMode() != EditModeEnum::None)
             m_recordset->update();
     } catch (const Error& error) {
-        if (rowWasDeleted(error.description())) {
+        if (rowWasDeleted(error)) {
             // Nothing can be stored in a row that is gone: the cell goes back to what it showed.
             try {
                 m_recordset->cancelUpdate();

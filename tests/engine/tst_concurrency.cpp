@@ -106,7 +106,7 @@ private Q_SLOTS:
             mine.update();
             QFAIL("the update of a deleted row went through");
         } catch (const Error& error) {
-            QCOMPARE(error.number(), ErrorNumber::CommandFailed);
+            QCOMPARE(error.number(), ErrorNumber::RowDeleted);
             QVERIFY2(error.description().contains(QStringLiteral("another user may have deleted it")),
                 qPrintable(error.description()));
         }

@@ -1,5 +1,6 @@
 #include "store/engine/BackendParts.h"
 
+#include "store/engine/EngineErrors.h"
 #include "store/engine/SqlLexer.h"
 
 namespace kartella::engine {
@@ -42,6 +43,14 @@ QString singleSourceTable(const std::vector<ColumnInfo>& columns)
         table = column.table;
     }
     return table;
+}
+
+void failRowGone(const TableSchema& table, const QString& keyName, const QVariant& key)
+{
+    throwError(ErrorNumber::RowDeleted,
+        QStringLiteral("Row cannot be located for updating: another user may have deleted it (") + table.name
+            + u' ' + keyName + u'=' + key.toString() + u')',
+        ConnectionSource);
 }
 
 void findKeyColumn(QueryResult& result, const TableSchema& schema)

@@ -19,6 +19,9 @@ bool acceptsHiddenKey(const QString& sql);
 // come from several tables or from expressions.
 QString singleSourceTable(const std::vector<ColumnInfo>& columns);
 
+// An update found no row with the key: ErrorNumber::RowDeleted.
+[[noreturn]] void failRowGone(const TableSchema& table, const QString& keyName, const QVariant& key);
+
 // Sets the result's key column and name when the table's key is among its visible columns.
 void findKeyColumn(QueryResult& result, const TableSchema& schema);
 

@@ -424,10 +424,7 @@ void PostgresBackend::updateRow(const TableSchema& table, const QString& keyName
     parameters << key;
     const Result result = run(sql.toUtf8(), textParameters(parameters), sql);
     if (qstrcmp(PQcmdTuples(result.get()), "0") == 0)
-        throwError(ErrorNumber::CommandFailed,
-            QStringLiteral("Row cannot be located for updating: another user may have deleted it (")
-                + table.name + u' ' + keyName + u'=' + key.toString() + u')',
-            ConnectionSource);
+        failRowGone(table, keyName, key);
 }
 
 void PostgresBackend::deleteRow(const TableSchema& table, const QString& keyName, const QVariant& key)

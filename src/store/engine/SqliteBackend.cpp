@@ -482,10 +482,7 @@ void SqliteBackend::updateRow(const TableSchema& table, const QString& keyName, 
         bind(statement, i + 1, values[i], sql);
     bind(statement, int(values.size()) + 1, key, sql);
     if (run(statement, sql) == 0)
-        throwError(ErrorNumber::CommandFailed,
-            QStringLiteral("Row cannot be located for updating: another user may have deleted it (")
-                + table.name + u' ' + keyName + u'=' + key.toString() + u')',
-            ConnectionSource);
+        failRowGone(table, keyName, key);
 }
 
 void SqliteBackend::deleteRow(const TableSchema& table, const QString& keyName, const QVariant& key)
