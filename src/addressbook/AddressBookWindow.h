@@ -16,6 +16,7 @@ namespace kartella {
 
 class EnterAsTab;
 class FieldBinder;
+class LimitedTextEdit;
 class Recordset;
 class RecordsetModel;
 
@@ -26,7 +27,7 @@ class RecordsetModel;
 // pages of the current contact, opened again for each contact. Edits of the fields stay
 // pending until the user answers the save question (on a line change, a filter or closing).
 // The toolbar dials the number of the phone line chosen, opens the web page chosen and
-// starts a mail to the contact's address.
+// starts a mail to the contact's address. The widgets are built in AddressBookLayout.cpp.
 class AddressBookWindow : public QDialog
 {
     Q_OBJECT
@@ -55,6 +56,13 @@ private:
     void fillContactList();
     void bindContactChildren();
     void onLineChosen(QTreeWidgetItem* item);
+    // Marks the line of the contact the fields show again, after a line change was cancelled.
+    void markShownLine();
+    // The name boxes take a stored value whole, however long; their limit holds for typing.
+    // Before a row shows, no box may cut it; after, each box's limit is its own or the
+    // length of what it shows.
+    void liftTypingLimits();
+    void fitTypingLimits();
     void onHeaderClicked(int column);
     void onPhoneRowChanged();
     void onHomePageRowChanged();
@@ -90,6 +98,8 @@ private:
     QLineEdit* m_url = nullptr;
     QAction* m_dial = nullptr;
     QAction* m_browse = nullptr;
+    // Ctrl+Delete where the contact list has the focus.
+    QAction* m_deleteKey = nullptr;
 
     // The row's key is in a box nobody sees; it chooses the phones and web pages.
     QLineEdit* m_contactId = nullptr;
@@ -97,7 +107,7 @@ private:
     QLineEdit* m_title = nullptr;
     QLineEdit* m_dear = nullptr;
     QLineEdit* m_fullName = nullptr;
-    QPlainTextEdit* m_address = nullptr;
+    LimitedTextEdit* m_address = nullptr;
     QLineEdit* m_city = nullptr;
     QLineEdit* m_state = nullptr;
     QLineEdit* m_postalCode = nullptr;

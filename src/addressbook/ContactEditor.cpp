@@ -12,6 +12,8 @@
 #include "support/FieldBinder.h"
 #include "support/RecordsetModel.h"
 
+#include <QAbstractItemDelegate>
+#include <QAction>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -85,9 +87,20 @@ void ContactEditor::buildWidgets()
     m_tabs->addTab(gridTab("cmdAddURL", QStringLiteral("Add &URL"), "grdHomePages",
                        QStringLiteral("Home pages"), m_homePageGrid, &ContactEditor::addUrl),
         QStringLiteral("Home pages"));
+    // The buttons' access keys work from every tab, not only while their button shows.
+    const auto accessKey = [this](const char* buttonName, Qt::Key key, void (ContactEditor::*slot)()) {
+        findChild<QPushButton*>(QLatin1String(buttonName))->setShortcut(QKeySequence());
+        auto* action = new QAction(this);
+        action->setShortcut(QKeySequence(Qt::ALT | key));
+        addAction(action);
+        connect(action, &QAction::triggered, this, slot);
+    };
+    accessKey("cmdAddPhone", Qt::Key_P, &ContactEditor::addPhone);
+    accessKey("cmdAddURL", Qt::Key_U, &ContactEditor::addUrl);
     m_notes = new QPlainTextEdit(this);
     m_notes->setObjectName(QStringLiteral("txtFields_11"));
     m_notes->setAccessibleName(QStringLiteral("Notes"));
+    m_notes->setTabChangesFocus(true);
     m_tabs->addTab(m_notes, QStringLiteral("Notes"));
 
     m_ok = makeButton(QStringLiteral("cmdOk"), QStringLiteral("OK"), this);
@@ -106,6 +119,14 @@ void ContactEditor::buildWidgets()
     m_phoneModel->attachView(m_phoneGrid);
     m_homePageModel = new RecordsetModel(this);
     m_homePageModel->attachView(m_homePageGrid);
+    // A row reaches the register when the user leaves it.
+    for (QTableView* grid : {m_phoneGrid, m_homePageGrid}) {
+        connect(grid->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex& current, const QModelIndex& previous) {
+                if (previous.isValid() && current.row() != previous.row())
+                    storeGridRows();
+            });
+    }
 
     m_keys = new EnterAsTab(this);
     for (QLineEdit* box : {m_contactId, m_companyName, m_title, m_dear, m_fullName, m_address, m_city,
@@ -215,6 +236,7 @@ void ContactEditor::showHomePages()
 {
     try {
         // Web pages typed for the contact before are kept, not dropped with the old rows.
+        dropUntypedHomePage();
         if (m_homePages->isOpen() && m_homePages->hasPendingChanges())
             m_homePages->updateBatch(AffectEnum::All);
         m_homePages->close();
@@ -256,10 +278,35 @@ void ContactEditor::addUrl()
 
 void ContactEditor::onGridEnter(QTableView* grid, RecordsetModel* model)
 {
-    // Enter ends the adding of rows and moves one cell on.
+    // Enter ends the adding of rows and moves one cell on; what the cell's editor holds goes
+    // into the row first, as Tab would take it.
+    const QModelIndex current = grid->currentIndex();
+    if (QWidget* editor = current.isValid() ? grid->indexWidget(current) : nullptr)
+        grid->itemDelegateForIndex(current)->setModelData(editor, model, current);
     model->setAllowAddNew(false);
     grid->setFocus(Qt::OtherFocusReason);
     EnterAsTab::sendKey(grid, Qt::Key_Right);
+}
+
+void ContactEditor::dropUntypedHomePage()
+{
+    // The grid takes each typed cell into its row at once, so a row still being added has
+    // had nothing typed into it.
+    if (m_homePages->isOpen() && m_homePages->editMode() == EditModeEnum::Add)
+        m_homePages->cancelUpdate();
+}
+
+void ContactEditor::storeGridRows()
+{
+    try {
+        if (Recordset* phones = m_phoneModel->recordset(); phones && phones->isOpen())
+            phones->updateBatch(AffectEnum::All);
+        dropUntypedHomePage();
+        if (m_homePages->isOpen())
+            m_homePages->updateBatch(AffectEnum::All);
+    } catch (const Error& error) {
+        msgBox(error.description());
+    }
 }
 
 void ContactEditor::save()
@@ -300,6 +347,8 @@ bool ContactEditor::askBeforeClosing()
 
 void ContactEditor::done(int result)
 {
+    if (result == Rejected)
+        storeGridRows();
     while (QGuiApplication::overrideCursor())
         QGuiApplication::restoreOverrideCursor();
     QDialog::done(result);

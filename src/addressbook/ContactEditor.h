@@ -18,8 +18,9 @@ class RecordsetModel;
 // frmCorr, "New Contact": enters one new contact with its phones and web pages. It starts on
 // a new, unsaved row of the contacts. A phone or web page needs its contact's key, which
 // exists only once the contact is stored: so Add Phone and Add URL store the contact first
-// and then open a new line in their grid. OK stores the contact and its web pages (phones
-// go with the contact); Cancel drops what isn't stored yet.
+// and then open a new line in their grid. The rows of either grid are stored as the user
+// leaves them, and when the dialog closes: Cancel keeps them and drops only the contact's
+// own typing since it was last stored. OK stores everything.
 class ContactEditor : public QDialog
 {
     Q_OBJECT
@@ -45,6 +46,10 @@ private:
     void saveContactRow();
     void showHomePages();
     void onGridEnter(QTableView* grid, RecordsetModel* model);
+    // Writes the rows typed into the grids; a web page row started by Add URL and never
+    // typed into is dropped instead.
+    void storeGridRows();
+    void dropUntypedHomePage();
     bool askBeforeClosing();
 
     Recordset* m_contact = nullptr;

@@ -17,7 +17,12 @@ namespace kartella {
 RecordsetModel::RecordsetModel(QObject* parent)
     : QAbstractTableModel(parent)
     , m_dateFormat(QLocale::system().dateFormat(QLocale::ShortFormat))
-{ }
+{
+    const auto count = [this] { m_shownRows = rowCount(); };
+    connect(this, &QAbstractItemModel::modelReset, this, count);
+    connect(this, &QAbstractItemModel::rowsInserted, this, count);
+    connect(this, &QAbstractItemModel::rowsRemoved, this, count);
+}
 
 void RecordsetModel::setRecordset(Recordset* recordset)
 {
@@ -41,6 +46,14 @@ void RecordsetModel::setRecordset(Recordset* recordset)
 
 void RecordsetModel::reload()
 {
+    const QStringList fields
+        = m_recordset && m_recordset->isOpen() ? m_recordset->fieldNames() : QStringList();
+    if (fields == m_fields && rowCount() == m_shownRows) {
+        // The same rows, their values perhaps new (written back, keys filled in).
+        if (m_shownRows > 0 && !m_fields.isEmpty())
+            Q_EMIT dataChanged(index(0, 0), index(m_shownRows - 1, columnCount() - 1));
+        return;
+    }
     beginResetModel();
     m_fields = m_recordset && m_recordset->isOpen() ? m_recordset->fieldNames() : QStringList();
     endResetModel();
@@ -68,9 +81,21 @@ void RecordsetModel::setAllowAddNew(bool allow)
 {
     if (allow == m_allowAddNew)
         return;
-    beginResetModel();
-    m_allowAddNew = allow;
-    endResetModel();
+    if (!m_recordset || !m_recordset->isOpen() || !m_recordset->isUpdatable()) {
+        m_allowAddNew = allow;
+        return;
+    }
+    // Only the new-row line comes or goes: the views keep their current cell.
+    const int line = dataRows();
+    if (allow) {
+        beginInsertRows({}, line, line);
+        m_allowAddNew = true;
+        endInsertRows();
+    } else {
+        beginRemoveRows({}, line, line);
+        m_allowAddNew = false;
+        endRemoveRows();
+    }
 }
 
 bool RecordsetModel::isNewRowLine(int row) const

@@ -18,7 +18,8 @@ namespace kartella {
 // rows. A refused value is told in a message box and leaves the row as it was.
 //
 // The model follows the recordset: rows added, deleted, requeried or replaced (a chapter
-// whose parent moved) and fields set by code show at once.
+// whose parent moved) and fields set by code show at once. Rows written back, or changed
+// without a change of their number, keep the view's current cell and its open editor.
 //
 //     auto* model = new RecordsetModel(this);
 //     model->setRecordset(shaped->chapter("ChildCMD"));
@@ -93,6 +94,7 @@ private:
     bool m_allowAddNew = false;
     bool m_self = false; // the model itself is changing the recordset
     bool m_syncing = false; // the current rows of view and recordset are being matched
+    int m_shownRows = 0; // the rows the views know of
 };
 
 } // namespace kartella

@@ -1,5 +1,6 @@
 #include "AddressBookFixture.h"
 
+#include "store/engine/Recordset.h"
 #include "support/RecordsetModel.h"
 
 #include <QAction>
@@ -35,6 +36,16 @@ AddressBookFixture::AddressBookFixture(bool withContacts)
 int AddressBookFixture::count(const QString& table) const
 {
     return reg.scalar("SELECT COUNT(*) FROM " + table).toInt();
+}
+
+QStringList AddressBookFixture::column(const QString& sql) const
+{
+    Recordset rows;
+    rows.open(sql, reg.connectionString(), CursorTypeEnum::Static, LockTypeEnum::ReadOnly);
+    QStringList texts;
+    for (int row = 0; row < rows.recordCount(); ++row)
+        texts << rows.rowValue(row, 0).toString();
+    return texts;
 }
 
 Shown::Shown(QWidget* shown)

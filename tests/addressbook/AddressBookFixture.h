@@ -30,6 +30,8 @@ struct AddressBookFixture
 
     explicit AddressBookFixture(bool withContacts = true);
     int count(const QString& table) const;
+    // The texts of the first field of sql's rows, in order (Null as "").
+    QStringList column(const QString& sql) const;
 };
 
 // A window shown and active, so that focus and keys work, with its controls by name.
