@@ -408,7 +408,7 @@ void SettingsDialog::chooseDatabaseFile()
 
 bool SettingsDialog::refusePasswordInLocation()
 {
-    if (!serverLocationHoldsPassword(m_dbLocation->text()))
+    if (!locationHoldsPassword(m_dbLocation->text()))
         return false;
     msgBox(QStringLiteral("The register location holds a password. It is not stored, since the "
                           "settings file would keep it for anyone to read.\r\rWrite the location "
@@ -437,8 +437,14 @@ void SettingsDialog::save()
     settings.postalCode = m_postalCode->text();
     settings.databaseType = databaseTypeIndex();
     settings.dbLocation = m_dbLocation->text();
-    if (!writeConfirmedSettings(settings))
-        msgBox(QStringLiteral("Unable to write the settings file ") + iniFilePath());
+    if (!writeConfirmedSettings(settings)) {
+        // The dialog stays, with what was typed, for another OK once the cause is mended.
+        msgBox(QStringLiteral("Unable to write the settings file ") + iniFilePath()
+                + QStringLiteral("\r\rThe settings that wait for OK are not stored. The dialog stays "
+                                 "open: make the file writable and press OK again, or Cancel."),
+            MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation, windowTitle());
+        return;
+    }
 
     // The main window answers after this dialog has closed: its refresh is queued.
     if (m_databaseChanged)

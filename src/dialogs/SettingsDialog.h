@@ -58,7 +58,7 @@ private:
     void markChanged() { m_settingsChanged = true; }
     void refreshSample();
     void askBeforeClosing();
-    // Says why a server location with a password in it isn't stored; true when it did.
+    // Says why a location with a password in it isn't stored; true when it did.
     bool refusePasswordInLocation();
     // The list index of the database type: -1 while typed text stands in the box.
     int databaseTypeIndex() const;

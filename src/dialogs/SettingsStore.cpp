@@ -2,10 +2,9 @@
 
 #include "options/OptionStore.h"
 #include "registration/ValueConversions.h"
-#include "store/engine/Connection.h"
 
+#include <QRegularExpression>
 #include <QStringList>
-#include <QUrl>
 
 namespace kartella {
 
@@ -16,6 +15,32 @@ const QStringList& providers()
     static const QStringList list
         = {QStringLiteral("Microsoft.Jet.OLEDB.4.0"), QStringLiteral("Microsoft.Jet.OLEDB.3.51")};
     return list;
+}
+
+// user:password@ in a URL. The user part ends at the first ":" and the password at the
+// last "@" before the host's end, so that a password holding "@" is taken whole.
+const QRegularExpression& userPassword()
+{
+    static const QRegularExpression form(QStringLiteral("(://[^\\s/?#@:]*):(?<password>[^\\s/?#]*)@"));
+    return form;
+}
+
+// password=value as a URL parameter or a keyword of the database client: the name may be
+// percent-encoded, blanks may stand around "=", the value may be quoted. The blanks after
+// the value go with it, so that what is left reads as one list of keywords.
+const QRegularExpression& passwordKeyword()
+{
+    static const QRegularExpression form = [] {
+        QString name;
+        for (const char letter : {'p', 'a', 's', 's', 'w', 'o', 'r', 'd'})
+            name += QStringLiteral("(?:") + QLatin1Char(letter) + QStringLiteral("|%")
+                + QString::number(int(letter), 16) + QStringLiteral("|%")
+                + QString::number(int(letter) - 0x20, 16) + u')';
+        return QRegularExpression(QStringLiteral("(^|[\\s?&;])\\s*") + name
+                + QStringLiteral("\\s*=\\s*(?<password>'(?:[^'\\\\]|\\\\.)*'|[^\\s&;]*)[ \\t]*"),
+            QRegularExpression::CaseInsensitiveOption);
+    }();
+    return form;
 }
 
 } // namespace
@@ -49,9 +74,10 @@ bool writeConfirmedSettings(const ConfirmedSettings& settings)
         {"State", settings.state},
         {"Postal_Code", settings.postalCode},
     };
-    bool written = true;
-    for (const auto& [key, value] : keys)
-        written = writeIniValue(QString::fromLatin1(key), value) && written;
+    for (const auto& [key, value] : keys) {
+        if (!writeIniValue(QString::fromLatin1(key), value))
+            return false;
+    }
 
     // Only a chosen item sets the provider: typed text or no selection keeps the old one.
     const QString provider = providerForListIndex(settings.databaseType);
@@ -60,41 +86,33 @@ bool writeConfirmedSettings(const ConfirmedSettings& settings)
     setRegValue(QStringLiteral("Filter"), settings.filterByDate ? 1 : 0);
     setRegValue(QStringLiteral("Network"), settings.network ? 1 : 0);
     setRegValue(QStringLiteral("DbLocation"), settings.dbLocation);
-    return written;
+    return true;
 }
 
 QString sourcePanelText(const QString& dbLocation)
 {
-    return QStringLiteral("Source : ") + dbLocation + QStringLiteral("   ");
+    return QStringLiteral("Source : ") + withoutPasswords(dbLocation) + QStringLiteral("   ");
 }
 
-bool serverLocationHoldsPassword(const QString& location)
+bool locationHoldsPassword(const QString& location)
 {
-    if (!isServerLocation(location))
-        return false;
-    const QString text = location.trimmed();
-    const qsizetype start = text.indexOf(QLatin1String("://")) + 3;
-    qsizetype hostEnd = start;
-    while (hostEnd < text.size() && text[hostEnd] != u'/' && text[hostEnd] != u'?')
-        ++hostEnd;
-    // user[:password]@host[:port]: the user part ends at the first "@", as the client reads it.
-    const QStringView hosts = QStringView(text).mid(start, hostEnd - start);
-    const qsizetype at = hosts.indexOf(u'@');
-    const qsizetype colon = at < 0 ? -1 : hosts.left(at).indexOf(u':');
-    if (colon >= 0 && colon + 1 < at)
-        return true;
-    const qsizetype query = text.indexOf(u'?', start);
-    if (query < 0)
-        return false;
-    for (const QString& parameter : text.mid(query + 1).split(u'&')) {
-        const qsizetype eq = parameter.indexOf(u'=');
-        const QString name
-            = QUrl::fromPercentEncoding(parameter.left(eq < 0 ? parameter.size() : eq).toUtf8());
-        if (name.trimmed().compare(QLatin1String("password"), Qt::CaseInsensitive) == 0 && eq >= 0
-            && eq + 1 < parameter.size())
-            return true;
+    for (const QRegularExpression* form : {&userPassword(), &passwordKeyword()}) {
+        QRegularExpressionMatchIterator it = form->globalMatch(location);
+        while (it.hasNext()) {
+            const QString value = it.next().captured(QStringLiteral("password"));
+            if (!value.isEmpty() && value != QLatin1String("''"))
+                return true;
+        }
     }
     return false;
+}
+
+QString withoutPasswords(const QString& text)
+{
+    QString shown = text;
+    shown.replace(userPassword(), QStringLiteral("\\1@"));
+    shown.replace(passwordKeyword(), QStringLiteral("\\1"));
+    return shown;
 }
 
 QString serverPasswordFileName()

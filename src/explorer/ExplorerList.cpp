@@ -1,6 +1,7 @@
 #include "explorer/ExplorerList.h"
 
 #include "explorer/ListModel.h"
+#include "support/ColumnWidths.h"
 
 #include <QContextMenuEvent>
 #include <QCoreApplication>
@@ -147,6 +148,13 @@ void ExplorerList::applyColumnWidths()
     const QList<ListColumn>& columns = m_model->columns();
     for (int i = 0; i < columns.size(); ++i)
         m_details->setColumnWidth(i, twipsToPixels(columns[i].widthTwips, this));
+    if (m_userWidths)
+        m_userWidths->apply();
+}
+
+void ExplorerList::rememberColumnWidths(const QString& optionName)
+{
+    m_userWidths = ColumnWidths::attach(m_details->header(), optionName);
 }
 
 void ExplorerList::setAcceptFileDrops(bool accept)

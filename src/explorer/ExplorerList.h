@@ -11,6 +11,7 @@ class QModelIndex;
 
 namespace kartella {
 
+class ColumnWidths;
 class ListModel;
 
 // A list view in the manner of a file explorer: one model shown in one of four views
@@ -32,8 +33,12 @@ public:
     int selectedRow() const;
     void selectRow(int row);
     void scrollToSelected();
-    // Applies the model's column widths (twips) to the details view.
+    // Applies the model's column widths (twips) to the details view, then those the user
+    // set, once the list remembers them.
     void applyColumnWidths();
+    // Remembers the widths the user gives the details view's columns in the option
+    // optionName, across runs; the last column then takes the rest of the list's width.
+    void rememberColumnWidths(const QString& optionName);
     // Whether files dropped on the list are taken (emitted as filesDropped).
     void setAcceptFileDrops(bool accept);
     // Whether an item's file can be dragged out of the list.
@@ -72,6 +77,7 @@ private:
     QTreeView* m_details;
     QListView* m_icons;
     QItemSelectionModel* m_selection;
+    ColumnWidths* m_userWidths = nullptr;
     int m_view = Report;
     bool m_acceptDrops = false;
     // Whether the selection moved since the last mouse press.

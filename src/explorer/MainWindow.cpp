@@ -101,6 +101,9 @@ void MainWindow::buildWindow()
     m_related = new ExplorerList(m_relatedModel, this);
     m_related->setObjectName(QStringLiteral("ListSusieti"));
     m_related->setAccessibleName(QStringLiteral("Related documents"));
+    // The search results show in the document list, in its columns and widths.
+    m_documents->rememberColumnWidths(QStringLiteral("DocumentListColumns"));
+    m_related->rememberColumnWidths(QStringLiteral("RelatedListColumns"));
 
     m_listSplit = new QSplitter(Qt::Vertical, this);
     m_listSplit->setObjectName(QStringLiteral("splitLists"));
@@ -209,6 +212,7 @@ void MainWindow::load()
     offerDefaultRegister();
     // 2. The source panel, with the location as the options hold it.
     const QString location = getRegValue(QStringLiteral("DbLocation"));
+    m_shownRegister = location;
     m_source->setText(sourcePanelText(location));
     // Before any fill: a register of an earlier version is upgraded if the user agrees, and
     // otherwise counts as one that can't be opened. So does a server that can't be reached,
@@ -318,7 +322,8 @@ void MainWindow::runFill(const std::function<void()>& fill)
 
 void MainWindow::reportConnectionError(long number, const QString& description)
 {
-    msgBox(QStringLiteral("Error: ") + QString::number(number) + u' ' + description
+    // The location in the description may hold a password the user typed into it.
+    msgBox(QStringLiteral("Error: ") + QString::number(number) + u' ' + withoutPasswords(description)
             + QStringLiteral("\rSelect correct database type and file, please!"),
         MsgBoxStyle::OkOnly + MsgBoxStyle::Critical, QStringLiteral("Connection to database error:"));
 }

@@ -180,6 +180,9 @@ private:
     void setToolbarEnabled(std::initializer_list<int> positions, bool enabled);
     void openDialog(const QString& name, const QString& droppedFile = {});
     void reloadAfterDelete();
+    // Empties the lists, the selection, the caption, the count and the reminders of the
+    // register shown, before the tree of the register at location is built.
+    void leaveRegister(const QString& location);
     int direction() const;
     void dateChanged(const QString& message);
     // Runs one list fill, reporting a failure (but not during the load).
@@ -216,6 +219,8 @@ private:
     QString m_titleBeforeSearch;
     bool m_searchWithinDates = false;
     bool m_loading = false;
+    // The register location the window shows, as the options held it.
+    QString m_shownRegister;
     QHash<QString, QAction*> m_actions;
     // The dialog each command opens, for the commands that open one.
     QHash<QAction*, QString> m_actionDialogs;

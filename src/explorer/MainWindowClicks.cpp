@@ -8,6 +8,8 @@
 #include "explorer/RelatedFill.h"
 #include "explorer/TreeFills.h"
 #include "options/OptionStore.h"
+#include "store/SchemaSteps.h"
+#include "store/Store.h"
 #include "store/engine/Connection.h"
 #include "support/BusyCursor.h"
 #include "support/SelectionState.h"
@@ -17,6 +19,17 @@
 #include <QSplitter>
 
 namespace kartella {
+
+namespace {
+
+bool serverHoldsRegister()
+{
+    Connection connection;
+    connection.open(plainConnectionString());
+    return schemaVersion(connection) > 0;
+}
+
+} // namespace
 
 void MainWindow::fillCategoryTree()
 {
@@ -30,6 +43,12 @@ void MainWindow::fillCategoryTree()
             throw Error(ErrorNumber::ConnectionFailed,
                 QStringLiteral("'") + location.filePath()
                     + QStringLiteral("' is not a register: the file is empty."));
+        // A database on a server opens whatever it holds; one without a register of ours
+        // would show as a tree without even its root.
+        if (isServerLocation(written) && !serverHoldsRegister())
+            throw Error(ErrorNumber::ConnectionFailed,
+                QStringLiteral("The database '") + written.trimmed()
+                    + QStringLiteral("' holds no register."));
         buildCategoryTree(*m_tree);
     } catch (const Error& error) {
         // Only an unusable register is reported; any other error leaves the tree as far as it got.
@@ -133,13 +152,20 @@ void MainWindow::onRelatedClicked(int row)
 
 void MainWindow::onDocumentHighlightCleared()
 {
-    // The document last highlighted may be gone from sight: forget it, and its related
-    // one, so that the commands answer as they do before any click.
+    // The document last highlighted may be gone from sight (a click beside the rows, a
+    // Ctrl+click on it, a refill): forget it and its related documents, so that the
+    // commands answer as they do before any click and nothing is made without a parent.
+    // Before the first click the toolbar stays as the start leaves it.
+    const bool hadDocument = !m_state.activeListName.isEmpty() || m_state.selectedDocumentId != 0;
     m_state.activeListName.clear();
     m_state.selectedDocumentId = 0;
     m_state.selectedSubDocumentId = 0;
     m_state.selectedItemText.clear();
     m_state.selectedFilePath.clear();
+    if (hadDocument)
+        disableDocumentCommands();
+    m_relatedModel->clear();
+    showRelatedList(false);
 }
 
 void MainWindow::onRelatedHighlightCleared()

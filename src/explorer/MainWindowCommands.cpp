@@ -1,11 +1,14 @@
 // MainWindow: the commands that act by themselves, and the ones that open a dialog.
 #include "base/Error.h"
+#include "dialogs/SettingsStore.h"
 #include "explorer/DocumentFills.h"
 #include "explorer/ExplorerList.h"
 #include "explorer/IconCache.h"
 #include "explorer/ListModel.h"
 #include "explorer/MainWindow.h"
 #include "explorer/NavigationTree.h"
+#include "explorer/RemindersCommand.h"
+#include "options/OptionStore.h"
 #include "platform/Prompter.h"
 #include "platform/Shell.h"
 #include "registration/ShellFiles.h"
@@ -17,6 +20,7 @@
 
 #include <QAction>
 #include <QFileInfo>
+#include <QLabel>
 #include <QPageSetupDialog>
 
 namespace kartella {
@@ -134,12 +138,50 @@ void MainWindow::openDocumentFile(const QString& path, const QString& verb)
 
 void MainWindow::refresh()
 {
+    // A refresh after a change of register (Settings) first puts away everything of the
+    // register left: its keys mean other rows, or none, in the new one.
+    const QString location = getRegValue(QStringLiteral("DbLocation"));
+    const bool newRegister = location != m_shownRegister;
+    if (newRegister)
+        leaveRegister(location);
     m_tree->clearNodes();
     // The tree of the view on show is built again.
     if (m_categoryView)
         fillCategoryTree();
     else
         fillContactTree();
+    // Counted once the new register has opened: one that can't be opened is waited for once.
+    if (newRegister && m_tree->nodeCount() > 0)
+        m_reminders->recount();
+}
+
+void MainWindow::leaveRegister(const QString& location)
+{
+    m_shownRegister = location;
+    leaveSearch();
+    m_documentModel->clear();
+    m_relatedModel->clear();
+    showRelatedList(false);
+    m_state.activeListName.clear();
+    m_state.selectedDocumentId = 0;
+    m_state.selectedSubDocumentId = 0;
+    m_state.selectedItemText.clear();
+    m_state.selectedFilePath.clear();
+    m_state.documentListFilled = false;
+    m_state.currentNodeKind = QStringLiteral("a");
+    m_state.currentCategoryId = 0;
+    m_state.currentSubCategoryId = 0;
+    m_state.currentContactId = 0;
+    m_state.currentLetterCode = 0;
+    // Any click on the new tree acts, the root's too.
+    m_lastNodeIndex = 0;
+    disableDocumentCommands();
+    setCommandEnabled(QStringLiteral("mnuCategoryOptions"), false);
+    setCommandEnabled(QStringLiteral("mnuDeleteCategory"), false);
+    setWindowTitle(QStringLiteral("Kartella"));
+    m_count->clear();
+    m_source->setText(sourcePanelText(location));
+    m_reminders->forget();
 }
 
 void MainWindow::viewByCategory()

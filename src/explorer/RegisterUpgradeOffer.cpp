@@ -1,5 +1,6 @@
 #include "explorer/RegisterUpgradeOffer.h"
 
+#include "dialogs/SettingsStore.h"
 #include "platform/Prompter.h"
 #include "store/SchemaSteps.h"
 #include "store/engine/Connection.h"
@@ -9,6 +10,7 @@ namespace kartella {
 
 std::optional<Error> offerRegisterUpgrade(const QString& path)
 {
+    const QString shown = withoutPasswords(path);
     try {
         const BusyCursor busy;
         if (!registerNeedsUpgrade(path))
@@ -20,13 +22,13 @@ std::optional<Error> offerRegisterUpgrade(const QString& path)
             return error;
         return std::nullopt;
     }
-    const int answer = msgBox(QStringLiteral("The register \"") + path
+    const int answer = msgBox(QStringLiteral("The register \"") + shown
             + QStringLiteral("\" was made by an earlier version of Kartella. Upgrade it to this version now?"
                              "\r\rEvery document, category and contact is kept."),
         MsgBoxStyle::YesNo + MsgBoxStyle::Question);
     if (answer != MsgBoxResult::Yes)
         return Error(ErrorNumber::ConnectionFailed,
-            QStringLiteral("The register \"") + path
+            QStringLiteral("The register \"") + shown
                 + QStringLiteral("\" was made by an earlier version of Kartella and was not upgraded. "
                                  "Upgrade it, or choose another register."));
     try {
@@ -34,7 +36,7 @@ std::optional<Error> offerRegisterUpgrade(const QString& path)
         upgradeRegister(path);
     } catch (const Error& error) {
         return Error(ErrorNumber::ConnectionFailed,
-            QStringLiteral("The register \"") + path
+            QStringLiteral("The register \"") + shown
                 + QStringLiteral("\" could not be upgraded; it is left as it was. ") + error.description());
     }
     return std::nullopt;

@@ -65,6 +65,12 @@ int RemindersCommand::recount()
     return m_count;
 }
 
+void RemindersCommand::forget()
+{
+    m_count = -1;
+    m_panel->setText(panelText(m_count));
+}
+
 void RemindersCommand::showAtStart()
 {
     // Shown once the start has finished, over the filled main window.

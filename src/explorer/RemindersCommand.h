@@ -33,6 +33,8 @@ public:
     // Counts the due reminders again into the panel; the count of the last time, -1 when the
     // register couldn't be read (the panel is then empty).
     int recount();
+    // Empties the panel, as when the register couldn't be read: another register is coming.
+    void forget();
     // At the end of the main window's load: counts, and once the load is over shows the
     // window if something is due and the option asks for it.
     void showAtStart();

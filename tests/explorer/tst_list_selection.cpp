@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QDateEdit>
 #include <QDialog>
 #include <QHelpEvent>
 #include <QMenu>
@@ -71,12 +72,10 @@ private Q_SLOTS:
         QCOMPARE(selection().selectedFilePath, QString());
         QCOMPARE(selection().selectedItemText, QString());
         QCOMPARE(selection().activeListName, QString());
-        prompter.answer(MsgBoxResult::Ok);
-        w.action("btnDelete")->trigger();
-        QCOMPARE(prompter.texts(), QStringList {"Select document, please!"});
+        QVERIFY(!w.action("btnDelete")->isEnabled());
+        QTest::keyClick(fx.view(), Qt::Key_Delete);
         QCOMPARE(fx.reg.scalar("SELECT COUNT(*) FROM tbl_Documents").toInt(), 5);
         QVERIFY(shell.calls().isEmpty());
-        prompter.take();
 
         // Back to all directions; the view gets the focus and Space highlights its current row.
         w.findChild<QComboBox*>("cboDirection")->setCurrentIndex(0);
@@ -111,6 +110,67 @@ private Q_SLOTS:
         QCOMPARE(fx.opened, QStringList {"frmNew"});
         QCOMPARE(selection().selectedDocumentId, fx.id["letter"]);
         QVERIFY(prompter.prompts().isEmpty());
+    }
+
+    // When no document is highlighted any more, whatever took the highlight away, nothing
+    // acts on the document last highlighted: its related documents go from the screen and
+    // the document commands are disabled, as before any click.
+    void noHighlightedDocumentLeavesNothingToActOn_data()
+    {
+        QTest::addColumn<QString>("how");
+        QTest::newRow("click under the rows") << "under";
+        QTest::newRow("Ctrl+click on the highlighted row") << "ctrl";
+        QTest::newRow("dates that leave no document") << "dates";
+    }
+
+    void noHighlightedDocumentLeavesNothingToActOn()
+    {
+        QFETCH(QString, how);
+        SelectionFixture fx;
+        ScriptedPrompter prompter;
+        MainWindow& w = fx.load();
+        w.setDialog("frmRelated", [&fx](const QString&) { fx.opened << "frmRelated"; });
+        fx.clickDocument("contract");
+        QCOMPARE(selection().selectedDocumentId, fx.id["contract"]);
+        QVERIFY(w.relatedList()->isVisible());
+        QVERIFY(w.action("mnuRelated")->isEnabled());
+
+        QTreeView* view = fx.view();
+        if (how == "under") {
+            const QRect last = view->visualRect(fx.documents().index(fx.documents().itemCount() - 1, 0));
+            QTest::mouseClick(
+                view->viewport(), Qt::LeftButton, {}, QPoint(last.center().x(), last.bottom() + 40));
+        } else if (how == "ctrl") {
+            const QModelIndex row = fx.documents().index(fx.highlighted(), 0);
+            QTest::mouseClick(
+                view->viewport(), Qt::LeftButton, Qt::ControlModifier, view->visualRect(row).center());
+        } else {
+            w.findChild<QDateEdit*>("txtStartDate")->setDate(QDate(2001, 1, 1));
+            w.findChild<QDateEdit*>("txtEndDate")->setDate(QDate(2001, 1, 2));
+            QCOMPARE(fx.documents().item(0).key, QString("Empty"));
+        }
+
+        QCOMPARE(fx.highlighted(), -1);
+        QCOMPARE(selection().selectedDocumentId, 0);
+        QVERIFY(!w.relatedList()->isVisible());
+        QCOMPARE(fx.related().itemCount(), 0);
+        for (const char* command : {"mnuRelated", "mnuShowDetails", "mnuCopy", "mnuMove", "mnuDelete",
+                 "mnuOpen", "mnuProperties", "btnDetails", "btnCopy", "btnDelete"})
+            QVERIFY2(!w.action(command)->isEnabled(), command);
+        // Neither the keys nor the menu open a dialog on the document that was highlighted.
+        QTest::keyClick(view, Qt::Key_F3);
+        w.action("mnuRelated")->trigger();
+        QCOMPARE(fx.opened, QStringList());
+        QVERIFY(prompter.prompts().isEmpty());
+
+        // A click on a row makes it the one acted on again.
+        if (how == "dates")
+            fx.clickNode("a" + QString::number(fx.id["Sutartys"]));
+        fx.clickDocument("contract");
+        QVERIFY(w.relatedList()->isVisible());
+        QVERIFY(w.action("mnuRelated")->isEnabled());
+        w.action("mnuRelated")->trigger();
+        QCOMPARE(fx.opened, QStringList {"frmRelated"});
     }
 
     // A drag across the rows of the related list leaves the state on the row it ends on.
