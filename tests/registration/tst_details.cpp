@@ -2,7 +2,6 @@
 #include "explorer/DocumentFills.h"
 #include "explorer/ListModel.h"
 #include "explorer/MainWindow.h"
-#include "registration/DateBox.h"
 #include "registration/DocumentDetailsDialog.h"
 #include "support/RecordsetModel.h"
 
@@ -10,6 +9,7 @@
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QComboBox>
+#include <QDateEdit>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QRadioButton>
@@ -224,7 +224,7 @@ private Q_SLOTS:
             "UPDATE tbl_Documents SET DokRegistracData=NULL WHERE RastasID=" + QString::number(fx.lease));
         DocumentDetailsDialog dialog;
         showActive(dialog);
-        auto* registration = dialog.findChild<DateBox*>("DTPicker2");
+        auto* registration = dialog.findChild<QDateEdit*>("DTPicker2");
         QVERIFY(registration->text().trimmed().isEmpty());
         QVERIFY(!dialog.detailsChanged());
         registration->setFocus();
@@ -245,9 +245,9 @@ private Q_SLOTS:
         } else {
             QTest::keyClick(registration, Qt::Key_Up);
         }
-        QCOMPARE(registration->value(), QVariant(QDate::currentDate()));
+        QCOMPARE(registration->date(), QDate::currentDate());
         QVERIFY(dialog.detailsChanged());
-        auto* sent = dialog.findChild<DateBox*>("DTPicker1");
+        auto* sent = dialog.findChild<QDateEdit*>("DTPicker1");
         sent->setFocus();
         QTest::keyClick(sent, Qt::Key_Delete);
         QVERIFY(sent->text().trimmed().isEmpty());
