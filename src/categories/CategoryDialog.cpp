@@ -45,6 +45,11 @@ CategoryDialog::CategoryDialog(QWidget* parent)
 
 CategoryDialog::~CategoryDialog() = default;
 
+int CategoryDialog::exec()
+{
+    return m_gone ? int(QDialog::Rejected) : CategoryDialogBase::exec();
+}
+
 void CategoryDialog::load()
 {
     const BusyCursor busy;
@@ -65,9 +70,11 @@ void CategoryDialog::load()
     // A category deleted meanwhile (or a register out of reach) leaves nothing to edit:
     // no subcategory may be filed under a missing key.
     if (!m_category->isOpen() || m_category->recordCount() == 0) {
-        if (m_category->isOpen())
-            msgBox(QStringLiteral("This category is no longer in the register."),
+        if (m_category->isOpen()) {
+            m_gone = true;
+            msgBox(QStringLiteral("This category no longer exists."),
                 MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, windowTitle());
+        }
         m_add->setEnabled(false);
     }
     m_edited = false;

@@ -26,6 +26,10 @@ public:
 
     // Whether a subcategory was started with "Add New SubCategory".
     bool isAddingSubCategory() const { return m_addingSubCategory; }
+    // The category is no longer in the register (told on loading); exec() then shows nothing.
+    bool categoryGone() const { return m_gone; }
+
+    int exec() override;
 
 public Q_SLOTS:
     void addSubCategory() override;
@@ -45,6 +49,7 @@ private:
     Recordset* m_subCategories = nullptr;
     qint32 m_categoryKey = 0;
     bool m_addingSubCategory = false;
+    bool m_gone = false;
     QVariant m_savedBookmark;
 };
 

@@ -28,11 +28,9 @@ namespace kartella {
 
 namespace {
 
-// The smallest size of the dialog, and the room the last grid column leaves for the
-// scroll bar, in twips.
+// The smallest size of the dialog, in twips.
 constexpr int MinimumWidth = 7300;
 constexpr int MinimumHeight = 4000;
-constexpr int LastColumnShortfall = 340;
 
 QPushButton* makeButton(const QString& name, const QString& caption, QWidget* parent)
 {
@@ -129,6 +127,17 @@ void CategoryDialogBase::buildWidgets(const Names& names)
     m_grid->viewport()->installEventFilter(this);
     m_subCategoryModel = new RecordsetModel(this);
     m_subCategoryModel->attachView(m_grid);
+    // The row Delete acts on is highlighted whole; the last column takes the rest of the width.
+    m_grid->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_grid->horizontalHeader()->setStretchLastSection(true);
+    connect(m_subCategoryModel, &QAbstractItemModel::modelReset, this,
+        &CategoryDialogBase::onSubCategoryRowsChanged);
+    connect(m_subCategoryModel, &QAbstractItemModel::layoutChanged, this,
+        &CategoryDialogBase::onSubCategoryRowsChanged);
+    connect(m_subCategoryModel, &QAbstractItemModel::rowsInserted, this,
+        &CategoryDialogBase::onSubCategoryRowsChanged);
+    connect(m_subCategoryModel, &QAbstractItemModel::rowsRemoved, this,
+        &CategoryDialogBase::onSubCategoryRowsChanged);
     // A double click chooses a folder or a template, or opens one; typing or F2 edits.
     m_grid->setEditTriggers(QAbstractItemView::SelectedClicked | QAbstractItemView::EditKeyPressed
         | QAbstractItemView::AnyKeyPressed);
@@ -198,7 +207,23 @@ void CategoryDialogBase::spreadColumns()
     const int seventh = width / 7;
     for (int column = 2; column <= 5; ++column)
         m_grid->setColumnWidth(column, seventh);
-    m_grid->setColumnWidth(6, qMax(20, seventh - RecordsetModel::twipsToPixels(LastColumnShortfall, this)));
+}
+
+void CategoryDialogBase::onSubCategoryRowsChanged()
+{
+    if (!m_delete)
+        return;
+    Recordset* rows = m_subCategoryModel->recordset();
+    const bool any = rows && rows->isOpen() && rows->recordCount() > 0;
+    m_delete->setEnabled(any);
+    if (!any)
+        return;
+    const int row = rows->currentRow();
+    if (row < 0 || row >= rows->recordCount() || m_grid->selectionModel()->isRowSelected(row))
+        return;
+    const int column = m_grid->currentIndex().isValid() ? m_grid->currentIndex().column() : 2;
+    m_grid->selectionModel()->setCurrentIndex(m_subCategoryModel->index(row, column),
+        QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 bool CategoryDialogBase::reportErrors(const std::function<void()>& action)
@@ -226,7 +251,7 @@ void CategoryDialogBase::fileNewRowUnderCategory(Recordset* rows, qint32 categor
 void CategoryDialogBase::deleteSubCategory()
 {
     Recordset* rows = m_subCategoryModel->recordset();
-    if (!rows || !rows->isOpen())
+    if (!rows || !rows->isOpen() || rows->recordCount() == 0)
         return;
     // No question: the row goes at once, and the next one (or the last) becomes current.
     reportErrors([rows] {
@@ -235,6 +260,7 @@ void CategoryDialogBase::deleteSubCategory()
         if (rows->eof())
             rows->moveLast();
     });
+    onSubCategoryRowsChanged();
 }
 
 void CategoryDialogBase::cancel()

@@ -61,7 +61,8 @@ protected:
     void bindCategory(Recordset* category);
     // Shows subCategories (null: nothing) in the grid with the keys hidden and the captions.
     void showSubCategories(Recordset* subCategories);
-    // Gives each visible grid column a seventh of the grid's width, the last a little less.
+    // Gives the visible grid columns but the last a seventh of the grid's width each; the
+    // last one takes the rest.
     void spreadColumns();
     // Asks the unapplied-changes question with firstLine; Yes saves, No cancels.
     void askBeforeClosing(const QString& firstLine);
@@ -107,6 +108,8 @@ private:
     void chooseTemplate(QLineEdit* box, int index);
     void openTemplateOfBox(QLineEdit* box);
     void actOnCell(const QModelIndex& index);
+    // Delete is enabled only over rows, and the current row shows highlighted.
+    void onSubCategoryRowsChanged();
 };
 
 } // namespace kartella

@@ -48,15 +48,21 @@ void restoreCategoryOfSelectedNode(const MainWindow& window, qint32 before)
     selection().currentCategoryId = category;
 }
 
+// Runs a category dialog; true when the category it was to show had been deleted by
+// another program.
 template<typename Dialog>
-void openCategoryDialog(MainWindow* window)
+bool openCategoryDialog(MainWindow* window)
 {
     const qint32 before = selection().currentCategoryId;
+    bool gone = false;
     {
         Dialog dialog(window);
+        if constexpr (requires(Dialog & shown) { shown.categoryGone(); })
+            gone = dialog.categoryGone();
         dialog.exec();
     }
     restoreCategoryOfSelectedNode(*window, before);
+    return gone;
 }
 
 } // namespace
@@ -71,21 +77,40 @@ void MainWindow::registerDialogs()
         m_reminders->recount();
     });
 
+    // A row another program deleted is told by its dialog, which then doesn't open; the
+    // list that still showed it is filled again.
     setDialog(QStringLiteral("frmNew"), [this](const QString&) {
+        bool gone = false;
         {
             DocumentDetailsDialog dialog(this);
+            gone = dialog.documentGone();
             dialog.exec();
         }
+        if (gone)
+            reloadAfterDelete();
         m_reminders->recount();
     });
     // From the reminders window: the document of a reminder, the selection left as it is.
     m_reminders->openDetails = [this](qint32 documentId) {
         DocumentDetailsDialog dialog(documentId, this);
+        if (dialog.documentGone()) {
+            if (RemindersWindow* window = m_reminders->window())
+                window->reload();
+            m_reminders->recount();
+            return;
+        }
         dialog.exec();
     };
     const auto relatedDialog = [this](RelatedDocumentDialog::Mode mode) {
         return [this, mode](const QString& file) {
             RelatedDocumentDialog dialog(mode, this);
+            if (dialog.relatedGone()) {
+                // A new related document finds its document gone, an edited one itself.
+                if (mode == RelatedDocumentDialog::Mode::Creating)
+                    reloadAfterDelete();
+                fillRelatedList();
+                return;
+            }
             if (!file.isEmpty())
                 dialog.setLocation(file);
             dialog.exec();
@@ -142,8 +167,10 @@ void MainWindow::registerDialogs()
 
     setDialog(QStringLiteral("frmNewCategory"),
         [this](const QString&) { openCategoryDialog<NewCategoryDialog>(this); });
-    setDialog(
-        QStringLiteral("frmCategory"), [this](const QString&) { openCategoryDialog<CategoryDialog>(this); });
+    setDialog(QStringLiteral("frmCategory"), [this](const QString&) {
+        if (openCategoryDialog<CategoryDialog>(this))
+            refresh();
+    });
 
     for (const ReportMenuEntry& report : reportMenuEntries())
         setDialog(report.dialog, [this, open = report.open](const QString&) { open(this); });

@@ -2,6 +2,7 @@
 
 #include "base/Error.h"
 #include "platform/Prompter.h"
+#include "platform/Shell.h"
 #include "registration/ShellFiles.h"
 #include "registration/StoredPaths.h"
 #include "support/DialogParts.h"
@@ -9,6 +10,7 @@
 #include "support/ShellDialogs.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -146,19 +148,38 @@ void CopyFileDialog::moveFile()
     if (folder.isEmpty())
         return;
     SelectionState& state = selection();
-    QString target = targetInFolder(folder, state.selectedFilePath);
-    if (!shellMoveFile(state.selectedFilePath, target))
+    const QString source = state.selectedFilePath;
+    // The row has to lead to the file from wherever the program starts next: a typed folder
+    // counts from the working folder, and the row gets the absolute path.
+    const QString target = QDir::cleanPath(QDir(folder).absoluteFilePath(fileNameOf(source)));
+    if (QFileInfo(target).isDir()) {
+        msgBox(QStringLiteral("The folder ") + QDir::toNativeSeparators(QFileInfo(target).path())
+                + QStringLiteral(" holds a folder named ") + fileNameOf(source)
+                + QStringLiteral(", so the file can't be moved there."),
+            MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, windowTitle());
         return;
-    state.selectedFilePath = target;
-    m_pathNow->setText(target);
-    Q_EMIT fileMoved(target);
-    try {
-        storeMovedPath(state.activeListName == RelatedList,
-            state.activeListName == RelatedList ? state.selectedSubDocumentId : state.selectedDocumentId,
-            target);
-    } catch (const Error& error) {
-        msgBox(error.description());
     }
+    QString moved = target;
+    if (!shellMoveFile(source, moved))
+        return;
+    moved = QFileInfo(moved).absoluteFilePath();
+    const bool related = state.activeListName == RelatedList;
+    try {
+        storeMovedPath(related, related ? state.selectedSubDocumentId : state.selectedDocumentId, moved);
+    } catch (const Error& error) {
+        // The row keeps the old path, so the file goes back there: a row that leads to no
+        // file would lose the document's file for every user.
+        if (moveFileContents(moved, source)) {
+            msgBox(error.description() + QStringLiteral("\n\nThe file was moved back to ")
+                + QDir::toNativeSeparators(source) + u'.');
+            return;
+        }
+        msgBox(error.description() + QStringLiteral("\n\nThe file could not be moved back; it is now at ")
+            + QDir::toNativeSeparators(moved) + u'.');
+    }
+    state.selectedFilePath = moved;
+    m_pathNow->setText(moved);
+    Q_EMIT fileMoved(moved);
 }
 
 } // namespace kartella

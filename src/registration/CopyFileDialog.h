@@ -10,9 +10,10 @@ namespace kartella {
 
 // frmCopyFile, "Copy/Move File": copies or moves the file of the selected document or
 // related document into another folder, as often as the user likes while it is open. A
-// copy leaves the register alone; a move stores the file's new path in the row and in the
-// selection. The shell asks before replacing a file and shows the progress; its refusal
-// leaves everything as it was.
+// copy leaves the register alone; a move stores the file's new absolute path in the row and
+// in the selection, or moves the file back when the row can't be written, so that the row
+// always leads to the file. The shell asks before replacing a file and shows the progress;
+// its refusal leaves everything as it was.
 class CopyFileDialog : public QDialog
 {
     Q_OBJECT

@@ -2,8 +2,8 @@
 
 #include "base/Error.h"
 #include "options/OptionStore.h"
-#include "platform/Clock.h"
 #include "platform/Prompter.h"
+#include "registration/DateBox.h"
 #include "store/Store.h"
 #include "store/engine/Recordset.h"
 #include "support/BoundList.h"
@@ -17,16 +17,17 @@
 
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStyledItemDelegate>
 #include <QTabWidget>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -54,6 +55,44 @@ QString reminderSource(qint32 documentId)
         + QStringLiteral("} AS ParentCMD APPEND ({select RastasID,TicklerDate,TicklerID,TicklerText from "
                          "tbl_Tickler } AS ChildCMD RELATE RastasID TO RastasID) AS ChildCMD");
 }
+
+// The delegate of the reminder grid. An editor that opens is a change of the dialog, so that
+// a reminder still being typed is asked about; Esc in it keeps what was typed in the row and
+// then asks as Esc does anywhere in the dialog.
+class ReminderDelegate : public QStyledItemDelegate
+{
+public:
+    ReminderDelegate(std::function<void()> opened, std::function<void()> escape, QObject* parent)
+        : QStyledItemDelegate(parent)
+        , m_opened(std::move(opened))
+        , m_escape(std::move(escape))
+    { }
+
+    QWidget* createEditor(
+        QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        m_opened();
+        return QStyledItemDelegate::createEditor(parent, option, index);
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        auto* editor = qobject_cast<QWidget*>(watched);
+        if (editor && event->type() == QEvent::KeyPress
+            && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+            Q_EMIT commitData(editor);
+            Q_EMIT closeEditor(editor, QAbstractItemDelegate::NoHint);
+            m_escape();
+            return true;
+        }
+        return QStyledItemDelegate::eventFilter(watched, event);
+    }
+
+private:
+    std::function<void()> m_opened;
+    std::function<void()> m_escape;
+};
 
 } // namespace
 
@@ -94,11 +133,14 @@ void DocumentDetailsDialog::buildWidgets()
     m_grid = new QTableView(this);
     m_grid->setObjectName(QStringLiteral("grdTickler"));
     m_grid->setAccessibleName(QStringLiteral("Reminders"));
+    m_grid->setItemDelegate(
+        new ReminderDelegate([this] { markChanged(); }, [this] { askOnEscape(); }, m_grid));
     m_tabs->addTab(m_grid, QStringLiteral("Tickler"));
 
     m_notes = new QPlainTextEdit(this);
     m_notes->setObjectName(QStringLiteral("txtFields_12"));
     m_notes->setAccessibleName(QStringLiteral("Notes"));
+    m_notes->setTabChangesFocus(true);
     m_tabs->addTab(m_notes, QStringLiteral("Notes"));
 
     m_ok = makeDialogButton(QStringLiteral("cmdButton_0"), QStringLiteral("OK"), this);
@@ -154,9 +196,8 @@ QWidget* DocumentDetailsDialog::buildGeneralTab()
     auto* dates = new QGroupBox(QStringLiteral("Date, Index"), page);
     dates->setObjectName(QStringLiteral("fraDateIndex"));
     const auto makePicker = [dates](const char* name) {
-        auto* picker = new QDateEdit(dates);
+        auto* picker = new DateBox(dates);
         picker->setObjectName(QLatin1String(name));
-        picker->setCalendarPopup(true);
         picker->setDisplayFormat(DateFormat);
         return picker;
     };
@@ -222,10 +263,10 @@ void DocumentDetailsDialog::bindControls()
     connect(m_category, &BoundList::changed, this, &DocumentDetailsDialog::onCategoryChanged);
     connect(m_document, &Recordset::moveComplete, this, &DocumentDetailsDialog::showRow);
 
-    connect(m_sentReceivedDate, &QDateEdit::dateChanged, this,
-        [this](const QDate& date) { writeDate(date, SentReceivedField); });
-    connect(m_registrationDate, &QDateEdit::dateChanged, this,
-        [this](const QDate& date) { writeDate(date, RegistrationField); });
+    connect(m_sentReceivedDate, &DateBox::valueChanged, this,
+        [this](const QVariant& date) { writeDate(date, SentReceivedField); });
+    connect(m_registrationDate, &DateBox::valueChanged, this,
+        [this](const QVariant& date) { writeDate(date, RegistrationField); });
 
     m_tickler = new RecordsetModel(this);
     m_tickler->setAllowAddNew(true);
@@ -264,7 +305,7 @@ void DocumentDetailsDialog::load()
     // nothing the form could store but a new row.
     if (m_document->isOpen() && m_document->eof()) {
         m_gone = true;
-        msgBox(QStringLiteral("This document was deleted by another user."),
+        msgBox(QStringLiteral("This document no longer exists."),
             MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, ErrorTitle);
         for (QWidget* editing :
             {static_cast<QWidget*>(m_tabs), static_cast<QWidget*>(m_ok), static_cast<QWidget*>(m_apply)})
@@ -294,13 +335,12 @@ void DocumentDetailsDialog::showRow()
     m_showing = false;
 }
 
-void DocumentDetailsDialog::showDate(QDateEdit* picker, const QString& field)
+void DocumentDetailsDialog::showDate(DateBox* picker, const QString& field)
 {
-    const QDate date = m_document->fields(field).value().toDate();
-    picker->setDate(date.isValid() ? date : Clock::currentDate());
+    picker->setValue(m_document->fields(field).value());
 }
 
-void DocumentDetailsDialog::writeDate(const QDate& date, const QString& field)
+void DocumentDetailsDialog::writeDate(const QVariant& date, const QString& field)
 {
     if (m_showing || !m_document->isOpen() || m_document->eof())
         return;
@@ -390,6 +430,7 @@ bool DocumentDetailsDialog::apply()
         return true;
     const BusyCursor busy;
     try {
+        commitOpenEditor();
         m_binder->validate();
         m_document->updateBatch(AffectEnum::Current);
         m_reminders->updateBatch(AffectEnum::All);
@@ -455,6 +496,17 @@ void DocumentDetailsDialog::done(int result)
 {
     restoreDefaultCursor();
     QDialog::done(result);
+}
+
+void DocumentDetailsDialog::commitOpenEditor()
+{
+    const QModelIndex current = m_grid->currentIndex();
+    QWidget* editor = m_grid->indexWidget(current);
+    if (!editor)
+        return;
+    QAbstractItemDelegate* delegate = m_grid->itemDelegateForIndex(current);
+    Q_EMIT delegate->commitData(editor);
+    Q_EMIT delegate->closeEditor(editor, QAbstractItemDelegate::NoHint);
 }
 
 void DocumentDetailsDialog::onReminderGridEnter()

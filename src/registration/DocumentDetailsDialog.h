@@ -2,8 +2,6 @@
 
 #include <QDialog>
 
-class QDate;
-class QDateEdit;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
@@ -15,6 +13,7 @@ class QTableView;
 namespace kartella {
 
 class BoundList;
+class DateBox;
 class EnterAsTab;
 class FieldBinder;
 class Recordset;
@@ -65,8 +64,10 @@ private:
     void markChanged();
     void setClean();
     void showIcon();
-    void showDate(QDateEdit* picker, const QString& field);
-    void writeDate(const QDate& date, const QString& field);
+    void showDate(DateBox* picker, const QString& field);
+    void writeDate(const QVariant& date, const QString& field);
+    // Takes what an open cell editor of the reminder grid holds into its row.
+    void commitOpenEditor();
     QRadioButton* directionButton(int code) const;
     bool askOnEscape();
     void onReminderGridEnter();
@@ -89,8 +90,8 @@ private:
     QLineEdit* m_regIndex = nullptr;
     QLineEdit* m_directionCode = nullptr;
     QPlainTextEdit* m_notes = nullptr;
-    QDateEdit* m_sentReceivedDate = nullptr;
-    QDateEdit* m_registrationDate = nullptr;
+    DateBox* m_sentReceivedDate = nullptr;
+    DateBox* m_registrationDate = nullptr;
     // The direction codes 1 to 4.
     QRadioButton* m_inner = nullptr;
     QRadioButton* m_outgoing = nullptr;

@@ -94,6 +94,7 @@ void NewDocumentDialog::buildWidgets()
     m_notes = new QPlainTextEdit(this);
     m_notes->setObjectName(QStringLiteral("txtFields_6"));
     m_notes->setAccessibleName(QStringLiteral("Notes"));
+    m_notes->setTabChangesFocus(true);
     m_tabs->addTab(m_notes, QStringLiteral("Notes"));
 
     m_ok = makeDialogButton(QStringLiteral("cmdOK"), QStringLiteral("OK"), this);

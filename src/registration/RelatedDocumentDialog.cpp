@@ -24,7 +24,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabWidget>
@@ -39,6 +38,13 @@ const QString RelatedSource
                      "from tbl_Sub_Documents");
 const QString ContactSource = QStringLiteral("SELECT ContactID,FullName from tbl_Contacts order by FullName");
 const QString DateFormat = QStringLiteral("yyyy.MM.dd");
+
+bool documentExists(qint32 id)
+{
+    return !getFieldValue(
+        QStringLiteral("RastasID"), QStringLiteral("RastasID"), QStringLiteral("tbl_Documents"), id)
+                .isNull();
+}
 
 } // namespace
 
@@ -75,6 +81,7 @@ void RelatedDocumentDialog::buildWidgets()
     m_parent->setReadOnly(true);
     m_description = new QPlainTextEdit(page);
     m_description->setObjectName(QStringLiteral("txtFields_1"));
+    m_description->setTabChangesFocus(true);
     m_date = makeFieldBox(3, page);
     auto* contact = new QComboBox(page);
     contact->setObjectName(QStringLiteral("cmbContact"));
@@ -147,6 +154,7 @@ void RelatedDocumentDialog::load()
 {
     const BusyCursor busy;
     const SelectionState& state = selection();
+    bool parentGone = false;
     try {
         const QString connection = plainConnectionString();
         // A new row needs none of the stored ones.
@@ -158,26 +166,27 @@ void RelatedDocumentDialog::load()
         m_related->open(RelatedSource, connection, CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
         m_contacts->open(ContactSource, connection);
         if (m_mode == Mode::Creating) {
+            m_parentId = state.selectedDocumentId;
+            parentGone = m_parentId != 0 && !documentExists(m_parentId);
             try {
                 m_related->addNew();
             } catch (const Error& error) {
                 msgBox(error.description());
             }
-        } else {
-            m_related->setFilter(
-                QStringLiteral("SubRastasID= ") + QString::number(state.selectedSubDocumentId));
         }
         m_parent->setText(state.selectedItemText);
         if (m_mode == Mode::Creating)
-            m_date->setText(QLocale::system().toString(Clock::currentDate(), QLocale::ShortFormat));
+            m_date->setText(Clock::currentDate().toString(DateFormat));
     } catch (const Error& error) {
-        msgBox(error.description());
+        msgBox(QStringLiteral("Data error event hit err:") + error.description());
     }
-    // A related document deleted by another program since it was selected: there is
-    // nothing to edit, and the form could store nothing but a new row.
-    if (m_mode == Mode::Editing && m_related->isOpen() && m_related->eof()) {
+    // The document, or the related document edited, deleted by another program since it was
+    // selected: there is nothing to hang a row on or to edit.
+    const bool rowGone = m_mode == Mode::Editing && m_related->isOpen() && m_related->eof();
+    if (parentGone || rowGone) {
         m_gone = true;
-        msgBox(QStringLiteral("This related document was deleted by another user."),
+        msgBox(parentGone ? QStringLiteral("This document no longer exists.")
+                          : QStringLiteral("This related document no longer exists."),
             MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, windowTitle());
         const QList<QWidget*> editing = {m_tabs, m_ok};
         for (QWidget* widget : editing)
@@ -256,8 +265,22 @@ void RelatedDocumentDialog::addExistingFile()
 
 void RelatedDocumentDialog::save()
 {
+    // A new row hangs on the document selected when the dialog opened; an edited one keeps
+    // the parent it has.
+    if (m_mode == Mode::Creating) {
+        if (m_parentId == 0) {
+            msgBox(QStringLiteral("A related document needs its document: select one in the list first, "
+                                  "please!"),
+                MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, windowTitle());
+            return;
+        }
+        m_documentId->setText(QString::number(m_parentId));
+    }
     try {
-        m_documentId->setText(QString::number(selection().selectedDocumentId));
+        if (m_mode == Mode::Creating && !documentExists(m_parentId)) {
+            reportDeletedRow(QStringLiteral("document"), windowTitle());
+            return;
+        }
         m_binder->validate();
         m_related->updateBatch(AffectEnum::All);
     } catch (const Error& error) {

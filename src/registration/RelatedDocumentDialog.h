@@ -20,8 +20,9 @@ class Recordset;
 // selected document. Creating ("New Related Document", frmRelated) starts a new row and
 // offers to make its file with the office programs or to attach an existing one; Editing
 // ("Description of Related Document", frmRelDescr) shows the row of the selected related
-// document. OK stores the row under the selected document; Cancel and the close box drop
-// it; Esc asks first when something was changed.
+// document. OK stores a new row under the document selected when the dialog opened (and
+// refuses without one), an edited row under the document it has; Cancel and the close box
+// drop it; Esc asks first when something was changed.
 class RelatedDocumentDialog : public QDialog
 {
     Q_OBJECT
@@ -35,9 +36,10 @@ public:
     // Writes path into the Location box, as a file dropped on the related list does.
     void setLocation(const QString& path);
     bool relatedChanged() const { return m_changed; }
-    // The related document is no longer in the register (told on loading); exec() then
-    // shows nothing.
+    // The related document edited, or the document a new one would hang on, is no longer in
+    // the register (told on loading); exec() then shows nothing.
     bool relatedGone() const { return m_gone; }
+    Mode mode() const { return m_mode; }
 
     int exec() override;
 
@@ -68,6 +70,8 @@ private:
     bool askOnEscape();
 
     Mode m_mode;
+    // The document a new row hangs on; 0 when none was selected.
+    qint32 m_parentId = 0;
     Recordset* m_related = nullptr;
     Recordset* m_contacts = nullptr;
     bool m_changed = false;

@@ -1,180 +1,20 @@
+#include "CategoryFixture.h"
 #include "categories/CategoryDialog.h"
-#include "categories/CategoryTexts.h"
 #include "categories/NewCategoryDialog.h"
-#include "explorer/MainWindow.h"
-#include "explorer/NavigationTree.h"
-#include "harness/ScriptedPrompter.h"
-#include "harness/ScriptedShell.h"
-#include "harness/TestRegister.h"
 #include "platform/Prompter.h"
-#include "support/SelectionState.h"
 
-#include <QAction>
-#include <QApplication>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTableView>
-#include <QTest>
-#include <QTimer>
-#include <QTreeWidgetItem>
-
-#include <functional>
+#include <QDir>
 
 using namespace kartella;
 using namespace kartella::test;
 
-namespace {
-
-// A register with one category of two subcategories, the first with a folder and a Word
-// template, and a second category that no test edits; the tree's selection on the first.
-struct Fixture
-{
-    TestRegister reg;
-    ScriptedPrompter prompter;
-    ScriptedShell shell;
-    qint32 contracts = 0;
-    qint32 letters = 0;
-    qint32 leases = 0;
-    qint32 sales = 0;
-
-    Fixture()
-    {
-        contracts = reg.insert("tbl_Document_Categories",
-            {{"DokKategorija", "Contracts"}, {"Mnemonic", "AGR"}, {"DokKategDaug", "/srv/contracts"}});
-        letters = reg.insert("tbl_Document_Categories", {{"DokKategorija", "Letters"}, {"Mnemonic", "LET"}});
-        leases = reg.insert("tbl_Sub_Categories",
-            {{"KategID", contracts}, {"DokSubKategorija", "Leases"}, {"SubPathToFiles", "/srv/leases"},
-                {"SubDokTemplates", "/srv/lease.dot"}});
-        sales = reg.insert("tbl_Sub_Categories", {{"KategID", contracts}, {"DokSubKategorija", "Sales"}});
-        selection() = SelectionState();
-        selection().currentCategoryId = contracts;
-        selection().currentSubCategoryId = leases;
-        selection().currentNodeKind = "b";
-    }
-    ~Fixture() { selection() = SelectionState(); }
-
-    // Every category and every subcategory, one line a row in key order.
-    QString categories() const
-    {
-        return rows("tbl_Document_Categories", "KategID", "DokKategorija,Mnemonic,DokKategDaug,DokTemplates");
-    }
-    QString subCategories() const
-    {
-        return rows("tbl_Sub_Categories", "SubKategID",
-            "KategID,DokSubKategorija,SubPathToFiles,SubDokTemplates,SubDokTemplatesExel");
-    }
-    QString rows(const QString& table, const QString& key, const QString& fields) const
-    {
-        const QString concat = QString(fields).replace(",", ",'')||'|'||COALESCE(");
-        return reg
-            .scalar("SELECT GROUP_CONCAT(line, ';') FROM (SELECT COALESCE(" + concat + ",'') AS line FROM "
-                + table + " ORDER BY " + key + ")")
-            .toString();
-    }
-};
-
-QLineEdit* box(QWidget* dialog, int index)
-{
-    return dialog->findChild<QLineEdit*>("txtFields_" + QString::number(index));
-}
-
-QTableView* grid(QWidget* dialog)
-{
-    return dialog->findChild<QTableView*>("grdDataGrid");
-}
-
-void click(QWidget* dialog, const char* button)
-{
-    QPushButton* target = dialog->findChild<QPushButton*>(button);
-    QVERIFY2(target, button);
-    QTest::mouseClick(target, Qt::LeftButton);
-}
-
-void activate(QWidget* dialog)
-{
-    dialog->show();
-    dialog->activateWindow();
-    QApplication::setActiveWindow(dialog);
-    if (!QTest::qWaitForWindowActive(dialog))
-        qWarning("The dialog didn't become active");
-}
-
-// Types text where the focus is, key by key, as a user does: the first key of a grid cell
-// opens its editor, the rest go into it.
-void typeHere(const QString& text)
-{
-    for (const QChar c : text)
-        QTest::keyClick(QApplication::focusWidget(), c.toLatin1());
-}
-
-void typeInto(QLineEdit* target, const QString& text)
-{
-    target->setFocus();
-    target->selectAll();
-    QTest::keyClick(target, Qt::Key_Delete);
-    QTest::keyClicks(target, text);
-}
-
-void doubleClickCell(QTableView* view, int row, int column)
-{
-    const QRect rect = view->visualRect(view->model()->index(row, column));
-    // The press and release of the first click come before the double click, as from a mouse.
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, rect.center());
-    QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, rect.center());
-}
-
-void showMainWindow(MainWindow& window)
-{
-    window.resize(1000, 700);
-    window.show();
-    window.load();
-    if (!QTest::qWaitForWindowExposed(&window))
-        qWarning("The main window wasn't exposed");
-}
-
-// Clicks a node of the tree with the mouse, as the user selects it.
-void clickNode(MainWindow& window, QTreeWidgetItem* node)
-{
-    NavigationTree* tree = window.tree();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-    tree->scrollToItem(node);
-    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualItemRect(node).center());
-}
-
-// Runs drive on the modal dialog that action opens, while it runs.
-void driveModal(QAction* action, const std::function<void(QWidget*)>& drive)
-{
-    bool driven = false;
-    QTimer::singleShot(0, [&] {
-        QWidget* dialog = QApplication::activeModalWidget();
-        driven = dialog != nullptr;
-        if (dialog) {
-            activate(dialog);
-            drive(dialog);
-            if (dialog->isVisible())
-                click(dialog, "cmdCancel");
-        }
-    });
-    action->trigger();
-    QVERIFY2(driven, "no dialog came");
-}
-
-} // namespace
-
+// The category dialogs: entering a category, its boxes and choosers, the keys, and the
+// category details opened from the tree.
 class CategoriesTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    // Before the new category is saved it has no key, and there is nothing to list.
-    void noSubCategoryStatementWithoutKey()
-    {
-        QCOMPARE(newCategorySubCategorySource(""), QString());
-        QCOMPARE(newCategorySubCategorySource("  "), QString());
-        QVERIFY(newCategorySubCategorySource("12").endsWith("WHERE KategID = 12"));
-        QVERIFY(subCategorySource(12).startsWith("select KategID,SubKategID,"));
-    }
-
     // A category with two subcategories entered from the Go menu by the keyboard; the tree
     // shows it after Refresh, not before; a double click in the grid doesn't leave the
     // current category on the new one once the dialog is closed.
@@ -239,37 +79,6 @@ private Q_SLOTS:
         QCOMPARE(node->childCount(), 2);
         QCOMPARE(node->child(0)->text(0), "Paid");
         QCOMPARE(node->child(1)->text(0), "Unpaid");
-    }
-
-    // The mnemonic takes 3 characters at most, typed or pasted.
-    void mnemonicLimit_data()
-    {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("stored");
-        QTest::newRow("two") << "AB"
-                             << "AB";
-        QTest::newRow("three") << "ABC"
-                               << "ABC";
-        QTest::newRow("four") << "ABCD"
-                              << "ABC";
-        QTest::newRow("seven") << "ABCDEFG"
-                               << "ABC";
-    }
-
-    void mnemonicLimit()
-    {
-        QFETCH(QString, typed);
-        QFETCH(QString, stored);
-        Fixture fx;
-        CategoryDialog d;
-        activate(&d);
-        typeInto(box(&d, 2), typed);
-        click(&d, "cmdClose");
-        QCOMPARE(fx.reg
-                     .scalar("SELECT Mnemonic FROM tbl_Document_Categories WHERE KategID="
-                         + QString::number(fx.contracts))
-                     .toString(),
-            stored);
     }
 
     // Esc closes at once when nothing changed, asks after a change (in the details dialog a
@@ -366,125 +175,6 @@ private Q_SLOTS:
         QCOMPARE(fx.subCategories(), subCategories + ";" + reports + "|Yearly|||");
     }
 
-    // A double click (or F4) on a template cell that holds a path opens it through the
-    // shell; on an empty one it asks for a file and stores the answer at once; on the
-    // folder column it asks for a folder; on the title nothing happens.
-    void gridDoubleClick_data()
-    {
-        QTest::addColumn<int>("row");
-        QTest::addColumn<int>("column");
-        QTest::addColumn<bool>("keyboard");
-        QTest::addColumn<QString>("opened");
-        QTest::addColumn<QString>("fileTitle");
-        QTest::addColumn<QString>("folder");
-        QTest::addColumn<QString>("leases");
-        QTest::addColumn<QString>("sales");
-        const QString leases = "Leases|/srv/leases|/srv/lease.dot|";
-        const QString sales = "Sales|||";
-        QTest::newRow("set template") << 0 << 4 << false << "/srv/lease.dot"
-                                      << ""
-                                      << "" << leases << sales;
-        QTest::newRow("set template, F4") << 0 << 4 << true << "/srv/lease.dot"
-                                          << ""
-                                          << "" << leases << sales;
-        QTest::newRow("empty Word template") << 1 << 4 << false << ""
-                                             << "Select a Word Template"
-                                             << "" << leases << "Sales||/srv/chosen|";
-        QTest::newRow("empty Excel template, F4") << 1 << 5 << true << ""
-                                                  << "Select a Excel Template"
-                                                  << "" << leases << "Sales|||/srv/chosen";
-        QTest::newRow("empty Excel template of the first")
-            << 0 << 5 << false << ""
-            << "Select a Excel Template"
-            << ""
-            << "Leases|/srv/leases|/srv/lease.dot|/srv/chosen" << sales;
-        QTest::newRow("folder") << 1 << 3 << false << ""
-                                << ""
-                                << "/srv/sales" << leases << "Sales|/srv/sales||";
-        QTest::newRow("title") << 1 << 2 << false << ""
-                               << ""
-                               << "" << leases << sales;
-    }
-
-    void gridDoubleClick()
-    {
-        QFETCH(int, row);
-        QFETCH(int, column);
-        QFETCH(bool, keyboard);
-        QFETCH(QString, opened);
-        QFETCH(QString, fileTitle);
-        QFETCH(QString, folder);
-        QFETCH(QString, leases);
-        QFETCH(QString, sales);
-        Fixture fx;
-        selection().currentCategoryId = fx.contracts;
-        const QString categories = fx.categories();
-        CategoryDialog d;
-        activate(&d);
-        selection().currentCategoryId = fx.letters;
-        if (!fileTitle.isEmpty())
-            fx.prompter.answerFile("/srv/chosen");
-        if (!folder.isEmpty())
-            fx.prompter.answerFolder(folder);
-        if (keyboard) {
-            grid(&d)->setFocus();
-            grid(&d)->setCurrentIndex(grid(&d)->model()->index(row, column));
-            QTest::keyClick(grid(&d), Qt::Key_F4);
-        } else {
-            doubleClickCell(grid(&d), row, column);
-        }
-        QVERIFY(fx.prompter.allAnswered());
-        QCOMPARE(selection().currentCategoryId, fx.contracts);
-        const auto calls = fx.shell.take();
-        QCOMPARE(calls.size(), opened.isEmpty() ? 0 : 1);
-        if (!opened.isEmpty())
-            QCOMPARE(calls[0].path, opened);
-        QCOMPARE(fx.prompter.fileRequests.size(), fileTitle.isEmpty() ? 0 : 1);
-        if (!fileTitle.isEmpty())
-            QCOMPARE(fx.prompter.fileRequests[0].title, fileTitle);
-        // Stored at once: Cancel keeps it.
-        click(&d, "cmdCancel");
-        const QString key = QString::number(fx.contracts);
-        QCOMPARE(fx.subCategories(), key + "|" + leases + ";" + key + "|" + sales);
-        QCOMPARE(fx.categories(), categories);
-        QCOMPARE(d.findChild<QTableView*>("grdDataGrid")->model()->rowCount(), 2);
-    }
-
-    // "Delete SubCategory" removes the current row at once, without a question, and
-    // the next row (or the last) becomes current; Cancel doesn't bring it back.
-    void deleteSubCategory_data()
-    {
-        QTest::addColumn<int>("row");
-        QTest::addColumn<QString>("left");
-        QTest::addColumn<QString>("current");
-        QTest::newRow("first") << 0 << "Sales"
-                               << "Sales";
-        QTest::newRow("last") << 1 << "Leases"
-                              << "Leases";
-    }
-
-    void deleteSubCategory()
-    {
-        QFETCH(int, row);
-        QFETCH(QString, left);
-        QFETCH(QString, current);
-        Fixture fx;
-        const QString categories = fx.categories();
-        CategoryDialog d;
-        activate(&d);
-        QTableView* view = grid(&d);
-        view->setFocus();
-        view->setCurrentIndex(view->model()->index(row, 2));
-        click(&d, "cmdDelete");
-        QCOMPARE(view->model()->rowCount(), 1);
-        QCOMPARE(view->model()->index(view->currentIndex().row(), 2).data().toString(), current);
-        click(&d, "cmdCancel");
-        QVERIFY(fx.prompter.prompts().isEmpty());
-        QCOMPARE(
-            fx.reg.scalar("SELECT GROUP_CONCAT(DokSubKategorija) FROM tbl_Sub_Categories").toString(), left);
-        QCOMPARE(fx.categories(), categories);
-    }
-
     // Enter moves on in the new-category dialog and does nothing in the details dialog; a
     // subcategory added in either is filed under the category shown.
     void keyboard()
@@ -576,6 +266,90 @@ private Q_SLOTS:
         QCOMPARE(fx.prompter.fileRequests[0].filterLabel, "Word templates (*.dot)");
         QCOMPARE(fx.categories(), "Contracts|AGR|/srv/agreements|/srv/agreement.dot;Letters|LET||");
         QCOMPARE(selection().currentCategoryId, fx.contracts);
+    }
+
+    // The Excel and PowerPoint choosers of the category: each asks with its own title and
+    // filter from the working folder, fills its box, and OK stores it.
+    void templateChoosers_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<int>("index");
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("filter");
+        QTest::addColumn<QString>("pattern");
+        QTest::newRow("Excel") << "cmdTemplateExcel" << 5 << "DokTemplatesExel"
+                               << "Select the Excel Template"
+                               << "Excel templates (*.xlt)"
+                               << "*.xlt";
+        QTest::newRow("PowerPoint") << "cmdTemplatePP" << 6 << "DokTemplatesPowPoint"
+                                    << "Select the PowerPoint Template"
+                                    << "PowerPoint templates (*.pot)"
+                                    << "*.pot";
+    }
+
+    void templateChoosers()
+    {
+        QFETCH(QString, button);
+        QFETCH(int, index);
+        QFETCH(QString, field);
+        QFETCH(QString, title);
+        QFETCH(QString, filter);
+        QFETCH(QString, pattern);
+        Fixture fx;
+        CategoryDialog d;
+        activate(&d);
+        fx.prompter.answerFile("/srv/chosen").answerFile(QString());
+        click(&d, qPrintable(button));
+        QCOMPARE(box(&d, index)->text(), "/srv/chosen");
+        // A chooser cancelled leaves the box as it was.
+        click(&d, qPrintable(button));
+        QCOMPARE(box(&d, index)->text(), "/srv/chosen");
+        QCOMPARE(fx.prompter.fileRequests.size(), 2);
+        QCOMPARE(fx.prompter.fileRequests[0].title, title);
+        QCOMPARE(fx.prompter.fileRequests[0].filterLabel, filter);
+        QCOMPARE(fx.prompter.fileRequests[0].pattern, pattern);
+        QCOMPARE(fx.prompter.fileRequests[0].startFolder, QDir::currentPath());
+        click(&d, "cmdClose");
+        QCOMPARE(fx.reg
+                     .scalar("SELECT " + field
+                         + " FROM tbl_Document_Categories WHERE KategID=" + QString::number(fx.contracts))
+                     .toString(),
+            "/srv/chosen");
+        QCOMPARE(fx.reg
+                     .scalar("SELECT COALESCE(" + field
+                         + ", '') FROM tbl_Document_Categories WHERE KategID=" + QString::number(fx.letters))
+                     .toString(),
+            QString());
+    }
+
+    // Category details of a category that another program deleted since its node was
+    // clicked: told, no dialog opens, and the tree no longer shows it.
+    void goneCategory()
+    {
+        Fixture fx;
+        MainWindow window;
+        showMainWindow(window);
+        const QString key = "a" + QString::number(fx.letters);
+        clickNode(window, window.tree()->nodeByKey(key));
+        QCOMPARE(selection().currentCategoryId, fx.letters);
+        fx.reg.exec("DELETE FROM tbl_Document_Categories WHERE KategID=" + QString::number(fx.letters));
+        QStringList opened;
+        QTimer watcher;
+        QObject::connect(&watcher, &QTimer::timeout, [&] {
+            if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+                opened << dialog->objectName();
+                dialog->reject();
+            }
+        });
+        watcher.start(10);
+        fx.prompter.answer(MsgBoxResult::Ok);
+        window.action("mnuCategoryOptions")->trigger();
+        watcher.stop();
+        QCOMPARE(opened, QStringList());
+        QCOMPARE(fx.prompter.take().first().text, "This category no longer exists.");
+        QVERIFY(!window.tree()->nodeByKey(key));
+        QVERIFY(window.tree()->nodeByKey("a" + QString::number(fx.contracts)));
     }
 };
 

@@ -1,173 +1,28 @@
+#include "RegisterFixture.h"
 #include "explorer/DocumentFills.h"
-#include "explorer/ExplorerList.h"
 #include "explorer/ListModel.h"
 #include "explorer/MainWindow.h"
-#include "harness/ScriptedPrompter.h"
-#include "harness/ScriptedShell.h"
-#include "harness/TestRegister.h"
-#include "options/OptionStore.h"
-#include "platform/OfficeSuite.h"
-#include "registration/CopyFileDialog.h"
 #include "registration/DocumentDetailsDialog.h"
-#include "registration/RelatedDocumentDialog.h"
-#include "registration/StoredPaths.h"
 #include "support/RecordsetModel.h"
-#include "support/SelectionState.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QCalendarWidget>
 #include <QComboBox>
 #include <QDateEdit>
-#include <QDir>
-#include <QFile>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QRadioButton>
+#include <QStyle>
+#include <QStyleOptionComboBox>
+#include <QTabWidget>
 #include <QTableView>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 
 using namespace kartella;
 using namespace kartella::test;
 
-namespace {
-
-// An office suite that writes a small file of its own at the target.
-class WritingSuite final : public OfficeSuite
-{
-public:
-    WritingSuite() { OfficeSuite::setInstance(this); }
-    ~WritingSuite() override { OfficeSuite::setInstance(nullptr); }
-    void create(Kind, const QString& templatePath, const QString& target) override
-    {
-        templates << templatePath;
-        QFile file(target);
-        if (file.open(QIODevice::WriteOnly))
-            file.write("made");
-    }
-    void show(const QString&) override { }
-    QStringList templates;
-};
-
-QByteArray readFile(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void writeFile(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
-
-// A register with a category (mnemonic, folder), a contact, two documents and a related
-// document of the first; a file for each.
-struct Fixture
-{
-    TestRegister reg;
-    ScriptedPrompter prompter;
-    ScriptedShell shell;
-    WritingSuite suite;
-    QTemporaryDir files;
-    qint32 contracts = 0;
-    qint32 letters = 0;
-    qint32 contact = 0;
-    qint32 lease = 0;
-    qint32 other = 0;
-    qint32 annex = 0;
-    QString leaseFile = files.filePath("lease.doc");
-    QString annexFile = files.filePath("annex.doc");
-
-    Fixture()
-    {
-        contracts = reg.insert("tbl_Document_Categories",
-            {{"DokKategorija", "Contracts"}, {"Mnemonic", "AGR"}, {"DokKategDaug", files.path()}});
-        letters = reg.insert("tbl_Document_Categories", {{"DokKategorija", "Letters"}});
-        contact = reg.insert("tbl_Contacts", {{"FullName", "Ona Petraitiene"}});
-        lease = reg.insert("tbl_Documents",
-            {{"DokAntraste", "Sutartis"}, {"KategID", contracts}, {"RastoKel", leaseFile},
-                {"DokRegistracIndeksas", "AGR-1"}, {"DokGavSiuntData", QDate(2024, 1, 31)},
-                {"DokRegistracData", QDate(2024, 2, 1)}, {"KryptisID", QVariant()}});
-        other = reg.insert("tbl_Documents",
-            {{"DokAntraste", "Other"}, {"KategID", letters}, {"RastoKel", files.filePath("other.doc")},
-                {"KryptisID", 2}});
-        annex = reg.insert("tbl_Sub_Documents",
-            {{"RastasID", lease}, {"SubDocDescript", "Annex"}, {"SubRastoKelias", annexFile}});
-        reg.insert("tbl_Tickler", {{"RastasID", lease}, {"TicklerText", "Call back"}});
-        reg.insert("tbl_Tickler", {{"RastasID", other}, {"TicklerText", "Other's"}});
-        writeFile(leaseFile, "lease");
-        writeFile(annexFile, "annex");
-        selection() = SelectionState();
-        selection().currentCategoryId = contracts;
-        selection().activeListName = "ListDokSarasas";
-        selection().selectedDocumentId = lease;
-        selection().selectedItemText = "Sutartis";
-        selection().selectedFilePath = leaseFile;
-    }
-    ~Fixture() { selection() = SelectionState(); }
-
-    QVariant document(const QString& field, qint32 id) const
-    {
-        return reg.scalar("SELECT " + field + " FROM tbl_Documents WHERE RastasID=" + QString::number(id));
-    }
-    QVariant related(const QString& field, qint32 id) const
-    {
-        return reg.scalar(
-            "SELECT " + field + " FROM tbl_Sub_Documents WHERE SubRastasID=" + QString::number(id));
-    }
-    QString reminders() const
-    {
-        return reg
-            .scalar("SELECT group_concat(RastasID || ':' || TicklerText, ',') FROM "
-                    "(SELECT * FROM tbl_Tickler ORDER BY TicklerID)")
-            .toString();
-    }
-    void selectRelated()
-    {
-        selection().activeListName = "ListSusieti";
-        selection().selectedSubDocumentId = annex;
-        selection().selectedItemText = "Annex";
-        selection().selectedFilePath = annexFile;
-    }
-};
-
-template<typename D>
-void showActive(D& dialog)
-{
-    dialog.show();
-    dialog.activateWindow();
-    if (!QTest::qWaitForWindowActive(&dialog))
-        qWarning("The dialog didn't become active");
-}
-
-QLineEdit* box(QWidget& dialog, int index)
-{
-    return dialog.findChild<QLineEdit*>("txtFields_" + QString::number(index));
-}
-
-void retype(QLineEdit* box, const QString& text)
-{
-    box->setFocus();
-    box->selectAll();
-    QTest::keyClick(box, Qt::Key_Delete);
-    QTest::keyClicks(box, text);
-}
-
-void click(QWidget& dialog, const char* button)
-{
-    QTest::mouseClick(dialog.findChild<QPushButton*>(button), Qt::LeftButton);
-}
-
-const QString ApplyQuestion
-    = "You have details changes that have not applied.\n\nDo you want to apply these now?";
-
-} // namespace
-
+// The details dialog of a document: what it shows, what it stores, and its keys.
 class DetailsTest : public QObject
 {
     Q_OBJECT
@@ -352,315 +207,178 @@ private Q_SLOTS:
         QCOMPARE(fx.document("DokAntraste", fx.lease).toString(), "Sutartis");
     }
 
-    // A new related document with an existing file: stored under the selected document with
-    // its description, today's date and the file; the file stays where it is.
-    void newRelatedWithExistingFile()
+    // A date the row doesn't hold shows blank, not as today; today picked in the calendar
+    // (or Up on the blank box) is a change, and Apply stores it; Delete blanks a date again.
+    void blankDates_data()
     {
+        QTest::addColumn<bool>("calendar");
+        QTest::newRow("calendar") << true;
+        QTest::newRow("Up") << false;
+    }
+
+    void blankDates()
+    {
+        QFETCH(bool, calendar);
         Fixture fx;
-        const QString scan = fx.files.filePath("scan.pdf");
-        writeFile(scan, "scan");
-        RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Creating);
+        fx.reg.exec(
+            "UPDATE tbl_Documents SET DokRegistracData=NULL WHERE RastasID=" + QString::number(fx.lease));
+        DocumentDetailsDialog dialog;
         showActive(dialog);
-        QCOMPARE(dialog.objectName(), "frmRelated");
-        QCOMPARE(dialog.findChild<QLineEdit*>("txtParent")->text(), "Sutartis");
-        QTest::keyClicks(dialog.findChild<QPlainTextEdit*>("txtFields_1"), "Receipt");
-        fx.prompter.answerFile(scan);
-        click(dialog, "cmdAddExisting");
-        QCOMPARE(fx.prompter.fileRequests.first().title, "Select the Document");
-        QCOMPARE(box(dialog, 5)->text(), scan);
-        click(dialog, "cmdOK");
-        QVERIFY(!dialog.isVisible());
-        const QVariant id = fx.reg.scalar("SELECT MAX(SubRastasID) FROM tbl_Sub_Documents");
-        QCOMPARE(fx.related("RastasID", id.toInt()).toInt(), fx.lease);
-        QCOMPARE(fx.related("SubDocDescript", id.toInt()).toString(), "Receipt");
-        QCOMPARE(fx.related("SubRastoKelias", id.toInt()).toString(), scan);
-        QCOMPARE(fx.related("SubRastGavimoData", id.toInt()).toDate(), QDate::currentDate());
-        QCOMPARE(readFile(scan), "scan");
-        QCOMPARE(fx.related("SubDocDescript", fx.annex).toString(), "Annex");
-    }
-
-    // The Word button makes a file without template in the current category's folder, named
-    // under each naming system; only the file-number system moves its counter, and the day's
-    // number never moves.
-    void relatedFileUnderNamingSystems_data()
-    {
-        QTest::addColumn<QString>("system");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("fileNumber");
-        QTest::newRow("Mnemonic+Number") << "0"
-                                         << "AGR00001.doc"
-                                         << "2";
-        QTest::newRow("Like Registration Index")
-            << "2"
-            << "AGR-" + QDate::currentDate().toString("yyyyMMdd") + "p1.doc"
-            << "2";
-    }
-
-    void relatedFileUnderNamingSystems()
-    {
-        QFETCH(QString, system);
-        QFETCH(QString, name);
-        QFETCH(QString, fileNumber);
-        Fixture fx;
-        setRegValue("FileName", system);
-        RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Creating);
-        showActive(dialog);
-        QTest::keyClicks(dialog.findChild<QPlainTextEdit*>("txtFields_1"), "Receipt");
-        click(dialog, "cmdWord");
-        const QString path = QDir(fx.files.path()).filePath(name);
-        QCOMPARE(box(dialog, 5)->text(), path);
-        QCOMPARE(readFile(path), "made");
-        QCOMPARE(fx.suite.templates, QStringList {QString()});
-        QCOMPARE(getRegValue("FileNumber").trimmed(), fileNumber);
-        QCOMPARE(getRegValue("TodayNumber"), "1");
-        // Pressed again with a file in place, the button does nothing.
-        click(dialog, "cmdWord");
-        QCOMPARE(fx.suite.templates.size(), 1);
-        QVERIFY(fx.prompter.prompts().isEmpty());
-    }
-
-    // The creating buttons' checks: a description first (each button's own words), then a
-    // category chosen in the tree; the dialog stays open.
-    void relatedCreatingChecks()
-    {
-        Fixture fx;
-        RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Creating);
-        showActive(dialog);
-        fx.prompter.answer(MsgBoxResult::Ok).answer(MsgBoxResult::Ok).answer(MsgBoxResult::Ok);
-        click(dialog, "cmdExcel");
-        click(dialog, "cmdPower");
-        selection().currentCategoryId = 0;
-        QTest::keyClicks(dialog.findChild<QPlainTextEdit*>("txtFields_1"), "Receipt");
-        click(dialog, "cmdWord");
-        const auto prompts = fx.prompter.take();
-        QCOMPARE(prompts.size(), 3);
-        QCOMPARE(prompts[0].text, "Document Description Required!");
-        QCOMPARE(prompts[0].title, "Unable to create a new Excel Document");
-        QCOMPARE(prompts[0].style, MsgBoxStyle::Critical);
-        QCOMPARE(prompts[1].text, "SubDocument Description Required!");
-        QCOMPARE(prompts[2].text, "Select any Category, please!");
-        QVERIFY(dialog.isVisible());
-        QVERIFY(fx.suite.templates.isEmpty());
-    }
-
-    // Editing a related document: its row shows; OK writes the description and the current
-    // selected document as its parent; Esc after a change asks, No drops.
-    void editRelated()
-    {
-        Fixture fx;
-        fx.selectRelated();
-        {
-            RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Editing);
-            showActive(dialog);
-            QCOMPARE(dialog.objectName(), "frmRelDescr");
-            QCOMPARE(dialog.findChild<QLineEdit*>("txtParent")->text(), "Annex");
-            QCOMPARE(box(dialog, 4)->text(), fx.annexFile);
-            QVERIFY(!dialog.findChild<QPushButton*>("cmdWord"));
-            QTest::keyClick(dialog.findChild<QPlainTextEdit*>("txtFields_1"), Qt::Key_End);
-            QTest::keyClicks(dialog.findChild<QPlainTextEdit*>("txtFields_1"), " 2");
-            fx.prompter.answer(MsgBoxResult::No);
-            QTest::keyClick(dialog.findChild<QPlainTextEdit*>("txtFields_1"), Qt::Key_Escape);
-            QCOMPARE(fx.prompter.take().first().text, ApplyQuestion);
-            QVERIFY(!dialog.isVisible());
-            QCOMPARE(fx.related("SubDocDescript", fx.annex).toString(), "Annex");
+        auto* registration = dialog.findChild<QDateEdit*>("DTPicker2");
+        QVERIFY(registration->text().trimmed().isEmpty());
+        QVERIFY(!dialog.detailsChanged());
+        registration->setFocus();
+        if (calendar) {
+            QStyleOptionComboBox arrow;
+            arrow.initFrom(registration);
+            arrow.editable = true;
+            arrow.subControls = QStyle::SC_All;
+            QTest::mouseClick(registration, Qt::LeftButton, {},
+                registration->style()
+                    ->subControlRect(QStyle::CC_ComboBox, &arrow, QStyle::SC_ComboBoxArrow, registration)
+                    .center());
+            QCalendarWidget* days = registration->calendarWidget();
+            QTRY_VERIFY(days->isVisible());
+            QCOMPARE(days->selectedDate(), QDate::currentDate());
+            QTest::keyClick(days->findChild<QTableView*>(), Qt::Key_Return);
+            QTRY_VERIFY(!days->isVisible());
+        } else {
+            QTest::keyClick(registration, Qt::Key_Up);
         }
-        selection().selectedDocumentId = fx.other;
-        RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Editing);
-        showActive(dialog);
-        QTest::keyClick(dialog.findChild<QPlainTextEdit*>("txtFields_1"), Qt::Key_End);
-        QTest::keyClicks(dialog.findChild<QPlainTextEdit*>("txtFields_1"), " 2");
-        click(dialog, "cmdOK");
-        QCOMPARE(fx.related("SubDocDescript", fx.annex).toString(), "Annex 2");
-        QCOMPARE(fx.related("RastasID", fx.annex).toInt(), fx.other);
-        QCOMPARE(fx.related("SubRastoKelias", fx.annex).toString(), fx.annexFile);
-    }
-
-    // Copy leaves row and source; Move rewrites the row of the right table (through a
-    // folder with an apostrophe), the selection and the shown path; the other table and
-    // rows stay as they were.
-    void copyAndMove_data()
-    {
-        QTest::addColumn<bool>("related");
-        QTest::newRow("document") << false;
-        QTest::newRow("related document") << true;
-    }
-
-    void copyAndMove()
-    {
-        QFETCH(bool, related);
-        Fixture fx;
-        if (related)
-            fx.selectRelated();
-        const QString source = related ? fx.annexFile : fx.leaseFile;
-        const QByteArray content = readFile(source);
-        const QString copies = fx.files.filePath("copies");
-        const QString moved = fx.files.filePath("O'Brien's");
-        QDir().mkpath(copies);
-        QDir().mkpath(moved);
-        CopyFileDialog dialog;
-        QVERIFY(dialog.hasFile());
-        showActive(dialog);
-        QCOMPARE(dialog.findChild<QLineEdit*>("txtDocument")->text(), related ? "Annex" : "Sutartis");
-        QCOMPARE(dialog.findChild<QLabel*>("txtPathNow")->text(), source);
-        QCOMPARE(dialog.findChild<QLabel*>("txtFileSize")->text(), QString::number(content.size()));
-
-        fx.prompter.answerFolder(copies);
-        click(dialog, "cmdDestFolder");
-        QCOMPARE(fx.prompter.folderPrompts, QStringList {"Select a Folder in which you'll to copy/move:"});
-        click(dialog, "cmdCopy");
-        QCOMPARE(readFile(QDir(copies).filePath(fileNameOf(source))), content);
-        QCOMPARE(readFile(source), content);
-        QCOMPARE(selection().selectedFilePath, source);
-
-        retype(dialog.findChild<QLineEdit*>("txtDestination"), moved);
-        click(dialog, "cmdMove");
-        const QString target = QDir(moved).filePath(fileNameOf(source));
-        QVERIFY(!QFile::exists(source));
-        QCOMPARE(readFile(target), content);
-        QCOMPARE(selection().selectedFilePath, target);
-        QCOMPARE(dialog.findChild<QLabel*>("txtPathNow")->text(), target);
-        QCOMPARE(fx.document("RastoKel", fx.lease).toString(), related ? fx.leaseFile : target);
-        QCOMPARE(fx.related("SubRastoKelias", fx.annex).toString(), related ? target : fx.annexFile);
-        QCOMPARE(fx.document("RastoKel", fx.other).toString(), fx.files.filePath("other.doc"));
+        QCOMPARE(registration->date(), QDate::currentDate());
+        QVERIFY(dialog.detailsChanged());
+        auto* sent = dialog.findChild<QDateEdit*>("DTPicker1");
+        sent->setFocus();
+        QTest::keyClick(sent, Qt::Key_Delete);
+        QVERIFY(sent->text().trimmed().isEmpty());
+        click(dialog, "cmdButton_2");
+        QCOMPARE(fx.document("DokRegistracData", fx.lease).toDate(), QDate::currentDate());
+        QVERIFY(fx.document("DokGavSiuntData", fx.lease).isNull());
+        QVERIFY(fx.document("DokRegistracData", fx.other).isNull());
         QVERIFY(fx.prompter.prompts().isEmpty());
     }
 
-    // A target already there: the shell asks, and a refusal changes nothing, neither file
-    // nor row; an empty destination is told.
-    void refusedOverwriteChangesNothing()
+    // Reminders typed in the grid: Enter moves from the date to the text and from the text to
+    // the next line, where a new reminder starts. A cell still being typed in is a change:
+    // Apply is enabled at its first key, and Esc in it or the close box asks; Yes stores what
+    // the cell holds.
+    void reminderGrid()
     {
         Fixture fx;
-        const QString folder = fx.files.filePath("taken");
-        QDir().mkpath(folder);
-        const QString taken = QDir(folder).filePath("lease.doc");
-        writeFile(taken, "older");
-        CopyFileDialog dialog;
+        DocumentDetailsDialog dialog;
         showActive(dialog);
-        fx.prompter.answer(MsgBoxResult::Ok);
-        click(dialog, "cmdMove");
-        QCOMPARE(fx.prompter.take().first().text, "Select the destination folder, please!");
-        dialog.findChild<QLineEdit*>("txtDestination")->setText(folder);
-        fx.shell.refuse();
-        click(dialog, "cmdMove");
-        QCOMPARE(fx.shell.questions().size(), 1);
-        QCOMPARE(readFile(taken), "older");
-        QCOMPARE(readFile(fx.leaseFile), "lease");
-        QCOMPARE(fx.document("RastoKel", fx.lease).toString(), fx.leaseFile);
-        QCOMPARE(selection().selectedFilePath, fx.leaseFile);
-        QCOMPARE(dialog.findChild<QLabel*>("txtPathNow")->text(), fx.leaseFile);
-    }
+        dialog.findChild<QTabWidget*>("SSTab1")->setCurrentIndex(1);
+        auto* grid = dialog.findChild<QTableView*>("grdTickler");
+        auto* apply = dialog.findChild<QPushButton*>("cmdButton_2");
+        grid->setFocus();
+        grid->setCurrentIndex(grid->model()->index(0, 1));
+        QTest::keyClick(grid, Qt::Key_Return);
+        QCOMPARE(grid->currentIndex(), grid->model()->index(0, 3));
+        QTest::keyClick(grid, Qt::Key_Return);
+        QCOMPARE(grid->currentIndex().row(), 1);
+        grid->setCurrentIndex(grid->model()->index(1, 3));
+        QVERIFY(!apply->isEnabled());
 
-    // Nothing clicked, or a file that has gone: told, and the dialog isn't to be shown.
-    void copyWithoutFile_data()
-    {
-        QTest::addColumn<bool>("clicked");
-        QTest::newRow("nothing clicked") << false;
-        QTest::newRow("file gone") << true;
-    }
+        QTest::keyClick(grid, 'P');
+        QVERIFY(apply->isEnabled());
+        QTest::keyClicks(QApplication::focusWidget(), "ay the rent");
+        fx.prompter.answer(MsgBoxResult::Yes);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        const auto prompts = fx.prompter.take();
+        QCOMPARE(prompts.size(), 1);
+        QCOMPARE(prompts.first().text, ApplyQuestion);
+        QVERIFY(dialog.isVisible());
+        const QString lease = QString::number(fx.lease);
+        QCOMPARE(fx.reminders(),
+            lease + ":Call back," + QString::number(fx.other) + ":Other's," + lease + ":Pay the rent");
 
-    void copyWithoutFile()
-    {
-        QFETCH(bool, clicked);
-        Fixture fx;
-        if (clicked)
-            QFile::remove(fx.leaseFile);
-        else
-            selection().activeListName.clear();
-        fx.prompter.answer(MsgBoxResult::Ok);
-        CopyFileDialog dialog;
-        QVERIFY(!dialog.hasFile());
+        grid->setFocus();
+        grid->setCurrentIndex(grid->model()->index(0, 3));
+        QTest::keyClick(grid, 'R');
+        QTest::keyClicks(QApplication::focusWidget(), "ing back");
+        fx.prompter.answer(MsgBoxResult::Yes);
+        dialog.close();
         QCOMPARE(fx.prompter.take().size(), 1);
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(fx.reminders(),
+            lease + ":Ring back," + QString::number(fx.other) + ":Other's," + lease + ":Pay the rent");
     }
 
-    // Through the main window: after a move the clicked item leads to the new path at once.
-    void moveShowsInTheList()
+    // Cancel drops what was changed in the boxes and in the grid without a question.
+    void cancelDropsChanges()
     {
+        Fixture fx;
+        const QString reminders = fx.reminders();
+        DocumentDetailsDialog dialog;
+        showActive(dialog);
+        retype(box(dialog, 7), "Changed");
+        auto* grid = dialog.findChild<QTableView*>("grdTickler");
+        QVERIFY(grid->model()->setData(grid->model()->index(0, 3), "Changed too"));
+        click(dialog, "cmdButton_1");
+        QVERIFY(!dialog.isVisible());
+        QVERIFY(fx.prompter.prompts().isEmpty());
+        QCOMPARE(fx.document("DokAntraste", fx.lease).toString(), "Sutartis");
+        QCOMPARE(fx.reminders(), reminders);
+    }
+
+    // Tab in the Notes box moves on and types no tab; Enter there moves on as well.
+    void notesTakeNoTab()
+    {
+        Fixture fx;
+        DocumentDetailsDialog dialog;
+        showActive(dialog);
+        dialog.findChild<QTabWidget*>("SSTab1")->setCurrentIndex(2);
+        auto* notes = dialog.findChild<QPlainTextEdit*>("txtFields_12");
+        notes->setFocus();
+        QTest::keyClicks(notes, "Urgent");
+        QTest::keyClick(notes, Qt::Key_Tab);
+        QVERIFY(QApplication::focusWidget() != notes);
+        notes->setFocus();
+        QTest::keyClick(notes, Qt::Key_Return);
+        QVERIFY(QApplication::focusWidget() != notes);
+        click(dialog, "cmdButton_0");
+        QCOMPARE(fx.document("DokPastaba", fx.lease).toString(), "Urgent");
+    }
+
+    // Show Details or New Related Document on a document that another program deleted since
+    // it was clicked: told, no dialog opens, and the list no longer shows the document.
+    void goneDocument_data()
+    {
+        QTest::addColumn<QString>("command");
+        QTest::newRow("Show Details") << "mnuShowDetails";
+        QTest::newRow("New Related Document") << "mnuRelated";
+    }
+
+    void goneDocument()
+    {
+        QFETCH(QString, command);
         Fixture fx;
         MainWindow window;
         window.load();
         window.listCategory(fx.contracts, 0);
-        const int row = window.documentModel()->rowOfKey(DocumentFills::itemKey(fx.lease));
-        QVERIFY(row >= 0);
-        window.onDocumentClicked(row);
-        const QString folder = fx.files.filePath("moved");
-        QDir().mkpath(folder);
-        QTimer responder;
-        connect(&responder, &QTimer::timeout, this, [&] {
-            auto* dialog = qobject_cast<CopyFileDialog*>(QApplication::activeModalWidget());
-            if (!dialog)
-                return;
-            responder.stop();
-            dialog->findChild<QLineEdit*>("txtDestination")->setText(folder);
-            QTest::mouseClick(dialog->findChild<QPushButton*>("cmdMove"), Qt::LeftButton);
-            QTest::mouseClick(dialog->findChild<QPushButton*>("cmdClose"), Qt::LeftButton);
+        const QString key = DocumentFills::itemKey(fx.lease);
+        window.onDocumentClicked(window.documentModel()->rowOfKey(key));
+        fx.reg.exec("DELETE FROM tbl_Sub_Documents");
+        fx.reg.exec("DELETE FROM tbl_Documents WHERE RastasID=" + QString::number(fx.lease));
+        QStringList opened;
+        QTimer watcher;
+        connect(&watcher, &QTimer::timeout, this, [&] {
+            if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+                opened << dialog->objectName();
+                dialog->reject();
+            }
         });
-        responder.start(20);
-        QAction* move = window.action("mnuMove");
-        QVERIFY(move->isEnabled());
-        move->trigger();
-        const QString target = QDir(folder).filePath("lease.doc");
-        QCOMPARE(window.documentModel()->item(row).tag, target);
-        window.onDocumentClicked(row);
-        QCOMPARE(selection().selectedFilePath, target);
-    }
-
-    // Files dropped on the related list open New Related Document one after another, each
-    // with its file in the Location box and marked as changed, so that Esc asks; Show
-    // Details opens the dialog of the list last clicked.
-    void dropOnTheRelatedListAndShowDetails()
-    {
-        Fixture fx;
-        MainWindow window;
-        window.load();
-        window.listCategory(fx.contracts, 0);
-        window.onDocumentClicked(window.documentModel()->rowOfKey(DocumentFills::itemKey(fx.lease)));
-        const QStringList paths = {fx.files.filePath("a.pdf"), fx.files.filePath("b.pdf")};
-        QStringList seen;
-        QList<bool> changed;
-        QTimer responder;
-        connect(&responder, &QTimer::timeout, this, [&] {
-            auto* dialog = qobject_cast<RelatedDocumentDialog*>(QApplication::activeModalWidget());
-            if (!dialog || !dialog->isVisible())
-                return;
-            seen << dialog->objectName() + ":" + dialog->findChild<QLineEdit*>("txtFields_5")->text();
-            changed << dialog->relatedChanged();
-            QTest::mouseClick(
-                dialog->findChild<QPushButton*>(seen.size() == 1 ? "cmdOK" : "cmdCancel"), Qt::LeftButton);
-        });
-        responder.start(20);
-        Q_EMIT window.relatedList()->filesDropped(paths);
-        QCOMPARE(seen, QStringList({"frmRelated:" + paths[0], "frmRelated:" + paths[1]}));
-        QCOMPARE(changed, QList<bool>({true, true}));
-        QCOMPARE(
-            fx.reg
-                .scalar("SELECT COUNT(*) FROM tbl_Sub_Documents WHERE RastasID=" + QString::number(fx.lease))
-                .toInt(),
-            2);
-
-        QStringList shown;
-        disconnect(&responder, nullptr, this, nullptr);
-        connect(&responder, &QTimer::timeout, this, [&] {
-            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (!dialog || !dialog->isVisible())
-                return;
-            shown << dialog->objectName();
-            QTest::keyClick(dialog, Qt::Key_Escape);
-        });
-        window.action("mnuShowDetails")->trigger();
-        window.fillRelatedList();
-        window.onRelatedClicked(window.relatedModel()->rowOfKey(DocumentFills::itemKey(fx.annex)));
-        window.action("mnuShowDetails")->trigger();
-        responder.stop();
-        QCOMPARE(shown, QStringList({"frmNew", "frmRelDescr"}));
-    }
-
-    void storedPathQuotesApostrophes()
-    {
-        QCOMPARE(storedPathStatement(false, 7, "/a/O'B/x.doc"),
-            "UPDATE tbl_Documents SET tbl_Documents.RastoKel = '/a/O''B/x.doc' WHERE "
-            "(((tbl_Documents.RastasID)=7));");
-        QCOMPARE(fileNameOf("C:\\docs\\a.doc"), "a.doc");
-        QCOMPARE(fileNameOf("plain.doc"), "plain.doc");
+        watcher.start(10);
+        fx.prompter.answer(MsgBoxResult::Ok);
+        QAction* action = window.action(command);
+        QVERIFY(action->isEnabled());
+        action->trigger();
+        watcher.stop();
+        QCOMPARE(opened, QStringList());
+        const auto prompts = fx.prompter.take();
+        QCOMPARE(prompts.size(), 1);
+        QCOMPARE(prompts.first().text, "This document no longer exists.");
+        QCOMPARE(window.documentModel()->rowOfKey(key), -1);
     }
 };
 

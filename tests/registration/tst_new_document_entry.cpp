@@ -1,0 +1,178 @@
+#include "NewDocumentFixture.h"
+#include "explorer/ExplorerList.h"
+#include "explorer/MainWindow.h"
+#include "options/OptionStore.h"
+
+#include <QApplication>
+#include <QPlainTextEdit>
+#include <QTabWidget>
+#include <QTimer>
+
+using namespace kartella;
+using namespace kartella::test;
+
+// The New Document dialog as a form: the index it proposes, its keys, the reminders, a
+// refused save and files dropped on the document list.
+class NewDocumentEntryTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // Proposals reserve nothing; a change of category proposes anew and clears the
+    // subcategory; a new day restarts the count.
+    void indexProposals()
+    {
+        Fixture fx;
+        selection().currentSubCategoryId = fx.lease;
+        const QString first = "AGR-" + today("yyyyMMdd") + "/1";
+        {
+            Dialog d;
+            QCOMPARE(d.box(3)->text(), first);
+            d.type(3, "typed");
+            d.choose("cmbCategory", 'L');
+            QCOMPARE(d.box(3)->text(), today("yyyyMMdd") + "/1");
+            QCOMPARE(d.combo("cmbSubCategory")->currentIndex(), -1);
+            QCOMPARE(d.combo("cmbSubCategory")->count(), 0);
+            d.click("cmdCancel");
+        }
+        {
+            Dialog d;
+            QCOMPARE(d.box(3)->text(), first);
+            QTest::keyClick(&d.dialog, Qt::Key_Escape);
+            QVERIFY(!d.dialog.isVisible());
+        }
+        QCOMPARE(fx.documents(), 0);
+
+        setRegValue("Date", QDate::currentDate().addDays(-1).toString("yyyy MM dd"));
+        setRegValue("TodayNumber", "7");
+        {
+            Dialog d;
+            QCOMPARE(d.box(3)->text(), first);
+            QCOMPARE(getRegValue("Date"), today("yyyy MM dd"));
+            d.click("cmdOK");
+        }
+        QCOMPARE(getRegValue("TodayNumber"), "2");
+        QCOMPARE(fx.stored("SubKategID").toInt(), fx.lease);
+        Dialog d;
+        QCOMPARE(d.box(3)->text(), "AGR-" + today("yyyyMMdd") + "/2");
+    }
+
+    // Enter moves on from a box as Tab does, from the Notes box too, without a line end; Tab
+    // in the Notes box moves on and types no tab.
+    void enterActsAsTab()
+    {
+        Fixture fx;
+        Dialog d;
+        d.box(4)->setFocus();
+        QTest::keyClick(d.box(4), Qt::Key_Return);
+        QCOMPARE(QApplication::focusWidget(), d.combo("cmbSender"));
+        d.box(3)->setFocus();
+        QTest::keyClick(d.box(3), Qt::Key_Enter);
+        QCOMPARE(QApplication::focusWidget(), d.combo("cmbCategory"));
+        d.dialog.findChild<QTabWidget*>("SSTab1")->setCurrentIndex(2);
+        auto* notes = d.dialog.findChild<QPlainTextEdit*>("txtFields_6");
+        notes->setFocus();
+        QTest::keyClicks(notes, "Urgent");
+        QTest::keyClick(notes, Qt::Key_Return);
+        QVERIFY(QApplication::focusWidget() != notes);
+        notes->setFocus();
+        QTest::keyClick(notes, Qt::Key_Tab);
+        QVERIFY(QApplication::focusWidget() != notes);
+        d.click("cmdOK");
+        QCOMPARE(fx.stored("DokPastaba").toString(), "Urgent");
+    }
+
+    // A reminder typed in the grid's new-row line, Enter moving on from date to text, is
+    // stored with the new document's key.
+    void reminderGetsTheNewKey()
+    {
+        Fixture fx;
+        const qint32 older = fx.reg.insert("tbl_Documents", {{"DokAntraste", "Older"}});
+        Dialog d;
+        d.dialog.findChild<QTabWidget*>("SSTab1")->setCurrentIndex(1);
+        QTableView* grid = d.grid();
+        grid->setFocus();
+        grid->setCurrentIndex(grid->model()->index(0, 1));
+        QTest::keyClick(grid, '2');
+        QTest::keyClicks(QApplication::focusWidget(), "024.05.01");
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QCOMPARE(grid->currentIndex().column(), 3);
+        QTest::keyClick(grid, 'C');
+        QTest::keyClicks(QApplication::focusWidget(), "all the bank");
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QCOMPARE(grid->currentIndex().row(), 1);
+        QCOMPARE(grid->model()->rowCount(), 2);
+        d.click("cmdOK");
+        const qint32 key = fx.stored("RastasID").toInt();
+        QVERIFY(key != older);
+        QCOMPARE(fx.reg.scalar(QString("SELECT RastasID FROM tbl_Tickler WHERE TicklerText='Call the bank'"))
+                     .toInt(),
+            key);
+        QCOMPARE(fx.reg.scalar("SELECT TicklerDate FROM tbl_Tickler").toDate(), QDate(2024, 5, 1));
+        QCOMPARE(fx.reg.scalar("SELECT COUNT(*) FROM tbl_Tickler").toInt(), 1);
+    }
+
+    // An unreadable date stops OK with a message: the dialog stays, nothing is stored and the
+    // day's number stays; corrected, OK stores it.
+    void refusedSaveKeepsTheDialog()
+    {
+        Fixture fx;
+        Dialog d;
+        d.type(4, "Lease");
+        d.type(1, "2024.99.99");
+        fx.prompter.answer(MsgBoxResult::Ok);
+        d.click("cmdOK");
+        const auto prompt = fx.prompter.take();
+        QCOMPARE(prompt.size(), 1);
+        QVERIFY2(
+            prompt.first().text.contains("2024.99.99") && prompt.first().text.contains("Send/Receive Date"),
+            qPrintable(prompt.first().text));
+        QCOMPARE(prompt.first().style, MsgBoxStyle::OkOnly);
+        QVERIFY(d.dialog.isVisible());
+        QCOMPARE(fx.documents(), 0);
+        QCOMPARE(getRegValue("TodayNumber"), "1");
+
+        d.type(1, "2024.09.30");
+        d.click("cmdOK");
+        QVERIFY(!d.dialog.isVisible());
+        QCOMPARE(fx.stored("DokGavSiuntData").toDate(), QDate(2024, 9, 30));
+        QCOMPARE(getRegValue("TodayNumber"), "2");
+    }
+
+    // Three files dropped on the main window's document list open the dialog three times, one
+    // after another, each with its file in the Location box.
+    void dropOnTheDocumentList()
+    {
+        Fixture fx;
+        MainWindow window;
+        window.load();
+        window.show();
+        QStringList paths;
+        for (const char* name : {"a.doc", "b.xls", "c.pdf"})
+            paths << fx.files.filePath(QString::fromLatin1(name));
+        QStringList seen;
+        const QList<const char*> answers = {"cmdOK", "cmdCancel", "cmdOK"};
+        QTimer responder;
+        connect(&responder, &QTimer::timeout, this, [&] {
+            auto* dialog = qobject_cast<NewDocumentDialog*>(QApplication::activeModalWidget());
+            if (!dialog || !dialog->isVisible() || seen.size() >= answers.size())
+                return;
+            seen << dialog->findChild<QLineEdit*>("txtFields_5")->text();
+            QTest::mouseClick(dialog->findChild<QPushButton*>(answers[seen.size() - 1]), Qt::LeftButton);
+        });
+        responder.start(20);
+        // The list's drop handling turns the dropped data into this signal.
+        Q_EMIT window.documentList()->filesDropped(paths);
+        responder.stop();
+        QCOMPARE(seen, paths);
+        QCOMPARE(fx.reg.scalar("SELECT COUNT(*) FROM tbl_Documents").toInt(), 2);
+        QCOMPARE(fx.reg
+                     .scalar("SELECT COUNT(*) FROM tbl_Documents WHERE RastoKel='" + paths[0]
+                         + "' OR RastoKel='" + paths[2] + "'")
+                     .toInt(),
+            2);
+    }
+};
+
+QTEST_MAIN(NewDocumentEntryTest)
+#include "tst_new_document_entry.moc"

@@ -1,0 +1,286 @@
+#include "RegisterFixture.h"
+#include "explorer/DocumentFills.h"
+#include "explorer/ExplorerList.h"
+#include "explorer/ListModel.h"
+#include "explorer/MainWindow.h"
+#include "options/OptionStore.h"
+#include "registration/RelatedDocumentDialog.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QPlainTextEdit>
+#include <QTimer>
+
+using namespace kartella;
+using namespace kartella::test;
+
+// The two dialogs of a related document: the new one with its creating buttons, and the
+// edit of a stored one.
+class RelatedTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // A new related document with an existing file: stored under the selected document with
+    // its description, today's date and the file; the file stays where it is.
+    void newRelatedWithExistingFile()
+    {
+        Fixture fx;
+        const QString scan = fx.files.filePath("scan.pdf");
+        writeFile(scan, "scan");
+        RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Creating);
+        showActive(dialog);
+        QCOMPARE(dialog.objectName(), "frmRelated");
+        QCOMPARE(dialog.findChild<QLineEdit*>("txtParent")->text(), "Sutartis");
+        QTest::keyClicks(dialog.findChild<QPlainTextEdit*>("txtFields_1"), "Receipt");
+        fx.prompter.answerFile(scan);
+        click(dialog, "cmdAddExisting");
+        QCOMPARE(fx.prompter.fileRequests.first().title, "Select the Document");
+        QCOMPARE(box(dialog, 5)->text(), scan);
+        click(dialog, "cmdOK");
+        QVERIFY(!dialog.isVisible());
+        const QVariant id = fx.reg.scalar("SELECT MAX(SubRastasID) FROM tbl_Sub_Documents");
+        QCOMPARE(fx.related("RastasID", id.toInt()).toInt(), fx.lease);
+        QCOMPARE(fx.related("SubDocDescript", id.toInt()).toString(), "Receipt");
+        QCOMPARE(fx.related("SubRastoKelias", id.toInt()).toString(), scan);
+        QCOMPARE(fx.related("SubRastGavimoData", id.toInt()).toDate(), QDate::currentDate());
+        QCOMPARE(readFile(scan), "scan");
+        QCOMPARE(fx.related("SubDocDescript", fx.annex).toString(), "Annex");
+    }
+
+    // The Word button makes a file without template in the current category's folder, named
+    // under each naming system; only the file-number system moves its counter, and the day's
+    // number never moves.
+    void relatedFileUnderNamingSystems_data()
+    {
+        QTest::addColumn<QString>("system");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("fileNumber");
+        QTest::newRow("Mnemonic+Number") << "0"
+                                         << "AGR00001.doc"
+                                         << "2";
+        QTest::newRow("Like Registration Index")
+            << "2"
+            << "AGR-" + QDate::currentDate().toString("yyyyMMdd") + "p1.doc"
+            << "2";
+    }
+
+    void relatedFileUnderNamingSystems()
+    {
+        QFETCH(QString, system);
+        QFETCH(QString, name);
+        QFETCH(QString, fileNumber);
+        Fixture fx;
+        setRegValue("FileName", system);
+        RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Creating);
+        showActive(dialog);
+        QTest::keyClicks(dialog.findChild<QPlainTextEdit*>("txtFields_1"), "Receipt");
+        click(dialog, "cmdWord");
+        const QString path = QDir(fx.files.path()).filePath(name);
+        QCOMPARE(box(dialog, 5)->text(), path);
+        QCOMPARE(readFile(path), "made");
+        QCOMPARE(fx.suite.templates, QStringList {QString()});
+        QCOMPARE(getRegValue("FileNumber").trimmed(), fileNumber);
+        QCOMPARE(getRegValue("TodayNumber"), "1");
+        // Pressed again with a file in place, the button does nothing.
+        click(dialog, "cmdWord");
+        QCOMPARE(fx.suite.templates.size(), 1);
+        QVERIFY(fx.prompter.prompts().isEmpty());
+    }
+
+    // The creating buttons' checks: a description first (each button's own words), then a
+    // category chosen in the tree; the dialog stays open.
+    void relatedCreatingChecks()
+    {
+        Fixture fx;
+        RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Creating);
+        showActive(dialog);
+        fx.prompter.answer(MsgBoxResult::Ok).answer(MsgBoxResult::Ok).answer(MsgBoxResult::Ok);
+        click(dialog, "cmdExcel");
+        click(dialog, "cmdPower");
+        selection().currentCategoryId = 0;
+        QTest::keyClicks(dialog.findChild<QPlainTextEdit*>("txtFields_1"), "Receipt");
+        click(dialog, "cmdWord");
+        const auto prompts = fx.prompter.take();
+        QCOMPARE(prompts.size(), 3);
+        QCOMPARE(prompts[0].text, "Document Description Required!");
+        QCOMPARE(prompts[0].title, "Unable to create a new Excel Document");
+        QCOMPARE(prompts[0].style, MsgBoxStyle::Critical);
+        QCOMPARE(prompts[1].text, "SubDocument Description Required!");
+        QCOMPARE(prompts[2].text, "Select any Category, please!");
+        QVERIFY(dialog.isVisible());
+        QVERIFY(fx.suite.templates.isEmpty());
+    }
+
+    // Editing a related document: its row shows; OK writes the description and keeps the
+    // parent the row has, whatever document is selected; Esc after a change asks, No drops.
+    void editRelated()
+    {
+        Fixture fx;
+        fx.selectRelated();
+        {
+            RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Editing);
+            showActive(dialog);
+            QCOMPARE(dialog.objectName(), "frmRelDescr");
+            QCOMPARE(dialog.findChild<QLineEdit*>("txtParent")->text(), "Annex");
+            QCOMPARE(box(dialog, 4)->text(), fx.annexFile);
+            QVERIFY(!dialog.findChild<QPushButton*>("cmdWord"));
+            QTest::keyClick(dialog.findChild<QPlainTextEdit*>("txtFields_1"), Qt::Key_End);
+            QTest::keyClicks(dialog.findChild<QPlainTextEdit*>("txtFields_1"), " 2");
+            fx.prompter.answer(MsgBoxResult::No);
+            QTest::keyClick(dialog.findChild<QPlainTextEdit*>("txtFields_1"), Qt::Key_Escape);
+            QCOMPARE(fx.prompter.take().first().text, ApplyQuestion);
+            QVERIFY(!dialog.isVisible());
+            QCOMPARE(fx.related("SubDocDescript", fx.annex).toString(), "Annex");
+        }
+        selection().selectedDocumentId = 0;
+        RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Editing);
+        showActive(dialog);
+        QTest::keyClick(dialog.findChild<QPlainTextEdit*>("txtFields_1"), Qt::Key_End);
+        QTest::keyClicks(dialog.findChild<QPlainTextEdit*>("txtFields_1"), " 2");
+        click(dialog, "cmdOK");
+        QCOMPARE(fx.related("SubDocDescript", fx.annex).toString(), "Annex 2");
+        QCOMPARE(fx.related("RastasID", fx.annex).toInt(), fx.lease);
+        QCOMPARE(fx.related("SubRastoKelias", fx.annex).toString(), fx.annexFile);
+    }
+
+    // Files dropped on the related list open New Related Document one after another, each
+    // with its file in the Location box and marked as changed, so that Esc asks; Show
+    // Details opens the dialog of the list last clicked.
+    void dropOnTheRelatedListAndShowDetails()
+    {
+        Fixture fx;
+        MainWindow window;
+        window.load();
+        window.listCategory(fx.contracts, 0);
+        window.onDocumentClicked(window.documentModel()->rowOfKey(DocumentFills::itemKey(fx.lease)));
+        const QStringList paths = {fx.files.filePath("a.pdf"), fx.files.filePath("b.pdf")};
+        QStringList seen;
+        QList<bool> changed;
+        QTimer responder;
+        connect(&responder, &QTimer::timeout, this, [&] {
+            auto* dialog = qobject_cast<RelatedDocumentDialog*>(QApplication::activeModalWidget());
+            if (!dialog || !dialog->isVisible())
+                return;
+            seen << dialog->objectName() + ":" + dialog->findChild<QLineEdit*>("txtFields_5")->text();
+            changed << dialog->relatedChanged();
+            QTest::mouseClick(
+                dialog->findChild<QPushButton*>(seen.size() == 1 ? "cmdOK" : "cmdCancel"), Qt::LeftButton);
+        });
+        responder.start(20);
+        Q_EMIT window.relatedList()->filesDropped(paths);
+        QCOMPARE(seen, QStringList({"frmRelated:" + paths[0], "frmRelated:" + paths[1]}));
+        QCOMPARE(changed, QList<bool>({true, true}));
+        QCOMPARE(
+            fx.reg
+                .scalar("SELECT COUNT(*) FROM tbl_Sub_Documents WHERE RastasID=" + QString::number(fx.lease))
+                .toInt(),
+            2);
+
+        QStringList shown;
+        disconnect(&responder, nullptr, this, nullptr);
+        connect(&responder, &QTimer::timeout, this, [&] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (!dialog || !dialog->isVisible())
+                return;
+            shown << dialog->objectName();
+            QTest::keyClick(dialog, Qt::Key_Escape);
+        });
+        window.action("mnuShowDetails")->trigger();
+        window.fillRelatedList();
+        window.onRelatedClicked(window.relatedModel()->rowOfKey(DocumentFills::itemKey(fx.annex)));
+        window.action("mnuShowDetails")->trigger();
+        responder.stop();
+        QCOMPARE(shown, QStringList({"frmNew", "frmRelDescr"}));
+    }
+
+    // A new related document needs the document it hangs on: without one OK says so and
+    // stores nothing, and the dialog stays.
+    void newRelatedNeedsItsDocument()
+    {
+        Fixture fx;
+        const QString before = fx.relatedRows();
+        selection().selectedDocumentId = 0;
+        RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Creating);
+        showActive(dialog);
+        QTest::keyClicks(dialog.findChild<QPlainTextEdit*>("txtFields_1"), "Receipt");
+        fx.prompter.answer(MsgBoxResult::Ok);
+        click(dialog, "cmdOK");
+        const auto prompts = fx.prompter.take();
+        QCOMPARE(prompts.size(), 1);
+        QCOMPARE(prompts.first().style, MsgBoxStyle::Exclamation);
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(fx.relatedRows(), before);
+    }
+
+    // Both dialogs show a date in the same short form; Tab in the description moves on and
+    // types no tab.
+    void datesAndTab()
+    {
+        Fixture fx;
+        fx.reg.exec("UPDATE tbl_Sub_Documents SET SubRastGavimoData='2024-11-24'");
+        {
+            RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Creating);
+            showActive(dialog);
+            QCOMPARE(box(dialog, 3)->text(), QDate::currentDate().toString("yyyy.MM.dd"));
+            auto* description = dialog.findChild<QPlainTextEdit*>("txtFields_1");
+            description->setFocus();
+            QTest::keyClicks(description, "Receipt");
+            QTest::keyClick(description, Qt::Key_Tab);
+            QCOMPARE(QApplication::focusWidget(), box(dialog, 3));
+            QCOMPARE(description->toPlainText(), "Receipt");
+        }
+        fx.selectRelated();
+        RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Editing);
+        showActive(dialog);
+        QCOMPARE(box(dialog, 3)->text(), "2024.11.24");
+    }
+
+    // A register that can't give the dialog its rows is told as a data error.
+    void loadErrorIsTold()
+    {
+        Fixture fx;
+        fx.reg.exec("ALTER TABLE tbl_Contacts RENAME TO tbl_Gone");
+        fx.prompter.answer(MsgBoxResult::Ok);
+        RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Creating);
+        const auto prompts = fx.prompter.take();
+        QCOMPARE(prompts.size(), 1);
+        QVERIFY2(
+            prompts.first().text.startsWith("Data error event hit err:"), qPrintable(prompts.first().text));
+    }
+
+    // Show Details on a related document that another program deleted since it was clicked:
+    // told, no dialog opens, and the related list no longer shows it.
+    void goneRelatedDocument()
+    {
+        Fixture fx;
+        MainWindow window;
+        window.load();
+        window.listCategory(fx.contracts, 0);
+        window.onDocumentClicked(window.documentModel()->rowOfKey(DocumentFills::itemKey(fx.lease)));
+        window.fillRelatedList();
+        const QString key = DocumentFills::itemKey(fx.annex);
+        window.onRelatedClicked(window.relatedModel()->rowOfKey(key));
+        fx.reg.exec("DELETE FROM tbl_Sub_Documents WHERE SubRastasID=" + QString::number(fx.annex));
+        QStringList opened;
+        QTimer watcher;
+        connect(&watcher, &QTimer::timeout, this, [&] {
+            if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+                opened << dialog->objectName();
+                dialog->reject();
+            }
+        });
+        watcher.start(10);
+        fx.prompter.answer(MsgBoxResult::Ok);
+        window.action("mnuShowDetails")->trigger();
+        watcher.stop();
+        QCOMPARE(opened, QStringList());
+        QCOMPARE(fx.prompter.take().first().text, "This related document no longer exists.");
+        QCOMPARE(window.relatedModel()->rowOfKey(key), -1);
+        QVERIFY(window.documentModel()->rowOfKey(DocumentFills::itemKey(fx.lease)) >= 0);
+    }
+};
+
+QTEST_MAIN(RelatedTest)
+#include "tst_related.moc"
