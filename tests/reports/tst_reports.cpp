@@ -10,7 +10,9 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMessageBox>
 #include <QPrinter>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -293,12 +295,14 @@ private Q_SLOTS:
 
         const QString path = fx.reg.dir() + "/month.pdf";
         bool stayedOpen = false;
-        const auto answer = [&](bool typeName) {
-            QTimer::singleShot(0, [&, typeName] {
+        // Types name into the file dialog and presses Enter, and Yes when the dialog asks
+        // whether to replace a file; no name presses Esc.
+        const auto answer = [&](const QString& typed) {
+            QTimer::singleShot(0, [&, typed] {
                 auto* chooser = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
                 QVERIFY(chooser);
                 QCOMPARE(chooser->acceptMode(), QFileDialog::AcceptSave);
-                if (!typeName) {
+                if (typed.isEmpty()) {
                     QTest::keyClick(chooser, Qt::Key_Escape);
                     return;
                 }
@@ -306,18 +310,22 @@ private Q_SLOTS:
                 auto* name = chooser->findChild<QLineEdit*>("fileNameEdit");
                 QVERIFY(name);
                 name->selectAll();
-                QTest::keyClicks(name, "month");
+                QTest::keyClicks(name, typed);
+                QTimer::singleShot(0, [] {
+                    if (auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+                        question->button(QMessageBox::Yes)->click();
+                });
                 QTest::keyClick(name, Qt::Key_Return);
                 stayedOpen = chooser->isVisible();
                 if (stayedOpen)
                     chooser->reject();
             });
         };
-        answer(false);
+        answer({});
         QTest::mouseClick(save, Qt::LeftButton);
         QVERIFY(!QFile::exists(path));
 
-        answer(true);
+        answer("month");
         QTest::mouseClick(save, Qt::LeftButton);
         QVERIFY(!stayedOpen);
         QTRY_VERIFY(QFile::exists(path));
@@ -327,6 +335,22 @@ private Q_SLOTS:
         QVERIFY(landscapePdf(path));
         QVERIFY(prompter.prompts().isEmpty());
         QCOMPARE(QDir(fx.reg.dir()).entryList({"month.pdf*"}, QDir::Files), QStringList {"month.pdf"});
+
+        // The register the report reads, even when the user agrees to replace it, stays.
+        ReportCommands::instance().setConnectionString(fx.reg.connectionString());
+        QFile registerFile(fx.reg.path());
+        QVERIFY(registerFile.open(QIODevice::ReadOnly));
+        const QByteArray before = registerFile.readAll();
+        registerFile.close();
+        prompter.answer(MsgBoxResult::Ok);
+        answer("Kartella.mdb");
+        QTest::mouseClick(save, Qt::LeftButton);
+        QCOMPARE(prompter.texts(),
+            QStringList {'"' + fx.reg.path()
+                + "\" is the register the report reads; choose another file for "
+                  "the report."});
+        QVERIFY(registerFile.open(QIODevice::ReadOnly));
+        QCOMPARE(registerFile.readAll(), before);
     }
 
     void theReportsMenuOpensEachReport()
