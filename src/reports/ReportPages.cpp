@@ -267,13 +267,12 @@ void ReportPaginator::placeWithBreak(const Band& band, double keepWith)
         place(band);
         return;
     }
-    if (band.height + keepWith <= freshPageRoom() + Touching) {
-        if (m_y > m_bodyTop)
-            startPage();
+    if (m_y > m_bodyTop && band.height + keepWith <= freshPageRoom() + Touching) {
+        startPage();
         place(band);
         return;
     }
-    // Taller than a page: what fits goes here, the rest on the pages after.
+    // Taller than the room a page has: what fits goes here, the rest on the pages after.
     Band rest = band;
     while (m_y + rest.height > m_bottom + Touching) {
         const double room = m_bottom - m_y;
