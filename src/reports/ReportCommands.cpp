@@ -10,8 +10,10 @@ namespace kartella {
 
 namespace {
 
-// The commands as the reports were designed against them; the month command is built
-// from the name of the query it reads.
+// The commands as the reports were designed against them, with each select's order made
+// complete (the fields it groups or relates by, then the key), so that a report prints its
+// rows in the same order from either back end. The month command is built from the name
+// of the query it reads.
 const QHash<QString, QString>& fixedCommands()
 {
     static const QHash<QString, QString> commands = {
@@ -21,29 +23,36 @@ const QHash<QString, QString>& fixedCommands()
                 "tbl_Document_Categories.Mnemonic,\r\n"
                 "tbl_Document_Categories.DokKategDaug, tbl_Document_Categories.DokTemplates, "
                 "tbl_Document_Categories.DokTemplatesExel, tbl_Document_Categories.DokTemplatesPowPoint FROM "
-                "tbl_Document_Categories ORDER By tbl_Document_Categories.DokKategorija}  AS Categories "
+                "tbl_Document_Categories ORDER By tbl_Document_Categories.DokKategorija, "
+                "tbl_Document_Categories.KategID}  AS Categories "
                 "APPEND ({SELECT tbl_Sub_Categories.SubKategID,\r\n"
                 "tbl_Sub_Categories.KategID, tbl_Sub_Categories.DokSubKategorija, "
                 "tbl_Sub_Categories.SubPathToFiles, tbl_Sub_Categories.SubDokTemplates, "
                 "tbl_Sub_Categories.SubDokTemplatesExel, tbl_Sub_Categories.SubDokTemplatesPowPoint FROM\r\n"
-                "tbl_Sub_Categories}  AS SubCategories RELATE 'KategID' TO 'KategID') AS SubCategories")},
+                "tbl_Sub_Categories ORDER BY tbl_Sub_Categories.KategID, tbl_Sub_Categories.SubKategID}  AS "
+                "SubCategories RELATE 'KategID' TO 'KategID') AS SubCategories")},
         {QStringLiteral("Contacts"),
             QStringLiteral(
                 "SHAPE {SELECT ContactID, FullName, CompanyName FROM tbl_Contacts ORDER BY FullName, "
-                "CompanyName}  AS Contacts APPEND ({SELECT PhoneID, ContactID, PhoneName, PhoneNumber FROM "
-                "tbl_Phones ORDER BY PhoneName}  AS Phones RELATE 'ContactID' TO 'ContactID') AS "
-                "Phones,({SELECT HomeID, ContactID, Description, HomeWWW FROM tbl_HomePages ORDER BY "
-                "Description}  AS HomePages RELATE 'ContactID' TO 'ContactID') AS HomePages")},
+                "CompanyName, ContactID}  AS Contacts APPEND ({SELECT PhoneID, ContactID, PhoneName, "
+                "PhoneNumber "
+                "FROM tbl_Phones ORDER BY ContactID, PhoneName, PhoneID}  AS Phones RELATE 'ContactID' TO "
+                "'ContactID') AS Phones,({SELECT HomeID, ContactID, Description, HomeWWW FROM tbl_HomePages "
+                "ORDER "
+                "BY ContactID, Description, HomeID}  AS HomePages RELATE 'ContactID' TO 'ContactID') AS "
+                "HomePages")},
         {QStringLiteral("DocByCateg"),
             QStringLiteral(
                 "SHAPE {SELECT tbl_Documents.KategID, tbl_Document_Categories.Mnemonic, "
                 "tbl_Document_Categories.DokKategorija, tbl_Document_Categories.KategID AS Expr1 FROM "
                 "tbl_Document_Categories, tbl_Documents WHERE tbl_Document_Categories.KategID = "
-                "tbl_Documents.KategID}  AS DocByCateg APPEND ({SELECT tbl_Documents.KategID, "
+                "tbl_Documents.KategID ORDER BY tbl_Documents.KategID, tbl_Documents.RastasID}  AS "
+                "DocByCateg APPEND ({SELECT tbl_Documents.KategID, "
                 "tbl_Documents.RastasID, tbl_Documents.DokAntraste, tbl_Documents.DokGavSiuntData, "
                 "tbl_Documents.ContactID, tbl_Contacts.FullName, tbl_Documents.DokRegistracIndeksas FROM "
                 "tbl_Documents, tbl_Contacts WHERE tbl_Documents.ContactID = tbl_Contacts.ContactID ORDER BY "
-                "tbl_Documents.DokGavSiuntData, tbl_Documents.DokRegistracIndeksas}  AS Documents RELATE "
+                "tbl_Documents.KategID, tbl_Documents.DokGavSiuntData, tbl_Documents.DokRegistracIndeksas, "
+                "tbl_Documents.RastasID}  AS Documents RELATE "
                 "'KategID' TO 'KategID') AS Documents")},
         {QStringLiteral("DocByCor_Grouping"),
             QStringLiteral(
@@ -52,7 +61,8 @@ const QHash<QString, QString>& fixedCommands()
                 "tbl_Documents.DokAntraste, tbl_Documents.KategID, tbl_Document_Categories.DokKategorija "
                 "FROM tbl_Document_Categories, tbl_Contacts, tbl_Documents WHERE "
                 "tbl_Document_Categories.KategID = tbl_Documents.KategID AND tbl_Contacts.ContactID = "
-                "tbl_Documents.ContactID ORDER BY tbl_Contacts.FullName}  AS DocByCor COMPUTE DocByCor, "
+                "tbl_Documents.ContactID ORDER BY tbl_Contacts.FullName, tbl_Contacts.ContactID, "
+                "tbl_Documents.RastasID}  AS DocByCor COMPUTE DocByCor, "
                 "COUNT(DocByCor.'RastasID') AS Aggr1 BY 'ContactID','FullName'")},
         {QStringLiteral("Command2_Grouping"),
             QStringLiteral(
@@ -62,12 +72,15 @@ const QHash<QString, QString>& fixedCommands()
                 "FROM tbl_Contacts RIGHT JOIN (tbl_Document_Categories INNER JOIN tbl_Documents ON "
                 "tbl_Document_Categories.KategID=tbl_Documents.KategID) ON "
                 "tbl_Contacts.ContactID=tbl_Documents.ContactID\r\n"
+                "ORDER BY tbl_Documents.KategID, tbl_Document_Categories.DokKategorija, "
+                "tbl_Documents.RastasID"
                 "}  AS Command2 COMPUTE Command2 BY 'KategID','DokKategorija'")},
         {QStringLiteral("Tickler_Grouping"),
             QStringLiteral(
                 "SHAPE {SELECT tbl_Documents.RastasID, tbl_Documents.DokAntraste, tbl_Tickler.TicklerDate, "
                 "tbl_Tickler.TicklerText FROM tbl_Documents INNER JOIN tbl_Tickler ON tbl_Documents.RastasID "
-                "= tbl_Tickler.RastasID ORDER BY tbl_Tickler.TicklerDate;}  AS Tickler COMPUTE Tickler BY "
+                "= tbl_Tickler.RastasID ORDER BY tbl_Tickler.TicklerDate, "
+                "tbl_Documents.RastasID, tbl_Tickler.TicklerID;}  AS Tickler COMPUTE Tickler BY "
                 "'RastasID','DokAntraste'")},
         {QStringLiteral("AddressBook_Grouping"),
             QStringLiteral(
@@ -77,11 +90,13 @@ const QHash<QString, QString>& fixedCommands()
                 "tbl_Contacts.CompanyName, tbl_Contacts.Title, tbl_Contacts.EmailName, tbl_Phones.PhoneName, "
                 "tbl_Phones.PhoneNumber\r\n"
                 "FROM tbl_Contacts INNER JOIN tbl_Phones ON tbl_Contacts.ContactID = tbl_Phones.ContactID\r\n"
-                "ORDER BY tbl_Contacts.FullName;}  AS AddressBook COMPUTE AddressBook BY "
+                "ORDER BY tbl_Contacts.FullName, tbl_Contacts.ContactID, tbl_Phones.PhoneID;}  AS "
+                "AddressBook COMPUTE AddressBook BY "
                 "'FullName','ContactID','Dear','Address','City','StateOrProvince','PostalCode','Region','"
                 "Country','CompanyName','Title','EmailName'")},
         {QStringLiteral("Command1_Grouping"),
-            QStringLiteral("SHAPE {SELECT * FROM `qry_Phones`}  AS Command1 COMPUTE Command1 BY "
+            QStringLiteral("SHAPE {SELECT * FROM `qry_Phones` ORDER BY FullName, ContactID, PhoneName, "
+                           "PhoneNumber}  AS Command1 COMPUTE Command1 BY "
                            "'FullName','ContactID'")},
     };
     return commands;
@@ -139,7 +154,8 @@ QString ReportCommands::commandText(const QString& command) const
 {
     if (command == u"This_Month_Grouping") {
         return QStringLiteral("SHAPE {SELECT * FROM `") + m_monthSource
-            + QStringLiteral("`}  AS This_Month COMPUTE This_Month BY 'DokKategorija','KategID'");
+            + QStringLiteral("` ORDER BY DokKategorija, KategID, DokRegistracData, RastasID}  AS This_Month "
+                             "COMPUTE This_Month BY 'DokKategorija','KategID'");
     }
     return fixedCommands().value(command);
 }

@@ -7,7 +7,7 @@
 #include <QPageLayout>
 #include <QPagedPaintDevice>
 #include <QPainter>
-#include <QPdfWriter>
+#include <QTextLayout>
 
 #include <algorithm>
 
@@ -16,7 +16,9 @@ namespace kartella {
 namespace {
 
 constexpr double Inch = 1.0;
-constexpr int FileWriteFailed = 75;
+constexpr int PrintFailed = 75;
+// Room for rounding between the edges of two boxes that touch.
+constexpr double Touching = 0.5;
 
 QString fontFamily()
 {
@@ -36,6 +38,53 @@ QList<PaintedItem> readingOrder(QList<PaintedItem> items)
         return a.rect.left() < b.rect.left();
     });
     return items;
+}
+
+// The lines a growing box of width shows text in: broken between words where they fit,
+// anywhere inside a word wider than the box, and at every line break of the text.
+QStringList wrappedLines(const QString& text, const QFont& font, const QPaintDevice* device, double width)
+{
+    QString flowing = text;
+    flowing.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+    flowing.replace(u'\n', QChar::LineSeparator);
+    QTextLayout layout(flowing, font, device);
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    QStringList lines;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        QString part = flowing.mid(line.textStart(), line.textLength());
+        part.remove(QChar::LineSeparator);
+        while (part.endsWith(u' '))
+            part.chop(1);
+        lines << part;
+    }
+    layout.endLayout();
+    return lines;
+}
+
+// The text of a page header or footer label with "%d" (the date printed), "%p" (the page)
+// and "%P" (the pages) filled in, in one pass so that no filled-in text is read again.
+QString withPageCodes(const QString& text, const QString& date, int page, int pages)
+{
+    QString result;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar code = i + 1 < text.size() && text.at(i) == u'%' ? text.at(i + 1) : QChar();
+        if (code == u'd')
+            result += date;
+        else if (code == u'p')
+            result += QString::number(page);
+        else if (code == u'P')
+            result += QString::number(pages);
+        else {
+            result += text.at(i);
+            continue;
+        }
+        ++i;
+    }
+    return result;
 }
 
 } // namespace
@@ -96,7 +145,7 @@ ReportPaginator::ReportPaginator(const ReportLayout& layout, QPagedPaintDevice& 
 }
 
 ReportPaginator::Band ReportPaginator::band(
-    const ReportSection& section, const QStringList& fields, const QVariantList& values) const
+    const ReportSection& section, const QStringList& fields, const QVariantList& values, bool pageCodes) const
 {
     Band result;
     const QFontMetricsF plain(m_font, &m_device);
@@ -127,18 +176,23 @@ ReportPaginator::Band ReportPaginator::band(
             }
             const bool isTitle = item.bold && item.kind == ReportItem::Kind::Label;
             const QFontMetricsF& metrics = isTitle ? title : item.bold ? bold : plain;
-            double height = metrics.height();
-            const bool fits = !text.contains(u'\n') && metrics.horizontalAdvance(text) <= w;
-            if (item.grows && !fits) {
-                height = std::max(height,
-                    metrics.boundingRect(QRectF(0, 0, w, 1e6), Qt::TextWordWrap | Qt::AlignLeft, text)
-                        .height());
-            } else if (!fits) {
-                text = metrics.elidedText(QString(text).replace(u'\n', u' '), Qt::ElideRight, w);
+            const QFont& font = isTitle ? m_title : item.bold ? m_bold : m_font;
+            const double height = metrics.height();
+            const bool codes = pageCodes && item.kind == ReportItem::Kind::Label;
+            const bool fits
+                = !text.contains(u'\n') && !text.contains(u'\r') && metrics.horizontalAdvance(text) <= w;
+            QStringList lines {text};
+            if (item.grows && !fits)
+                lines = wrappedLines(text, font, &m_device, w);
+            else if (!fits)
+                lines = {metrics.elidedText(
+                    QString(text).replace(u'\r', u' ').replace(u'\n', u' '), Qt::ElideRight, w)};
+            for (qsizetype line = 0; line < lines.size(); ++line) {
+                result.items << PaintedItem {PaintedItem::Kind::Text,
+                    QRectF(x, rowTop + double(line) * height, w, height), lines.at(line), item.bold, isTitle,
+                    codes};
             }
-            result.items << PaintedItem {PaintedItem::Kind::Text, QRectF(x, rowTop, w, height), text,
-                item.bold, isTitle, item.grows && !fits};
-            rowHeight = std::max(rowHeight, height);
+            rowHeight = std::max(rowHeight, double(std::max<qsizetype>(lines.size(), 1)) * height);
         }
         rowTop += rowHeight;
     }
@@ -161,7 +215,9 @@ void ReportPaginator::startPage()
     m_y = m_top;
     if (m_pages.size() == 1)
         place(band(m_layout.reportHeader, {}, {}));
-    place(band(m_layout.pageHeader, {}, {}));
+    place(m_pageHeader);
+    if (m_groupHeader)
+        place(*m_groupHeader);
     m_bodyTop = m_y;
     const double y = m_y;
     m_y = m_footerTop - m_pageFooter.height;
@@ -169,19 +225,99 @@ void ReportPaginator::startPage()
     m_y = y;
 }
 
+double ReportPaginator::freshPageRoom() const
+{
+    return m_bottom - m_top - m_pageHeader.height - (m_groupHeader ? m_groupHeader->height : 0.0);
+}
+
+namespace {
+
+// Whether a band can be cut at y: no line of text stands across it.
+bool cutsBetweenLines(const QList<PaintedItem>& items, double y)
+{
+    return std::none_of(items.begin(), items.end(), [y](const PaintedItem& item) {
+        return item.rect.top() < y - Touching && item.rect.bottom() > y + Touching;
+    });
+}
+
+// The lowest place within room where a band's items can be cut, or the highest place below
+// its first line when nothing fits in room; 0 when the band can't be cut at all.
+double cutOf(const QList<PaintedItem>& items, double height, double room)
+{
+    double best = 0.0;
+    double first = 0.0;
+    for (const PaintedItem& item : items) {
+        const double y = item.rect.bottom();
+        if (y <= Touching || y >= height - Touching || !cutsBetweenLines(items, y))
+            continue;
+        if (y <= room + Touching)
+            best = std::max(best, y);
+        first = first == 0.0 ? y : std::min(first, y);
+    }
+    return best > 0.0 ? best : first;
+}
+
+} // namespace
+
 void ReportPaginator::placeWithBreak(const Band& band, double keepWith)
 {
     if (band.items.isEmpty() && band.height == 0.0)
         return;
-    if (m_y + band.height + keepWith > m_bottom && m_y > m_bodyTop)
+    if (m_y + band.height + keepWith <= m_bottom + Touching) {
+        place(band);
+        return;
+    }
+    if (m_y > m_bodyTop && band.height + keepWith <= freshPageRoom() + Touching) {
         startPage();
-    place(band);
+        place(band);
+        return;
+    }
+    // Taller than the room a page has: what fits goes here, the rest on the pages after.
+    Band rest = band;
+    while (m_y + rest.height > m_bottom + Touching) {
+        const double room = m_bottom - m_y;
+        const double cut = cutOf(rest.items, rest.height, room);
+        if (cut <= 0.0)
+            break;
+        if (cut > room + Touching && m_y > m_bodyTop) {
+            startPage();
+            continue;
+        }
+        Band head {cut, {}};
+        Band tail {rest.height - cut, {}};
+        for (PaintedItem item : std::as_const(rest.items)) {
+            if (item.rect.top() < cut - Touching) {
+                head.items << item;
+            } else {
+                item.rect.translate(0, -cut);
+                tail.items << item;
+            }
+        }
+        place(head);
+        startPage();
+        rest = tail;
+    }
+    place(rest);
 }
+
+namespace {
+
+// The height of the first line of text of a band: what must stand below a group header on
+// its page.
+double firstLineHeight(const QList<PaintedItem>& items, double height)
+{
+    const double cut = cutOf(items, height, 0.0);
+    return cut > 0.0 ? cut : height;
+}
+
+} // namespace
 
 QList<ReportPage> ReportPaginator::paginate(const ReportData& data)
 {
     m_pages.clear();
-    m_pageFooter = band(m_layout.pageFooter, {}, {});
+    m_groupHeader = nullptr;
+    m_pageHeader = band(m_layout.pageHeader, {}, {}, true);
+    m_pageFooter = band(m_layout.pageFooter, {}, {}, true);
     m_bottom = m_footerTop - m_pageFooter.height;
     startPage();
     for (const ReportGroup& group : data.groups) {
@@ -190,9 +326,19 @@ QList<ReportPage> ReportPaginator::paginate(const ReportData& data)
         details.reserve(group.children.size());
         for (const QVariantList& child : group.children)
             details << band(m_layout.detail, data.childFields, child);
-        placeWithBreak(header, details.isEmpty() ? 0.0 : details.first().height);
+        // The header takes its first detail along, or the first line of one taller than a page.
+        double keepWith = 0.0;
+        if (!details.isEmpty()) {
+            const Band& first = details.first();
+            keepWith = header.height + first.height <= freshPageRoom() + Touching
+                ? first.height
+                : firstLineHeight(first.items, first.height);
+        }
+        placeWithBreak(header, keepWith);
+        m_groupHeader = &header;
         for (const Band& detail : details)
             placeWithBreak(detail);
+        m_groupHeader = nullptr;
         placeWithBreak(band(m_layout.groupFooter, data.parentFields, group.values));
     }
     placeWithBreak(band(m_layout.reportFooter, {}, {}));
@@ -202,20 +348,17 @@ QList<ReportPage> ReportPaginator::paginate(const ReportData& data)
 
 void ReportPaginator::fillPageCodes()
 {
-    const QString total = QString::number(m_pages.size());
+    const int pages = int(m_pages.size());
     const QString date = reportText(m_printed);
-    for (int page = 0; page < m_pages.size(); ++page) {
+    for (int page = 0; page < pages; ++page) {
         for (PaintedItem& item : m_pages[page].items) {
-            if (!item.text.contains(u'%'))
-                continue;
-            item.text.replace(QStringLiteral("%d"), date);
-            item.text.replace(QStringLiteral("%p"), QString::number(page + 1));
-            item.text.replace(QStringLiteral("%P"), total);
+            if (item.pageCodes)
+                item.text = withPageCodes(item.text, date, page + 1, pages);
         }
     }
 }
 
-void paintReportPages(const QList<ReportPage>& pages, QPainter& painter, QPagedPaintDevice& device)
+bool paintReportPages(const QList<ReportPage>& pages, QPainter& painter, QPagedPaintDevice& device)
 {
     QFont plain(fontFamily());
     plain.setPointSizeF(9.0);
@@ -226,8 +369,8 @@ void paintReportPages(const QList<ReportPage>& pages, QPainter& painter, QPagedP
     const QFont* current = nullptr;
     double ascent = 0.0;
     for (int page = 0; page < pages.size(); ++page) {
-        if (page > 0)
-            device.newPage();
+        if (page > 0 && !device.newPage())
+            return false;
         for (const PaintedItem& item : pages.at(page).items) {
             if (item.kind == PaintedItem::Kind::Line) {
                 painter.drawLine(item.rect.topLeft(), item.rect.topRight());
@@ -239,19 +382,21 @@ void paintReportPages(const QList<ReportPage>& pages, QPainter& painter, QPagedP
                 current = &font;
                 ascent = QFontMetricsF(font, &device).ascent();
             }
-            // One line goes the short way, without a text layout of its own.
-            if (item.wraps)
-                painter.drawText(item.rect, Qt::TextWordWrap | Qt::AlignLeft | Qt::AlignTop, item.text);
-            else
-                painter.drawText(QPointF(item.rect.left(), item.rect.top() + ascent), item.text);
+            painter.drawText(QPointF(item.rect.left(), item.rect.top() + ascent), item.text);
         }
     }
+    return true;
 }
 
 void setReportPage(QPagedPaintDevice& device, const ReportLayout& layout)
 {
+    setReportPage(device, layout.orientation);
+}
+
+void setReportPage(QPagedPaintDevice& device, ReportOrientation orientation)
+{
     device.setPageLayout(QPageLayout(QPageSize(QPageSize::A4),
-        layout.orientation == ReportOrientation::Landscape ? QPageLayout::Landscape : QPageLayout::Portrait,
+        orientation == ReportOrientation::Landscape ? QPageLayout::Landscape : QPageLayout::Portrait,
         QMarginsF(0, 0, 0, 0)));
 }
 
@@ -260,25 +405,10 @@ int printReport(const ReportLayout& layout, const ReportData& data, QPagedPaintD
     const QList<ReportPage> pages = ReportPaginator(layout, device, reportToday()).paginate(data);
     QPainter painter;
     if (!painter.begin(&device))
-        throw Error(FileWriteFailed, QStringLiteral("The report could not be printed."));
-    paintReportPages(pages, painter, device);
-    painter.end();
-    return int(pages.size());
-}
-
-int writeReportPdf(const ReportLayout& layout, const ReportData& data, const QString& path)
-{
-    QPdfWriter writer(path);
-    writer.setResolution(300);
-    writer.setTitle(layout.caption);
-    writer.setCreator(QStringLiteral("Kartella"));
-    setReportPage(writer, layout);
-    QPainter probe;
-    if (!probe.begin(&writer))
-        throw Error(FileWriteFailed, QStringLiteral("Can't write the file \"%1\".").arg(path));
-    const QList<ReportPage> pages = ReportPaginator(layout, writer, reportToday()).paginate(data);
-    paintReportPages(pages, probe, writer);
-    probe.end();
+        throw Error(PrintFailed, QStringLiteral("The report could not be printed."));
+    const bool painted = paintReportPages(pages, painter, device);
+    if (!painter.end() || !painted)
+        throw Error(PrintFailed, QStringLiteral("The report could not be printed."));
     return int(pages.size());
 }
 

@@ -15,7 +15,8 @@ class QPainter;
 namespace kartella {
 
 // One thing painted on a page, in the painter's coordinates of the device it was laid
-// out for: a text in its box, or a line along the top edge of its box.
+// out for: one line of text in its box, or a line along the top edge of its box. A growing
+// box that wraps gives one text item per line.
 struct PaintedItem
 {
     enum class Kind { Text, Line };
@@ -24,7 +25,8 @@ struct PaintedItem
     QString text;
     bool bold = false;
     bool title = false;
-    bool wraps = false;
+    // A label of the page header or footer, whose "%d", "%p" and "%P" are filled in.
+    bool pageCodes = false;
 };
 
 struct ReportPage
@@ -38,11 +40,14 @@ struct ReportPage
     QStringList lines() const;
 };
 
-// Lays a report's rows out on pages of a device: report header, page header on every
-// page, a group header per parent row and a detail line per child row, group footer, page
-// footer at the foot of every page with "%d", "%p" and "%P" replaced, report footer. The
-// margins are one inch. A group header never stands alone at the foot of a page: it moves
-// to the next page with its first detail line. The device's page layout (size,
+// Lays a report's rows out on pages of a device: report header on the first page, page
+// header on every page, a group header per parent row and a detail line per child row,
+// group footer, page footer at the foot of every page, report footer. The margins are one
+// inch. "%d", "%p" and "%P" are replaced in the labels of the page header and footer only,
+// never in the data. A group header never stands alone at the foot of a page: it moves to
+// the next page with the first line of its first detail. A page that goes on with the
+// details of a group starts with the group header again. A section taller than what is
+// left of the page is split between two lines of text. The device's page layout (size,
 // orientation) must be set before.
 class ReportPaginator
 {
@@ -58,10 +63,12 @@ private:
         QList<PaintedItem> items;
     };
 
-    Band band(const ReportSection& section, const QStringList& fields, const QVariantList& values) const;
+    Band band(const ReportSection& section, const QStringList& fields, const QVariantList& values,
+        bool pageCodes = false) const;
     void place(const Band& band);
     void startPage();
     void placeWithBreak(const Band& band, double keepWith = 0.0);
+    double freshPageRoom() const;
     void fillPageCodes();
 
     const ReportLayout& m_layout;
@@ -78,21 +85,24 @@ private:
     double m_lineHeight = 0.0;
     double m_y = 0.0;
     double m_bodyTop = 0.0;
+    Band m_pageHeader;
     Band m_pageFooter;
+    // The header of the group whose details are being placed; repeated on a new page.
+    const Band* m_groupHeader = nullptr;
     QList<ReportPage> m_pages;
 };
 
-// Paints laid-out pages on a painter that is active on the device they were laid out for.
-void paintReportPages(const QList<ReportPage>& pages, QPainter& painter, QPagedPaintDevice& device);
+// Paints laid-out pages on a painter that is active on the device they were laid out for;
+// false when the device could not start a new page.
+bool paintReportPages(const QList<ReportPage>& pages, QPainter& painter, QPagedPaintDevice& device);
 
-// Sets the paper of a device for a report: A4 in the report's orientation.
+// Sets the paper of a device for a report: A4 in the report's orientation, or in the one
+// given.
 void setReportPage(QPagedPaintDevice& device, const ReportLayout& layout);
+void setReportPage(QPagedPaintDevice& device, ReportOrientation orientation);
 
 // Lays out and paints a report on a printer or PDF writer; gives the number of pages.
 int printReport(const ReportLayout& layout, const ReportData& data, QPagedPaintDevice& device);
-
-// Writes a report to a PDF file; throws kartella::Error when the file can't be written.
-int writeReportPdf(const ReportLayout& layout, const ReportData& data, const QString& path);
 
 // The day a report prints as its date.
 QDate reportToday();

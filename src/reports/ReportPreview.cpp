@@ -1,13 +1,20 @@
 #include "reports/ReportPreview.h"
 
 #include "base/Error.h"
+#include "platform/Prompter.h"
 #include "reports/ReportCommands.h"
 #include "reports/ReportPages.h"
+#include "reports/ReportPdf.h"
 #include "support/BusyCursor.h"
 #include "support/SharedPrinter.h"
 
+#include <QAction>
+#include <QDir>
+#include <QFileDialog>
 #include <QPainter>
 #include <QPrinter>
+#include <QToolBar>
+#include <QToolButton>
 
 namespace kartella {
 
@@ -58,6 +65,53 @@ ReportPreview::ReportPreview(const ReportLayout& layout, ReportData data, QWidge
     setObjectName(layout.name);
     setWindowTitle(layout.caption);
     connect(this, &QPrintPreviewDialog::paintRequested, this, &ReportPreview::paintReport);
+    addSaveButton();
+}
+
+void ReportPreview::addSaveButton()
+{
+    auto* toolbar = findChild<QToolBar*>();
+    if (!toolbar)
+        return;
+    // First on the toolbar, where a narrow window doesn't push it into the overflow menu.
+    auto* save = new QAction(
+        QIcon::fromTheme(QStringLiteral("document-save-as")), QStringLiteral("Save as PDF..."), toolbar);
+    save->setObjectName(QStringLiteral("savePdf"));
+    // A tool button drops the dots of an action's text; the button shows them.
+    save->setIconText(save->text());
+    QAction* first = toolbar->actions().value(0);
+    toolbar->insertAction(first, save);
+    toolbar->insertSeparator(first);
+    if (auto* button = qobject_cast<QToolButton*>(toolbar->widgetForAction(save))) {
+        button->setObjectName(QStringLiteral("savePdfButton"));
+        button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+        button->setAccessibleName(QStringLiteral("Save as PDF"));
+    }
+    connect(save, &QAction::triggered, this, &ReportPreview::saveAsPdf);
+}
+
+void ReportPreview::saveAsPdf()
+{
+    QFileDialog chooser(
+        this, QStringLiteral("Save as PDF"), QDir::homePath(), QStringLiteral("PDF files (*.pdf)"));
+    chooser.setObjectName(QStringLiteral("savePdfDialog"));
+    chooser.setAcceptMode(QFileDialog::AcceptSave);
+    chooser.setFileMode(QFileDialog::AnyFile);
+    chooser.setDefaultSuffix(QStringLiteral("pdf"));
+    chooser.selectFile(m_layout.caption + QStringLiteral(".pdf"));
+    if (chooser.exec() != QDialog::Accepted || chooser.selectedFiles().isEmpty())
+        return;
+    const QString path = chooser.selectedFiles().constFirst();
+    const ReportOrientation orientation = printer()->pageLayout().orientation() == QPageLayout::Landscape
+        ? ReportOrientation::Landscape
+        : ReportOrientation::Portrait;
+    try {
+        BusyCursor busy;
+        refuseRegisterAsReport(path, ReportCommands::instance().connectionString());
+        writeReportPdf(m_layout, m_data, path, orientation);
+    } catch (const Error& error) {
+        msgBox(error.description(), MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, windowTitle());
+    }
 }
 
 void ReportPreview::paintReport(QPrinter* printer)
@@ -96,9 +150,9 @@ const QList<ReportMenuEntry>& reportMenuEntries()
 
 void setPrinterOrientation(ReportOrientation orientation)
 {
+    // Also where there is no printer queue and the shared printer writes PDF: the preview
+    // shows the report in the orientation it is printed in everywhere.
     QPrinter& printer = sharedPrinter();
-    if (printer.printerName().isEmpty())
-        return;
     printer.setPageOrientation(
         orientation == ReportOrientation::Landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
     printer.setDuplex(QPrinter::DuplexNone);

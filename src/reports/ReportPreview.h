@@ -14,7 +14,8 @@ class QWidget;
 namespace kartella {
 
 // Qt's print preview of one report on the program's shared printer, with the report's
-// caption. It prints on any printer, and its print dialog saves a PDF.
+// caption. It prints on any printer, and its toolbar's "Save as PDF..." writes the report
+// to a PDF file chosen in a file dialog, in the orientation the preview shows.
 class ReportPreview : public QPrintPreviewDialog
 {
     Q_OBJECT
@@ -27,8 +28,13 @@ public:
     // How many pages the last paint gave.
     int pageCount() const { return m_pageCount; }
 
+    // Asks for a file and writes the report there as a PDF; a failure is told in a message
+    // and leaves any file that was there as it was.
+    void saveAsPdf();
+
 private:
     void paintReport(QPrinter* printer);
+    void addSaveButton();
 
     const ReportLayout& m_layout;
     ReportData m_data;
@@ -48,7 +54,8 @@ struct ReportMenuEntry
 
 const QList<ReportMenuEntry>& reportMenuEntries();
 
-// The orientation step before a report: changes the shared printer when there is one.
+// The orientation step before a report: sets the shared printer's orientation, whether it
+// prints on a printer queue or writes PDF on a machine without one.
 void setPrinterOrientation(ReportOrientation orientation);
 
 } // namespace kartella

@@ -5,8 +5,9 @@
 
 namespace kartella::test {
 
-ReportFixture::ReportFixture()
-    : thisMonth(QDate::currentDate().addDays(1 - QDate::currentDate().day()))
+ReportFixture::ReportFixture(TestRegister::Where where)
+    : reg(where)
+    , thisMonth(QDate::currentDate().addDays(1 - QDate::currentDate().day()))
     , previousMonth(thisMonth.addMonths(-1))
     , reminderDate(2030, 1, 1)
 {

@@ -13,10 +13,10 @@ namespace kartella::test {
 // A small register whose every row a report shows is known: two categories (one with a
 // subcategory), a contact with two phones and an address, a contact without phones, a
 // document of this month with contact and reminder, one of this month without contact,
-// one of the previous month.
+// one of the previous month. In a file, or on the tests' PostgreSQL server.
 struct ReportFixture
 {
-    ReportFixture();
+    explicit ReportFixture(TestRegister::Where where = TestRegister::File);
 
     TestRegister reg;
     QDate thisMonth;

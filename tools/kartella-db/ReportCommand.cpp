@@ -4,8 +4,9 @@
 #include "base/Error.h"
 #include "reports/ReportCommands.h"
 #include "reports/ReportLayouts.h"
-#include "reports/ReportPages.h"
+#include "reports/ReportPdf.h"
 
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QTextStream>
 
@@ -22,9 +23,10 @@ constexpr int ExitUsage = 2;
 
 int usageError(const QString& problem)
 {
-    QTextStream(stderr) << "kartella-db: " << problem << '\n'
-                        << "Usage: kartella-db report --list\n"
-                           "       kartella-db report NAME PATH.pdf [--register FILE] [--previous-month]\n";
+    QTextStream(stderr)
+        << "kartella-db: " << problem << '\n'
+        << "Usage: kartella-db report --list\n"
+           "       kartella-db report NAME PATH.pdf [--register FILE] [--previous-month] [--overwrite]\n";
     return ExitUsage;
 }
 
@@ -55,11 +57,14 @@ int runReportCommand(int argc, char** argv)
     }
     QString registerPath;
     bool previousMonth = false;
+    bool overwrite = false;
     QStringList positional;
     for (int i = 0; i < arguments.size(); ++i) {
         const QString& argument = arguments.at(i);
         if (argument == u"--previous-month") {
             previousMonth = true;
+        } else if (argument == u"--overwrite") {
+            overwrite = true;
         } else if (argument.startsWith(QStringLiteral("--register="))) {
             registerPath = argument.mid(11);
         } else if (argument == u"--register") {
@@ -82,12 +87,19 @@ int runReportCommand(int argc, char** argv)
         return usageError(QStringLiteral("--previous-month goes with the this-month report only"));
 
     try {
+        const QString& target = positional.at(1);
         ReportCommands& commands = ReportCommands::instance();
         if (!registerPath.isEmpty())
             commands.setConnectionString(registerConnectionString(existingRegister(registerPath)));
+        refuseRegisterAsReport(target, commands.connectionString());
+        if (!overwrite && QFileInfo::exists(target)) {
+            QTextStream(stderr) << "kartella-db: \"" << target
+                                << "\" exists; --overwrite replaces it with the report\n";
+            return ExitFailure;
+        }
         if (previousMonth)
             commands.usePreviousMonth();
-        const int pages = writeReportPdf(*layout, commands.run(*layout), positional.at(1));
+        const int pages = writeReportPdf(*layout, commands.run(*layout), target);
         QTextStream(stdout) << "pages: " << pages << '\n';
         return ExitSuccess;
     } catch (const Error& error) {
