@@ -5,6 +5,7 @@
 #include "reports/ReportCommands.h"
 #include "reports/ReportLayouts.h"
 #include "reports/ReportPages.h"
+#include "reports/ReportPdf.h"
 #include "store/SampleRegister.h"
 #include "store/Schema.h"
 #include "store/Store.h"

@@ -4,6 +4,7 @@
 #include "addressbook/AddressBookWindow.h"
 #include "addressbook/ContactQueries.h"
 #include "addressbook/LimitedTextEdit.h"
+#include "support/ColumnWidths.h"
 #include "support/DialogParts.h"
 #include "support/EnterAsTab.h"
 #include "support/FieldBinder.h"
@@ -23,6 +24,9 @@
 #include <QToolBar>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+
+#include <array>
+#include <tuple>
 
 namespace kartella {
 
@@ -56,6 +60,7 @@ void AddressBookWindow::buildWidgets()
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);
     m_list->header()->setSectionsClickable(true);
+    ColumnWidths::attach(m_list->header(), QStringLiteral("AddressBookContactsColumns"));
     connect(m_list, &QTreeWidget::currentItemChanged, this,
         [this](QTreeWidgetItem* current) { onLineChosen(current); });
     connect(m_list->header(), &QHeaderView::sectionClicked, this, &AddressBookWindow::onHeaderClicked);
@@ -223,6 +228,14 @@ QWidget* AddressBookWindow::buildFields()
         model->setColumnHidden(1, true);
         model->setColumnWidth(2, 2000);
         model->setColumnWidth(3, lastWidth);
+    }
+    // The user's widths, kept across runs, come after the grids' own at every new contact.
+    const std::array<std::tuple<QTableView*, RecordsetModel*, QString>, 2> remembered
+        = {std::tuple {m_phoneGrid, m_phoneModel, QStringLiteral("AddressBookPhonesColumns")},
+            std::tuple {m_homePageGrid, m_homePageModel, QStringLiteral("AddressBookWebPagesColumns")}};
+    for (const auto& [grid, model, optionName] : remembered) {
+        ColumnWidths* widths = ColumnWidths::attach(grid->horizontalHeader(), optionName);
+        connect(model, &QAbstractItemModel::modelReset, widths, &ColumnWidths::apply);
     }
     connect(m_phoneGrid->selectionModel(), &QItemSelectionModel::currentChanged, this,
         &AddressBookWindow::onPhoneRowChanged);

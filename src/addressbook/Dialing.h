@@ -23,11 +23,5 @@ void sendMailTo(const QString& address);
 QUrl webUrl(const QString& address);
 // The mailto: link that sendMailTo opens for address.
 QUrl mailUrl(const QString& address);
-// The tel: URL (RFC 3966) a desktop dialler takes for a number as typed: the digits, '*',
-// '#' and a leading '+' of the number, an extension written as "ext", "ext.", "extension"
-// or "x" before its digits as the ";ext=" parameter ("+370 5 212 3456 ext. 12" gives
-// "tel:+37052123456;ext=12"). Blanks, brackets, dashes, dots and letters are dropped.
-// Invalid when the number has no digit.
-QUrl dialUrl(const QString& number);
 
 } // namespace kartella

@@ -19,6 +19,7 @@
 #include "support/SharedPrinter.h"
 
 #include <QAction>
+#include <QDir>
 #include <QFileInfo>
 #include <QLabel>
 #include <QPageSetupDialog>
@@ -240,7 +241,20 @@ void MainWindow::deleteDocument()
         const QString path = m_state.selectedFilePath;
 
         if (sameName(active, RelatedListName)) {
-            // A related document goes only together with its file.
+            // A related document goes only together with its file; without one the user hears why
+            // nothing happens.
+            if (path.isEmpty() || !QFileInfo::exists(path)) {
+                const QString why = path.isEmpty()
+                    ? QStringLiteral("This related document has no file. A related document is deleted "
+                                     "together with its file.")
+                    : QStringLiteral(
+                        "The file of this related document was not found:\n%1\nA related document "
+                        "is deleted together with its file.")
+                          .arg(QDir::toNativeSeparators(path));
+                msgBox(why, MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation,
+                    QStringLiteral("Unable to delete as requested"));
+                return;
+            }
             if (shellDeleteFile(path)) {
                 connection.execute(deleteSubDocumentSql(m_state.selectedSubDocumentId));
                 fillRelatedList();

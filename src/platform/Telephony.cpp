@@ -1,5 +1,7 @@
 #include "platform/Telephony.h"
 
+#include <QRegularExpression>
+
 namespace kartella {
 
 namespace {
@@ -35,11 +37,26 @@ void Telephony::setInstance(Telephony* telephony)
 
 QUrl Telephony::telUrl(const QString& number)
 {
+    // The marker of an extension is a word of its own, followed by the extension's digits.
+    static const QRegularExpression extensionMarker(
+        QStringLiteral("(?<!\\p{L})(?:extension|ext|x)[.:]?\\s*(?=\\d)"),
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
+    QString main = number;
+    QString extension;
+    const QRegularExpressionMatch marker = extensionMarker.match(number);
+    if (marker.hasMatch()) {
+        main = number.left(marker.capturedStart());
+        for (const QChar c : QStringView(number).mid(marker.capturedEnd())) {
+            if (!c.isDigit())
+                break;
+            extension += QChar(u'0' + c.digitValue());
+        }
+    }
     QString dialable;
     bool digits = false;
-    for (const QChar c : number.trimmed()) {
-        if (c.isDigit() && c.unicode() < 128) {
-            dialable += c;
+    for (const QChar c : main) {
+        if (c.isDigit()) {
+            dialable += QChar(u'0' + c.digitValue());
             digits = true;
         } else if (c == u'*' || c == u'#') {
             dialable += c;
@@ -49,7 +66,12 @@ QUrl Telephony::telUrl(const QString& number)
     }
     if (!digits)
         return {};
-    return QUrl(QStringLiteral("tel:") + dialable);
+    if (!extension.isEmpty())
+        dialable += QStringLiteral(";ext=") + extension;
+    QUrl url;
+    url.setScheme(QStringLiteral("tel"));
+    url.setPath(dialable);
+    return url;
 }
 
 } // namespace kartella

@@ -25,8 +25,11 @@ public:
     // Installs telephony (not owned); nullptr restores the default.
     static void setInstance(Telephony* telephony);
 
-    // The tel: URL of a number as typed: the digits, '*', '#' and a leading '+' are kept,
-    // blanks, brackets, dashes and dots dropped. Empty when the number has no digit.
+    // The tel: URL (RFC 3966) of a number as typed: the digits, '*', '#' and a leading '+'
+    // of the number, an extension written as "ext", "ext.", "extension" or "x" before its
+    // digits as the ";ext=" parameter ("+370 5 212 3456 ext. 12" gives
+    // "tel:+37052123456;ext=12"). Blanks, brackets, dashes, dots and letters are dropped.
+    // Invalid when the number has no digit.
     static QUrl telUrl(const QString& number);
 };
 

@@ -50,13 +50,17 @@ ColumnWidths* ColumnWidths::attach(QHeaderView* header, const QString& optionNam
 
 QList<int> ColumnWidths::storedWidths() const
 {
+    // Widths set in this run hold even where the options could not take them.
+    if (!m_userWidths.isEmpty())
+        return m_userWidths;
     const QString text = readRegValue(Hive::CurrentUser, optionsKeyPath(), m_optionName, {});
     QList<int> widths;
     for (const QString& part : text.split(u',', Qt::SkipEmptyParts)) {
         bool number = false;
         const int width = part.trimmed().toInt(&number);
-        // A value that isn't a list of widths (edited by hand, say) counts as none.
-        if (!number || width <= 0)
+        // A value that isn't a list of widths (edited by hand, say) counts as none; a hidden
+        // column's width is 0.
+        if (!number || width < 0)
             return {};
         widths.append(width);
     }
@@ -69,8 +73,10 @@ void ColumnWidths::apply()
     if (widths.isEmpty() || widths.size() != m_header->count() - 1)
         return;
     m_applying = true;
-    for (int column = 0; column < widths.size(); ++column)
-        m_header->resizeSection(column, toPixels(widths[column], m_header));
+    for (int column = 0; column < widths.size(); ++column) {
+        if (!m_header->isSectionHidden(column) && widths[column] > 0)
+            m_header->resizeSection(column, toPixels(widths[column], m_header));
+    }
     m_applying = false;
 }
 
@@ -84,11 +90,16 @@ void ColumnWidths::fitToContents(int column)
 void ColumnWidths::store()
 {
     // The last column takes what is left: only the others are the user's.
-    if (m_header->count() < 2 || !optionsKeyExists())
+    if (m_header->count() < 2)
         return;
+    m_userWidths.clear();
     QStringList widths;
-    for (int column = 0; column < m_header->count() - 1; ++column)
-        widths << QString::number(toTwips(m_header->sectionSize(column), m_header));
+    for (int column = 0; column < m_header->count() - 1; ++column) {
+        m_userWidths << toTwips(m_header->sectionSize(column), m_header);
+        widths << QString::number(m_userWidths.last());
+    }
+    if (!optionsKeyExists())
+        return;
     // A failure to store costs only the widths at the next start: no message for it.
     writeRegValue(Hive::CurrentUser, optionsKeyPath(), m_optionName, widths.join(u','));
 }

@@ -50,6 +50,8 @@ private:
     bool m_dragging = false;
     bool m_draggedWidths = false;
     bool m_applying = false;
+    // The widths the user set in this run, in twips.
+    QList<int> m_userWidths;
 };
 
 } // namespace kartella

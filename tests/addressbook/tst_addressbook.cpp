@@ -4,6 +4,7 @@
 #include "addressbook/ContactQueries.h"
 #include "addressbook/Dialing.h"
 #include "platform/Prompter.h"
+#include "platform/Telephony.h"
 
 #include <QAction>
 #include <QApplication>
@@ -106,8 +107,8 @@ private Q_SLOTS:
     {
         QFETCH(QString, typed);
         QFETCH(QString, url);
-        QCOMPARE(kartella::dialUrl(typed).toString(QUrl::FullyEncoded), url);
-        QCOMPARE(kartella::dialUrl(typed).isValid(), !url.isEmpty());
+        QCOMPARE(kartella::Telephony::telUrl(typed).toString(QUrl::FullyEncoded), url);
+        QCOMPARE(kartella::Telephony::telUrl(typed).isValid(), !url.isEmpty());
     }
 
     void links_data()

@@ -4,6 +4,7 @@
 #include "AddressBookFixture.h"
 #include "addressbook/AddressBookWindow.h"
 #include "addressbook/ContactEditor.h"
+#include "options/OptionStore.h"
 #include "platform/Prompter.h"
 #include "support/RecordsetModel.h"
 
@@ -12,6 +13,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabWidget>
@@ -105,6 +107,48 @@ private Q_SLOTS:
         QCOMPARE(w.lines(), ascending);
         w.clickLine("Česlovas");
         QCOMPARE(w.box(4)->text(), "Česlovas");
+    }
+
+    // The grids' last column reaches the edge, and a width the user drags comes back when the
+    // address book opens again, on another contact too.
+    void gridWidthsAreTheUsers()
+    {
+        AddressBookFixture fx;
+        QVERIFY(writeRegValue(
+            Hive::CurrentUser, optionsKeyPath(), QStringLiteral("AddressBookPhonesColumns"), {}));
+        int dragged = 0;
+        {
+            AddressBookWindow window;
+            window.resize(900, 600);
+            Shown w(&window);
+            w.clickLine("Ona Petraitiene");
+            for (const char* name : {"grdDataGrid", "dgrHP"}) {
+                QHeaderView* header = w.grid(name)->horizontalHeader();
+                QCoreApplication::processEvents();
+                QCOMPARE(
+                    header->sectionViewportPosition(3) + header->sectionSize(3), header->viewport()->width());
+            }
+            QHeaderView* phones = w.grid("grdDataGrid")->horizontalHeader();
+            QWidget* viewport = phones->viewport();
+            const QPoint from(
+                phones->sectionViewportPosition(2) + phones->sectionSize(2) - 1, phones->height() / 2);
+            const QPoint to = from + QPoint(40, 0);
+            QTest::mousePress(viewport, Qt::LeftButton, {}, from);
+            for (const QPoint& at : {from + QPoint(20, 0), to}) {
+                QMouseEvent move(
+                    QEvent::MouseMove, at, viewport->mapToGlobal(at), Qt::NoButton, Qt::LeftButton, {});
+                QApplication::sendEvent(viewport, &move);
+            }
+            QTest::mouseRelease(viewport, Qt::LeftButton, {}, to);
+            dragged = phones->sectionSize(2);
+            w.clickLine("Jonas Jonaitis");
+            QCOMPARE(phones->sectionSize(2), dragged);
+        }
+        AddressBookWindow again;
+        again.resize(900, 600);
+        Shown w(&again);
+        w.clickLine("Ona Petraitiene");
+        QVERIFY(qAbs(w.grid("grdDataGrid")->horizontalHeader()->sectionSize(2) - dragged) <= 1);
     }
 
     // Tab in a multi-line box moves on as in any other box, and types no tab.

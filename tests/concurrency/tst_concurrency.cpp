@@ -179,7 +179,7 @@ private Q_SLOTS:
         reg->exec("DELETE FROM tbl_Documents WHERE RastasID=" + idText(lease));
         prompter.answer(MsgBoxResult::Ok);
         DocumentDetailsDialog dialog(lease);
-        QCOMPARE(prompter.texts(), QStringList {"This document was deleted by another user."});
+        QCOMPARE(prompter.texts(), QStringList {"This document no longer exists."});
         QCOMPARE(dialog.exec(), int(QDialog::Rejected));
         QCOMPARE(reg->scalar("SELECT COUNT(*) FROM tbl_Documents").toInt(), 0);
     }
@@ -236,7 +236,7 @@ private Q_SLOTS:
         reg->exec("DELETE FROM tbl_Sub_Documents WHERE SubRastasID=" + idText(annex));
         prompter.answer(MsgBoxResult::Ok);
         RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Editing);
-        QCOMPARE(prompter.texts(), QStringList {"This related document was deleted by another user."});
+        QCOMPARE(prompter.texts(), QStringList {"This related document no longer exists."});
         QCOMPARE(dialog.exec(), int(QDialog::Rejected));
         QCOMPARE(reg->scalar("SELECT COUNT(*) FROM tbl_Sub_Documents").toInt(), 0);
     }
@@ -271,7 +271,7 @@ private Q_SLOTS:
         QVERIFY(w.action("mnuShowDetails")->isEnabled());
         prompter.answer(MsgBoxResult::Ok);
         QTest::keyClick(&w, Qt::Key_F3);
-        QCOMPARE(prompter.texts(), QStringList {"This document was deleted by another user."});
+        QCOMPARE(prompter.texts(), QStringList {"This document no longer exists."});
         QCOMPARE(fx.reg.scalar("SELECT COUNT(*) FROM tbl_Documents").toInt(), 4);
         // The window goes on: another document is chosen as before.
         fx.clickDocument("letter");

@@ -323,6 +323,42 @@ private Q_SLOTS:
         QVERIFY(prompter.prompts().isEmpty());
     }
 
+    // A related document whose file is not there (none stored, or gone) stays, and the user is
+    // told why; the shell is never asked.
+    void deleteRelatedDocumentWithoutFile_data()
+    {
+        QTest::addColumn<bool>("stored");
+        QTest::addColumn<QString>("told");
+        QTest::newRow("no file stored") << false << "has no file";
+        QTest::newRow("file gone") << true << "was not found";
+    }
+
+    void deleteRelatedDocumentWithoutFile()
+    {
+        QFETCH(bool, stored);
+        QFETCH(QString, told);
+        CommandsFixture fx;
+        ScriptedPrompter prompter;
+        ScriptedShell shell;
+        if (stored)
+            fx.setPath("tbl_Sub_Documents", "SubRastasID", fx.id["annex"], "SubRastoKelias",
+                fx.reg.dir() + "/gone.doc");
+        else
+            fx.reg.exec(QString("UPDATE tbl_Sub_Documents SET SubRastoKelias = NULL WHERE SubRastasID=%1")
+                            .arg(fx.id["annex"]));
+        MainWindow& w = fx.load();
+        w.activateWindow();
+        fx.clickDocument("contract");
+        w.onRelatedClicked(fx.related().rowOfKey(DocumentFills::itemKey(fx.id["annex"])));
+        prompter.answer(MsgBoxResult::Ok);
+        QTest::keyClick(w.relatedList()->detailsView(), Qt::Key_Delete);
+        QCOMPARE(prompter.prompts().size(), 1);
+        QVERIFY2(prompter.texts().first().contains(told), qPrintable(prompter.texts().first()));
+        QCOMPARE(fx.rowCount("tbl_Sub_Documents"), 2);
+        QCOMPARE(fx.related().itemCount(), 2);
+        QVERIFY(shell.calls().isEmpty());
+    }
+
     void deleteBeforeAnyClickAsksForADocument()
     {
         CommandsFixture fx;
