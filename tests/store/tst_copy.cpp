@@ -345,9 +345,9 @@ private Q_SLOTS:
             QString key;
             QString field;
         };
-        const QList<Written> written = {{"tbl_Documents", "RastasID", "DokAntraste"},
-            {"tbl_Sub_Documents", "SubRastasID", "SubDocDescript"},
-            {"tbl_Tickler", "TicklerID", "TicklerText"}, {"tbl_Phones", "PhoneID", "PhoneNumber"}};
+        const QList<Written> written
+            = {{"tbl_Documents", "RastasID", "DokAntraste"}, {"tbl_HomePages", "HomeID", "HomeWWW"},
+                {"tbl_Tickler", "TicklerID", "TicklerText"}, {"tbl_Phones", "PhoneID", "PhoneNumber"}};
         QHash<QString, qint64> lastKeys;
         for (const Written& table : written) {
             const qint64 last
