@@ -1,6 +1,7 @@
 #include "addressbook/ContactQueries.h"
 
 #include "store/Store.h"
+#include "store/engine/SqlText.h"
 
 namespace kartella::ContactQueries {
 
@@ -38,8 +39,8 @@ QString filter(int index)
     if (letter.isEmpty())
         return allContacts();
     // Two blanks before WHERE.
-    return ContactSelect + QStringLiteral("  WHERE FullName Like '") + letter
-        + QStringLiteral("%' ORDER BY FullName");
+    return ContactSelect + QStringLiteral("  WHERE FullName Like ") + sqlString(letter + u'%')
+        + QStringLiteral(" ORDER BY FullName");
 }
 
 QString phonesOf(const QString& contactId)

@@ -4,6 +4,7 @@
 #include "store/SearchIndex.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
+#include "store/engine/SqlText.h"
 
 #include <QRegularExpression>
 
@@ -13,11 +14,6 @@ namespace {
 
 // The trigram index finds no piece shorter than this.
 constexpr qsizetype IndexedLength = 3;
-
-QString sqlText(const QString& text)
-{
-    return u'\'' + QString(text).replace(u'\'', QStringLiteral("''")) + u'\'';
-}
 
 // A word as one FTS5 phrase: between double quotes, a double quote doubled.
 QString ftsPhrase(const QString& word)
@@ -32,7 +28,7 @@ bool indexable(const QString& word)
 
 QString contains(const QString& text, const QString& word)
 {
-    return QStringLiteral("instr(") + text + QStringLiteral(", ") + sqlText(word) + QStringLiteral(") > 0");
+    return QStringLiteral("instr(") + text + QStringLiteral(", ") + sqlString(word) + QStringLiteral(") > 0");
 }
 
 QString indexedCondition(const QStringList& words)
@@ -45,7 +41,7 @@ QString indexedCondition(const QStringList& words)
             phrases << ftsPhrase(word);
     }
     if (!phrases.isEmpty())
-        conditions << table + QStringLiteral(" MATCH ") + sqlText(phrases.join(QStringLiteral(" AND ")));
+        conditions << table + QStringLiteral(" MATCH ") + sqlString(phrases.join(QStringLiteral(" AND ")));
     for (const QString& word : words) {
         if (!indexable(word))
             conditions << contains(QStringLiteral("FoldedText"), word);
@@ -54,23 +50,13 @@ QString indexedCondition(const QStringList& words)
         + conditions.join(QStringLiteral(" AND ")) + u')';
 }
 
-// A word as a LIKE pattern for a piece anywhere in a text, with \ as the escape.
-QString likePattern(const QString& word)
-{
-    QString escaped = word;
-    escaped.replace(u'\\', QStringLiteral("\\\\"));
-    escaped.replace(u'%', QStringLiteral("\\%"));
-    escaped.replace(u'_', QStringLiteral("\\_"));
-    return sqlText(u'%' + escaped + u'%') + QStringLiteral(" ESCAPE '\\'");
-}
-
 // The table of folded texts on a server: Like finds every word, through the trigram index
 // where there is one.
 QString tableCondition(const QStringList& words)
 {
     QStringList conditions;
     for (const QString& word : words)
-        conditions << QStringLiteral("FoldedText LIKE ") + likePattern(word);
+        conditions << QStringLiteral("FoldedText LIKE ") + sqlLikeText(word, LikeMatch::Anywhere);
     return QStringLiteral("tbl_Documents.RastasID IN (SELECT RastasID FROM ") + QLatin1String(SearchTable)
         + QStringLiteral(" WHERE ") + conditions.join(QStringLiteral(" AND ")) + u')';
 }

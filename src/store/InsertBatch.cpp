@@ -2,6 +2,7 @@
 
 #include "base/Error.h"
 #include "store/engine/Connection.h"
+#include "store/engine/SqlText.h"
 #include "store/engine/Value.h"
 
 namespace kartella {
@@ -33,11 +34,8 @@ QString sqlLiteral(const QVariant& value)
         return u'#' + QString::number(date.month()) + u'/' + QString::number(date.day()) + u'/'
             + QString::number(date.year()) + u' ' + moment.time().toString(QStringLiteral("HH:mm:ss")) + u'#';
     }
-    default: {
-        QString text = value.toString();
-        text.replace(u'\'', QStringLiteral("''"));
-        return u'\'' + text + u'\'';
-    }
+    default:
+        return sqlString(value.toString());
     }
 }
 

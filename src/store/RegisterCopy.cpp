@@ -132,6 +132,9 @@ TableCopyCount copyTable(Connection& source, Connection& target, const migration
     }
     batch.flush();
     rows.close();
+    // The keys of rows deleted from the source's end stay used: no new row gets one of
+    // them, nor the reminders or related rows that may still point at it.
+    target.raiseKeyCounter(mapping.table, source.keyCounter(mapping.table));
     if (progress)
         progress(mapping.table, total, total);
 

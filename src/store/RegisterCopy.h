@@ -41,7 +41,8 @@ using RegisterCopyProgress = std::function<void(const QString& table, qint64 wri
 
 // Copies a whole register from one location to a new one: each a register file or a server
 // location (postgresql://user@host:port/db), in any of the four pairings. Every row of the
-// eight tables goes over with its key and every column the new register has; the search
+// eight tables goes over with its key and every column the new register has, and the
+// counter of each table's keys with them (a new row gets no key a deleted one had); the search
 // index of the new register is filled by its own triggers. A register on a server keeps
 // dates without a time of day: a file's date with one arrives as its day, and the report
 // counts them. `to` is made by createRegister,

@@ -3,6 +3,7 @@
 #include "ContactFiles.h"
 #include "addressbook/import/OutlookImport.h"
 #include "harness/ScriptedPrompter.h"
+#include "harness/ServerDatabase.h"
 #include "harness/TestRegister.h"
 #include "platform/Prompter.h"
 #include "store/engine/Connection.h"
@@ -11,6 +12,7 @@
 
 #include <QProcess>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace kartella;
@@ -66,6 +68,31 @@ bool importFile(ScriptedPrompter& prompter, const QString& path, QList<int> erro
         prompter.answer(answer);
     prompter.answer(MsgBoxResult::Ok);
     return OutlookImport().run();
+}
+
+// A register file and, when the tests have one, a server register.
+void places()
+{
+    QTest::addColumn<TestRegister::Where>("where");
+    QTest::newRow("file") << TestRegister::File;
+    QTest::newRow("server") << TestRegister::Server;
+}
+
+// Makes the register refuse a new contact named "Refused", as a failing disk or a rule
+// of the server would.
+void refuseName(const TestRegister& reg, TestRegister::Where where)
+{
+    if (where == TestRegister::File) {
+        reg.exec(
+            QStringLiteral("CREATE TRIGGER refuse_name BEFORE INSERT ON tbl_Contacts "
+                           "WHEN NEW.FullName = 'Refused' BEGIN SELECT RAISE(ABORT, 'name refused'); END"));
+        return;
+    }
+    reg.exec(QStringLiteral("CREATE FUNCTION refuse_name() RETURNS trigger LANGUAGE plpgsql AS $$ BEGIN "
+                            "IF NEW.\"FullName\" = 'Refused' THEN RAISE EXCEPTION 'name refused'; END IF; "
+                            "RETURN NEW; END $$"));
+    reg.exec(QStringLiteral("CREATE TRIGGER refuse_name BEFORE INSERT ON \"tbl_Contacts\" FOR EACH ROW "
+                            "EXECUTE FUNCTION refuse_name()"));
 }
 
 } // namespace
@@ -139,7 +166,10 @@ void ContactImportTest::duplicateRuleFoldsCaseOnly_data()
     QTest::newRow("blanks differ") << QStringLiteral("Jonas Jonaitis") << QStringLiteral("Jonas  Jonaitis")
                                    << true;
     QTest::newRow("wildcard in name") << QStringLiteral("A_B 100%") << QStringLiteral("a_b 100%") << false;
-    QTest::newRow("wildcard matches as Like does") << QStringLiteral("AxB") << QStringLiteral("a_b") << false;
+    QTest::newRow("a wildcard is a plain character")
+        << QStringLiteral("AxB") << QStringLiteral("a_b") << true;
+    QTest::newRow("a quote is a plain character")
+        << QStringLiteral("O'Brien") << QStringLiteral("o'brien") << false;
 }
 
 void ContactImportTest::duplicateRuleFoldsCaseOnly()
@@ -198,34 +228,78 @@ void ContactImportTest::cutsAndRepeatedRuns()
     QCOMPARE(prompter.texts().count(Success), 2);
 }
 
-void ContactImportTest::apostropheReachesErrorStep_data()
+void ContactImportTest::namesWithQuotesAndWildcards_data()
 {
-    QTest::addColumn<QStringList>("names");
+    places();
+}
+
+// Quotes and Like's wildcards in a name are plain characters: such names are stored, and
+// a duplicate is a name equal but for letter case, never one a wildcard would match.
+void ContactImportTest::namesWithQuotesAndWildcards()
+{
+    QFETCH(TestRegister::Where, where);
+    if (where == TestRegister::Server && !ServerDatabase::available())
+        QSKIP(qPrintable(ServerDatabase::skipReason()));
+    TestRegister reg(where);
+    QTemporaryDir dir;
+    ScriptedPrompter prompter;
+    const QStringList five = {QStringLiteral("Jonas"), QStringLiteral("Seán O'Brien"),
+        QStringLiteral("\"Jono\" ir Ko"), QStringLiteral("Joana D'Arc"), QStringLiteral("100 Tikras")};
+    QVERIFY(importFile(prompter, writeContactFile(dir.path(), QStringLiteral("five.vcf"), cards(five))));
+    QCOMPARE(contactNames(reg), five);
+    QCOMPARE(prompter.take().size(), 2);
+
+    reg.insert(QStringLiteral("tbl_Contacts"), {{QStringLiteral("FullName"), QStringLiteral("AxB")}});
+    const QStringList more = {QStringLiteral("SEÁN O'BRIEN"), QStringLiteral("100% Tikras"),
+        QStringLiteral("A_B"), QStringLiteral("\"jono\" IR ko"), QStringLiteral("%"), QStringLiteral("Jo'")};
+    QVERIFY(importFile(prompter, writeContactFile(dir.path(), QStringLiteral("more.vcf"), cards(more))));
+    const QStringList added = {QStringLiteral("AxB"), QStringLiteral("100% Tikras"), QStringLiteral("A_B"),
+        QStringLiteral("%"), QStringLiteral("Jo'")};
+    QCOMPARE(contactNames(reg), five + added);
+    const QList<ScriptedPrompter::Prompt> prompts = prompter.take();
+    QCOMPARE(prompts.size(), 2);
+    QCOMPARE(prompts[1].text, Success);
+}
+
+void ContactImportTest::failedStepKeepsTheOtherRows_data()
+{
+    QTest::addColumn<TestRegister::Where>("where");
     QTest::addColumn<int>("answer");
     QTest::addColumn<QStringList>("stored");
     QTest::addColumn<QString>("closing");
-    const QStringList names
-        = {QStringLiteral("Jonas"), QStringLiteral("Seán O'Brien"), QStringLiteral("Petras")};
-    // On Yes the id of the item before decides: it exists, so the item is not added.
-    QTest::newRow("yes") << names << int(MsgBoxResult::Yes) << QStringList {names[0], names[2]} << Success;
-    QTest::newRow("no") << names << int(MsgBoxResult::No) << QStringList {names[0]} << Failure;
-    QTest::newRow("first item, yes") << QStringList {names[1], names[2]} << int(MsgBoxResult::Yes)
-                                     << QStringList {names[2]} << Success;
+    for (const TestRegister::Where where : {TestRegister::File, TestRegister::Server}) {
+        const char* place = where == TestRegister::File ? "file" : "server";
+        QTest::addRow("%s, yes", place)
+            << where << int(MsgBoxResult::Yes)
+            << QStringList {QStringLiteral("Jonas"), QStringLiteral("Petras")} << Success;
+        QTest::addRow("%s, no", place)
+            << where << int(MsgBoxResult::No) << QStringList {QStringLiteral("Jonas")} << Failure;
+    }
 }
 
-void ContactImportTest::apostropheReachesErrorStep()
+// A step that fails is asked about; what was written before it stays, and on Yes the
+// import goes on, on a server as in a file.
+void ContactImportTest::failedStepKeepsTheOtherRows()
 {
-    QFETCH(QStringList, names);
+    QFETCH(TestRegister::Where, where);
     QFETCH(int, answer);
     QFETCH(QStringList, stored);
     QFETCH(QString, closing);
-    TestRegister reg;
+    if (where == TestRegister::Server && !ServerDatabase::available())
+        QSKIP(qPrintable(ServerDatabase::skipReason()));
+    TestRegister reg(where);
+    refuseName(reg, where);
     QTemporaryDir dir;
     ScriptedPrompter prompter;
-    QCOMPARE(
-        importFile(prompter, writeContactFile(dir.path(), QStringLiteral("c.vcf"), cards(names)), {answer}),
+    const QByteArray file = "BEGIN:VCARD\r\nVERSION:3.0\r\nFN:Jonas\r\nTEL;TYPE=CELL:1\r\nEND:VCARD\r\n"
+        + cards({QStringLiteral("Refused")})
+        + "BEGIN:VCARD\r\nVERSION:3.0\r\nFN:Petras\r\nTEL;TYPE=CELL:3\r\nEND:VCARD\r\n";
+    QCOMPARE(importFile(prompter, writeContactFile(dir.path(), QStringLiteral("c.vcf"), file), {answer}),
         answer == MsgBoxResult::Yes);
     QCOMPARE(contactNames(reg), stored);
+    QCOMPARE(rows(reg, QStringLiteral("SELECT PhoneNumber FROM tbl_Phones ORDER BY PhoneID")),
+        answer == MsgBoxResult::Yes ? QStringList({QStringLiteral("1"), QStringLiteral("3")})
+                                    : QStringList {QStringLiteral("1")});
     const QList<ScriptedPrompter::Prompt> prompts = prompter.prompts();
     QCOMPARE(prompts.size(), 3);
     QCOMPARE(prompts[1].title, QStringLiteral("Error in ImportOutlookData()"));
@@ -234,6 +308,7 @@ void ContactImportTest::apostropheReachesErrorStep()
                  QStringLiteral("An error occured while importing data. The error was error "
                                 "number -2147217900: ")),
         qPrintable(prompts[1].text));
+    QVERIFY(prompts[1].text.contains(QStringLiteral("name refused")));
     QVERIFY(prompts[1].text.endsWith(QStringLiteral("Would you like to continue trying to import data?")));
     QCOMPARE(prompts[2].text, closing);
     QCOMPARE(prompts[2].title, ClosingTitle);
@@ -287,9 +362,18 @@ void ContactImportTest::questionAndFileChoice()
     QVERIFY(prompter.allAnswered());
 }
 
+void ContactImportTest::commandLine_data()
+{
+    places();
+}
+
+// kartella-db import: quotes in names, its summary, and a status that tells of any error.
 void ContactImportTest::commandLine()
 {
-    TestRegister reg;
+    QFETCH(TestRegister::Where, where);
+    if (where == TestRegister::Server && !ServerDatabase::available())
+        QSKIP(qPrintable(ServerDatabase::skipReason()));
+    TestRegister reg(where);
     reg.insert(QStringLiteral("tbl_Contacts"), {{QStringLiteral("FullName"), QStringLiteral("ŠARŪNAS")}});
     QTemporaryDir dir;
     const QByteArray csv = encoded(QStringLiteral("First Name\tLast Name\tMobile Phone\r\nŠarūnas\t\t1\r\n"
@@ -310,11 +394,25 @@ void ContactImportTest::commandLine()
                      QStringLiteral("windows-1257")},
                  &out, &err),
         0);
-    QCOMPARE(out, QStringLiteral("1 contacts added, 2 skipped\n"));
-    QVERIFY2(err.contains(QStringLiteral("error -2147217900")), qPrintable(err));
-    QCOMPARE(contactNames(reg), (QStringList {QStringLiteral("ŠARŪNAS"), QStringLiteral("Žygimantas")}));
-    QCOMPARE(rows(reg, QStringLiteral("SELECT ContactID, PhoneName, PhoneNumber FROM tbl_Phones")),
-        QStringList {QStringLiteral("2|Mobile|3")});
+    QCOMPARE(out, QStringLiteral("2 contacts added, 1 skipped, 0 failed\n"));
+    QCOMPARE(err, QString());
+    QCOMPARE(contactNames(reg),
+        (QStringList {
+            QStringLiteral("ŠARŪNAS"), QStringLiteral("Žana O'Neil"), QStringLiteral("Žygimantas")}));
+    QCOMPARE(rows(reg,
+                 QStringLiteral("SELECT ContactID, PhoneName, PhoneNumber FROM tbl_Phones ORDER BY PhoneID")),
+        (QStringList {QStringLiteral("2|Mobile|2"), QStringLiteral("3|Mobile|3")}));
+
+    // A contact the register refuses: the others are stored, the summary counts it, the status is 1.
+    refuseName(reg, where);
+    const QString refused = writeContactFile(dir.path(), QStringLiteral("r.vcf"),
+        cards({QStringLiteral("Ona"), QStringLiteral("Refused"), QStringLiteral("Žana O'Neil")}));
+    QCOMPARE(run({QStringLiteral("import"), reg.path(), refused}, &out, &err), 1);
+    QCOMPARE(out, QStringLiteral("1 contacts added, 1 skipped, 1 failed\n"));
+    QVERIFY2(
+        err.contains(QStringLiteral("error -2147217900")) && err.contains(QStringLiteral("name refused")),
+        qPrintable(err));
+    QCOMPARE(contactNames(reg).size(), 4);
 
     QCOMPARE(
         run({QStringLiteral("import"), reg.path(), dir.filePath(QStringLiteral("none.vcf"))}, &out, &err), 1);
@@ -323,7 +421,7 @@ void ContactImportTest::commandLine()
         run({QStringLiteral("import"), reg.path(), path, QStringLiteral("--codepage=nonsense")}, &out, &err),
         1);
     QCOMPARE(run({QStringLiteral("import"), reg.path()}, &out, &err), 2);
-    QCOMPARE(contactNames(reg).size(), 2);
+    QCOMPARE(contactNames(reg).size(), 4);
 }
 
 QTEST_GUILESS_MAIN(ContactImportTest)

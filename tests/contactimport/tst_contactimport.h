@@ -28,8 +28,11 @@ private Q_SLOTS:
     void duplicateRuleFoldsCaseOnly_data();
     void duplicateRuleFoldsCaseOnly();
     void cutsAndRepeatedRuns();
-    void apostropheReachesErrorStep_data();
-    void apostropheReachesErrorStep();
+    void namesWithQuotesAndWildcards_data();
+    void namesWithQuotesAndWildcards();
+    void failedStepKeepsTheOtherRows_data();
+    void failedStepKeepsTheOtherRows();
     void questionAndFileChoice();
+    void commandLine_data();
     void commandLine();
 };

@@ -12,6 +12,7 @@ int runEditTest(int argc, char** argv);
 int runShapeTest(int argc, char** argv);
 int runStatementsTest(int argc, char** argv);
 int runConcurrencyTest(int argc, char** argv);
+int runTransactionTest(int argc, char** argv);
 
 int main(int argc, char** argv)
 {
@@ -23,7 +24,7 @@ int main(int argc, char** argv)
     }
     int failures = 0;
     for (const auto run : {runDialectTest, runConnectionTest, runRecordsetTest, runEditTest, runShapeTest,
-             runStatementsTest, runConcurrencyTest})
+             runStatementsTest, runConcurrencyTest, runTransactionTest})
         failures += run(argc, argv);
     return failures;
 }

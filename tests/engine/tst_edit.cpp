@@ -1,5 +1,6 @@
 #include "EngineFixture.h"
 #include "base/Error.h"
+#include "platform/Clock.h"
 #include "store/engine/Recordset.h"
 
 #include <QLocale>
@@ -224,6 +225,40 @@ private Q_SLOTS:
         recordset.fields("DokRegistracData").setValue(QStringLiteral("05/03/2024"));
         QLocale::setDefault(previous);
         QCOMPARE(recordset.collect("DokRegistracData"), QVariant(QDate(2024, 3, 5)));
+    }
+
+    // A date typed with a two-digit year goes to the century nearest to today (a tie to
+    // the past), in the locale's short form and month first alike.
+    void twoDigitYearsNearToday_data()
+    {
+        QTest::addColumn<QDate>("today");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QDate>("read");
+        const QDate today(2026, 11, 24);
+        QTest::newRow("30 is 2030") << today << "01.06.30" << QDate(2030, 6, 1);
+        QTest::newRow("75 is 49 years ahead") << today << "01.06.75" << QDate(2075, 6, 1);
+        QTest::newRow("76 is a tie, the past") << today << "01.06.76" << QDate(1976, 6, 1);
+        QTest::newRow("77 is 1977") << today << "01.06.77" << QDate(1977, 6, 1);
+        QTest::newRow("00 in 2099 is 2100") << QDate(2099, 12, 31) << "01.01.00" << QDate(2100, 1, 1);
+        QTest::newRow("month first, 30 is 2030") << today << "6/1/30" << QDate(2030, 6, 1);
+    }
+
+    void twoDigitYearsNearToday()
+    {
+        QFETCH(QDate, today);
+        QFETCH(QString, typed);
+        QFETCH(QDate, read);
+        EngineRegister reg;
+        reg.fillSmall();
+        const SettableClock clock(today);
+        const QLocale previous;
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+        Recordset recordset;
+        recordset.open("SELECT RastasID, DokRegistracData FROM tbl_Documents WHERE RastasID=1",
+            reg.connection(), CursorTypeEnum::Static, LockTypeEnum::Optimistic);
+        recordset.fields("DokRegistracData").setValue(typed);
+        QLocale::setDefault(previous);
+        QCOMPARE(recordset.collect("DokRegistracData"), QVariant(read));
     }
 
     // Of a field selected twice, both copies change, and the row is written once.

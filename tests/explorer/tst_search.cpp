@@ -188,6 +188,35 @@ private Q_SLOTS:
         }
     }
 
+    void quotesAndWildcardsArePlainCharacters_data() { places(); }
+
+    // A quote, a percent sign or an underscore typed into the search box is looked for as
+    // it stands, in the index and without it.
+    void quotesAndWildcardsArePlainCharacters()
+    {
+        QFETCH(TestRegister::Where, where);
+        if (where == TestRegister::Server && !ServerDatabase::available())
+            QSKIP(qPrintable(ServerDatabase::skipReason()));
+        TestRegister reg(where);
+        const qint32 contact = reg.insert(QStringLiteral("tbl_Contacts"), {{"FullName", "Seán O'Brien"}});
+        const qint32 percent = addDocument(
+            reg, {{"DokAntraste", "Paskola 7% metinių"}, {"DokRegistracData", QDate(2024, 3, 1)}});
+        const qint32 quoted = addDocument(reg, {{"DokAntraste", "Laiškas"}, {"ContactID", contact}});
+        const qint32 underscore = addDocument(reg, {{"DokAntraste", "byla_2024"}});
+        const qint32 plain = addDocument(reg,
+            {{"DokAntraste", "Paskola 7 metams, byla 2024 O Brien"},
+                {"DokRegistracData", QDate(2024, 3, 2)}});
+        for (const SearchIndexKind indexed : indexesOf(where)) {
+            QCOMPARE(found(reg, "7%", indexed), Ids {percent});
+            QCOMPARE(found(reg, "7% metin", indexed), Ids {percent});
+            QCOMPARE(found(reg, "o'brien", indexed), Ids {quoted});
+            QCOMPARE(found(reg, "'", indexed), Ids {quoted});
+            QCOMPARE(found(reg, "a_2", indexed), Ids {underscore});
+            QCOMPARE(found(reg, "%", indexed), Ids {percent});
+            QCOMPARE(found(reg, "paskola 7", indexed), Ids({percent, plain}));
+        }
+    }
+
     void editsAndDeletesShowAtOnce_data() { places(); }
 
     void editsAndDeletesShowAtOnce()

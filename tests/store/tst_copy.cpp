@@ -330,6 +330,54 @@ private Q_SLOTS:
         QCOMPARE(rowCount(where.from, "tbl_Documents"), 120);
     }
 
+    void copyKeepsKeyCounters_data() { backEndPairs(); }
+
+    // The keys of rows deleted from the end of the source's tables are given to no new row
+    // of the copy.
+    void copyKeepsKeyCounters()
+    {
+        Locations where;
+        if (!locations(where))
+            return;
+        struct Written
+        {
+            QString table;
+            QString key;
+            QString field;
+        };
+        const QList<Written> written
+            = {{"tbl_Documents", "RastasID", "DokAntraste"}, {"tbl_HomePages", "HomeID", "HomeWWW"},
+                {"tbl_Tickler", "TicklerID", "TicklerText"}, {"tbl_Phones", "PhoneID", "PhoneNumber"}};
+        QHash<QString, qint64> lastKeys;
+        for (const Written& table : written) {
+            const qint64 last
+                = scalar(where.from, "SELECT MAX(" + table.key + ") FROM " + table.table).toLongLong();
+            lastKeys.insert(table.table, last);
+            execute(where.from,
+                {"DELETE FROM " + table.table + " WHERE " + table.key + " = " + QString::number(last)});
+        }
+        RegisterCopyReport report;
+        if (!guarded([&] { report = copyRegister(where.from, where.to); }))
+            return;
+        QVERIFY(report.complete());
+
+        Connection target(plainConnectionString(JetProvider, where.to));
+        target.open();
+        for (const Written& table : written) {
+            Recordset rows;
+            rows.open("SELECT * FROM " + table.table + " WHERE 1 = 0", target, CursorTypeEnum::Static,
+                LockTypeEnum::Optimistic);
+            rows.addNew();
+            rows.fields(table.field).setValue("Naujas");
+            rows.update();
+            const qint64 key = rows.fields(table.key).value().toLongLong();
+            const qint64 last = lastKeys.value(table.table);
+            QVERIFY2(key > last,
+                qPrintable(table.table + ": " + QString::number(key) + " after " + QString::number(last)));
+        }
+        target.close();
+    }
+
     void occupiedTargetIsRefused_data() { backEndPairs(); }
 
     // A register is there already, with a contact of its own.

@@ -11,8 +11,8 @@
 
 namespace kartella::tool {
 
-void importCommand(const QString& registerPath, const QString& file, const QString& codePage,
-    QTextStream& out, QTextStream& err)
+int importCommand(const QString& registerPath, const QString& file, const QString& codePage, QTextStream& out,
+    QTextStream& err)
 {
     if (!codePage.isEmpty() && !isKnownCodePage(codePage))
         throw Error(ErrorNumber::PathFileAccess, QStringLiteral("unknown code page \"%1\"").arg(codePage));
@@ -34,8 +34,10 @@ void importCommand(const QString& registerPath, const QString& file, const QStri
         return true;
     });
     importer.run(items);
-    out << importer.counts().added << " contacts added, " << importer.counts().skipped << " skipped"
+    const ContactImportCounts& counts = importer.counts();
+    out << counts.added << " contacts added, " << counts.skipped << " skipped, " << counts.failed << " failed"
         << Qt::endl;
+    return counts.errors == 0 ? 0 : 1;
 }
 
 } // namespace kartella::tool

@@ -53,8 +53,7 @@ int run(const Invocation& invocation)
             invocation.codePage.isEmpty() ? QStringLiteral("CP1257") : invocation.codePage, out);
     case Invocation::Command::Import: {
         QTextStream err(stderr);
-        importCommand(invocation.path, invocation.contactFile, invocation.codePage, out, err);
-        break;
+        return importCommand(invocation.path, invocation.contactFile, invocation.codePage, out, err);
     }
     case Invocation::Command::Search:
         searchCommand(invocation.path, invocation.words, out);

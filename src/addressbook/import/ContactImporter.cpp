@@ -8,6 +8,8 @@
 
 #include <QElapsedTimer>
 
+#include <optional>
+
 namespace kartella {
 
 namespace {
@@ -53,9 +55,10 @@ struct RunStopped
 };
 
 // Rows are written in transactions, each committed before the error handler is asked, at
-// the end, and once it has been open this long, so that what was written before a failure
-// stays, a large file does not wait for the disk once per row, and another program that
-// wants to write waits no longer than its busy timeout allows.
+// the end, and once it has been open this long, so that a large file does not wait for the
+// disk once per row and another program that wants to write waits no longer than its busy
+// timeout allows. A statement that fails undoes only itself; a commit that fails loses the
+// transaction's rows, and its items are written again one at a time.
 constexpr qint64 CommitIntervalMs = 1000;
 
 } // namespace
@@ -80,46 +83,164 @@ bool ContactImporter::run(const QList<ContactItem>& items)
     m_counts = {};
     Connection connection;
     connection.setCursorLocation(CursorLocationEnum::UseClient);
+    Recordset contacts;
+    Recordset phones;
+    Recordset homePages;
+    ContactNameIndex names(connection);
+
+    // The open transaction: since which item, the counts before it, the names it added.
+    bool grouping = true;
     bool inTransaction = false;
     QElapsedTimer transactionAge;
+    qsizetype firstPending = 0;
+    ContactImportCounts countsBefore;
+    QStringList namesAdded;
+    // A commit failed: the transaction's rows are gone, and the item under way is abandoned.
+    std::optional<Error> lostCommit;
+    // A failure before the first item counts for no item.
+    bool itemFailed = true;
+    qsizetype index = 0;
 
     const auto commit = [&] {
         if (!inTransaction)
             return;
         inTransaction = false;
-        connection.commitTrans();
+        try {
+            connection.commitTrans();
+        } catch (const Error& error) {
+            lostCommit = error;
+        }
     };
     const auto step = [&](const auto& action) {
+        if (lostCommit)
+            return;
         try {
             action();
         } catch (const Error& error) {
             ++m_counts.errors;
-            try {
-                commit();
-            } catch (const Error&) {
-                // the rows of the failed transaction are lost with it; the handler hears of the first failure
+            if (!itemFailed)
+                ++m_counts.failed;
+            itemFailed = true;
+            commit();
+            // The rows of this item written so far are kept; a later failed commit writes
+            // the items after it again, not this one.
+            if (!lostCommit) {
+                firstPending = index + 1;
+                countsBefore = m_counts;
+                namesAdded.clear();
             }
             if (!m_onError(error))
                 throw RunStopped();
         }
     };
+    // True when the row was stored.
     const auto write = [&](Recordset& recordset) {
+        bool written = false;
         step([&] {
-            if (!inTransaction && connection.isOpen()) {
+            if (grouping && !inTransaction && connection.isOpen()) {
                 connection.beginTrans();
                 inTransaction = true;
                 transactionAge.start();
             }
-            recordset.update();
-            if (transactionAge.elapsed() >= CommitIntervalMs)
-                commit();
+            try {
+                recordset.update();
+            } catch (const Error&) {
+                // The refused row is given up, so that the next one can be added.
+                recordset.cancelUpdate();
+                throw;
+            }
+            written = true;
         });
+        return written;
     };
 
-    Recordset contacts;
-    Recordset phones;
-    Recordset homePages;
-    ContactNameIndex names(connection);
+    // Before its first lookup the id is not Null, as a variable never assigned is not:
+    // an item whose lookup fails at once is not added.
+    QVariant contactId = 0;
+    const auto importItem = [&](const ContactItem& item) {
+        itemFailed = false;
+        const QString fullName = item.value(ContactProperty::FullName);
+        if (fullName.isEmpty()) {
+            ++m_counts.skipped;
+            return;
+        }
+        step([&] { contactId = names.find(fullName); });
+        if (!isNull(contactId)) {
+            ++m_counts.skipped;
+            return;
+        }
+
+        bool stored = false;
+        step([&] { contacts.addNew(); });
+        for (const FieldMapping& mapping : contactFields) {
+            const QString value = item.value(*mapping.property);
+            if (!value.isEmpty())
+                step([&] {
+                    contacts.fields(QLatin1String(mapping.field)).setValue(cutText(value, mapping.width));
+                });
+        }
+        // A contact that was not stored gets no phones or web page: they would belong to no one.
+        if (!write(contacts))
+            return;
+        step([&] {
+            contactId = contacts.fields(QStringLiteral("ContactID")).value();
+            stored = !isNull(contactId);
+        });
+        if (stored && !lostCommit) {
+            ++m_counts.added;
+            names.add(cutText(fullName, 50), contactId);
+            namesAdded << cutText(fullName, 50);
+        }
+
+        const QString homePage = item.value(ContactProperty::HomePage);
+        if (!homePage.isEmpty()) {
+            step([&] { homePages.addNew(); });
+            step([&] { homePages.fields(QStringLiteral("ContactID")).setValue(contactId); });
+            step([&] { homePages.fields(QStringLiteral("HomeWWW")).setValue(homePage); });
+            write(homePages);
+        }
+        for (const PhoneMapping& mapping : phoneRows) {
+            const QString number = item.value(*mapping.property);
+            if (number.isEmpty())
+                continue;
+            step([&] { phones.addNew(); });
+            step([&] { phones.fields(QStringLiteral("ContactID")).setValue(contactId); });
+            step([&] {
+                phones.fields(QStringLiteral("PhoneName")).setValue(QLatin1String(mapping.phoneName));
+            });
+            step([&] { phones.fields(QStringLiteral("PhoneNumber")).setValue(number); });
+            write(phones);
+        }
+    };
+    // Takes back the counts and names of the items whose rows a failed commit lost, and
+    // tells the handler. True when they are to be written again.
+    const auto forgetLostItems = [&] {
+        const Error error = *lostCommit;
+        lostCommit.reset();
+        m_counts = countsBefore;
+        for (const QString& name : std::as_const(namesAdded))
+            names.forget(name);
+        namesAdded.clear();
+        ++m_counts.errors;
+        grouping = false;
+        return m_onError(error);
+    };
+    // Ends the transaction at an item's end when it is due (or always); a failed commit
+    // writes the transaction's items again, each row on its own.
+    const auto finishItems = [&](qsizetype next, bool always) {
+        if (inTransaction && (always || transactionAge.elapsed() >= CommitIntervalMs))
+            commit();
+        if (!lostCommit)
+            return;
+        const qsizetype from = std::min(firstPending, next);
+        if (!forgetLostItems()) {
+            m_counts.failed += int(next - from);
+            throw RunStopped();
+        }
+        for (qsizetype again = from; again < next; ++again)
+            importItem(items.at(again));
+    };
+
     try {
         step([&] { connection.open(m_connectionString); });
         step([&] {
@@ -135,63 +256,25 @@ bool ContactImporter::run(const QList<ContactItem>& items)
                 LockTypeEnum::Optimistic, -1);
         });
         step([&] { names.load(); });
-
-        // Before its first lookup the id is not Null, as a variable never assigned is not:
-        // an item whose lookup fails at once is not added.
-        QVariant contactId = 0;
-        for (const ContactItem& item : items) {
-            const QString fullName = item.value(ContactProperty::FullName);
-            if (fullName.isEmpty()) {
-                ++m_counts.skipped;
-                continue;
+        for (index = 0; index < items.size(); ++index) {
+            if (!inTransaction) {
+                firstPending = index;
+                countsBefore = m_counts;
+                namesAdded.clear();
             }
-            step([&] { contactId = names.find(fullName); });
-            if (!isNull(contactId)) {
-                ++m_counts.skipped;
-                continue;
-            }
-
-            bool stored = false;
-            step([&] { contacts.addNew(); });
-            for (const FieldMapping& mapping : contactFields) {
-                const QString value = item.value(*mapping.property);
-                if (!value.isEmpty())
-                    step([&] {
-                        contacts.fields(QLatin1String(mapping.field)).setValue(cutText(value, mapping.width));
-                    });
-            }
-            write(contacts);
-            step([&] {
-                contactId = contacts.fields(QStringLiteral("ContactID")).value();
-                stored = !isNull(contactId);
-            });
-            if (stored) {
-                ++m_counts.added;
-                names.add(cutText(fullName, 50), contactId);
-            }
-
-            const QString homePage = item.value(ContactProperty::HomePage);
-            if (!homePage.isEmpty()) {
-                step([&] { homePages.addNew(); });
-                step([&] { homePages.fields(QStringLiteral("ContactID")).setValue(contactId); });
-                step([&] { homePages.fields(QStringLiteral("HomeWWW")).setValue(homePage); });
-                write(homePages);
-            }
-            for (const PhoneMapping& mapping : phoneRows) {
-                const QString number = item.value(*mapping.property);
-                if (number.isEmpty())
-                    continue;
-                step([&] { phones.addNew(); });
-                step([&] { phones.fields(QStringLiteral("ContactID")).setValue(contactId); });
-                step([&] {
-                    phones.fields(QStringLiteral("PhoneName")).setValue(QLatin1String(mapping.phoneName));
-                });
-                step([&] { phones.fields(QStringLiteral("PhoneNumber")).setValue(number); });
-                write(phones);
-            }
+            importItem(items.at(index));
+            finishItems(index + 1, false);
         }
-        step(commit);
+        finishItems(items.size(), true);
     } catch (const RunStopped&) {
+        // What was written before stays.
+        commit();
+        if (lostCommit) {
+            const qsizetype lostItems
+                = std::max<qsizetype>(0, std::min(index + 1, items.size()) - firstPending);
+            forgetLostItems();
+            m_counts.failed += int(lostItems);
+        }
         return false;
     }
     return true;

@@ -15,6 +15,7 @@ struct ContactImportCounts
 {
     int added = 0; // contacts stored
     int skipped = 0; // items without a name, and names already in the register
+    int failed = 0; // items of which a step failed: not stored, or stored without all of their rows
     int errors = 0; // failed steps passed over
 };
 
@@ -27,7 +28,7 @@ struct ContactImportCounts
 //
 // Every step that fails (opening, the lookup, each AddNew, field and Update) is handed
 // to the error handler: true goes on with the next step of the same item, false stops
-// the run. Rows written before a failure stay.
+// the run. Rows written before a failure stay, on every back end.
 class ContactImporter
 {
 public:

@@ -2,6 +2,7 @@
 
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
+#include "store/engine/SqlText.h"
 #include "store/engine/TextFold.h"
 #include "store/engine/Value.h"
 
@@ -42,9 +43,6 @@ QVariant ContactNameIndex::find(const QString& name) const
 {
     if (!m_loaded)
         return findWithStatement(name);
-    for (const QChar c : name)
-        if (c == u'\'' || c == u'%' || c == u'_')
-            return findWithStatement(name);
     return m_ids.value(folded(name), nullValue());
 }
 
@@ -55,11 +53,16 @@ void ContactNameIndex::add(const QString& name, const QVariant& contactId)
         m_ids.insert(key, contactId);
 }
 
+void ContactNameIndex::forget(const QString& name)
+{
+    m_ids.remove(folded(name));
+}
+
 QVariant ContactNameIndex::findWithStatement(const QString& name) const
 {
     const QString sql = QStringLiteral("SELECT tbl_Contacts.ContactID, tbl_Contacts.FullName ")
-        + QStringLiteral("FROM tbl_Contacts ") + QStringLiteral("WHERE tbl_Contacts.FullName Like '") + name
-        + u'\'';
+        + QStringLiteral("FROM tbl_Contacts ") + QStringLiteral("WHERE tbl_Contacts.FullName Like ")
+        + sqlLikeText(name);
     Recordset match;
     match.open(sql, m_connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified, -1);
     const QVariant id

@@ -11,12 +11,10 @@ class Connection;
 // The import's duplicate lookup: the ContactID of a contact whose FullName equals a name
 // but for letter case (every letter, accents not folded), or Null.
 //
-// It answers as "SELECT ... WHERE tbl_Contacts.FullName Like '<name>'" would, but from
-// the names read once when the index is loaded and kept up to date with add(), so that
-// a run over many contacts needs no statement per contact. A name holding a quote or a
-// Like wildcard (% or _) is looked up with that statement itself, so it matches what the
-// statement matches and fails where the statement fails; so is every name while the
-// names have not been loaded.
+// It answers as "SELECT ... WHERE tbl_Contacts.FullName Like <the name, quoted, its
+// wildcards literal>" would, but from the names read once when the index is loaded and
+// kept up to date with add(), so that a run over many contacts needs no statement per
+// contact. While the names have not been loaded, that statement answers.
 class ContactNameIndex
 {
 public:
@@ -28,6 +26,8 @@ public:
     QVariant find(const QString& name) const;
     // A contact just stored.
     void add(const QString& name, const QVariant& contactId);
+    // A contact whose row was not kept after all.
+    void forget(const QString& name);
 
     // The key names are compared by: each character with its case folded as Like does.
     static QString folded(const QString& name);

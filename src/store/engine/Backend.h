@@ -89,9 +89,18 @@ public:
     virtual void deleteRow(const engine::TableSchema& table, const QString& keyName, const QVariant& key) = 0;
 
     // Transactions nest: the outermost one is the database's, inner ones are save points.
+    // Inside one, a statement that fails undoes what it did and nothing else, on both back
+    // ends. A commit that did not commit throws; after a failed commit of the outermost
+    // transaction none is open any more, and nothing written in it is kept.
     virtual void beginTransaction() = 0;
     virtual void commitTransaction() = 0;
     virtual void rollbackTransaction() = 0;
+
+    // The counter behind the generated keys of a table: the last key the database made or
+    // was moved past (0 when none, or when the table's keys are not generated).
+    virtual qint64 keyCounter(const QString& table) = 0;
+    // Moves the counter to value unless it stands there or further already.
+    virtual void raiseKeyCounter(const QString& table, qint64 value) = 0;
 };
 
 } // namespace kartella

@@ -119,6 +119,16 @@ void Connection::rollbackTrans()
     backend().rollbackTransaction();
 }
 
+qint64 Connection::keyCounter(const QString& table)
+{
+    return backend().keyCounter(table);
+}
+
+void Connection::raiseKeyCounter(const QString& table, qint64 value)
+{
+    backend().raiseKeyCounter(table, value);
+}
+
 SqlDialect Connection::dialect()
 {
     return backend().dialect();

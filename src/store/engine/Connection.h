@@ -51,10 +51,17 @@ public:
     // Runs one statement that returns no rows.
     void execute(const QString& sql);
 
-    // Transactions, for the tools that load many rows; the program itself uses none.
+    // Transactions, for the tools that load many rows; the program itself uses none. A
+    // statement that fails inside one undoes only itself. commitTrans throws when the
+    // transaction did not commit, and then no transaction is open any more.
     void beginTrans();
     void commitTrans();
     void rollbackTrans();
+
+    // The counter behind a table's generated keys (see Backend::keyCounter), and moving it
+    // forward, so that a copied register gives no new row the key of a deleted one.
+    qint64 keyCounter(const QString& table);
+    void raiseKeyCounter(const QString& table, qint64 value);
 
     // The dialect of the open back end; throws when the connection is closed.
     SqlDialect dialect();

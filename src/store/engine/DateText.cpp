@@ -1,5 +1,7 @@
 #include "store/engine/DateText.h"
 
+#include "platform/Clock.h"
+
 #include <QLocale>
 
 namespace kartella::engine {
@@ -90,10 +92,9 @@ QVariant withOptionalTime(const QDate& date, QStringView text, qsizetype pos)
     return QVariant(QDateTime(date, time));
 }
 
-// Jet's two-digit years: 00-29 are 2000-2029, 30-99 are 1930-1999.
 int fullYear(int year, int digits)
 {
-    return digits > 2 ? year : (year < 30 ? 2000 + year : 1900 + year);
+    return digits > 2 ? year : yearNearToday(year);
 }
 
 // "yyyy<sep>M<sep>d" with an optional time.
@@ -131,13 +132,29 @@ QVariant parseLocaleShort(const QLocale& locale, const QString& text)
     QDate date = locale.toDate(text, format);
     if (!date.isValid())
         return {};
-    // A two-digit year form reads 1900-1999; a register's dates are recent.
-    if (!format.contains(QLatin1String("yyyy")) && date.year() < 1930)
-        date = date.addYears(100);
+    if (!format.contains(QLatin1String("yyyy")))
+        date = inCenturyNearToday(date);
     return QVariant(date);
 }
 
 } // namespace
+
+int yearNearToday(int twoDigitYear)
+{
+    const int thisYear = Clock::currentDate().year();
+    int best = 0;
+    for (int century = thisYear / 100 - 1; century <= thisYear / 100 + 1; ++century) {
+        const int year = century * 100 + twoDigitYear % 100;
+        if (best == 0 || qAbs(year - thisYear) < qAbs(best - thisYear))
+            best = year;
+    }
+    return best;
+}
+
+QDate inCenturyNearToday(const QDate& date)
+{
+    return date.isValid() ? date.addYears(yearNearToday(date.year()) - date.year()) : date;
+}
 
 QString isoText(const QDate& date)
 {

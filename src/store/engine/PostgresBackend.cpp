@@ -173,6 +173,7 @@ PostgresBackend::Result PostgresBackend::runText(const QString& sql, const QStri
 
 void PostgresBackend::execute(const QString& sql)
 {
+    const StatementGuard guard(*this);
     const QString translated = translate(sql);
     const QStringView head = QStringView(translated).trimmed();
     const bool changesSchema = head.startsWith(u"CREATE", Qt::CaseInsensitive)
@@ -206,6 +207,7 @@ void PostgresBackend::describe(pg_result* description, QueryResult& result)
 
 QueryResult PostgresBackend::query(const QString& sql)
 {
+    const StatementGuard guard(*this);
     QString translated = translate(sql);
     reconnectIfLost();
     QueryResult result;
@@ -248,6 +250,12 @@ QueryResult PostgresBackend::query(const QString& sql)
                         sql);
                 if (!accepted)
                     continue;
+                // A simple query (the release above) drops the unnamed prepared statement.
+                if (m_depth > 0) {
+                    keyedDescription = prepare(keyed);
+                    if (!keyedDescription || PQresultStatus(keyedDescription.get()) != PGRES_COMMAND_OK)
+                        fail(keyedDescription.get(), sql);
+                }
                 translated = keyed;
                 describe(keyedDescription.get(), result);
                 std::rotate(result.columns.begin(), result.columns.begin() + 1, result.columns.end());
@@ -379,6 +387,7 @@ std::vector<QByteArray> PostgresBackend::textParameters(const QVariantList& valu
 QVariant PostgresBackend::insertRow(
     const TableSchema& table, const QStringList& columns, const QVariantList& values)
 {
+    const StatementGuard guard(*this);
     QString sql = QStringLiteral("INSERT INTO ") + quotedName(table.name);
     if (columns.isEmpty()) {
         sql += QStringLiteral(" DEFAULT VALUES");
@@ -414,6 +423,7 @@ void PostgresBackend::updateRow(const TableSchema& table, const QString& keyName
 {
     if (columns.isEmpty())
         return;
+    const StatementGuard guard(*this);
     QStringList assignments;
     for (qsizetype i = 0; i < columns.size(); ++i)
         assignments << quotedName(columns[i]) + QStringLiteral("=$") + QString::number(i + 1);
@@ -429,46 +439,10 @@ void PostgresBackend::updateRow(const TableSchema& table, const QString& keyName
 
 void PostgresBackend::deleteRow(const TableSchema& table, const QString& keyName, const QVariant& key)
 {
+    const StatementGuard guard(*this);
     const QString sql = QStringLiteral("DELETE FROM ") + quotedName(table.name) + QStringLiteral(" WHERE ")
         + quotedName(keyName) + QStringLiteral("=$1");
     run(sql.toUtf8(), textParameters({key}), sql);
-}
-
-void PostgresBackend::beginTransaction()
-{
-    const QString sql = m_depth == 0 ? QStringLiteral("BEGIN")
-                                     : QStringLiteral("SAVEPOINT level") + QString::number(m_depth);
-    runText(sql, sql);
-    ++m_depth;
-}
-
-void PostgresBackend::commitTransaction()
-{
-    if (m_depth == 0)
-        throwError(ErrorNumber::CommandFailed, QStringLiteral("There is no transaction to commit."),
-            ConnectionSource);
-    if (m_depth == 1)
-        advanceKeyGenerators();
-    const QString sql = m_depth == 1 ? QStringLiteral("COMMIT")
-                                     : QStringLiteral("RELEASE level") + QString::number(m_depth - 1);
-    runText(sql, sql);
-    --m_depth;
-}
-
-void PostgresBackend::rollbackTransaction()
-{
-    if (m_depth == 0)
-        throwError(ErrorNumber::CommandFailed, QStringLiteral("There is no transaction to roll back."),
-            ConnectionSource);
-    const QString sql = m_depth == 1
-        ? QStringLiteral("ROLLBACK")
-        : QStringLiteral("ROLLBACK TO level%1; RELEASE level%1").arg(m_depth - 1);
-    --m_depth;
-    if (m_depth == 0)
-        m_explicitKeys.clear();
-    // A schema change may have been undone.
-    m_catalogLoaded = false;
-    runText(sql, sql);
 }
 
 } // namespace kartella::engine

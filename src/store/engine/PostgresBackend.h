@@ -44,6 +44,8 @@ public:
     void beginTransaction() override;
     void commitTransaction() override;
     void rollbackTransaction() override;
+    qint64 keyCounter(const QString& table) override;
+    void raiseKeyCounter(const QString& table, qint64 value) override;
 
 private:
     explicit PostgresBackend(pg_conn* connection, QString location);
@@ -61,6 +63,25 @@ private:
         TableSchema schema;
         std::map<int, QString> columnsByNumber;
     };
+
+    // While one lives, the statements of a call inside a transaction can fail without
+    // aborting the transaction: it sets a save point, and rolls back to it when the call
+    // ends by an exception.
+    class StatementGuard
+    {
+    public:
+        explicit StatementGuard(PostgresBackend& backend);
+        ~StatementGuard();
+        StatementGuard(const StatementGuard&) = delete;
+        StatementGuard& operator=(const StatementGuard&) = delete;
+
+    private:
+        PostgresBackend& m_backend;
+        int m_exceptions;
+    };
+
+    // Ends the outermost transaction whatever state it is in, rolling back what it holds.
+    void endTransaction();
 
     // Runs server SQL as it stands, with text parameters (nullptr for Null); throws on failure.
     Result run(const QByteArray& sql, const std::vector<QByteArray>& parameters, const QString& shownSql);
@@ -83,6 +104,8 @@ private:
     pg_conn* m_connection;
     QString m_location;
     int m_depth = 0;
+    bool m_guardOpen = false; // a statement's save point is set and not yet released
+    int m_guardNesting = 0;
     bool m_catalogLoaded = false;
     ServerNames m_names;
     std::map<QString, Relation> m_relations; // by lower-case name

@@ -118,6 +118,33 @@ void PostgresBackend::advanceKeyGenerators()
     m_explicitKeys.clear();
 }
 
+qint64 PostgresBackend::keyCounter(const QString& table)
+{
+    const TableSchema& schema = tableSchema(table);
+    if (!schema.keyGenerated)
+        return 0;
+    // A generator that has made no key yet has no last value.
+    static const QByteArray sql = "SELECT coalesce(pg_sequence_last_value(s::regclass), 0) FROM "
+                                  "(SELECT pg_get_serial_sequence($1, $2) AS s) q WHERE s IS NOT NULL";
+    const StatementGuard guard(*this);
+    const Result result
+        = run(sql, {quotedName(schema.name).toUtf8(), schema.key.toUtf8()}, QString::fromUtf8(sql));
+    return PQntuples(result.get()) == 0 ? 0 : std::strtoll(PQgetvalue(result.get(), 0, 0), nullptr, 10);
+}
+
+void PostgresBackend::raiseKeyCounter(const QString& table, qint64 value)
+{
+    const TableSchema& schema = tableSchema(table);
+    if (!schema.keyGenerated || value <= 0)
+        return;
+    static const QByteArray sql
+        = "SELECT setval(s, $3::bigint) FROM (SELECT pg_get_serial_sequence($1, $2) AS s) q "
+          "WHERE s IS NOT NULL AND $3::bigint > coalesce(pg_sequence_last_value(s::regclass), 0)";
+    const StatementGuard guard(*this);
+    run(sql, {quotedName(schema.name).toUtf8(), schema.key.toUtf8(), QByteArray::number(value)},
+        QString::fromUtf8(sql));
+}
+
 const TableSchema& PostgresBackend::tableSchema(const QString& table)
 {
     names();

@@ -494,40 +494,4 @@ void SqliteBackend::deleteRow(const TableSchema& table, const QString& keyName, 
     run(statement, sql);
 }
 
-void SqliteBackend::beginTransaction()
-{
-    // The outermost transaction takes the write lock at once, so that two writers queue
-    // on the busy timeout instead of failing in the middle.
-    const QString sql = m_depth == 0 ? QStringLiteral("BEGIN IMMEDIATE")
-                                     : QStringLiteral("SAVEPOINT level") + QString::number(m_depth);
-    execute(sql);
-    ++m_depth;
-}
-
-void SqliteBackend::commitTransaction()
-{
-    if (m_depth == 0)
-        throwError(ErrorNumber::CommandFailed, QStringLiteral("There is no transaction to commit."),
-            ConnectionSource);
-    const QString sql = m_depth == 1 ? QStringLiteral("COMMIT")
-                                     : QStringLiteral("RELEASE level") + QString::number(m_depth - 1);
-    execute(sql);
-    --m_depth;
-}
-
-void SqliteBackend::rollbackTransaction()
-{
-    if (m_depth == 0)
-        throwError(ErrorNumber::CommandFailed, QStringLiteral("There is no transaction to roll back."),
-            ConnectionSource);
-    if (m_depth == 1) {
-        execute(QStringLiteral("ROLLBACK"));
-    } else {
-        const QString name = QStringLiteral("level") + QString::number(m_depth - 1);
-        execute(QStringLiteral("ROLLBACK TO ") + name);
-        execute(QStringLiteral("RELEASE ") + name);
-    }
-    --m_depth;
-}
-
 } // namespace kartella::engine

@@ -54,6 +54,8 @@ public:
     void beginTransaction() override;
     void commitTransaction() override;
     void rollbackTransaction() override;
+    qint64 keyCounter(const QString& table) override;
+    void raiseKeyCounter(const QString& table, qint64 value) override;
 
 private:
     explicit SqliteBackend(sqlite3* db);
@@ -72,6 +74,8 @@ private:
     // Steps a statement that returns no rows; gives the number of rows it changed.
     int run(sqlite3_stmt* statement, const QString& shownSql);
     [[noreturn]] void fail(int code, const QString& shownSql) const;
+    // Whether the register has SQLite's table of key counters.
+    bool hasCounterTable();
     void readRows(
         sqlite3_stmt* statement, QueryResult& result, const std::vector<int>& order, const QString& shownSql);
 

@@ -1,0 +1,102 @@
+#include "EngineFixture.h"
+#include "base/Error.h"
+#include "store/engine/Recordset.h"
+
+#include <QTest>
+
+using namespace kartella;
+using namespace kartella::test;
+
+namespace {
+
+QString names(EngineRegister& reg)
+{
+    return reg.joined("SELECT FullName FROM tbl_Contacts ORDER BY ContactID");
+}
+
+void addContact(Connection& connection, const QString& name)
+{
+    Recordset contacts;
+    contacts.open(
+        "SELECT FullName FROM tbl_Contacts", connection, CursorTypeEnum::Dynamic, LockTypeEnum::Optimistic);
+    contacts.addNew();
+    contacts.fields("FullName").setValue(name);
+    contacts.update();
+}
+
+} // namespace
+
+class TransactionTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // A statement that fails inside a transaction undoes itself only: what was written
+    // before it and after it is committed, on a server as in a file.
+    void failedStatementUndoesOnlyItself()
+    {
+        EngineRegister reg;
+        Connection& connection = reg.connection();
+        connection.beginTrans();
+        reg.execute("INSERT INTO tbl_Contacts (FullName) VALUES ('before')");
+        QVERIFY_THROWS_EXCEPTION(Error, reg.execute("INSERT INTO tbl_Nothing (FullName) VALUES ('x')"));
+        Recordset broken;
+        QVERIFY_THROWS_EXCEPTION(Error, broken.open("SELECT Nothing FROM tbl_Contacts", connection));
+        // A recordset that reads the hidden key inside the transaction, and writes a row.
+        addContact(connection, "after");
+        connection.beginTrans();
+        reg.execute("INSERT INTO tbl_Contacts (FullName) VALUES ('inner')");
+        QVERIFY_THROWS_EXCEPTION(Error, reg.execute("UPDATE tbl_Contacts SET Nothing = 1"));
+        connection.commitTrans();
+        connection.commitTrans();
+        QCOMPARE(names(reg), QString("before,after,inner"));
+    }
+
+    // A commit that finds its transaction ended already throws, keeps nothing of it, and
+    // leaves no transaction open.
+    void commitThatDidNotCommitIsAnError()
+    {
+        EngineRegister reg;
+        Connection& connection = reg.connection();
+        connection.beginTrans();
+        reg.execute("INSERT INTO tbl_Contacts (FullName) VALUES ('lost')");
+        reg.execute("ROLLBACK");
+        QString description;
+        try {
+            connection.commitTrans();
+        } catch (const Error& error) {
+            description = error.description();
+        }
+        QVERIFY2(description.contains("nothing written in it was kept"), qPrintable(description));
+        QVERIFY_THROWS_EXCEPTION(Error, connection.commitTrans());
+        connection.beginTrans();
+        addContact(connection, "kept");
+        connection.commitTrans();
+        QCOMPARE(names(reg), QString("kept"));
+    }
+
+    // The counter of a table's keys goes on past deleted rows and moves forward only.
+    void keyCounterMovesForwardOnly()
+    {
+        EngineRegister reg;
+        Connection& connection = reg.connection();
+        QCOMPARE(connection.keyCounter("tbl_Contacts"), 0);
+        for (const char* name : {"a", "b", "c"})
+            addContact(connection, name);
+        reg.execute("DELETE FROM tbl_Contacts WHERE FullName = 'c'");
+        QCOMPARE(connection.keyCounter("tbl_Contacts"), 3);
+        connection.raiseKeyCounter("tbl_Contacts", 10);
+        connection.raiseKeyCounter("tbl_Contacts", 5);
+        QCOMPARE(connection.keyCounter("tbl_Contacts"), 10);
+        addContact(connection, "d");
+        QCOMPARE(reg.joined("SELECT ContactID FROM tbl_Contacts ORDER BY ContactID"), QString("1,2,11"));
+    }
+};
+
+int runTransactionTest(int argc, char** argv)
+{
+    TransactionTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_transactions.moc"
