@@ -2,6 +2,7 @@
 
 #include "store/Store.h"
 #include "store/engine/Connection.h"
+#include "store/engine/SqlText.h"
 
 #include <QDir>
 
@@ -20,14 +21,13 @@ QString targetInFolder(const QString& folder, const QString& source)
 
 QString storedPathStatement(bool related, qint32 id, const QString& path)
 {
-    QString quoted = path;
-    quoted.replace(u'\'', QStringLiteral("''"));
+    const QString quoted = sqlString(path);
     if (related)
-        return QStringLiteral("UPDATE tbl_Sub_Documents SET tbl_Sub_Documents.SubRastoKelias = '") + quoted
-            + QStringLiteral("' WHERE (((tbl_Sub_Documents.SubRastasID)=") + QString::number(id)
+        return QStringLiteral("UPDATE tbl_Sub_Documents SET tbl_Sub_Documents.SubRastoKelias = ") + quoted
+            + QStringLiteral(" WHERE (((tbl_Sub_Documents.SubRastasID)=") + QString::number(id)
             + QStringLiteral("));");
-    return QStringLiteral("UPDATE tbl_Documents SET tbl_Documents.RastoKel = '") + quoted
-        + QStringLiteral("' WHERE (((tbl_Documents.RastasID)=") + QString::number(id) + QStringLiteral("));");
+    return QStringLiteral("UPDATE tbl_Documents SET tbl_Documents.RastoKel = ") + quoted
+        + QStringLiteral(" WHERE (((tbl_Documents.RastasID)=") + QString::number(id) + QStringLiteral("));");
 }
 
 void storeMovedPath(bool related, qint32 id, const QString& path)

@@ -1,7 +1,7 @@
 #include "support/FieldBinder.h"
 
 #include "base/Error.h"
-#include "platform/Clock.h"
+#include "store/engine/DateText.h"
 #include "store/engine/Recordset.h"
 #include "store/engine/Value.h"
 #include "support/BoundList.h"
@@ -91,15 +91,7 @@ QDate readWithFormat(const QString& text, const QString& format, const QLocale* 
     QDate date = locale ? locale->toDate(text, format) : QDate::fromString(text, format);
     if (!date.isValid() || format.contains(QLatin1String("yyyy")) || !format.contains(QLatin1String("yy")))
         return date;
-    const int thisYear = Clock::currentDate().year();
-    const int twoDigits = date.year() % 100;
-    int best = 0;
-    for (int century = thisYear / 100 - 1; century <= thisYear / 100 + 1; ++century) {
-        const int year = century * 100 + twoDigits;
-        if (best == 0 || qAbs(year - thisYear) < qAbs(best - thisYear))
-            best = year;
-    }
-    return date.addYears(best - date.year());
+    return engine::inCenturyNearToday(date);
 }
 
 } // namespace
