@@ -1,5 +1,6 @@
 #include "reports/ReportCommands.h"
 
+#include "store/DueReminders.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
@@ -75,13 +76,6 @@ const QHash<QString, QString>& fixedCommands()
                 "ORDER BY tbl_Documents.KategID, tbl_Document_Categories.DokKategorija, "
                 "tbl_Documents.RastasID"
                 "}  AS Command2 COMPUTE Command2 BY 'KategID','DokKategorija'")},
-        {QStringLiteral("Tickler_Grouping"),
-            QStringLiteral(
-                "SHAPE {SELECT tbl_Documents.RastasID, tbl_Documents.DokAntraste, tbl_Tickler.TicklerDate, "
-                "tbl_Tickler.TicklerText FROM tbl_Documents INNER JOIN tbl_Tickler ON tbl_Documents.RastasID "
-                "= tbl_Tickler.RastasID ORDER BY tbl_Tickler.TicklerDate, "
-                "tbl_Documents.RastasID, tbl_Tickler.TicklerID;}  AS Tickler COMPUTE Tickler BY "
-                "'RastasID','DokAntraste'")},
         {QStringLiteral("AddressBook_Grouping"),
             QStringLiteral(
                 "SHAPE {SELECT tbl_Contacts.ContactID, tbl_Contacts.FullName, tbl_Contacts.Dear, "
@@ -100,6 +94,23 @@ const QHash<QString, QString>& fixedCommands()
                            "'FullName','ContactID'")},
     };
     return commands;
+}
+
+// The reminders with their document's description and index. Where the register keeps
+// reminders done, those are left out: the report lists what is still to do.
+QString remindersCommand(bool leaveOutDone)
+{
+    return QStringLiteral(
+               "SHAPE {SELECT tbl_Documents.RastasID, tbl_Documents.DokAntraste, "
+               "tbl_Documents.DokRegistracIndeksas, tbl_Tickler.TicklerDate, tbl_Tickler.TicklerText "
+               "FROM tbl_Documents INNER JOIN tbl_Tickler ON tbl_Documents.RastasID = "
+               "tbl_Tickler.RastasID")
+        + (leaveOutDone ? QStringLiteral(" WHERE tbl_Tickler.") + QLatin1String(ReminderDoneColumn)
+                    + QStringLiteral(" = 0")
+                        : QString())
+        + QStringLiteral(
+            " ORDER BY tbl_Tickler.TicklerDate, tbl_Documents.RastasID, tbl_Tickler.TicklerID;}  "
+            "AS Tickler COMPUTE Tickler BY 'RastasID','DokAntraste','DokRegistracIndeksas'");
 }
 
 // Column of name in the recordset's fields, compared without regard to case; -1 if none.
@@ -150,8 +161,10 @@ ReportCommands& ReportCommands::instance()
     return commands;
 }
 
-QString ReportCommands::commandText(const QString& command) const
+QString ReportCommands::commandText(const QString& command, bool remindersKeptDone) const
 {
+    if (command == u"Tickler_Grouping")
+        return remindersCommand(remindersKeptDone);
     if (command == u"This_Month_Grouping") {
         return QStringLiteral("SHAPE {SELECT * FROM `") + m_monthSource
             + QStringLiteral("` ORDER BY DokKategorija, KategID, DokRegistracData, RastasID}  AS This_Month "
@@ -194,7 +207,8 @@ ReportData ReportCommands::run(const ReportLayout& layout)
     Connection connection(connectionString());
     connection.open();
     Recordset parents;
-    parents.open(commandText(command), connection);
+    const bool remindersKeptDone = command == u"Tickler_Grouping" && hasReminderDoneColumn(connection);
+    parents.open(commandText(command, remindersKeptDone), connection);
     const QList<int> parentColumns = columnsOf(parents.fieldNames(), parentFields);
     data.groups.reserve(parents.recordCount());
     QList<int> childColumns;

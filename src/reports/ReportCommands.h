@@ -17,8 +17,9 @@ public:
     static ReportCommands& instance();
 
     // The SHAPE text of a parent command ("Categories", "This_Month_Grouping", ...);
-    // empty for an unknown name.
-    QString commandText(const QString& command) const;
+    // empty for an unknown name. remindersKeptDone: the register keeps reminders done, and
+    // the reminders' command leaves those out.
+    QString commandText(const QString& command, bool remindersKeptDone = false) const;
 
     // Makes the month command read the previous month for the rest of the run.
     void usePreviousMonth();

@@ -6,34 +6,72 @@ namespace {
 
 using Kind = ReportItem::Kind;
 
+ReportItem box(Kind kind, const QString& text, int row, double left, double width)
+{
+    ReportItem item;
+    item.kind = kind;
+    item.text = text;
+    item.row = row;
+    item.left = left;
+    item.width = width;
+    return item;
+}
+
 ReportItem label(const QString& text, int row, double left, double width, bool grows = false)
 {
-    return {Kind::Label, text, row, left, width, grows, false, false};
+    ReportItem item = box(Kind::Label, text, row, left, width);
+    item.grows = grows;
+    return item;
+}
+
+// A heading over the column of a field.
+ReportItem columnHeading(const QString& text, const QString& field, int row, double left, double width)
+{
+    ReportItem item = box(Kind::Label, text, row, left, width);
+    item.heads = field;
+    return item;
 }
 
 ReportItem title(const QString& text)
 {
-    return {Kind::Label, text, 0, 0.0, 1.0, false, false, true};
+    ReportItem item = box(Kind::Label, text, 0, 0.0, 1.0);
+    item.bold = true;
+    return item;
 }
 
 ReportItem field(const QString& name, int row, double left, double width, bool grows = false)
 {
-    return {Kind::Field, name, row, left, width, grows, false, false};
+    ReportItem item = box(Kind::Field, name, row, left, width);
+    item.grows = grows;
+    return item;
+}
+
+// A date or a registration index: printed whole on one line.
+ReportItem wholeField(const QString& name, int row, double left, double width, bool bold = false)
+{
+    ReportItem item = box(Kind::Field, name, row, left, width);
+    item.whole = true;
+    item.bold = bold;
+    return item;
 }
 
 ReportItem heading(const QString& name, int row, double left, double width, bool grows = false)
 {
-    return {Kind::Field, name, row, left, width, grows, false, true};
+    ReportItem item = field(name, row, left, width, grows);
+    item.bold = true;
+    return item;
 }
 
 ReportItem hidden(const QString& name)
 {
-    return {Kind::Field, name, 0, 0.0, 0.0, false, true, false};
+    ReportItem item = box(Kind::Field, name, 0, 0.0, 0.0);
+    item.hidden = true;
+    return item;
 }
 
 ReportItem rule(int row)
 {
-    return {Kind::Rule, {}, row, 0.0, 1.0, false, false, false};
+    return box(Kind::Rule, {}, row, 0.0, 1.0);
 }
 
 ReportLayout makeLayout(const QString& name, const QString& scriptName, const QString& caption,
@@ -80,12 +118,16 @@ ReportLayout byContacts()
     ReportLayout r = makeLayout(QStringLiteral("DataReport2"), QStringLiteral("by-contacts"),
         QStringLiteral("List by Contacts"), QStringLiteral("DocByCor_Grouping"), QStringLiteral("DocByCor"),
         ReportOrientation::Landscape);
-    r.pageHeader = {title(QStringLiteral("List of Documents by Contacts"))};
+    r.pageHeader = {title(QStringLiteral("List of Documents by Contacts")),
+        columnHeading(QStringLiteral("Doc. Description"), QStringLiteral("DokAntraste"), 1, 0.03, 0.43),
+        columnHeading(QStringLiteral("Reg. Date"), QStringLiteral("DokRegistracData"), 1, 0.46, 0.12),
+        columnHeading(QStringLiteral("Reg. Index"), QStringLiteral("DokRegistracIndeksas"), 1, 0.58, 0.17),
+        columnHeading(QStringLiteral("Category"), QStringLiteral("DokKategorija"), 1, 0.75, 0.25)};
     r.groupHeader = {heading(QStringLiteral("FullName"), 0, 0.0, 0.45, true),
         heading(QStringLiteral("FullName"), 0, 0.55, 0.45), hidden(QStringLiteral("ContactID"))};
-    r.detail = {field(QStringLiteral("DokAntraste"), 0, 0.03, 0.42, true),
-        field(QStringLiteral("DokRegistracData"), 0, 0.46, 0.12),
-        field(QStringLiteral("DokRegistracIndeksas"), 0, 0.58, 0.17),
+    r.detail = {field(QStringLiteral("DokAntraste"), 0, 0.03, 0.43, true),
+        wholeField(QStringLiteral("DokRegistracData"), 0, 0.46, 0.12),
+        wholeField(QStringLiteral("DokRegistracIndeksas"), 0, 0.58, 0.17),
         field(QStringLiteral("DokKategorija"), 0, 0.75, 0.25), hidden(QStringLiteral("RastasID"))};
     return r;
 }
@@ -108,14 +150,15 @@ ReportLayout byCategory()
         QStringLiteral("List of Documents by Category"), QStringLiteral("Command2_Grouping"),
         QStringLiteral("Command2"), ReportOrientation::Landscape);
     r.pageHeader = {title(QStringLiteral("List of Documents by Category")),
-        label(QStringLiteral("Doc. Description"), 1, 0.03, 0.42),
-        label(QStringLiteral("Reg. Index"), 1, 0.45, 0.18), label(QStringLiteral("Reg. Date"), 1, 0.63, 0.12),
-        label(QStringLiteral("Sender/Receiver"), 1, 0.75, 0.25)};
+        columnHeading(QStringLiteral("Doc. Description"), QStringLiteral("DokAntraste"), 1, 0.03, 0.42),
+        columnHeading(QStringLiteral("Reg. Index"), QStringLiteral("DokRegistracIndeksas"), 1, 0.45, 0.18),
+        columnHeading(QStringLiteral("Reg. Date"), QStringLiteral("DokRegistracData"), 1, 0.63, 0.12),
+        columnHeading(QStringLiteral("Sender/Receiver"), QStringLiteral("FullName"), 1, 0.75, 0.25)};
     r.groupHeader
         = {heading(QStringLiteral("DokKategorija"), 0, 0.0, 1.0, true), hidden(QStringLiteral("KategID"))};
     r.detail = {field(QStringLiteral("DokAntraste"), 0, 0.03, 0.42, true),
-        field(QStringLiteral("DokRegistracIndeksas"), 0, 0.45, 0.18),
-        field(QStringLiteral("DokRegistracData"), 0, 0.63, 0.12),
+        wholeField(QStringLiteral("DokRegistracIndeksas"), 0, 0.45, 0.18),
+        wholeField(QStringLiteral("DokRegistracData"), 0, 0.63, 0.12),
         field(QStringLiteral("FullName"), 0, 0.75, 0.25, true), hidden(QStringLiteral("ContactID"))};
     return r;
 }
@@ -126,9 +169,10 @@ ReportLayout reminder()
         = makeLayout(QStringLiteral("DataReport5"), QStringLiteral("reminder"), QStringLiteral("Reminder"),
             QStringLiteral("Tickler_Grouping"), QStringLiteral("Tickler"), ReportOrientation::Portrait);
     r.pageHeader = {title(QStringLiteral("Reminder"))};
-    r.groupHeader
-        = {heading(QStringLiteral("DokAntraste"), 0, 0.0, 1.0, true), hidden(QStringLiteral("RastasID"))};
-    r.detail = {field(QStringLiteral("TicklerDate"), 0, 0.05, 0.20),
+    // The index tells apart two documents of one description.
+    r.groupHeader = {wholeField(QStringLiteral("DokRegistracIndeksas"), 0, 0.0, 0.25, true),
+        heading(QStringLiteral("DokAntraste"), 0, 0.25, 0.75, true), hidden(QStringLiteral("RastasID"))};
+    r.detail = {wholeField(QStringLiteral("TicklerDate"), 0, 0.05, 0.20),
         field(QStringLiteral("TicklerText"), 0, 0.25, 0.75, true)};
     return r;
 }
@@ -168,11 +212,16 @@ ReportLayout thisMonth()
     ReportLayout r = makeLayout(QStringLiteral("rptThisMonth"), QStringLiteral("this-month"),
         QStringLiteral("This Month"), QStringLiteral("This_Month_Grouping"), QStringLiteral("This_Month"),
         ReportOrientation::Landscape);
-    r.pageHeader = {title(QStringLiteral("List Of documents By Categories"))};
+    r.pageHeader = {title(QStringLiteral("List Of documents By Categories")),
+        columnHeading(QStringLiteral("Reg. Date"), QStringLiteral("DokRegistracData"), 1, 0.03, 0.10),
+        columnHeading(QStringLiteral("Reg. Index"), QStringLiteral("DokRegistracIndeksas"), 1, 0.13, 0.15),
+        columnHeading(QStringLiteral("Doc. Description"), QStringLiteral("DokAntraste"), 1, 0.28, 0.32),
+        columnHeading(QStringLiteral("Sender/Receiver"), QStringLiteral("FullName"), 1, 0.60, 0.20),
+        columnHeading(QStringLiteral("Category"), QStringLiteral("DokKategorija"), 1, 0.80, 0.20)};
     r.groupHeader
         = {heading(QStringLiteral("DokKategorija"), 0, 0.0, 1.0, true), hidden(QStringLiteral("KategID"))};
-    r.detail = {field(QStringLiteral("DokRegistracData"), 0, 0.03, 0.10),
-        field(QStringLiteral("DokRegistracIndeksas"), 0, 0.13, 0.15, true),
+    r.detail = {wholeField(QStringLiteral("DokRegistracData"), 0, 0.03, 0.10),
+        wholeField(QStringLiteral("DokRegistracIndeksas"), 0, 0.13, 0.15),
         field(QStringLiteral("DokAntraste"), 0, 0.28, 0.32),
         field(QStringLiteral("FullName"), 0, 0.60, 0.20, true),
         field(QStringLiteral("DokKategorija"), 0, 0.80, 0.20, true), hidden(QStringLiteral("RastasID"))};

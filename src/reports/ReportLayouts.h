@@ -23,6 +23,13 @@ struct ReportItem
     // A hidden box takes part in the binding and prints nothing.
     bool hidden = false;
     bool bold = false;
+    // A whole box (a date, a registration index) always shows its text on one line and
+    // uncut: its row's boxes are fitted to the page and to the texts they print (see
+    // fitColumns).
+    bool whole = false;
+    // For a column heading of the page header: the field of the group header or detail it
+    // stands over, whose place it takes when the columns are fitted.
+    QString heads;
 };
 
 using ReportSection = QList<ReportItem>;

@@ -2,6 +2,7 @@
 
 #include "base/Error.h"
 #include "platform/Clock.h"
+#include "reports/ReportColumns.h"
 
 #include <QFontMetricsF>
 #include <QPageLayout>
@@ -118,6 +119,7 @@ QStringList ReportPage::lines() const
 
 ReportPaginator::ReportPaginator(const ReportLayout& layout, QPagedPaintDevice& device, const QDate& printed)
     : m_layout(layout)
+    , m_fitted(layout)
     , m_device(device)
     , m_printed(printed)
     , m_font(fontFamily())
@@ -214,7 +216,7 @@ void ReportPaginator::startPage()
     m_pages << ReportPage {};
     m_y = m_top;
     if (m_pages.size() == 1)
-        place(band(m_layout.reportHeader, {}, {}));
+        place(band(m_fitted.reportHeader, {}, {}));
     place(m_pageHeader);
     if (m_groupHeader)
         place(*m_groupHeader);
@@ -316,16 +318,20 @@ QList<ReportPage> ReportPaginator::paginate(const ReportData& data)
 {
     m_pages.clear();
     m_groupHeader = nullptr;
-    m_pageHeader = band(m_layout.pageHeader, {}, {}, true);
-    m_pageFooter = band(m_layout.pageFooter, {}, {}, true);
+    const QFontMetricsF plain(m_font, &m_device);
+    const QFontMetricsF bold(m_bold, &m_device);
+    m_fitted = fitColumns(m_layout, data, m_width,
+        [&](const QString& text, bool isBold) { return (isBold ? bold : plain).horizontalAdvance(text); });
+    m_pageHeader = band(m_fitted.pageHeader, {}, {}, true);
+    m_pageFooter = band(m_fitted.pageFooter, {}, {}, true);
     m_bottom = m_footerTop - m_pageFooter.height;
     startPage();
     for (const ReportGroup& group : data.groups) {
-        const Band header = band(m_layout.groupHeader, data.parentFields, group.values);
+        const Band header = band(m_fitted.groupHeader, data.parentFields, group.values);
         QList<Band> details;
         details.reserve(group.children.size());
         for (const QVariantList& child : group.children)
-            details << band(m_layout.detail, data.childFields, child);
+            details << band(m_fitted.detail, data.childFields, child);
         // The header takes its first detail along, or the first line of one taller than a page.
         double keepWith = 0.0;
         if (!details.isEmpty()) {
@@ -339,9 +345,9 @@ QList<ReportPage> ReportPaginator::paginate(const ReportData& data)
         for (const Band& detail : details)
             placeWithBreak(detail);
         m_groupHeader = nullptr;
-        placeWithBreak(band(m_layout.groupFooter, data.parentFields, group.values));
+        placeWithBreak(band(m_fitted.groupFooter, data.parentFields, group.values));
     }
-    placeWithBreak(band(m_layout.reportFooter, {}, {}));
+    placeWithBreak(band(m_fitted.reportFooter, {}, {}));
     fillPageCodes();
     return m_pages;
 }

@@ -44,11 +44,11 @@ struct ReportPage
 // header on every page, a group header per parent row and a detail line per child row,
 // group footer, page footer at the foot of every page, report footer. The margins are one
 // inch. "%d", "%p" and "%P" are replaced in the labels of the page header and footer only,
-// never in the data. A group header never stands alone at the foot of a page: it moves to
-// the next page with the first line of its first detail. A page that goes on with the
-// details of a group starts with the group header again. A section taller than what is
-// left of the page is split between two lines of text. The device's page layout (size,
-// orientation) must be set before.
+// never in the data. The columns of a row with a date or an index are fitted to the page
+// and to the rows first (fitColumns), so that those print whole. A group header never stands alone at the
+// foot of a page: it moves to the next page with the first line of its first detail. A page that goes on with
+// the details of a group starts with the group header again. A section taller than what is left of the page
+// is split between two lines of text. The device's page layout (size, orientation) must be set before.
 class ReportPaginator
 {
 public:
@@ -72,6 +72,8 @@ private:
     void fillPageCodes();
 
     const ReportLayout& m_layout;
+    // The layout with its columns fitted to the rows being paginated.
+    ReportLayout m_fitted;
     QPagedPaintDevice& m_device;
     QDate m_printed;
     QFont m_font;

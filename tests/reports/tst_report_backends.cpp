@@ -43,6 +43,11 @@ void addTies(const TestRegister& reg, const QDate& day)
     for (const qint32 document : {documents.at(0), documents.at(1), documents.at(0)})
         reg.insert("tbl_Tickler",
             {{"RastasID", document}, {"TicklerDate", QDate(2030, 5, 5)}, {"TicklerText", "Priminti"}});
+    // Reminders already done, one beside those still to do and one alone under its document.
+    for (const qint32 document : {documents.at(0), documents.at(2)})
+        reg.insert("tbl_Tickler",
+            {{"RastasID", document}, {"TicklerDate", QDate(2030, 4, 4)}, {"TicklerText", "Atlikta"},
+                {"TicklerDone", 1}});
     // Every row written so far is changed once, the first ones first.
     const QList<std::pair<QString, QString>> changed {{"tbl_Contacts", "City"},
         {"tbl_Document_Categories", "Mnemonic"}, {"tbl_Sub_Categories", "DokSubKategorija"},
@@ -109,8 +114,8 @@ private Q_SLOTS:
                                             "Raštas 1% DA-1 {this} " + o, "Raštas 3% DA-3 {this} " + o,
                                             "Raštas 5% DA-5 {this} " + o};
         QTest::newRow("reminder") << "reminder"
-                                  << QStringList {"Raštas 0%", "{reminder} Priminti", "{reminder} Priminti",
-                                         "Raštas 1%", "{reminder} Priminti"};
+                                  << QStringList {"DA-0 Raštas 0%", "{reminder} Priminti",
+                                         "{reminder} Priminti", "DA-1 Raštas 1%", "{reminder} Priminti"};
         QTest::newRow("telephone-list")
             << "telephone-list" << QStringList {o, "Mob. +353 3", "Mob. +353 3", o, "Mob. +353 4"};
         QTest::newRow("addresses") << "addresses"
@@ -132,6 +137,7 @@ private Q_SLOTS:
         const QStringList fromFile = printed(*m_file, report);
         const QStringList fromServer = printed(*m_server, report);
         QCOMPARE(fromServer, fromFile);
+        QVERIFY(!fromFile.join('\n').contains("Atlikta"));
         qsizetype from = 0;
         for (QString line : inOrder) {
             line.replace("{this}", reportText(m_file->thisMonth))

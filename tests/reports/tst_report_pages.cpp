@@ -12,6 +12,8 @@
 using namespace kartella;
 using namespace kartella::test;
 
+Q_DECLARE_METATYPE(kartella::ReportOrientation)
+
 namespace {
 
 // Many groups of one to seven documents: every way a page can end.
@@ -40,6 +42,18 @@ QStringList fieldsOf(const ReportSection& section, QStringList fields = {})
             fields << item.text;
     }
     return fields;
+}
+
+// Lays a report out on A4 in the given orientation, as its preview prints it after a report
+// of that orientation.
+QList<ReportPage> layOut(const ReportLayout& layout, const ReportData& data, ReportOrientation orientation)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setResolution(300);
+    setReportPage(writer, orientation);
+    return ReportPaginator(layout, writer, reportToday()).paginate(data);
 }
 
 // The items of a page that stand in the column starting at left, top to bottom.
@@ -133,10 +147,136 @@ private Q_SLOTS:
             const QStringList lines = pages.at(page).lines();
             QCOMPARE(lines.first(), QString("List Of documents By Categories"));
             // A group longer than a page goes on under the repeated page and group headers.
-            QCOMPARE(lines.at(1), QString("Category 0"));
-            QCOMPARE(lines.at(2),
+            QCOMPARE(lines.at(2), QString("Category 0"));
+            QCOMPARE(lines.at(3),
                 QString("%1 C0/0 Document 0 of 0 Ona Category 0").arg(reportText(QDate(2026, 3, 1))));
             QCOMPARE(lines.last(), QString("Printed: %1 page %2 of 3").arg(today).arg(page + 1));
+        }
+    }
+
+    void datesAndIndexesPrintWhole_data()
+    {
+        QTest::addColumn<QString>("report");
+        QTest::addColumn<ReportOrientation>("orientation");
+        for (const char* report : {"by-category", "by-contacts", "this-month", "reminder"}) {
+            QTest::addRow("%s, landscape", report) << report << ReportOrientation::Landscape;
+            QTest::addRow("%s, portrait", report) << report << ReportOrientation::Portrait;
+        }
+    }
+
+    // Long indexes beside long descriptions, names and categories, which take what room
+    // they get: every date and index stands whole on one line, beside its neighbours.
+    void datesAndIndexesPrintWhole()
+    {
+        QFETCH(QString, report);
+        QFETCH(ReportOrientation, orientation);
+        const ReportLayout& layout = *findReportLayout(report);
+        ReportData data {
+            fieldsOf(layout.groupHeader, fieldsOf(layout.groupFooter)), fieldsOf(layout.detail), {}};
+        const QStringList indexes {"ATA-20261103/Metinė ataskaita", "ATA-20261103/Metinė ataskaita/12", "S-1",
+            "VVVVVVVVVVVVVVVVVVVVVVVV-999"};
+        const QList<QDate> dates {QDate(2026, 11, 4), QDate(2026, 12, 31), QDate(2000, 1, 1)};
+        const QString longText = QString("Labai ilgas tekstas be galo ").repeated(6).trimmed();
+        const auto valueOf = [&](const QString& field, int n) -> QVariant {
+            if (field == "DokRegistracIndeksas")
+                return indexes.at(n % indexes.size());
+            if (field == "DokRegistracData" || field == "TicklerDate")
+                return dates.at(n % dates.size());
+            if (field.endsWith("ID"))
+                return n;
+            return longText;
+        };
+        QStringList whole;
+        for (int g = 0; g < 4; ++g) {
+            ReportGroup group;
+            for (const QString& field : std::as_const(data.parentFields))
+                group.values << valueOf(field, g);
+            for (int d = 0; d < 3; ++d) {
+                QVariantList child;
+                for (const QString& field : std::as_const(data.childFields))
+                    child << valueOf(field, g + d);
+                group.children << child;
+            }
+            data.groups << group;
+        }
+        for (const QString field : {"DokRegistracIndeksas", "DokRegistracData", "TicklerDate"}) {
+            if (data.parentFields.contains(field) || data.childFields.contains(field)) {
+                for (const QVariant& value : field == "DokRegistracIndeksas"
+                        ? QVariantList(indexes.begin(), indexes.end())
+                        : QVariantList(dates.begin(), dates.end()))
+                    whole << reportText(value);
+            }
+        }
+        QVERIFY(!whole.isEmpty());
+
+        const QList<ReportPage> pages = layOut(layout, data, orientation);
+        QStringList texts;
+        for (const ReportPage& page : pages) {
+            texts << page.texts();
+            for (const PaintedItem& item : page.items) {
+                if (!whole.contains(item.text))
+                    continue;
+                // No other box of its line starts inside it.
+                for (const PaintedItem& other : page.items) {
+                    if (&other != &item && other.kind == PaintedItem::Kind::Text
+                        && qAbs(other.rect.top() - item.rect.top()) < 0.5)
+                        QVERIFY2(other.rect.left() <= item.rect.left() + 0.5
+                                || other.rect.left() >= item.rect.right() - 0.5,
+                            qPrintable(item.text + " / " + other.text));
+                }
+            }
+        }
+        for (const QString& text : std::as_const(whole))
+            QVERIFY2(texts.contains(text), qPrintable(text + " is not whole in:\n" + texts.join('\n')));
+        // The long texts beside them still print whole, wrapped where they grow.
+        QVERIFY(texts.join(' ').contains(longText.left(40)));
+    }
+
+    void everyListReportHasColumnHeadings_data()
+    {
+        QTest::addColumn<QString>("report");
+        QTest::addColumn<QString>("headings");
+        QTest::newRow("by-category") << "by-category"
+                                     << "Doc. Description Reg. Index Reg. Date Sender/Receiver";
+        QTest::newRow("by-contacts") << "by-contacts"
+                                     << "Doc. Description Reg. Date Reg. Index Category";
+        QTest::newRow("this-month") << "this-month"
+                                    << "Reg. Date Reg. Index Doc. Description Sender/Receiver Category";
+    }
+
+    // On every page, under the title, each heading standing over its column.
+    void everyListReportHasColumnHeadings()
+    {
+        QFETCH(QString, report);
+        QFETCH(QString, headings);
+        const ReportLayout& layout = *findReportLayout(report);
+        ReportData data {fieldsOf(layout.groupHeader), fieldsOf(layout.detail), {}};
+        for (int g = 0; g < 60; ++g) {
+            ReportGroup group;
+            for (const QString& field : std::as_const(data.parentFields))
+                group.values << QStringLiteral("%1 %2").arg(field).arg(g);
+            for (int d = 0; d < 3; ++d) {
+                QVariantList child;
+                for (const QString& field : std::as_const(data.childFields))
+                    child << (field == "DokRegistracData"
+                            ? QVariant(QDate(2026, 11, 1 + d))
+                            : QVariant(QStringLiteral("%1 %2").arg(field).arg(d)));
+                group.children << child;
+            }
+            data.groups << group;
+        }
+        const QList<ReportPage> pages = layOut(layout, data);
+        QVERIFY(pages.size() >= 2);
+        for (const ReportPage& page : pages) {
+            QCOMPARE(page.lines().at(1), headings);
+            const double headingTop = itemNamed(page, headings.section(' ', 0, 1))->rect.top();
+            for (const PaintedItem& heading : page.items) {
+                if (qAbs(heading.rect.top() - headingTop) >= 0.5)
+                    continue;
+                const QList<PaintedItem> below = column(page, heading.rect.left());
+                QVERIFY2(below.size() > 1, qPrintable(heading.text));
+                QVERIFY(qFuzzyCompare(below.last().rect.width(), heading.rect.width()));
+            }
         }
     }
 

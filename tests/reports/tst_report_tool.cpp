@@ -21,9 +21,15 @@ struct ToolRun
 };
 
 // Runs the tool; with a small disk every write past a few kilobytes fails as on a full disk.
-ToolRun runTool(const QStringList& arguments, bool smallDisk = false)
+// A locale other than the tests' own is given as its name ("lt_LT").
+ToolRun runTool(const QStringList& arguments, bool smallDisk = false, const QString& locale = {})
 {
     QProcess tool;
+    if (!locale.isEmpty()) {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("LC_ALL", locale + ".UTF-8");
+        tool.setProcessEnvironment(environment);
+    }
     if (smallDisk) {
         tool.start("/bin/sh",
             QStringList {"-c", "ulimit -f 8; trap '' XFSZ; exec \"$0\" \"$@\"", KARTELLA_DB_TOOL, "report"}
@@ -96,6 +102,43 @@ private Q_SLOTS:
         const QString phoneText = pdfText(phones);
         QVERIFY2(phoneText.contains("+370 600 1"), qPrintable(phoneText));
         QVERIFY(!phoneText.contains("Jonas Jonaitis"));
+    }
+
+    // A user whose dates are long and whose indexes are longer reads each whole, under the
+    // column headings, in the PDF the tool writes.
+    void datesAndIndexesAreWholeInTheWrittenPdf_data()
+    {
+        QTest::addColumn<QString>("report");
+        QTest::addColumn<QString>("headings");
+        QTest::newRow("by-contacts") << "by-contacts"
+                                     << "Doc. Description Reg. Date Reg. Index Category";
+        QTest::newRow("this-month") << "this-month"
+                                    << "Reg. Date Reg. Index Doc. Description Sender/Receiver Category";
+        QTest::newRow("by-category") << "by-category"
+                                     << "Doc. Description Reg. Index Reg. Date Sender/Receiver";
+    }
+
+    void datesAndIndexesAreWholeInTheWrittenPdf()
+    {
+        QFETCH(QString, report);
+        QFETCH(QString, headings);
+        if (QStandardPaths::findExecutable("pdftotext").isEmpty())
+            QSKIP("pdftotext (poppler-utils) is missing");
+        ReportFixture fx;
+        const QString index = "ATA-20261103/Metinė ataskaita";
+        const QDate day = fx.thisMonth.addDays(27 - fx.thisMonth.day() + 1);
+        fx.reg.insert("tbl_Documents",
+            {{"KategID", 1}, {"ContactID", 1}, {"DokRegistracData", day}, {"DokRegistracIndeksas", index},
+                {"DokAntraste", QString("Metinė veiklos ataskaita ").repeated(5).trimmed()}});
+        const QString pdf = fx.reg.dir() + "/" + report + ".pdf";
+        const ToolRun run = runTool({report, pdf, "--register", fx.reg.path()}, false, "lt_LT");
+        QCOMPARE(run.exitCode, 0);
+        const QString content = pdfText(pdf, {"-layout"});
+        const QString date
+            = QLocale(QLocale::Lithuanian, QLocale::Lithuania).toString(day, QLocale::ShortFormat);
+        QVERIFY2(content.contains(index), qPrintable(content));
+        QVERIFY2(content.contains(date), qPrintable(date + " in:\n" + content));
+        QVERIFY2(content.simplified().contains(headings), qPrintable(content));
     }
 
     void theRegisterIsNeverTheReport()

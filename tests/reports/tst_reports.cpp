@@ -95,6 +95,7 @@ private Q_SLOTS:
             << QStringList {};
         QTest::newRow("by-contacts") << "by-contacts"
                                      << QStringList {"List of Documents by Contacts",
+                                            "Doc. Description Reg. Date Reg. Index Category",
                                             "Jonas Jonaitis Jonas Jonaitis",
                                             "Senas laiškas {prev} LAI-3 Laiškai",
                                             "Ona Petraitienė Ona Petraitienė",
@@ -112,7 +113,7 @@ private Q_SLOTS:
                                             "Sutartis dėl nuomos SUT-1 {this} Ona Petraitienė"}
                                      << QStringList {};
         QTest::newRow("reminder") << "reminder"
-                                  << QStringList {"Reminder", "Sutartis dėl nuomos",
+                                  << QStringList {"Reminder", "SUT-1 Sutartis dėl nuomos",
                                          "{reminder} Pratęsti sutartį"}
                                   << QStringList {"Senas laiškas"};
         QTest::newRow("telephone-list")
@@ -126,8 +127,9 @@ private Q_SLOTS:
                                           "Darbo +370 5 111"}
                                    << QStringList {"Jonas Jonaitis"};
         QTest::newRow("this-month") << "this-month"
-                                    << QStringList {"List Of documents By Categories", "Laiškai",
-                                           "{this} LAI-2 Laiškas be adresato Laiškai", "Sutartys",
+                                    << QStringList {"List Of documents By Categories",
+                                           "Reg. Date Reg. Index Doc. Description Sender/Receiver Category",
+                                           "Laiškai", "{this} LAI-2 Laiškas be adresato Laiškai", "Sutartys",
                                            "{this} SUT-1 Sutartis dėl nuomos Ona Petraitienė Sutartys",
                                            "Printed: {today} page 1 of 1"}
                                     << QStringList {"Senas laiškas"};
@@ -153,6 +155,54 @@ private Q_SLOTS:
             qPrintable(missing + " not in order in:\n" + lines.join('\n')));
         for (const QString& text : absent)
             QVERIFY2(!lines.join('\n').contains(text), qPrintable(text));
+    }
+
+    void theReminderReportListsWhatIsStillToDo_data()
+    {
+        QTest::addColumn<bool>("olderRegister");
+        QTest::newRow("register that keeps reminders done") << false;
+        QTest::newRow("register of an older version") << true;
+    }
+
+    // Two documents of one description told apart by their index; a reminder marked done,
+    // and a document whose only reminder is done.
+    void theReminderReportListsWhatIsStillToDo()
+    {
+        QFETCH(bool, olderRegister);
+        ReportFixture fx;
+        const qint32 lease = fx.reg
+                                 .scalar("SELECT RastasID FROM tbl_Documents WHERE DokRegistracIndeksas = "
+                                         "'SUT-1'")
+                                 .toInt();
+        const qint32 twin = fx.reg.insert("tbl_Documents",
+            {{"KategID", 2}, {"DokRegistracData", fx.thisMonth}, {"DokRegistracIndeksas", "SUT-9"},
+                {"DokAntraste", "Sutartis dėl nuomos"}});
+        const qint32 old
+            = fx.reg.scalar("SELECT RastasID FROM tbl_Documents WHERE DokRegistracIndeksas = 'LAI-3'")
+                  .toInt();
+        fx.reg.insert("tbl_Tickler",
+            {{"RastasID", lease}, {"TicklerDate", QDate(2029, 12, 1)}, {"TicklerText", "Pasirašyta"},
+                {"TicklerDone", 1}});
+        fx.reg.insert("tbl_Tickler",
+            {{"RastasID", twin}, {"TicklerDate", QDate(2030, 2, 1)}, {"TicklerText", "Apmokėti"}});
+        fx.reg.insert("tbl_Tickler",
+            {{"RastasID", old}, {"TicklerDate", QDate(2029, 1, 1)}, {"TicklerText", "Atsakyta"},
+                {"TicklerDone", 1}});
+        if (olderRegister)
+            fx.reg.exec("ALTER TABLE tbl_Tickler DROP COLUMN TicklerDone");
+        ReportCommands commands;
+        commands.setConnectionString(fx.reg.connectionString());
+        const QStringList lines = run(commands, "reminder");
+
+        QStringList expected {"Reminder"};
+        if (olderRegister)
+            expected << "LAI-3 Senas laiškas" << reportText(QDate(2029, 1, 1)) + " Atsakyta"
+                     << "SUT-1 Sutartis dėl nuomos" << reportText(QDate(2029, 12, 1)) + " Pasirašyta";
+        else
+            expected << "SUT-1 Sutartis dėl nuomos";
+        expected << reportText(fx.reminderDate) + " Pratęsti sutartį"
+                 << "SUT-9 Sutartis dėl nuomos" << reportText(QDate(2030, 2, 1)) + " Apmokėti";
+        QCOMPARE(lines, expected);
     }
 
     void previousMonthStaysForTheRestOfTheRun()
