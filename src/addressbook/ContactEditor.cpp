@@ -57,6 +57,7 @@ ContactEditor::ContactEditor(QWidget* parent)
     m_homePages->setObjectName(QStringLiteral("adoHomePages"));
     buildWidgets();
     load();
+    m_companyName->setFocus(Qt::OtherFocusReason);
 }
 
 ContactEditor::~ContactEditor() = default;

@@ -5,6 +5,7 @@
 #include "options/OptionStore.h"
 #include "platform/Prompter.h"
 #include "store/Store.h"
+#include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
 #include "store/engine/Value.h"
 #include "support/EnterAsTab.h"
@@ -69,7 +70,37 @@ void NewCategoryDialog::saveCategoryRow()
     reportErrors([this] {
         m_category->updateBatch(AffectEnum::All);
         m_category->moveLast();
+        if (m_storedCategoryId == 0)
+            m_storedCategoryId = m_categoryId->text().toInt();
     });
+}
+
+void NewCategoryDialog::reject()
+{
+    // Closing without OK takes back the category that Add New SubCategory stored, and the
+    // subcategories filed under it. A failure is told, and the dialog closes all the same.
+    if (m_storedCategoryId != 0) {
+        const QString key = QString::number(m_storedCategoryId);
+        m_storedCategoryId = 0;
+        showSubCategories(nullptr);
+        m_subCategories->close();
+        m_category->close();
+        reportErrors([this, &key] {
+            Connection connection;
+            connection.open(m_connection);
+            connection.beginTrans();
+            try {
+                connection.execute(QStringLiteral("DELETE FROM tbl_Sub_Categories WHERE KategID=") + key);
+                connection.execute(
+                    QStringLiteral("DELETE FROM tbl_Document_Categories WHERE KategID=") + key);
+                connection.commitTrans();
+            } catch (const Error&) {
+                connection.rollbackTrans();
+                throw;
+            }
+        });
+    }
+    CategoryDialogBase::reject();
 }
 
 void NewCategoryDialog::bindSubCategories()

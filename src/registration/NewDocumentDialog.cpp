@@ -23,6 +23,7 @@
 #include <QCoreApplication>
 #include <QDate>
 #include <QDir>
+#include <QFile>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QGuiApplication>
@@ -76,6 +77,8 @@ NewDocumentDialog::NewDocumentDialog(QWidget* parent)
     buildWidgets();
     bindControls();
     load();
+    m_tabs->setCurrentIndex(0);
+    m_description->setFocus(Qt::OtherFocusReason);
 }
 
 NewDocumentDialog::~NewDocumentDialog() = default;
@@ -263,7 +266,9 @@ void NewDocumentDialog::load()
                 m_subCategory->setValue(state.currentSubCategoryId);
         }
 
-        m_regIndex->setText(makeRegIndex(m_category->value()));
+        // A failed proposal leaves the index empty and nothing else: the dates, the direction
+        // and the proposals of later category choices still come.
+        proposeRegIndex();
         m_indexProposed = true;
 
         m_inner->setChecked(true);
@@ -300,10 +305,21 @@ void NewDocumentDialog::onCategoryChanged()
         m_subCategory->setValue(QString());
         QCoreApplication::processEvents();
         if (m_indexProposed)
-            m_regIndex->setText(makeRegIndex(category));
+            proposeRegIndex();
     } catch (const Error&) {
         // The rest of the change is skipped.
     }
+}
+
+void NewDocumentDialog::proposeRegIndex()
+{
+    QString index;
+    try {
+        index = makeRegIndex(m_category->value());
+    } catch (const Error&) {
+        // No proposal: the user types the index or leaves it empty.
+    }
+    m_regIndex->setText(index);
 }
 
 void NewDocumentDialog::onDirectionChosen(int index)
@@ -368,7 +384,10 @@ void NewDocumentDialog::createDocument(const CreatingButton& button)
                 for (QWidget* widget : held)
                     widget->setEnabled(true);
             });
-            button.create(request, [this](const QString& path) { setLocation(path); });
+            button.create(request, [this](const QString& path) {
+                m_madeFile = path;
+                setLocation(path);
+            });
         }
         QDir::setCurrent(directory);
     } catch (const Error&) { }
@@ -408,6 +427,26 @@ void NewDocumentDialog::save()
 void NewDocumentDialog::cancel()
 {
     reject();
+}
+
+void NewDocumentDialog::reject()
+{
+    // Nothing reaches the register before OK; a file a creating button made is taken back
+    // too, once the user agrees. No keeps the dialog open.
+    if (!m_madeFile.isEmpty()) {
+        const QString question = QStringLiteral("Discard the new document and delete the file \"")
+            + m_madeFile + QStringLiteral("\" made for it?");
+        if (msgBox(question, MsgBoxStyle::YesNo | MsgBoxStyle::Question, windowTitle()) != MsgBoxResult::Yes)
+            return;
+        QFile file(m_madeFile);
+        if (file.exists() && !file.remove()) {
+            msgBox(QStringLiteral("The file \"") + m_madeFile + QStringLiteral("\" can't be deleted: ")
+                    + file.errorString(),
+                MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, windowTitle());
+        }
+        m_madeFile.clear();
+    }
+    QDialog::reject();
 }
 
 void NewDocumentDialog::done(int result)

@@ -25,7 +25,8 @@ class RecordsetModel;
 // is written yet), selects the current category and proposes a registration index. The
 // buttons under "Create With" make the document's file at once (or attach an existing
 // one); OK stores the row and the reminders typed in the grid with one updateBatch and
-// raises the day's number; Cancel (Esc) drops them, leaving a file already made on disk.
+// raises the day's number; Cancel (Esc) drops them and, after a question, deletes a file
+// that a creating button made.
 class NewDocumentDialog : public QDialog
 {
     Q_OBJECT
@@ -49,6 +50,8 @@ public Q_SLOTS:
     void addExistingFile();
     void save();
     void cancel();
+    // Closing without OK: asks before deleting a file made here, and stays open on No.
+    void reject() override;
 
 protected:
     void done(int result) override;
@@ -67,6 +70,8 @@ private:
     QGroupBox* buildCreateWith();
     void bindControls();
     void load();
+    // Proposes the index for the chosen category; a failed proposal empties the box.
+    void proposeRegIndex();
     void createDocument(const CreatingButton& button);
     void onReminderGridEnter();
 
@@ -77,6 +82,8 @@ private:
     Recordset* m_subCategories = nullptr;
     QString m_listConnection;
     bool m_indexProposed = false;
+    // The file a creating button made, until the dialog is closed.
+    QString m_madeFile;
 
     // The row's key and its direction code are in boxes nobody sees.
     QLineEdit* m_documentId = nullptr;

@@ -4,6 +4,7 @@
 #include "registration/CategoryFields.h"
 #include "registration/ValueConversions.h"
 #include "store/Store.h"
+#include "store/engine/Value.h"
 
 namespace kartella {
 
@@ -74,7 +75,10 @@ QString makeRegIndex(const QVariant& category, const QDate& today)
         number = leadingInteger16(option("TodayNumber"));
     }
 
-    const QVariant mnemonic = categoryField(toLong(category), QStringLiteral("Mnemonic"));
+    // With no category chosen yet the index simply has no mnemonic.
+    const bool noCategory = isNull(category) || category.toString().isEmpty();
+    const QVariant mnemonic
+        = noCategory ? QVariant() : categoryField(toLong(category), QStringLiteral("Mnemonic"));
     return compose(nullToDefault(mnemonic, QString()).toString(), date, QString::number(number));
 }
 

@@ -13,9 +13,9 @@ namespace kartella {
 // Date and TodayNumber, read at each call. Failed conversions and lookups throw
 // kartella::Error (13 type mismatch, 6 overflow, 3021 no such category).
 
-// The proposal for a category (a KategID, or empty text or Null when none is chosen).
-// Empty text when AutoRegIndex is off. When the stored Date isn't today the day's count
-// restarts (resetTodayNumber) before anything else can fail; nothing else is written.
+// The proposal for a category (a KategID, or empty text or Null when none is chosen: then
+// the index has no mnemonic). Empty text when AutoRegIndex is off. When the stored Date isn't today the day's
+// count restarts (resetTodayNumber) before anything else can fail; nothing else is written.
 QString makeRegIndex(const QVariant& category, const QDate& today = Clock::currentDate());
 
 // The date part in one of six styles: 1 yyyymmdd, 2 mmddyyyy, 3 ddmmyyyy, 4 yymmdd,

@@ -1,7 +1,9 @@
 #include "support/EnterAsTab.h"
 
+#include <QApplication>
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QPushButton>
 #include <QWidget>
 
 namespace kartella {
@@ -72,6 +74,13 @@ bool EnterAsTab::eventFilter(QObject* watched, QEvent* event)
         if (handler != m_enter.cend()) {
             const std::function<void()> run = handler.value();
             run();
+            return true;
+        }
+        // A focused button leaves Enter to its window: here it reaches the dialog, and
+        // the button is pressed.
+        auto* button = qobject_cast<QPushButton*>(QApplication::focusWidget());
+        if (watched == m_dialog && button && button->window() == m_dialog && button->isEnabled()) {
+            button->click();
             return true;
         }
     } else if (key->key() == Qt::Key_Escape && watched == m_dialog && m_escape) {

@@ -11,8 +11,8 @@ namespace kartella {
 
 // The keyboard of a data dialog: Enter in a watched box moves on to the next control as
 // Tab would (the Enter itself is dropped), a widget may take Enter for a handler of its
-// own (a grid moving to its next cell), and Esc anywhere in the dialog may go to a handler
-// that asks before closing.
+// own (a grid moving to its next cell), Enter on a focused button presses it, and Esc
+// anywhere in the dialog may go to a handler that asks before closing.
 //
 //     auto* keys = new EnterAsTab(this);
 //     keys->Watch(txtDescription);

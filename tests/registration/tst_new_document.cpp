@@ -15,6 +15,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
+#include <QLocale>
 #include <QMimeDatabase>
 #include <QPlainTextEdit>
 #include <QProcess>
@@ -101,7 +102,7 @@ private Q_SLOTS:
 
     // Each creating button makes its file from the category's template in the category's
     // folder, shows it, and fills the Location box; pressed again it does nothing. The row
-    // follows only with OK; Cancel leaves the file.
+    // follows only with OK; Cancel takes the file back.
     void createsFromTemplates_data()
     {
         QTest::addColumn<QString>("button");
@@ -150,8 +151,10 @@ private Q_SLOTS:
         QCOMPARE(fx.suite.calls.size(), 1);
         QVERIFY(fx.prompter.prompts().isEmpty());
 
+        if (!ok)
+            fx.prompter.answer(MsgBoxResult::Yes);
         d.click(ok ? "cmdOK" : "cmdCancel");
-        QVERIFY(QFile::exists(path));
+        QCOMPARE(QFile::exists(path), ok);
         QCOMPARE(fx.documents(), ok ? 1 : 0);
         QCOMPARE(getRegValue("TodayNumber"), ok ? "2" : "1");
         if (ok) {
@@ -309,41 +312,126 @@ private Q_SLOTS:
             QVERIFY2(d.dialog.findChild<QPushButton*>(name)->isEnabled(), qPrintable(name));
     }
 
-    // With no category chosen in the tree: with AutoRegIndex on the load stops at the index
-    // (no index, dates, direction or grid columns, and no index later either); off, it goes
-    // through.
-    void noCurrentCategory_data()
+    // Closing without OK after a creating button made the file asks first; Yes deletes the
+    // file and stores nothing, No keeps the dialog and the file for OK. A file attached with
+    // Add Existing is the user's own: no question, and it stays.
+    void closingTakesBackTheMadeFile_data()
     {
-        QTest::addColumn<bool>("autoIndex");
-        QTest::newRow("AutoRegIndex on") << true;
-        QTest::newRow("AutoRegIndex off") << false;
+        QTest::addColumn<QString>("close");
+        QTest::addColumn<bool>("made");
+        QTest::addColumn<int>("answer");
+        QTest::newRow("Esc, Yes") << "Esc" << true << int(MsgBoxResult::Yes);
+        QTest::newRow("Esc, No") << "Esc" << true << int(MsgBoxResult::No);
+        QTest::newRow("Cancel, Yes") << "Cancel" << true << int(MsgBoxResult::Yes);
+        QTest::newRow("window closed, No") << "close" << true << int(MsgBoxResult::No);
+        QTest::newRow("attached, Esc") << "Esc" << false << 0;
     }
 
-    void noCurrentCategory()
+    void closingTakesBackTheMadeFile()
     {
-        QFETCH(bool, autoIndex);
+        QFETCH(QString, close);
+        QFETCH(bool, made);
+        QFETCH(int, answer);
         Fixture fx;
-        selection().currentCategoryId = 0;
-        setRegValue("AutoRegIndex", autoIndex ? "1" : "0");
+        ScriptedOfficeSuite scripted;
+        const QString other = fx.files.filePath("other.pdf");
+        QFile(other).open(QIODevice::WriteOnly);
         Dialog d;
-        QCOMPARE(d.dialog.indexProposed(), !autoIndex);
-        QCOMPARE(d.box(3)->text(), QString());
-        QCOMPARE(d.box(1)->text().isEmpty(), autoIndex);
-        QCOMPARE(d.dialog.findChild<QRadioButton*>("Option_1")->isChecked(), !autoIndex);
-        QAbstractItemModel* reminders = d.grid()->model();
-        QCOMPARE(reminders->headerData(1, Qt::Horizontal).toString(), autoIndex ? "TicklerDate" : "Date");
-        QCOMPARE(d.grid()->isColumnHidden(0), !autoIndex);
+        d.type(4, "Yard");
+        QString path = other;
+        if (made) {
+            d.click("cmdWord");
+            QCOMPARE(scripted.made.size(), 1);
+            path = scripted.made.first().target;
+        } else {
+            fx.prompter.answerFile(other);
+            d.click("cmdAddExisting");
+        }
+        QCOMPARE(d.box(5)->text(), path);
+        QVERIFY(QFile::exists(path));
+        if (answer)
+            fx.prompter.answer(answer);
+        if (close == "Esc")
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        else if (close == "Cancel")
+            d.click("cmdCancel");
+        else
+            d.dialog.close();
+        QVERIFY(fx.prompter.allAnswered());
+        const auto prompts = fx.prompter.take();
+        QCOMPARE(prompts.size(), answer ? 1 : 0);
+        if (answer) {
+            QCOMPARE(prompts[0].text,
+                "Discard the new document and delete the file \"" + path + "\" made for it?");
+            QCOMPARE(prompts[0].title, "New Document");
+            QCOMPARE(prompts[0].style, MsgBoxStyle::YesNo | MsgBoxStyle::Question);
+        }
+        const bool kept = answer == MsgBoxResult::No;
+        QCOMPARE(d.dialog.isVisible(), kept);
+        QCOMPARE(QFile::exists(path), kept || !made);
+        QVERIFY(QFile::exists(other));
+        QCOMPARE(fx.documents(), 0);
+        QCOMPARE(getRegValue("TodayNumber"), "1");
+        if (!kept)
+            return;
+        d.click("cmdOK");
+        QVERIFY(!d.dialog.isVisible());
+        QCOMPARE(fx.stored("RastoKel").toString(), path);
+        QVERIFY(QFile::exists(path));
+    }
+
+    // Opened from the root of the tree, or with an index that can't be proposed: the dialog
+    // opens with its dates, direction and grid, the index where one can be made, and choosing
+    // a category then proposes anew. "D" stands for today's date in the index.
+    void opensWithoutCategory_data()
+    {
+        QTest::addColumn<bool>("goneCategory");
+        QTest::addColumn<QString>("option");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("indexAtOpen");
+        QTest::addColumn<QString>("indexAfterChoice");
+        QTest::newRow("root") << false << QString() << QString() << "D/1"
+                              << "AGR-D/1";
+        QTest::newRow("root, AutoRegIndex off") << false << "AutoRegIndex"
+                                                << "0" << QString() << QString();
+        QTest::newRow("category deleted meanwhile")
+            << true << QString() << QString() << QString() << "AGR-D/1";
+        QTest::newRow("Date unreadable") << false << "Date"
+                                         << "yesterday" << QString() << QString();
+    }
+
+    void opensWithoutCategory()
+    {
+        QFETCH(bool, goneCategory);
+        QFETCH(QString, option);
+        QFETCH(QString, value);
+        QFETCH(QString, indexAtOpen);
+        QFETCH(QString, indexAfterChoice);
+        Fixture fx;
+        selection().currentCategoryId = goneCategory ? 999 : 0;
+        if (!option.isEmpty())
+            setRegValue(option, value);
+        const QString date = today("yyyyMMdd");
+        Dialog d;
+        QVERIFY(d.dialog.indexProposed());
+        QCOMPARE(d.box(3)->text(), indexAtOpen.replace("D", date));
+        const QString todayText = QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat);
+        QCOMPARE(d.box(1)->text(), todayText);
+        QCOMPARE(d.box(2)->text(), todayText);
+        QVERIFY(d.dialog.findChild<QRadioButton*>("Option_1")->isChecked());
+        QCOMPARE(d.grid()->model()->headerData(1, Qt::Horizontal).toString(), "Date");
+        QVERIFY(d.grid()->isColumnHidden(0));
 
         d.choose("cmbCategory", 'C');
         QCOMPARE(d.combo("cmbCategory")->currentText(), "Contracts");
         QCOMPARE(d.combo("cmbSubCategory")->count(), 1);
-        QCOMPARE(d.box(3)->text(), QString());
+        QCOMPARE(d.box(3)->text(), indexAfterChoice.replace("D", date));
         d.click("cmdOK");
         QCOMPARE(fx.documents(), 1);
         QCOMPARE(fx.stored("KategID").toInt(), fx.contracts);
-        QCOMPARE(fx.stored("KryptisID").isNull(), autoIndex);
-        QCOMPARE(fx.stored("DokRegistracData").isNull(), autoIndex);
-        QCOMPARE(getRegValue("TodayNumber"), "2");
+        QCOMPARE(fx.stored("KryptisID").toInt(), 1);
+        QCOMPARE(fx.stored("DokRegistracData").toDate(), QDate::currentDate());
+        QCOMPARE(fx.stored("DokRegistracIndeksas").toString(), indexAfterChoice);
     }
 };
 

@@ -196,8 +196,6 @@ private Q_SLOTS:
             QTest::newRow(tag) << QString(option) << QString(value) << category << error;
         };
         const QVariant known = QString("known");
-        row("empty category", "", "", QString(""), 13);
-        row("Null category", "", "", QVariant(), 13);
         row("category not a number", "", "", QString("Sutartys"), 13);
         row("category out of range", "", "", QString("3000000000"), 6);
         row("no such category", "", "", 999, 3021);
@@ -224,6 +222,19 @@ private Q_SLOTS:
         QCOMPARE(errorOf([&] { makeRegIndex(categoryArgument(category, known), today); }), error);
         QCOMPARE(getRegValue("TodayNumber"), option == "TodayNumber" ? value : QString("7"));
         QCOMPARE(getRegValue("Date"), option == "Date" ? value : QString("2024 03 05"));
+    }
+
+    // With no category chosen (New Document from the root of the tree) the index has no
+    // mnemonic, and the day's count works as with one.
+    void regIndexWithoutCategory()
+    {
+        TestRegister reg;
+        setExampleOptions();
+        QCOMPARE(makeRegIndex(QString(), today), QString("20240305/7"));
+        QCOMPARE(makeRegIndex(QVariant(), today), QString("20240305/7"));
+        setRegValue("Date", QString("2024 03 04"));
+        QCOMPARE(makeRegIndex(QString(), today), QString("20240305/1"));
+        QCOMPARE(getRegValue("TodayNumber"), QString("1"));
     }
 
     void regIndexOffLooksAtNothingElse()
