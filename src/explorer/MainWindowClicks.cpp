@@ -124,14 +124,14 @@ void MainWindow::onNodeClicked(QTreeWidgetItem* node)
 
 MainWindow::KeptSelection MainWindow::keptSelection() const
 {
+    // The documents the commands act on, which are those highlighted.
     KeptSelection kept;
-    const int document = m_documents->selectedRow();
-    if (document >= 0)
-        kept.document = m_documentModel->item(document).key;
-    const int related = m_related->isVisible() ? m_related->selectedRow() : -1;
-    if (related >= 0)
-        kept.related = m_relatedModel->item(related).key;
+    if (m_state.activeListName.isEmpty() || m_state.selectedDocumentId == 0)
+        return kept;
+    kept.document = DocumentFills::itemKey(m_state.selectedDocumentId);
     kept.relatedActive = m_state.activeListName == QLatin1String("ListSusieti");
+    if (kept.relatedActive && m_state.selectedSubDocumentId != 0)
+        kept.related = DocumentFills::itemKey(m_state.selectedSubDocumentId);
     return kept;
 }
 
