@@ -52,14 +52,15 @@ qint32 DocumentFills::idOfKey(const QString& key)
 void DocumentFills::setDocumentColumns()
 {
     m_model.setColumns({{QStringLiteral("Doc. description"), 2000}, {QStringLiteral("Reg.index"), 1300},
-        {QStringLiteral("Sender/Receiver"), 1800}, {QStringLiteral("Date"), 1500},
+        {QStringLiteral("Sender/Receiver"), 1800}, {QStringLiteral("Date"), 1500, true},
         {QStringLiteral("Notes"), 2000}});
 }
 
 void DocumentFills::setContactColumns()
 {
     m_model.setColumns({{QStringLiteral("Doc. description"), 2000}, {QStringLiteral("Reg.index"), 1300},
-        {QStringLiteral("Category"), 1800}, {QStringLiteral("Date"), 1500}, {QStringLiteral("Notes"), 2000}});
+        {QStringLiteral("Category"), 1800}, {QStringLiteral("Date"), 1500, true},
+        {QStringLiteral("Notes"), 2000}});
 }
 
 void DocumentFills::showEmptyList()
@@ -178,7 +179,10 @@ std::vector<ListItem> DocumentFills::documentRows(Recordset& rs, Mode mode, qint
         } else {
             item.subItems[1] = displayText(rs.rowValue(row, nameColumn));
         }
-        item.subItems[2] = dateText(rs.rowValue(row, dateColumn));
+        const QVariant date = rs.rowValue(row, dateColumn);
+        item.subItems[2] = dateText(date);
+        if (date.typeId() == QMetaType::QDate || date.typeId() == QMetaType::QDateTime)
+            item.date = date.toDate();
         item.subItems[3] = displayText(rs.rowValue(row, notesColumn));
         item.key = itemKey(rs.rowValue(row, idColumn).toInt());
         item.tagIsNull = isNull(path);

@@ -1,6 +1,7 @@
 #include "explorer/ExplorerList.h"
 
 #include "explorer/ListModel.h"
+#include "options/OptionStore.h"
 #include "support/ColumnWidths.h"
 
 #include <QContextMenuEvent>
@@ -8,6 +9,7 @@
 #include <QDragEnterEvent>
 #include <QHeaderView>
 #include <QItemSelectionModel>
+#include <QKeyEvent>
 #include <QListView>
 #include <QMimeData>
 #include <QMouseEvent>
@@ -70,6 +72,8 @@ ExplorerList::ExplorerList(ListModel* model, QWidget* parent)
     connect(model, &ListModel::columnsReplaced, this, &ExplorerList::applyColumnWidths);
     // A reset drops the selection without a word: say so.
     connect(model, &QAbstractItemModel::modelReset, this, &ExplorerList::onSelectionChanged);
+    connect(model, &QAbstractItemModel::modelReset, this, &ExplorerList::showSortIndicator);
+    connect(model, &ListModel::sortChanged, this, &ExplorerList::storeSort);
     m_stack->setCurrentWidget(m_details);
     setFocusProxy(m_details);
 }
@@ -157,6 +161,42 @@ void ExplorerList::rememberColumnWidths(const QString& optionName)
     m_userWidths = ColumnWidths::attach(m_details->header(), optionName);
 }
 
+void ExplorerList::rememberSort(const QString& optionName)
+{
+    m_sortOption = optionName;
+    // "column,order": the column from 0, the order 0 ascending or 1 descending.
+    const QStringList stored = readRegValue(Hive::CurrentUser, optionsKeyPath(), optionName, {}).split(u',');
+    bool columnRead = false;
+    bool orderRead = false;
+    const int column = stored.value(0).toInt(&columnRead);
+    const int order = stored.value(1).toInt(&orderRead);
+    if (stored.size() != 2 || !columnRead || !orderRead || column < 0 || (order != 0 && order != 1))
+        return;
+    // The columns may come later: the model keeps the sort for them.
+    const QSignalBlocker quiet(m_model);
+    m_model->setSort(column, order == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
+    showSortIndicator();
+}
+
+void ExplorerList::storeSort()
+{
+    if (m_sortOption.isEmpty() || !m_model->isSorted())
+        return;
+    writeRegValue(Hive::CurrentUser, optionsKeyPath(), m_sortOption,
+        QStringLiteral("%1,%2")
+            .arg(m_model->sortKey())
+            .arg(m_model->sortOrder() == Qt::AscendingOrder ? 0 : 1));
+}
+
+void ExplorerList::showSortIndicator()
+{
+    QHeaderView* header = m_details->header();
+    const bool shown = m_model->isSorted() && m_model->sortKey() < m_model->columnCount();
+    header->setSortIndicatorShown(shown);
+    if (shown)
+        header->setSortIndicator(m_model->sortKey(), m_model->sortOrder());
+}
+
 void ExplorerList::setAcceptFileDrops(bool accept)
 {
     m_acceptDrops = accept;
@@ -198,11 +238,26 @@ bool ExplorerList::eventFilter(QObject* watched, QEvent* event)
     switch (event->type()) {
     case QEvent::MouseButtonPress: {
         auto* mouse = static_cast<QMouseEvent*>(event);
-        Q_EMIT pressed(mouse->button(), mouse->globalPosition().toPoint());
-        // The right button selects nothing: the menu acts on the item last clicked.
-        if (mouse->button() == Qt::RightButton)
+        if (mouse->button() == Qt::RightButton) {
+            // The menu acts on the row under the pointer; beside the rows, on the one highlighted.
+            const QModelIndex under = currentView()->indexAt(mouse->position().toPoint());
+            if (watched == currentView()->viewport() && under.isValid() && under.row() != selectedRow())
+                selectRow(under.row());
+            Q_EMIT pressed(mouse->button(), mouse->globalPosition().toPoint());
             return true;
+        }
+        Q_EMIT pressed(mouse->button(), mouse->globalPosition().toPoint());
         m_movedSincePress = false;
+        break;
+    }
+    case QEvent::KeyPress: {
+        // Enter opens the highlighted row, as a double click does.
+        auto* key = static_cast<QKeyEvent*>(event);
+        const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+        if (enter && (key->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier && selectedRow() >= 0) {
+            Q_EMIT doubleClickedItem(selectedRow());
+            return true;
+        }
         break;
     }
     case QEvent::ContextMenu: {

@@ -39,6 +39,9 @@ public:
     // Remembers the widths the user gives the details view's columns in the option
     // optionName, across runs; the last column then takes the rest of the list's width.
     void rememberColumnWidths(const QString& optionName);
+    // Remembers the list's sort (column and order) in the option optionName, across runs,
+    // and gives the list the sort stored there.
+    void rememberSort(const QString& optionName);
     // Whether files dropped on the list are taken (emitted as filesDropped).
     void setAcceptFileDrops(bool accept);
     // Whether an item's file can be dragged out of the list.
@@ -56,10 +59,12 @@ Q_SIGNALS:
     void itemClicked(int row);
     // No item is highlighted any more (after a fill, for one).
     void highlightCleared();
+    // A row was double-clicked, or Enter was pressed on the highlighted one.
     void doubleClickedItem(int row);
     // A column header was clicked (0-based position).
     void columnClicked(int column);
-    // A mouse button went down over the list (Qt button, position on screen).
+    // A mouse button went down over the list (Qt button, position on screen); the right
+    // button first highlights the row under it.
     void pressed(Qt::MouseButton button, const QPoint& globalPos);
     void filesDropped(const QStringList& paths);
     // A drag of the selected item's file is starting: the receiver gives the file to offer.
@@ -71,6 +76,9 @@ protected:
 private:
     void onSelectionChanged();
     void onClicked(const QModelIndex& index);
+    // The header's arrow shows the model's sort.
+    void showSortIndicator();
+    void storeSort();
 
     ListModel* m_model;
     QStackedLayout* m_stack;
@@ -78,6 +86,7 @@ private:
     QListView* m_icons;
     QItemSelectionModel* m_selection;
     ColumnWidths* m_userWidths = nullptr;
+    QString m_sortOption;
     int m_view = Report;
     bool m_acceptDrops = false;
     // Whether the selection moved since the last mouse press.

@@ -87,6 +87,7 @@ void ListModel::setSort(int column, Qt::SortOrder order)
     m_sorted = true;
     applySort();
     endResetModel();
+    Q_EMIT sortChanged();
 }
 
 const QString& ListModel::columnText(const ListItem& item, int column)
@@ -105,6 +106,13 @@ void ListModel::applySort()
         return;
     const int column = m_sortKey;
     const bool ascending = m_sortOrder == Qt::AscendingOrder;
+    if (m_columns[column].dates) {
+        // A null date is less than any other.
+        std::stable_sort(m_items.begin(), m_items.end(), [ascending](const ListItem& a, const ListItem& b) {
+            return ascending ? a.date < b.date : b.date < a.date;
+        });
+        return;
+    }
     std::stable_sort(
         m_items.begin(), m_items.end(), [column, ascending](const ListItem& a, const ListItem& b) {
             // The order of the register's names: Lithuanian letters beside their base letters.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QDate>
 #include <QIcon>
 
 #include <array>
@@ -15,10 +16,13 @@ struct ListColumn
 {
     QString caption;
     int widthTwips = 1500;
+    // The column shows the row's date: it sorts by ListItem::date, not by its text.
+    bool dates = false;
 };
 
 // One row of a list view: its text (first column), the texts of the other columns,
-// a key, a tag (the file's path; null when the row has none) and the key of its icon.
+// a key, a tag (the file's path; null when the row has none), the key of its icon and the
+// date a column of dates shows (null when the row has none).
 struct ListItem
 {
     QString text;
@@ -27,11 +31,13 @@ struct ListItem
     QString tag;
     bool tagIsNull = true;
     QString iconKey;
+    QDate date;
 };
 
 // The rows and columns of one explorer list. The sort (key, order, whether sorted) is
 // the list's own and stays in force across refills; sorting compares the columns' text
-// in the order of the register's names (case and Lithuanian letters folded).
+// in the order of the register's names (case and Lithuanian letters folded), and a column
+// of dates by the dates, rows without one first.
 class ListModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -79,6 +85,8 @@ public:
 Q_SIGNALS:
     // setColumns replaced the columns (their widths are the model's again).
     void columnsReplaced();
+    // setSort gave the list another sort key or order.
+    void sortChanged();
 
 private:
     void applySort();

@@ -104,6 +104,8 @@ void MainWindow::buildWindow()
     // The search results show in the document list, in its columns and widths.
     m_documents->rememberColumnWidths(QStringLiteral("DocumentListColumns"));
     m_related->rememberColumnWidths(QStringLiteral("RelatedListColumns"));
+    m_documents->rememberSort(QStringLiteral("DocumentListSort"));
+    m_related->rememberSort(QStringLiteral("RelatedListSort"));
 
     m_listSplit = new QSplitter(Qt::Vertical, this);
     m_listSplit->setObjectName(QStringLiteral("splitLists"));
@@ -134,7 +136,7 @@ void MainWindow::buildWindow()
 
     // The three gaps: tree and lists side by side, the document list over the related one.
     m_splitters[0] = new Splitter(this);
-    m_splitters[0]->create(m_mainSplit, true, 0, 30);
+    m_splitters[0]->create(m_mainSplit, true, 0, storedTreeSplit(30));
     m_splitters[1] = new Splitter(this);
     m_splitters[1]->create(m_listSplit, false, 0, 80);
 
@@ -143,6 +145,7 @@ void MainWindow::buildWindow()
     buildPopups();
     m_reminders = new RemindersCommand(this);
     registerDialogs();
+    restoreLayout();
 
     connect(m_tree, &NavigationTree::nodeClicked, this, &MainWindow::onNodeClicked);
     connect(m_tree, &NavigationTree::pressed, this, &MainWindow::onTreePressed);
@@ -231,6 +234,7 @@ void MainWindow::load()
     m_state.currentNodeKind = QStringLiteral("a");
     m_categoryView = true;
     m_lastNodeIndex = 1;
+    m_lastNodeKey = QStringLiteral("ALL");
     // 7. The direction box's click makes the first fill.
     m_direction->setCurrentIndex(0);
     if (!refused)
@@ -246,7 +250,11 @@ void MainWindow::load()
             openSettings();
         return;
     }
-    fillCategoryTree();
+    // The tree as the user last left it.
+    if (storedContactView())
+        switchView(false);
+    else
+        fillCategoryTree();
     m_reminders->showAtStart();
 }
 
@@ -330,6 +338,7 @@ void MainWindow::reportConnectionError(long number, const QString& description)
 
 void MainWindow::listCategory(qint32 category, int direction)
 {
+    m_refill = [this, category, direction] { listCategory(category, direction); };
     runFill([&] {
         m_fills->fillDocumentList(
             categoryListSql(category, direction, filterOptionOn(), m_startDate->date(), m_endDate->date()));
@@ -338,6 +347,7 @@ void MainWindow::listCategory(qint32 category, int direction)
 
 void MainWindow::listCategoryWithinDates(qint32 category, int direction)
 {
+    m_refill = [this, category, direction] { listCategoryWithinDates(category, direction); };
     runFill([&] {
         m_fills->fillDocumentList(
             categoryDatedListSql(category, direction, m_startDate->date(), m_endDate->date()));
@@ -346,6 +356,8 @@ void MainWindow::listCategoryWithinDates(qint32 category, int direction)
 
 void MainWindow::listSubCategory(qint32 category, qint32 subCategory, int direction)
 {
+    m_refill
+        = [this, category, subCategory, direction] { listSubCategory(category, subCategory, direction); };
     runFill([&] {
         m_fills->fillDocumentList(subCategoryListSql(
             category, subCategory, direction, filterOptionOn(), m_startDate->date(), m_endDate->date()));
@@ -354,6 +366,9 @@ void MainWindow::listSubCategory(qint32 category, qint32 subCategory, int direct
 
 void MainWindow::listSubCategoryWithinDates(qint32 category, qint32 subCategory, int direction)
 {
+    m_refill = [this, category, subCategory, direction] {
+        listSubCategoryWithinDates(category, subCategory, direction);
+    };
     runFill([&] {
         m_fills->fillDocumentList(subCategoryDatedListSql(
             category, subCategory, direction, m_startDate->date(), m_endDate->date()));
@@ -362,6 +377,7 @@ void MainWindow::listSubCategoryWithinDates(qint32 category, qint32 subCategory,
 
 void MainWindow::listByLetter(qint16 letterCode, int direction)
 {
+    m_refill = [this, letterCode, direction] { listByLetter(letterCode, direction); };
     runFill([&] {
         m_fills->fillLetterList(
             contactDocumentSql(direction, filterOptionOn(), m_startDate->date(), m_endDate->date()),
@@ -371,6 +387,7 @@ void MainWindow::listByLetter(qint16 letterCode, int direction)
 
 void MainWindow::listByContact(int direction)
 {
+    m_refill = [this, direction] { listByContact(direction); };
     runFill([&] {
         m_fills->fillContactDocumentList(
             contactDocumentSql(direction, filterOptionOn(), m_startDate->date(), m_endDate->date()));
@@ -379,6 +396,7 @@ void MainWindow::listByContact(int direction)
 
 void MainWindow::listByLetterWithinDates(qint16 letterCode, int direction)
 {
+    m_refill = [this, letterCode, direction] { listByLetterWithinDates(letterCode, direction); };
     runFill([&] {
         m_fills->fillLetterList(
             contactDatedDocumentSql(direction, m_startDate->date(), m_endDate->date()), letterCode);
@@ -387,6 +405,7 @@ void MainWindow::listByLetterWithinDates(qint16 letterCode, int direction)
 
 void MainWindow::listByContactWithinDates(int direction)
 {
+    m_refill = [this, direction] { listByContactWithinDates(direction); };
     runFill([&] {
         m_fills->fillContactDocumentList(
             contactDatedDocumentSql(direction, m_startDate->date(), m_endDate->date()));

@@ -17,6 +17,7 @@ class QTreeWidgetItem;
 
 namespace kartella {
 
+class Connection;
 class Splitter;
 class DocumentFills;
 class ExplorerList;
@@ -42,7 +43,7 @@ public:
 
     // True: the tree shows categories; false: contacts.
     bool isCategoryView() const { return m_categoryView; }
-    // Index of the tree node last handled; a click on a node of that index does nothing.
+    // Index of the tree node last handled; a click on a node of that index fills its list again.
     int lastNodeIndex() const { return m_lastNodeIndex; }
     // Sets the tree's view without filling it and forgets the node last handled.
     void setCategoryView(bool categories)
@@ -144,6 +145,10 @@ public Q_SLOTS:
     void refresh();
     void editCategory();
 
+    // Fills the list shown again (a node's or a search's) and highlights again the documents
+    // that were highlighted, where they still are.
+    void refillList();
+
     void openDocumentFile(const QString& path, const QString& verb);
     void deleteDocument();
     void deleteCategory();
@@ -160,6 +165,7 @@ public Q_SLOTS:
 
 protected:
     QToolBar* band() const { return m_band; }
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     void buildWindow();
@@ -174,12 +180,43 @@ private:
     QAction* addCommand(QMenu* menu, const QString& name, const QString& caption, void (MainWindow::*slot)(),
         const QKeySequence& shortcut = {}, const QString& dialog = {});
     void setView(int view);
+    // The document menu's entries, enabled as their File menu commands are.
+    void enablePopupCommands();
     void switchView(bool categories);
     void sortColumn(ExplorerList* list, int column);
     void setCommandEnabled(const QString& name, bool enabled);
     void setToolbarEnabled(std::initializer_list<int> positions, bool enabled);
     void openDialog(const QString& name, const QString& droppedFile = {});
     void reloadAfterDelete();
+    void deleteMainDocument(Connection& connection);
+    void deleteRelatedDocument(Connection& connection);
+    bool confirmDeletion(const QString& question);
+    // Moves path to the trash unless a document other than those of leaving (a related
+    // document other than the selected one, when leaving is empty) names it too; says why
+    // when it can't.
+    bool trashFileOf(Connection& connection, const QString& path, const QList<qint32>& leaving);
+    // The keys of the documents highlighted in the two lists, and which list was acted on.
+    struct KeptSelection
+    {
+        QString document;
+        QString related;
+        bool relatedActive = false;
+    };
+    KeptSelection keptSelection() const;
+    void restoreSelection(const KeptSelection& kept);
+    // After the tree was built again: its node last clicked is selected and its list filled
+    // again; a node that is gone gives way to its category, else to the root.
+    void showNodeAgain();
+    // The window's layout between runs (MainWindowLayout.cpp): size, place, split, view,
+    // tree mode; the sorts are the lists' own.
+    void restoreLayout();
+    void storeLayout();
+    void storeView();
+    void storeTreeView();
+    // The tree's share of the width as stored, else fallback.
+    static int storedTreeSplit(int fallback);
+    // Whether the tree showed contacts when the program last ended.
+    static bool storedContactView();
     // Empties the lists, the selection, the caption, the count and the reminders of the
     // register shown, before the tree of the register at location is built.
     void leaveRegister(const QString& location);
@@ -199,6 +236,9 @@ private:
     SelectionState& m_state;
     bool m_categoryView = true;
     int m_lastNodeIndex = 0;
+    QString m_lastNodeKey;
+    // Runs the fill that made the document list, again.
+    std::function<void()> m_refill;
     QToolBar* m_band = nullptr;
     QComboBox* m_direction = nullptr;
     QDateEdit* m_startDate = nullptr;

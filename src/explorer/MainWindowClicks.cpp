@@ -76,9 +76,12 @@ void MainWindow::onNodeClicked(QTreeWidgetItem* node)
     if (leaveSearch())
         m_lastNodeIndex = 0;
     const int index = NavigationTree::nodeIndex(node);
-    if (index == m_lastNodeIndex)
+    if (index == m_lastNodeIndex) {
+        refillList();
         return;
+    }
     const QString key = NavigationTree::nodeKey(node);
+    m_lastNodeKey = key;
     if (key.compare(QLatin1String("ALL"), Qt::CaseInsensitive) == 0) {
         listCategory(0, direction());
         m_lastNodeIndex = index;
@@ -117,6 +120,67 @@ void MainWindow::onNodeClicked(QTreeWidgetItem* node)
     m_state.selectedDocumentId = 0;
     disableDocumentCommands();
     fillRelatedList();
+}
+
+MainWindow::KeptSelection MainWindow::keptSelection() const
+{
+    // The documents the commands act on, which are those highlighted.
+    KeptSelection kept;
+    if (m_state.activeListName.isEmpty() || m_state.selectedDocumentId == 0)
+        return kept;
+    kept.document = DocumentFills::itemKey(m_state.selectedDocumentId);
+    kept.relatedActive = m_state.activeListName == QLatin1String("ListSusieti");
+    if (kept.relatedActive && m_state.selectedSubDocumentId != 0)
+        kept.related = DocumentFills::itemKey(m_state.selectedSubDocumentId);
+    return kept;
+}
+
+void MainWindow::restoreSelection(const KeptSelection& kept)
+{
+    const int document = kept.document.isEmpty() ? -1 : m_documentModel->rowOfKey(kept.document);
+    if (document < 0)
+        return;
+    // The highlight fills the related list of the document again.
+    m_documents->selectRow(document);
+    m_documents->scrollToSelected();
+    const int related = kept.related.isEmpty() ? -1 : m_relatedModel->rowOfKey(kept.related);
+    if (related >= 0 && kept.relatedActive)
+        m_related->selectRow(related);
+}
+
+void MainWindow::refillList()
+{
+    const KeptSelection kept = keptSelection();
+    if (!refillSearch()) {
+        if (!m_refill)
+            return;
+        m_refill();
+    }
+    restoreSelection(kept);
+    if (m_documents->selectedRow() < 0)
+        fillRelatedList();
+}
+
+void MainWindow::showNodeAgain()
+{
+    QTreeWidgetItem* node = m_tree->nodeByKey(m_lastNodeKey);
+    if (node) {
+        m_tree->selectNode(node);
+        m_lastNodeIndex = NavigationTree::nodeIndex(node);
+        refillList();
+        return;
+    }
+    if (m_categoryView && m_lastNodeKey.startsWith(u'b'))
+        node = m_tree->nodeByKey(QStringLiteral("a") + QString::number(m_state.currentCategoryId));
+    if (!node)
+        node = m_tree->nodeByKey(QStringLiteral("ALL"));
+    if (!node)
+        return;
+    const KeptSelection kept = keptSelection();
+    m_tree->selectNode(node);
+    m_lastNodeIndex = 0;
+    onNodeClicked(node);
+    restoreSelection(kept);
 }
 
 void MainWindow::onDocumentClicked(int row)

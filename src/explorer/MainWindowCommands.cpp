@@ -152,8 +152,12 @@ void MainWindow::refresh()
     else
         fillContactTree();
     // Counted once the new register has opened: one that can't be opened is waited for once.
-    if (newRegister && m_tree->nodeCount() > 0)
-        m_reminders->recount();
+    if (newRegister) {
+        if (m_tree->nodeCount() > 0)
+            m_reminders->recount();
+        return;
+    }
+    showNodeAgain();
 }
 
 void MainWindow::leaveRegister(const QString& location)
@@ -176,6 +180,8 @@ void MainWindow::leaveRegister(const QString& location)
     m_state.currentLetterCode = 0;
     // Any click on the new tree acts, the root's too.
     m_lastNodeIndex = 0;
+    m_lastNodeKey = QStringLiteral("ALL");
+    m_refill = nullptr;
     disableDocumentCommands();
     setCommandEnabled(QStringLiteral("mnuCategoryOptions"), false);
     setCommandEnabled(QStringLiteral("mnuDeleteCategory"), false);
@@ -201,24 +207,25 @@ void MainWindow::switchView(bool categories)
     action(QStringLiteral("mnuByContacts"))->setChecked(!categories);
     m_tree->clearNodes();
     m_categoryView = categories;
-    // Any click after a switch acts, the root's too.
-    m_lastNodeIndex = 0;
+    storeTreeView();
     if (categories)
         fillCategoryTree();
     else
         fillContactTree();
+    // The list and the title follow the new tree's root, the highlighted document kept.
+    m_lastNodeKey = QStringLiteral("ALL");
+    if (QTreeWidgetItem* root = m_tree->nodeByKey(m_lastNodeKey)) {
+        const KeptSelection kept = keptSelection();
+        m_tree->selectNode(root);
+        m_lastNodeIndex = 0;
+        onNodeClicked(root);
+        restoreSelection(kept);
+    }
 }
 
 void MainWindow::reloadAfterDelete()
 {
-    if (refillSearch())
-        return;
-    if (m_state.currentNodeKind == QLatin1String("a"))
-        listCategory(m_state.currentCategoryId, direction());
-    else if (m_state.currentNodeKind == QLatin1String("b"))
-        listSubCategory(m_state.currentCategoryId, m_state.currentSubCategoryId, direction());
-    else
-        listCategory(0, 0);
+    refillList();
 }
 
 void MainWindow::deleteDocument()
@@ -232,67 +239,153 @@ void MainWindow::deleteDocument()
     try {
         Connection connection;
         connection.open(plainConnectionString());
-        Recordset children;
-        children.open(
-            QStringLiteral("SELECT tbl_Sub_Documents.*, tbl_Sub_Documents.RastasID FROM tbl_Sub_Documents "
-                           "WHERE tbl_Sub_Documents.RastasID=")
-                + QString::number(m_state.selectedDocumentId),
-            connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
-        const QString path = m_state.selectedFilePath;
-
-        if (sameName(active, RelatedListName)) {
-            // A related document goes only together with its file; without one the user hears why
-            // nothing happens.
-            if (path.isEmpty() || !QFileInfo::exists(path)) {
-                const QString why = path.isEmpty()
-                    ? QStringLiteral("This related document has no file. A related document is deleted "
-                                     "together with its file.")
-                    : QStringLiteral(
-                        "The file of this related document was not found:\n%1\nA related document "
-                        "is deleted together with its file.")
-                          .arg(QDir::toNativeSeparators(path));
-                msgBox(why, MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation,
-                    QStringLiteral("Unable to delete as requested"));
-                return;
-            }
-            if (shellDeleteFile(path)) {
-                connection.execute(deleteSubDocumentSql(m_state.selectedSubDocumentId));
-                fillRelatedList();
-            }
-            return;
-        }
-
-        if (children.eof()) {
-            const bool reachable = !path.isEmpty() && QFileInfo::exists(path);
-            if (!reachable || shellDeleteFile(path))
-                connection.execute(deleteDocumentSql(m_state.selectedDocumentId));
-            children.close();
-            connection.close();
-            reloadAfterDelete();
-            return;
-        }
-
-        if (msgBox(QStringLiteral("Do you wish to delete document and their subdocuments?"),
-                MsgBoxStyle::YesNo + MsgBoxStyle::Question, QStringLiteral("Confirm Deletion"))
-            != MsgBoxResult::Yes)
-            return;
-        // Each related document's row goes first, then its file; a file that stays is no matter.
-        while (!children.eof()) {
-            connection.execute(deleteSubDocumentSql(children.collect(QStringLiteral("SubRastasID")).toInt()));
-            const QVariant childPath = children.collect(QStringLiteral("SubRastoKelias"));
-            if (!isNull(childPath))
-                shellDeleteFile(childPath.toString());
-            children.moveNext();
-        }
-        connection.execute(deleteDocumentSql(m_state.selectedDocumentId));
-        shellDeleteFile(path);
-        IconCache::shared().clear();
-        if (!refillSearch())
-            listCategory(0, 0);
-        fillRelatedList();
+        if (sameName(active, RelatedListName))
+            deleteRelatedDocument(connection);
+        else
+            deleteMainDocument(connection);
     } catch (const Error& error) {
         msgBox(error.description());
     }
+}
+
+void MainWindow::deleteRelatedDocument(Connection& connection)
+{
+    // A related document goes only together with its file; without one the user hears why
+    // nothing happens.
+    const QString path = m_state.selectedFilePath;
+    if (path.isEmpty() || !QFileInfo::exists(path)) {
+        const QString why = path.isEmpty()
+            ? QStringLiteral("This related document has no file. A related document is deleted "
+                             "together with its file.")
+            : QStringLiteral("The file of this related document was not found:\n%1\nA related document "
+                             "is deleted together with its file.")
+                  .arg(QDir::toNativeSeparators(path));
+        msgBox(why, MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation,
+            QStringLiteral("Unable to delete as requested"));
+        return;
+    }
+    const qint32 id = m_state.selectedSubDocumentId;
+    Recordset row;
+    row.open(QStringLiteral("SELECT tbl_Sub_Documents.SubDocDescript FROM tbl_Sub_Documents WHERE "
+                            "tbl_Sub_Documents.SubRastasID=")
+            + QString::number(id),
+        connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
+    const QString description
+        = row.eof() ? m_state.selectedItemText : displayText(row.collect(QStringLiteral("SubDocDescript")));
+    row.close();
+    if (!confirmDeletion(QStringLiteral("Delete the related document \"%1\" and its file?").arg(description)))
+        return;
+    if (!trashFileOf(connection, path, {}))
+        return;
+    connection.execute(deleteSubDocumentSql(id));
+    IconCache::shared().clear();
+    refillList();
+}
+
+void MainWindow::deleteMainDocument(Connection& connection)
+{
+    const qint32 id = m_state.selectedDocumentId;
+    Recordset document;
+    document.open(QStringLiteral("SELECT tbl_Documents.DokAntraste, tbl_Documents.DokRegistracIndeksas, "
+                                 "tbl_Documents.RastoKel FROM tbl_Documents WHERE tbl_Documents.RastasID=")
+            + QString::number(id),
+        connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
+    if (document.eof()) {
+        // Another program deleted it: the list shows what is left.
+        document.close();
+        refillList();
+        return;
+    }
+    const QString description = displayText(document.collect(QStringLiteral("DokAntraste")));
+    const QString index = displayText(document.collect(QStringLiteral("DokRegistracIndeksas")));
+    const QVariant storedPath = document.collect(QStringLiteral("RastoKel"));
+    document.close();
+    const QString path = isNull(storedPath) ? QString() : storedPath.toString();
+
+    Recordset children;
+    children.open(
+        QStringLiteral("SELECT tbl_Sub_Documents.SubRastasID, tbl_Sub_Documents.SubRastoKelias FROM "
+                       "tbl_Sub_Documents WHERE tbl_Sub_Documents.RastasID=")
+            + QString::number(id),
+        connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
+    QList<qint32> childIds;
+    QStringList childPaths;
+    while (!children.eof()) {
+        childIds << children.collect(QStringLiteral("SubRastasID")).toInt();
+        const QVariant childPath = children.collect(QStringLiteral("SubRastoKelias"));
+        if (!isNull(childPath) && !childPath.toString().isEmpty())
+            childPaths << childPath.toString();
+        children.moveNext();
+    }
+    children.close();
+
+    const bool hasFile = !path.isEmpty() && QFileInfo::exists(path);
+    QString question = QStringLiteral("Delete the document \"%1\"").arg(description);
+    if (!index.isEmpty())
+        question += QStringLiteral(" (%1)").arg(index);
+    if (hasFile)
+        question += QStringLiteral(" and its file");
+    if (childIds.size() == 1)
+        question += QStringLiteral(", with its related document and its file");
+    else if (childIds.size() > 1)
+        question += QStringLiteral(", with its %1 related documents and their files").arg(childIds.size());
+    if (!confirmDeletion(question + u'?'))
+        return;
+
+    // The document's own file first: while it can't go, the document stays whole.
+    if (hasFile && !trashFileOf(connection, path, {id}))
+        return;
+    // A related document's file that stays behind is no matter: its row goes all the same.
+    for (qint32 child : std::as_const(childIds))
+        connection.execute(deleteSubDocumentSql(child));
+    connection.execute(deleteDocumentSql(id));
+    for (const QString& childPath : std::as_const(childPaths)) {
+        if (QFileInfo::exists(childPath))
+            trashFileOf(connection, childPath, {id});
+    }
+    IconCache::shared().clear();
+    refillList();
+}
+
+bool MainWindow::confirmDeletion(const QString& question)
+{
+    return msgBox(question, MsgBoxStyle::YesNo + MsgBoxStyle::Question + MsgBoxStyle::DefaultButton2,
+               QStringLiteral("Confirm Deletion"))
+        == MsgBoxResult::Yes;
+}
+
+bool MainWindow::trashFileOf(Connection& connection, const QString& path, const QList<qint32>& leaving)
+{
+    // A file another document still names stays where it is.
+    const QString quoted = QString(path).replace(u'\'', QStringLiteral("''"));
+    QString others
+        = QStringLiteral("SELECT COUNT(*) AS Uses FROM tbl_Documents WHERE tbl_Documents.RastoKel='%1'")
+              .arg(quoted);
+    for (qint32 id : leaving)
+        others += QStringLiteral(" AND tbl_Documents.RastasID<>") + QString::number(id);
+    QString related = QStringLiteral(
+        "SELECT COUNT(*) AS Uses FROM tbl_Sub_Documents WHERE tbl_Sub_Documents.SubRastoKelias='%1'")
+                          .arg(quoted);
+    for (qint32 id : leaving)
+        related += QStringLiteral(" AND tbl_Sub_Documents.RastasID<>") + QString::number(id);
+    if (leaving.isEmpty())
+        related += QStringLiteral(" AND tbl_Sub_Documents.SubRastasID<>")
+            + QString::number(m_state.selectedSubDocumentId);
+    for (const QString& sql : {others, related}) {
+        Recordset uses;
+        uses.open(sql, connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
+        const bool used = uses.collect(QStringLiteral("Uses")).toInt() > 0;
+        uses.close();
+        if (used)
+            return true;
+    }
+    QString error;
+    if (moveFileToTrash(path, &error))
+        return true;
+    msgBox(QStringLiteral("The file could not be moved to the trash:\n%1\n%2")
+               .arg(QDir::toNativeSeparators(path), error),
+        MsgBoxStyle::OkOnly + MsgBoxStyle::Critical, QStringLiteral("Unable to delete as requested"));
+    return false;
 }
 
 void MainWindow::deleteCategory()
@@ -321,7 +414,10 @@ void MainWindow::deleteCategory()
         connection.execute(sql);
     } catch (const Error& error) {
         msgBox(error.description());
+        return;
     }
+    // The tree loses the node; the list shows the node the tree falls back on.
+    refresh();
 }
 
 } // namespace kartella

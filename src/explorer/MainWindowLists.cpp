@@ -65,6 +65,7 @@ void MainWindow::setView(int view)
     const char* const entries[] = {"mnuLargeIcons", "mnuSmallIcons", "mnuList", "mnuDetails"};
     for (int i = 0; i < 4; ++i)
         action(QLatin1String(entries[i]))->setChecked(i == view);
+    storeView();
 }
 
 void MainWindow::viewLargeIcons()
@@ -97,13 +98,24 @@ void MainWindow::onRelatedDoubleClicked()
     openDocumentFile(m_state.selectedFilePath, QStringLiteral("open"));
 }
 
+void MainWindow::enablePopupCommands()
+{
+    // Each entry of the menu as its File menu command stands.
+    static const std::pair<const char*, const char*> entries[]
+        = {{"mnuPopNew", "mnuNew"}, {"mnuPopOpen", "mnuOpen"}, {"mnuPopCopy", "mnuCopy"},
+            {"mnuPopDelete", "mnuDelete"}, {"mnuPopPrint", "mnuPrint"}, {"mnuPopRelated", "mnuRelated"},
+            {"mnuPopDetails", "mnuShowDetails"}, {"mnuPopProperties", "mnuProperties"}};
+    for (const auto& [entry, command] : entries)
+        setCommandEnabled(
+            QLatin1String(entry), action(QLatin1String(command))->property("wantedEnabled").toBool());
+}
+
 void MainWindow::onDocumentListPressed(Qt::MouseButton button, const QPoint& globalPos)
 {
     if (button != Qt::RightButton)
         return;
-    const int row = m_documents->selectedRow();
-    if (row < 0 || m_documentModel->item(row).key.compare(QLatin1String("Empty"), Qt::CaseInsensitive) == 0)
-        return;
+    // Beside the rows, or in an empty list, the menu offers what needs no document.
+    enablePopupCommands();
     action(QStringLiteral("mnuPopRelated"))->setVisible(true);
     action(QStringLiteral("mnuhypen14"))->setVisible(true);
     popupMenu(m_documentMenu, globalPos);
@@ -114,6 +126,7 @@ void MainWindow::onRelatedListPressed(Qt::MouseButton button, const QPoint& glob
     QCoreApplication::processEvents();
     if (button != Qt::RightButton)
         return;
+    enablePopupCommands();
     action(QStringLiteral("mnuPopRelated"))->setVisible(false);
     action(QStringLiteral("mnuhypen14"))->setVisible(false);
     popupMenu(m_documentMenu, globalPos);

@@ -86,8 +86,15 @@ void MainWindow::setDialog(const QString& name, DialogOpener open)
 
 void MainWindow::openDialog(const QString& name, const QString& droppedFile)
 {
-    if (const DialogOpener open = m_dialogs.value(name))
-        open(droppedFile);
+    const DialogOpener open = m_dialogs.value(name);
+    if (!open)
+        return;
+    open(droppedFile);
+    // The dialogs that write documents: the list shows what they wrote.
+    static const QStringList writers = {QStringLiteral("frmNewDocument"), QStringLiteral("frmRelated"),
+        QStringLiteral("frmRelDescr"), QStringLiteral("frmNew"), QStringLiteral("frmCopyFile")};
+    if (writers.contains(name))
+        refillList();
 }
 
 void MainWindow::setCommandEnabled(const QString& name, bool enabled)
@@ -320,6 +327,9 @@ void MainWindow::buildPopups()
 {
     m_documentMenu = new QMenu(QStringLiteral("PopDoc"), this);
     m_documentMenu->setObjectName(QStringLiteral("mnuPopUp"));
+    addCommand(m_documentMenu, QStringLiteral("mnuPopNew"), QStringLiteral("&New Document"),
+        &MainWindow::newDocument, {}, QStringLiteral("frmNewDocument"));
+    m_documentMenu->addSeparator()->setObjectName(QStringLiteral("mnuhypen15"));
     addCommand(
         m_documentMenu, QStringLiteral("mnuPopOpen"), QStringLiteral("&Open"), &MainWindow::openDocument);
     m_documentMenu->addSeparator()->setObjectName(QStringLiteral("mnuhypen11"));

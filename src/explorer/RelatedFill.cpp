@@ -42,7 +42,10 @@ bool fillRelatedRows(ListModel& model, const SelectionState& selection)
         item.iconKey = getIconKey(nullToDefault(path, NoFilePath).toString());
         item.text = displayText(rs.collect(QStringLiteral("SubDocDescript")));
         item.subItems[0] = getContactName(rs.collect(QStringLiteral("ContactID")));
-        item.subItems[1] = displayText(rs.collect(QStringLiteral("SubRastGavimoData")));
+        const QVariant date = rs.collect(QStringLiteral("SubRastGavimoData"));
+        item.subItems[1] = displayText(date);
+        if (date.typeId() == QMetaType::QDate || date.typeId() == QMetaType::QDateTime)
+            item.date = date.toDate();
         item.key = DocumentFills::itemKey(rs.collect(QStringLiteral("SubRastasID")).toInt());
         item.tagIsNull = isNull(path);
         item.tag = item.tagIsNull ? QString() : path.toString();
@@ -51,7 +54,7 @@ bool fillRelatedRows(ListModel& model, const SelectionState& selection)
     }
     rs.close();
     model.setColumns({{QStringLiteral("Doc. Description"), 3000}, {QStringLiteral("Sender/Receiver"), 2000},
-        {QStringLiteral("Date"), 1500}});
+        {QStringLiteral("Date"), 1500, true}});
     model.setItems(std::move(rows));
     return true;
 }

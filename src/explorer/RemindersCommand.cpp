@@ -91,6 +91,7 @@ void RemindersCommand::showWindow()
                 m_window->reload();
         };
         connect(m_window, &QDialog::finished, this, [this] { recount(); });
+        connect(m_window, &RemindersWindow::remindersDone, this, [this] { recount(); });
     }
     m_window->show();
     m_window->raise();

@@ -16,6 +16,8 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace kartella {
 
 namespace {
@@ -72,6 +74,7 @@ RemindersWindow::RemindersWindow(const QDate& today, QWidget* parent)
     m_list->setAccessibleName(QStringLiteral("Due reminders"));
     m_list->setRootIsDecorated(false);
     m_list->setAllColumnsShowFocus(true);
+    m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->setHeaderLabels({QStringLiteral("Date"), QStringLiteral("Due"),
         QStringLiteral("Registration Index"), QStringLiteral("Description"), QStringLiteral("Text")});
     m_list->header()->setStretchLastSection(true);
@@ -81,7 +84,7 @@ RemindersWindow::RemindersWindow(const QDate& today, QWidget* parent)
 
     m_done = new QPushButton(QStringLiteral("&Done"), this);
     m_done->setObjectName(QStringLiteral("cmdDone"));
-    m_done->setToolTip(QStringLiteral("Mark the reminder done: it is not shown again"));
+    m_done->setToolTip(QStringLiteral("Mark the selected reminders done: they are not shown again"));
     m_done->setAutoDefault(false);
     auto* later = new QPushButton(QStringLiteral("&Later"), this);
     later->setObjectName(QStringLiteral("cmdLater"));
@@ -184,9 +187,17 @@ bool RemindersWindow::offerUpgrade()
 
 void RemindersWindow::markDone()
 {
-    const int row = currentRow();
-    if (row < 0 || row >= int(m_reminders.size()))
+    // Every selected line, or the current one when none is selected.
+    std::vector<int> rows;
+    for (QTreeWidgetItem* line : m_list->selectedItems())
+        rows.push_back(m_list->indexOfTopLevelItem(line));
+    if (rows.empty())
+        rows.push_back(currentRow());
+    std::erase_if(rows, [this](int row) { return row < 0 || row >= int(m_reminders.size()); });
+    if (rows.empty())
         return;
+    std::sort(rows.begin(), rows.end());
+    const int first = rows.front();
     try {
         Connection connection;
         connection.open(plainConnectionString());
@@ -196,15 +207,21 @@ void RemindersWindow::markDone()
                 return;
             connection.open(plainConnectionString());
         }
-        markReminderDone(connection, m_reminders[std::size_t(row)].reminderId);
+        // From the last line up, so that a failure leaves the lines done so far off the list.
+        for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
+            markReminderDone(connection, m_reminders[std::size_t(*row)].reminderId);
+            m_reminders.erase(m_reminders.begin() + *row);
+        }
     } catch (const Error& error) {
+        fill();
+        Q_EMIT remindersDone();
         msgBox(error.description(), MsgBoxStyle::OkOnly + MsgBoxStyle::Critical, Title);
         return;
     }
-    m_reminders.erase(m_reminders.begin() + row);
     fill();
-    if (row < m_list->topLevelItemCount())
-        m_list->setCurrentItem(m_list->topLevelItem(row));
+    if (first < m_list->topLevelItemCount())
+        m_list->setCurrentItem(m_list->topLevelItem(first));
+    Q_EMIT remindersDone();
 }
 
 } // namespace kartella

@@ -16,7 +16,7 @@ namespace kartella {
 
 // The "Reminders" window: the reminders due on a given day, overdue ones first and marked
 // so. Enter or a double click on a line opens that document's details through
-// openDetails; "Done" marks the current reminder done and takes it off the list; "Later"
+// openDetails; "Done" marks the selected reminders done and takes them off the list; "Later"
 // (or Esc) closes the window and leaves every reminder as it was.
 class RemindersWindow : public QDialog
 {
@@ -32,6 +32,10 @@ public:
     // Reads the due reminders again from the register.
     void reload();
     const std::vector<DueReminder>& reminders() const { return m_reminders; }
+
+Q_SIGNALS:
+    // Done took reminders off the list: the count of due reminders changed.
+    void remindersDone();
 
 public Q_SLOTS:
     void markDone();

@@ -3,8 +3,10 @@
 #include "platform/Shell.h"
 #include "support/PathUtils.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QStandardPaths>
 
 namespace kartella {
 
@@ -44,6 +46,24 @@ bool moveFileWithoutShell(const QString& source, QString& target)
 bool deleteFileWithoutShell(const QString& path)
 {
     return QFile::remove(path);
+}
+
+bool moveFileToTrash(const QString& path, QString* error)
+{
+#if !defined(Q_OS_WIN) && !defined(Q_OS_MACOS)
+    // The desktop's trash lives in the user's data folder, which a new account may not have
+    // yet: without it the file would go for good.
+    QDir().mkpath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+#endif
+    QFile file(path);
+    if (file.moveToTrash())
+        return true;
+    // A folder without a trash of its own (a share, a removable disk): the file goes for good.
+    if (file.remove())
+        return true;
+    if (error)
+        *error = file.errorString();
+    return false;
 }
 
 bool shellCopyFile(const QString& source, QString& target, [[maybe_unused]] int options)

@@ -20,6 +20,11 @@ bool shellMoveFile(const QString& source, QString& target, int options = 0);
 // Deletes path.
 bool shellDeleteFile(const QString& path, int options = 0);
 
+// Moves path to the desktop's trash where it has one, else deletes it; asks nothing (the
+// command asked already). True when the file is no longer at path; otherwise *error, when
+// not null, says why.
+bool moveFileToTrash(const QString& path, QString* error = nullptr);
+
 // The ways without the shell, on their own.
 bool copyFileWithoutShell(const QString& source, QString& target);
 bool moveFileWithoutShell(const QString& source, QString& target);

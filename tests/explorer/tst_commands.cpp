@@ -11,10 +11,12 @@
 #include "support/Splitter.h"
 
 #include <QAction>
+#include <QDir>
 #include <QFile>
 #include <QMenu>
 #include <QMimeData>
 #include <QSplitter>
+#include <QStandardPaths>
 #include <QTest>
 #include <QTreeView>
 
@@ -76,6 +78,16 @@ struct CommandsFixture : ExplorerFixture
     }
 };
 
+QString trashFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/Trash";
+}
+
+bool inTrash(const QString& name)
+{
+    return QFile::exists(trashFolder() + "/files/" + name);
+}
+
 } // namespace
 
 class CommandsTest : public QObject
@@ -83,7 +95,14 @@ class CommandsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { selection() = SelectionState(); }
+    // The trash is the one of the tests' own data folder, emptied for each test.
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+
+    void init()
+    {
+        selection() = SelectionState();
+        QDir(trashFolder()).removeRecursively();
+    }
 
     void enablingFollowsTheSelection()
     {
@@ -204,22 +223,26 @@ private Q_SLOTS:
         QCOMPARE(prompter.prompts().size(), 2);
     }
 
-    void deleteWithoutRelatedDocuments_data()
+    // Every delete asks one question that names the document; its file goes to the trash.
+    void deleteAsksOnceNamingTheDocument_data()
     {
         QTest::addColumn<QString>("file"); // "none", "gone", "there"
-        QTest::addColumn<int>("answer"); // the shell's question: 1 confirm, 0 refuse, -1 none asked
-        QTest::addColumn<bool>("rowGone");
-        QTest::newRow("no file: no question") << "none" << -1 << true;
-        QTest::newRow("vanished file: no question") << "gone" << -1 << true;
-        QTest::newRow("file confirmed") << "there" << 1 << true;
-        QTest::newRow("file refused: the row stays") << "there" << 0 << false;
+        QTest::addColumn<bool>("yes");
+        QTest::addColumn<QString>("question");
+        const QString bare = "Delete the document \"work\" (SUT-2)?";
+        const QString withFile = "Delete the document \"work\" (SUT-2) and its file?";
+        QTest::newRow("no file, yes") << "none" << true << bare;
+        QTest::newRow("no file, no: the row stays") << "none" << false << bare;
+        QTest::newRow("vanished file, yes") << "gone" << true << bare;
+        QTest::newRow("file, yes: to the trash") << "there" << true << withFile;
+        QTest::newRow("file, no: both stay") << "there" << false << withFile;
     }
 
-    void deleteWithoutRelatedDocuments()
+    void deleteAsksOnceNamingTheDocument()
     {
         QFETCH(QString, file);
-        QFETCH(int, answer);
-        QFETCH(bool, rowGone);
+        QFETCH(bool, yes);
+        QFETCH(QString, question);
         CommandsFixture fx;
         ScriptedPrompter prompter;
         ScriptedShell shell;
@@ -231,21 +254,25 @@ private Q_SLOTS:
         if (!path.isEmpty())
             fx.setPath("tbl_Documents", "RastasID", fx.id["work"], "RastoKel", path);
         MainWindow& w = fx.load();
+        w.show();
+        w.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&w));
         fx.clickNode("a" + QString::number(fx.id["Sutartys"]));
         fx.clickDocument("work");
-        if (answer == 1)
-            shell.confirm();
-        else if (answer == 0)
-            shell.refuse();
-        w.action("mnuDelete")->trigger();
-        QVERIFY(shell.allAnswered());
-        QCOMPARE(shell.questions().size(), answer < 0 ? 0 : 1);
-        QCOMPARE(fx.documentExists("work"), !rowGone);
-        if (file == "there")
-            QCOMPARE(QFile::exists(path), !rowGone);
-        // The node's documents are listed again, whatever happened.
-        QCOMPARE(fx.documentTexts(), rowGone ? QStringList {"contract"} : QStringList({"contract", "work"}));
-        QVERIFY(prompter.prompts().isEmpty());
+        prompter.answer(yes ? MsgBoxResult::Yes : MsgBoxResult::No);
+        QTest::keyClick(w.documentList()->detailsView(), Qt::Key_Delete);
+        QCOMPARE(prompter.texts(), QStringList {question});
+        QCOMPARE(prompter.prompts().first().title, QString("Confirm Deletion"));
+        QCOMPARE(prompter.prompts().first().style,
+            MsgBoxStyle::YesNo + MsgBoxStyle::Question + MsgBoxStyle::DefaultButton2);
+        QVERIFY(shell.calls().isEmpty());
+        QCOMPARE(fx.documentExists("work"), !yes);
+        QCOMPARE(fx.rowCount("tbl_Documents"), yes ? 4 : 5);
+        if (file == "there") {
+            QCOMPARE(QFile::exists(path), !yes);
+            QCOMPARE(inTrash("work.doc"), yes);
+        }
+        QCOMPARE(fx.documentTexts(), yes ? QStringList {"contract"} : QStringList({"contract", "work"}));
     }
 
     void deleteWithRelatedDocuments()
@@ -258,43 +285,34 @@ private Q_SLOTS:
         fx.setPath("tbl_Documents", "RastasID", fx.id["contract"], "RastoKel", own);
         fx.setPath("tbl_Sub_Documents", "SubRastasID", fx.id["annex"], "SubRastoKelias", annex);
         MainWindow& w = fx.load();
-        fx.clickNode("b" + QString::number(fx.id["Nuomos"]));
+        fx.clickNode("a" + QString::number(fx.id["Sutartys"]));
         fx.clickDocument("contract");
         QVERIFY(w.relatedList()->isVisible());
 
         // No: nothing changes, no file is touched.
+        const QString question = "Delete the document \"contract\" (SUT-1) and its file, with its 2 related "
+                                 "documents and their files?";
         prompter.answer(MsgBoxResult::No);
         w.action("btnDelete")->trigger();
-        QCOMPARE(prompter.prompts().last().text,
-            QString("Do you wish to delete document and their subdocuments?"));
-        QCOMPARE(prompter.prompts().last().title, QString("Confirm Deletion"));
-        QCOMPARE(prompter.prompts().last().style, MsgBoxStyle::YesNo + MsgBoxStyle::Question);
-        QVERIFY(shell.calls().isEmpty());
+        QCOMPARE(prompter.texts(), QStringList {question});
         QCOMPARE(fx.rowCount("tbl_Sub_Documents"), 2);
+        QVERIFY(QFile::exists(own) && QFile::exists(annex));
 
-        // Yes: the related rows go whatever their files do; the annex's file is refused, the
-        // copy's file (shared with "letter") and the document's own confirmed.
+        // Yes, once: the rows go, the files to the trash, but the copy's file stays: the
+        // document "letter" still names it.
         prompter.answer(MsgBoxResult::Yes);
-        shell.refuse().confirm().confirm();
         w.action("btnDelete")->trigger();
+        QCOMPARE(prompter.texts(), QStringList({question, question}));
         QCOMPARE(fx.rowCount("tbl_Sub_Documents"), 0);
         QVERIFY(!fx.documentExists("contract"));
-        QVERIFY(QFile::exists(annex));
-        QVERIFY(!QFile::exists(own));
-        const QList<ScriptedShell::Call> calls = shell.take();
-        // Each related document's own file, in the order of its rows, then the document's.
-        QCOMPARE(calls.size(), 3);
-        QStringList paths;
-        for (const ScriptedShell::Call& call : calls) {
-            QCOMPARE(call.kind, ScriptedShell::Kind::Delete);
-            paths << call.path;
-        }
-        QCOMPARE(paths, QStringList({annex, fx.existingFile, own}));
-        // The other documents' rows are as they were.
+        QVERIFY(!QFile::exists(own) && inTrash("contract.doc"));
+        QVERIFY(!QFile::exists(annex) && inTrash("annex.doc"));
+        QVERIFY(QFile::exists(fx.existingFile));
+        QVERIFY(shell.calls().isEmpty());
         QCOMPARE(fx.rowCount("tbl_Documents"), 4);
         QVERIFY(fx.documentExists("letter"));
-        // All documents are listed now, whatever node is selected; the related list is gone.
-        QCOMPARE(fx.documentTexts(), QStringList({"letter", "loose", "note", "work"}));
+        // The node's list shows the change; the related list is gone with its document.
+        QCOMPARE(fx.documentTexts(), QStringList {"work"});
         QVERIFY(!w.relatedList()->isVisible());
     }
 
@@ -309,18 +327,23 @@ private Q_SLOTS:
         fx.clickDocument("contract");
         const int annexRow = fx.related().rowOfKey(DocumentFills::itemKey(fx.id["annex"]));
         w.onRelatedClicked(annexRow);
-        shell.refuse();
+        const QString question = "Delete the related document \"annex\" and its file?";
+        prompter.answer(MsgBoxResult::No);
         w.action("mnuDelete")->trigger();
         QCOMPARE(fx.rowCount("tbl_Sub_Documents"), 2);
         QVERIFY(QFile::exists(annex));
-        shell.confirm();
+        prompter.answer(MsgBoxResult::Yes);
         w.action("mnuDelete")->trigger();
+        QCOMPARE(prompter.texts(), QStringList({question, question}));
         QCOMPARE(fx.rowCount("tbl_Sub_Documents"), 1);
-        QVERIFY(!QFile::exists(annex));
+        QVERIFY(!QFile::exists(annex) && inTrash("annex.doc"));
         QCOMPARE(fx.related().itemCount(), 1);
         QVERIFY(fx.documentExists("contract"));
         QCOMPARE(fx.documents().itemCount(), 5);
-        QVERIFY(prompter.prompts().isEmpty());
+        // The document stays highlighted, its remaining related document listed.
+        QCOMPARE(selection().selectedDocumentId, fx.id["contract"]);
+        QVERIFY(w.relatedList()->isVisible());
+        QVERIFY(shell.calls().isEmpty());
     }
 
     // A related document whose file is not there (none stored, or gone) stays, and the user is
@@ -378,10 +401,16 @@ private Q_SLOTS:
         QTest::addColumn<QString>("question");
         QTest::addColumn<int>("categories");
         QTest::addColumn<int>("subCategories");
+        QTest::addColumn<QString>("shownKey"); // the node shown after: empty for the root
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QStringList>("shown");
         QTest::newRow("category") << "aSutartys"
-                                  << "Do you wish to delete Category and SubCategories?" << 1 << 0;
+                                  << "Do you wish to delete Category and SubCategories?" << 1 << 0 << ""
+                                  << "CATEGORIES"
+                                  << QStringList({"contract", "letter", "loose", "note", "work"});
         QTest::newRow("subcategory") << "bNuomos"
-                                     << "Do you wish to delete SubCategory?" << 2 << 1;
+                                     << "Do you wish to delete SubCategory?" << 2 << 1 << "Sutartys"
+                                     << "Exploring Category — Sutartys" << QStringList({"contract", "work"});
     }
 
     void deleteCategory()
@@ -390,10 +419,14 @@ private Q_SLOTS:
         QFETCH(QString, question);
         QFETCH(int, categories);
         QFETCH(int, subCategories);
+        QFETCH(QString, shownKey);
+        QFETCH(QString, title);
+        QFETCH(QStringList, shown);
         CommandsFixture fx;
         ScriptedPrompter prompter;
         MainWindow& w = fx.load();
         fx.clickNode(node.left(1) + QString::number(fx.id[node.mid(1)]));
+        fx.clickDocument("contract");
         prompter.answer(MsgBoxResult::No);
         w.action("mnuDeleteCategory")->trigger();
         QCOMPARE(prompter.prompts().last().text, question);
@@ -403,11 +436,15 @@ private Q_SLOTS:
         w.action("mnuPopCatDel")->trigger();
         QCOMPARE(fx.rowCount("tbl_Document_Categories"), categories);
         QCOMPARE(fx.rowCount("tbl_Sub_Categories"), subCategories);
-        // Documents keep their category; the tree keeps the node until a refresh.
+        // Documents keep their category; the node goes at once, and the tree and the list
+        // show the node above it, the highlighted document kept.
         QCOMPARE(fx.rowCount("tbl_Documents"), 5);
-        QVERIFY(w.tree()->nodeByKey(node.left(1) + QString::number(fx.id[node.mid(1)])));
-        w.action("mnuRefresh")->trigger();
         QVERIFY(!w.tree()->nodeByKey(node.left(1) + QString::number(fx.id[node.mid(1)])));
+        QCOMPARE(NavigationTree::nodeKey(w.tree()->currentItem()),
+            shownKey.isEmpty() ? QString("ALL") : "a" + QString::number(fx.id[shownKey]));
+        QCOMPARE(w.windowTitle(), title);
+        QCOMPARE(fx.documentTexts(), shown);
+        QCOMPARE(selection().selectedDocumentId, fx.id["contract"]);
     }
 
     void columnSortAlternates()
@@ -479,24 +516,45 @@ private Q_SLOTS:
     void rightButtonMenus()
     {
         CommandsFixture fx;
+        ScriptedShell shell;
         MainWindow& w = fx.load();
-        QWidget* documents = w.documentList()->detailsView()->viewport();
+        QTreeView* documents = w.documentList()->detailsView();
         QWidget* related = w.relatedList()->detailsView()->viewport();
-        // Nothing selected yet: no menu.
-        fx.rightClick(documents);
-        QVERIFY(fx.popups.isEmpty());
-        fx.clickDocument("contract");
-        fx.rightClick(documents);
+        auto rowCenter = [&](const QString& name) {
+            const int row = fx.documents().rowOfKey(DocumentFills::itemKey(fx.id[name]));
+            return documents->visualRect(fx.documents().index(row, 0)).center();
+        };
+        // Beside the rows with nothing highlighted: the menu offers New Document only.
+        const QPoint below(5, documents->viewport()->height() - 3);
+        fx.rightClick(documents->viewport(), below);
         QCOMPARE(fx.popups, QList<QMenu*> {w.documentContextMenu()});
-        QVERIFY(w.action("mnuPopRelated")->isVisible());
-        fx.rightClick(related);
+        QVERIFY(fx.enabled("mnuPopNew"));
+        for (const char* name : {"mnuPopOpen", "mnuPopCopy", "mnuPopDelete", "mnuPopPrint", "mnuPopRelated",
+                 "mnuPopDetails", "mnuPopProperties"})
+            QVERIFY2(!fx.enabled(name), name);
+        // The right button highlights the row under it, and the menu acts on that row.
+        fx.clickDocument("contract");
+        fx.rightClick(documents->viewport(), rowCenter("letter"));
+        QCOMPARE(selection().selectedDocumentId, fx.id["letter"]);
         QCOMPARE(fx.popups.size(), 2);
+        for (const char* name : {"mnuPopNew", "mnuPopOpen", "mnuPopCopy", "mnuPopDelete", "mnuPopPrint",
+                 "mnuPopRelated", "mnuPopDetails", "mnuPopProperties"})
+            QVERIFY2(fx.enabled(name), name);
+        QVERIFY(w.action("mnuPopRelated")->isVisible());
+        w.action("mnuPopNew")->trigger();
+        QCOMPARE(fx.opened, QStringList {"frmNewDocument"});
+        // Enter on the highlighted row opens its document, as a double click does.
+        QTest::keyClick(documents, Qt::Key_Return);
+        QCOMPARE(shell.calls().size(), 1);
+        QCOMPARE(shell.calls().first().kind, ScriptedShell::Kind::Open);
+        QCOMPARE(shell.calls().first().path, fx.existingFile);
+
+        // The related list's menu has no New Related.
+        fx.clickDocument("contract");
+        fx.rightClick(related);
+        QCOMPARE(fx.popups.size(), 3);
         QVERIFY(!w.action("mnuPopRelated")->isVisible());
         QVERIFY(!w.action("mnuhypen14")->isVisible());
-        fx.rightClick(documents);
-        QVERIFY(w.action("mnuPopRelated")->isVisible());
-        // The right button doesn't move the selection: the menu acts on the last click.
-        QCOMPARE(selection().selectedDocumentId, fx.id["contract"]);
 
         // The tree: no menu while no category is current; the category menu otherwise.
         fx.popups.clear();
@@ -507,18 +565,10 @@ private Q_SLOTS:
         fx.rightClick(w.tree()->viewport());
         QCOMPARE(fx.popups, QList<QMenu*> {w.categoryContextMenu()});
         w.action("mnuPopCatNewDoc")->trigger();
-        QCOMPARE(fx.opened, QStringList {"frmNewDocument"});
+        QCOMPARE(fx.opened, QStringList({"frmNewDocument", "frmNewDocument"}));
         // Not in the contact view.
         w.action("mnuByContacts")->trigger();
         fx.rightClick(w.tree()->viewport());
-        QCOMPARE(fx.popups.size(), 1);
-
-        // The empty state offers no menu.
-        fx.reg.exec("DELETE FROM tbl_Documents");
-        w.action("mnuByCategory")->trigger();
-        fx.clickNode("a" + QString::number(fx.id["Raštai"]));
-        w.documentList()->selectRow(0);
-        fx.rightClick(documents);
         QCOMPARE(fx.popups.size(), 1);
     }
 
@@ -527,28 +577,63 @@ private Q_SLOTS:
         CommandsFixture fx;
         ScriptedPrompter prompter;
         MainWindow& w = fx.load();
+        w.show();
+        w.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&w));
         fx.clickNode("a" + QString::number(fx.id["Raštai"]));
-        const int last = w.lastNodeIndex();
+        fx.clickDocument("note");
+        // F5: the tree and the list are built again, the node and the document kept.
         fx.reg.insert("tbl_Document_Categories", {{"DokKategorija", "Aktai"}});
-        w.action("mnuRefresh")->trigger();
-        QCOMPARE(w.lastNodeIndex(), last);
+        fx.reg.insert("tbl_Documents",
+            {{"DokAntraste", "late"}, {"KategID", fx.id["Raštai"]}, {"DokRegistracData", fx.thisMonth}});
+        QTest::keyClick(&w, Qt::Key_F5);
         QCOMPARE(w.tree()->nodeByIndex(2)->text(0), QString("Aktai"));
-        QCOMPARE(fx.documentTexts(), QStringList({"letter", "note"})); // the list stays
+        QCOMPARE(NavigationTree::nodeKey(w.tree()->currentItem()), "a" + QString::number(fx.id["Raštai"]));
+        QCOMPARE(w.lastNodeIndex(), NavigationTree::nodeIndex(w.tree()->currentItem()));
+        QCOMPARE(fx.documentTexts(), QStringList({"late", "letter", "note"}));
+        QCOMPARE(selection().selectedDocumentId, fx.id["note"]);
 
+        // By Contacts: the contact tree's root with its list and title, the document kept.
         w.action("mnuByContacts")->trigger();
         QVERIFY(w.action("mnuByContacts")->isChecked());
         QVERIFY(!w.action("mnuByCategory")->isChecked());
         QVERIFY(!w.isCategoryView());
-        QCOMPARE(w.lastNodeIndex(), 0);
         QCOMPARE(w.tree()->nodeByIndex(1)->text(0), QString("CONTACTS"));
-        // After the switch any click acts, the root's too.
-        fx.clickNode("ALL");
-        QCOMPARE(fx.documents().itemCount(), 5);
-        w.action("mnuByContacts")->trigger();
-        QCOMPARE(w.lastNodeIndex(), 0);
+        QCOMPARE(w.windowTitle(), QString("CONTACTS"));
+        QCOMPARE(fx.documents().itemCount(), 6);
+        QCOMPARE(selection().selectedDocumentId, fx.id["note"]);
         w.action("mnuByCategory")->trigger();
         QVERIFY(w.isCategoryView());
+        QCOMPARE(w.windowTitle(), QString("CATEGORIES"));
         QVERIFY(prompter.prompts().isEmpty());
+    }
+
+    // The dialogs that write documents leave the list showing what they wrote.
+    void listShowsWhatADialogWrote()
+    {
+        CommandsFixture fx;
+        MainWindow& w = fx.load();
+        w.show();
+        w.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&w));
+        w.setDialog("frmNewDocument", [&](const QString&) {
+            fx.reg.insert("tbl_Documents", {{"DokAntraste", "fresh"}, {"DokRegistracData", fx.thisMonth}});
+        });
+        w.setDialog("frmRelated", [&](const QString&) {
+            fx.reg.insert(
+                "tbl_Sub_Documents", {{"RastasID", fx.id["contract"]}, {"SubDocDescript", "reply"}});
+        });
+        fx.clickDocument("contract");
+        QTest::keyClick(&w, Qt::Key_N, Qt::ControlModifier);
+        QCOMPARE(fx.documents().itemCount(), 6);
+        QVERIFY(fx.documentTexts().contains("fresh"));
+        QCOMPARE(selection().selectedDocumentId, fx.id["contract"]);
+        w.action("mnuRelated")->trigger();
+        QStringList related;
+        for (int row = 0; row < fx.related().itemCount(); ++row)
+            related << fx.related().item(row).text;
+        related.sort();
+        QCOMPARE(related, QStringList({"annex", "copy", "reply"}));
     }
 
     void dragOffersTheSelectedFile()

@@ -4,6 +4,7 @@
 #include "explorer/IconCache.h"
 #include "explorer/ListModel.h"
 #include "explorer/MainWindow.h"
+#include "explorer/NavigationTree.h"
 #include "harness/ScriptedPrompter.h"
 #include "harness/ScriptedShell.h"
 #include "support/SelectionState.h"
@@ -13,9 +14,11 @@
 #include <QComboBox>
 #include <QDateEdit>
 #include <QDialog>
+#include <QHeaderView>
 #include <QHelpEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QSplitter>
 #include <QTest>
 #include <QTimer>
 #include <QToolTip>
@@ -234,6 +237,101 @@ private Q_SLOTS:
         QCOMPARE(model.item(0).text, QString("žuvis"));
         QCOMPARE(model.item(model.itemCount() - 1).text, QString("Antanas"));
         QCOMPARE(list.detailsView()->columnWidth(0), 321);
+    }
+
+    // The Date columns of the document list and the related list sort as dates, across the
+    // turn of a month and of a year, and the header shows the arrow of the sort.
+    void datesSortAsDatesWithTheArrow()
+    {
+        SelectionFixture fx;
+        const qint32 category = fx.reg.insert("tbl_Document_Categories", {{"DokKategorija", "Datos"}});
+        const QList<QDate> dates = {QDate(2024, 11, 1), QDate(2024, 10, 1), QDate(2024, 10, 11),
+            QDate(2024, 11, 12), QDate(2023, 12, 31)};
+        for (const QDate& date : dates)
+            fx.id[date.toString(Qt::ISODate)] = fx.reg.insert("tbl_Documents",
+                {{"DokAntraste", date.toString(Qt::ISODate)}, {"KategID", category},
+                    {"DokRegistracData", date}});
+        for (const QDate& date : dates)
+            fx.reg.insert("tbl_Sub_Documents",
+                {{"RastasID", fx.id["2024-11-01"]}, {"SubDocDescript", date.toString(Qt::ISODate)},
+                    {"SubRastGavimoData", date}});
+        MainWindow& w = fx.load();
+        w.show();
+        fx.clickNode("a" + QString::number(category));
+        auto clickHeader = [](ExplorerList* list, int column) {
+            QHeaderView* header = list->detailsView()->header();
+            const QPoint at(header->sectionViewportPosition(column) + header->sectionSize(column) / 2,
+                header->height() / 2);
+            QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, at);
+        };
+        auto order = [](const ListModel& model) {
+            QStringList texts;
+            for (int row = 0; row < model.itemCount(); ++row)
+                texts << model.item(row).text;
+            return texts;
+        };
+        const QStringList ascending = {"2023-12-31", "2024-10-01", "2024-10-11", "2024-11-01", "2024-11-12"};
+        QStringList descending = ascending;
+        std::reverse(descending.begin(), descending.end());
+        QHeaderView* header = w.documentList()->detailsView()->header();
+        QVERIFY(!header->isSortIndicatorShown());
+        clickHeader(w.documentList(), 3);
+        QCOMPARE(order(fx.documents()), ascending);
+        QVERIFY(header->isSortIndicatorShown());
+        QCOMPARE(header->sortIndicatorSection(), 3);
+        QCOMPARE(header->sortIndicatorOrder(), Qt::AscendingOrder);
+        clickHeader(w.documentList(), 3);
+        QCOMPARE(order(fx.documents()), descending);
+        QCOMPARE(header->sortIndicatorOrder(), Qt::DescendingOrder);
+        clickHeader(w.documentList(), 0);
+        QCOMPARE(header->sortIndicatorSection(), 0);
+        QCOMPARE(header->sortIndicatorOrder(), Qt::AscendingOrder);
+
+        fx.clickDocument("2024-11-01");
+        QVERIFY(w.relatedList()->isVisible());
+        clickHeader(w.relatedList(), 2);
+        QCOMPARE(order(fx.related()), ascending);
+        QCOMPARE(w.relatedList()->detailsView()->header()->sortIndicatorSection(), 2);
+        clickHeader(w.relatedList(), 2);
+        QCOMPARE(order(fx.related()), descending);
+    }
+
+    // Size and place, the tree's share, the view, the tree's mode and each list's sort come
+    // back at the next start.
+    void layoutIsRememberedBetweenRuns()
+    {
+        SelectionFixture fx;
+        {
+            MainWindow& w = fx.load();
+            w.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&w));
+            w.resize(900, 600);
+            w.findChild<QSplitter*>("splitMain")->setSizes({400, 496});
+            w.action("mnuList")->trigger();
+            w.action("mnuByContacts")->trigger();
+            w.onDocumentColumnClicked(3);
+            w.onDocumentColumnClicked(3);
+            fx.clickDocument("contract");
+            w.onRelatedColumnClicked(1);
+            w.close();
+        }
+        MainWindow again;
+        again.show();
+        again.load();
+        QVERIFY(QTest::qWaitForWindowExposed(&again));
+        QCOMPARE(again.size(), QSize(900, 600));
+        const QList<int> sizes = again.findChild<QSplitter*>("splitMain")->sizes();
+        QVERIFY2(qAbs(sizes.first() - 400) <= 10, qPrintable(QString::number(sizes.first())));
+        QCOMPARE(again.documentList()->view(), int(ExplorerList::List));
+        QCOMPARE(again.relatedList()->view(), int(ExplorerList::List));
+        QVERIFY(again.action("mnuList")->isChecked());
+        QVERIFY(!again.isCategoryView());
+        QVERIFY(again.action("mnuByContacts")->isChecked());
+        QCOMPARE(again.tree()->nodeByIndex(1)->text(0), QString("CONTACTS"));
+        QCOMPARE(again.documentModel()->sortKey(), 3);
+        QCOMPARE(again.documentModel()->sortOrder(), Qt::DescendingOrder);
+        QCOMPARE(again.relatedModel()->sortKey(), 1);
+        QCOMPARE(again.relatedModel()->sortOrder(), Qt::AscendingOrder);
     }
 
     // Print Setup is the page and printer setup, not a print dialog.

@@ -66,12 +66,11 @@ private Q_SLOTS:
         QVERIFY(tree->nodeByKey("b" + QString::number(fx.id["Nuomos"])));
         QCOMPARE(fx.reg.scalar("SELECT COUNT(*) FROM tbl_Sub_Categories").toInt(), 2);
 
-        // The first click on the root does nothing: a document added now doesn't show.
+        // A click on the root, shown already, fills it again: a document added now shows.
         fx.reg.insert("tbl_Documents", {{"DokAntraste", "late"}, {"DokRegistracData", fx.thisMonth}});
         fx.clickNode("ALL");
         QCOMPARE(w.lastNodeIndex(), 1);
-        QCOMPARE(fx.documents().itemCount(), 5);
-        // Another node and back: the root refills.
+        QCOMPARE(fx.documents().itemCount(), 6);
         fx.clickNode("a" + QString::number(fx.id["Raštai"]));
         fx.clickNode("ALL");
         QCOMPARE(fx.documents().itemCount(), 6);
@@ -175,7 +174,7 @@ private Q_SLOTS:
         QVERIFY(prompter.prompts().isEmpty());
     }
 
-    void secondClickOnTheSameNodeDoesNothing()
+    void secondClickOnTheSameNodeFillsItAgain()
     {
         ExplorerFixture fx;
         ScriptedPrompter prompter;
@@ -186,12 +185,20 @@ private Q_SLOTS:
         // Direction "Incoming": the list narrows, and the direction stays for later clicks.
         w.findChild<QComboBox*>("cboDirection")->setCurrentIndex(3);
         QCOMPARE(fx.documentTexts(), names({"work"}));
+        // The second click keeps the direction and shows what another program added, with the
+        // highlighted document still highlighted.
+        fx.reg.insert("tbl_Documents",
+            {{"DokAntraste", "late"}, {"KategID", fx.id["Sutartys"]}, {"KryptisID", 3},
+                {"DokRegistracData", fx.thisMonth}});
+        fx.clickDocument("work");
         fx.clickNode(sutartys);
-        QCOMPARE(fx.documentTexts(), names({"work"}));
+        QCOMPARE(fx.documentTexts(), names({"late", "work"}));
+        QCOMPARE(selection().selectedDocumentId, fx.id["work"]);
+        QCOMPARE(fx.documents().item(w.documentList()->selectedRow()).text, QString("work"));
         fx.clickNode("a" + QString::number(fx.id["Raštai"]));
         QCOMPARE(fx.documentTexts(), names({"letter", "note"}).mid(0, 1));
         fx.clickNode("ALL");
-        QCOMPARE(fx.documentTexts(), names({"work", "letter"}));
+        QCOMPARE(fx.documentTexts(), names({"late", "work", "letter"}));
         QVERIFY(prompter.prompts().isEmpty());
     }
 

@@ -305,6 +305,42 @@ private Q_SLOTS:
         QVERIFY(prompter.prompts().isEmpty());
     }
 
+    // Done takes every line selected with Shift and Ctrl, and the status bar counts at once,
+    // with the window still open.
+    void doneTakesTheSelectedLinesAndRecounts()
+    {
+        TestRegister reg;
+        ScriptedPrompter prompter;
+        setRegValue("ShowDueReminders", 0);
+        const QDate today(2024, 3, 1);
+        const qint32 doc = addDocument(reg, "A-1", "Aktas");
+        for (const char* text : {"first", "second", "third", "fourth"})
+            addReminder(reg, doc, QDate(2024, 2, 29), text);
+        MainWindow window;
+        window.reminders()->today = [today] { return today; };
+        window.load();
+        auto* panel = window.findChild<QLabel*>("pnReminders");
+        QCOMPARE(panel->text(), QString("4 reminders due"));
+        activate(window);
+        QTest::keyClick(&window, Qt::Key_R, Qt::ControlModifier);
+        RemindersWindow* open = window.reminders()->window();
+        QVERIFY(open);
+        activate(*open);
+        QTreeWidget* lines = list(*open);
+        auto lineCenter = [&](int row) { return lines->visualItemRect(lines->topLevelItem(row)).center(); };
+        // The first line is current: Shift+Down takes the second too, Ctrl+click the fourth.
+        QTest::keyClick(lines, Qt::Key_Down, Qt::ShiftModifier);
+        QTest::mouseClick(lines->viewport(), Qt::LeftButton, Qt::ControlModifier, lineCenter(3));
+        QTest::mouseClick(open->findChild<QPushButton*>("cmdDone"), Qt::LeftButton);
+        QCOMPARE(doneColumn(reg), QString("first=1,second=1,third=0,fourth=1"));
+        QCOMPARE(column(*open, 4), QStringList {"third"});
+        QVERIFY(open->isVisible());
+        QCOMPARE(panel->text(), QString("1 reminder due"));
+        QTest::mouseClick(open->findChild<QPushButton*>("cmdDone"), Qt::LeftButton);
+        QCOMPARE(panel->text(), QString("No reminders due"));
+        QVERIFY(prompter.prompts().isEmpty());
+    }
+
     // The count is taken again when the New Document dialog closes, its reminders in mind.
     void countAgainAfterTheNewDocumentDialog()
     {

@@ -118,6 +118,7 @@ private Q_SLOTS:
 
         // A delete lists the search's remaining documents.
         fx.clickDocument("work");
+        prompter.answer(MsgBoxResult::Yes);
         w.action("btnDelete")->trigger();
         QCOMPARE(fx.reg.scalar("SELECT COUNT(*) FROM tbl_Documents WHERE DokAntraste = 'work'").toInt(), 0);
         QCOMPARE(fx.documentTexts(), QStringList({"contract"}));
@@ -129,7 +130,7 @@ private Q_SLOTS:
         QVERIFY(box->text().isEmpty());
         QCOMPARE(fx.documentTexts(), QStringList({"contract", "letter", "loose", "note"}));
         QCOMPARE(w.windowTitle(), QString("CATEGORIES"));
-        QVERIFY(prompter.prompts().isEmpty());
+        QCOMPARE(prompter.texts(), QStringList {"Delete the document \"work\" (SUT-2)?"});
     }
 };
 
