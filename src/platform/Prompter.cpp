@@ -76,6 +76,15 @@ int escapeResult(int style)
 
 Prompter::~Prompter() = default;
 
+int Prompter::choose(const QString& prompt, const QStringList& choices, int style, const QString& title)
+{
+    const int buttons = choices.size() > 2 ? MsgBoxStyle::YesNoCancel : MsgBoxStyle::YesNo;
+    const QList<int> results = buttonResults(buttons);
+    const int answer = msgBox(prompt, buttons + (style & MsgBoxStyle::IconMask), title);
+    const qsizetype index = results.indexOf(answer);
+    return int(index < 0 ? results.size() - 1 : index);
+}
+
 Prompter& Prompter::instance()
 {
     static ConsolePrompter fallback;
