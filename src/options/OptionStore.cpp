@@ -219,16 +219,21 @@ QString getRegValue(const QString& name)
     return readRegValue(Hive::CurrentUser, optionsKeyPath(), name, NotFound);
 }
 
-QString getIniValue(const QString& key)
+std::optional<QString> findIniValue(const QString& key)
 {
     SectionFile file;
     if (file.load(iniFilePath()) != SectionFile::Status::Ok)
-        return iniDefaultValue();
+        return std::nullopt;
     const std::optional<QString> value = file.value(IniSection, key);
     if (!value)
-        return iniDefaultValue();
+        return std::nullopt;
     // The reader's buffer holds 254 characters and the terminating zero.
     return value->left(MaxValueLength);
+}
+
+QString getIniValue(const QString& key)
+{
+    return findIniValue(key).value_or(iniDefaultValue());
 }
 
 bool writeIniValue(const QString& key, const QString& value)

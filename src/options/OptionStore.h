@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <concepts>
+#include <optional>
 
 namespace kartella {
 
@@ -55,6 +56,8 @@ QString optionsFilePath();
 QString iniFilePath();
 // Reads one key of section "DocContr"; a missing file or key gives iniDefaultValue().
 QString getIniValue(const QString& key);
+// Reads one key of section "DocContr" as getIniValue does; nothing for a missing file or key.
+std::optional<QString> findIniValue(const QString& key);
 // Writes one key of section "DocContr"; false when the file system refuses.
 bool writeIniValue(const QString& key, const QString& value);
 // "c:\" under Windows; elsewhere the home folder followed by "/".
