@@ -21,6 +21,12 @@ public:
     }
     QString openFile(const OpenFileRequest&) override { return {}; }
     QString chooseFolder(const QString&) override { return {}; }
+    // Takes the last choice, as Esc would: the first may only ask again.
+    int choose(const QString& prompt, const QStringList& choices, int style, const QString& title) override
+    {
+        msgBox(prompt, (style & MsgBoxStyle::IconMask) + MsgBoxStyle::OkOnly, title);
+        return int(choices.size()) - 1;
+    }
 };
 
 Prompter*& installed()
