@@ -22,6 +22,14 @@ void dialNumber(const QString& number)
 
 void requestCall(const QString& number)
 {
+    if (!Telephony::instance().callsPossible()) {
+        msgBox(QStringLiteral("Unable to dial number ") + number
+                + QStringLiteral(": no program on this desktop takes phone calls (none is set for tel: "
+                                 "links).\r\rInstall a softphone or a phone link that handles tel: links, "
+                                 "then dial again."),
+            MsgBoxStyle::OkOnly | MsgBoxStyle::Critical, QStringLiteral("Dial Number Error"));
+        return;
+    }
     const int answer = msgBox(QStringLiteral("Please pickup the phone and choose OK to dial ") + number,
         MsgBoxStyle::OkCancel | MsgBoxStyle::Information, QStringLiteral("Dial Number"));
     if (answer == MsgBoxResult::Cancel)

@@ -11,7 +11,8 @@ namespace kartella {
 // Asks before placing a call to number and tells of a call that couldn't be placed. An
 // empty number is refused with a message.
 void dialNumber(const QString& number);
-// Asks the user to pick up the phone, then places the call; Cancel places none.
+// Asks the user to pick up the phone, then places the call; Cancel places none. Where the
+// desktop has no program for calls, says so instead.
 void requestCall(const QString& number);
 // Opens address in the browser: completed as a browser does when it has no scheme
 // ("www.example.lt" becomes "http://www.example.lt"). The result isn't looked at.

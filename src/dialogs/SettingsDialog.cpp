@@ -341,15 +341,16 @@ void SettingsDialog::connectEvents()
 
 void SettingsDialog::load()
 {
-    // 1. The ini file's keys; a missing key shows the ini file's default.
+    // 1. The ini file's keys. A missing folder shows the ini file's default; a missing part
+    // of the address shows empty, so that nothing stands in for the user's own words.
     m_defaultFolder->setText(getIniValue(QStringLiteral("AllDocs")));
-    m_company->setText(getIniValue(QStringLiteral("Company")));
-    m_name->setText(getIniValue(QStringLiteral("Name")));
-    m_street->setText(getIniValue(QStringLiteral("Address")));
-    m_city->setText(getIniValue(QStringLiteral("City")));
-    m_country->setText(getIniValue(QStringLiteral("Country")));
-    m_state->setText(getIniValue(QStringLiteral("State")));
-    m_postalCode->setText(getIniValue(QStringLiteral("Postal_Code")));
+    m_storedAddressKeys.clear();
+    for (const auto& [key, box] : addressBoxes()) {
+        const std::optional<QString> value = findIniValue(key);
+        if (value)
+            m_storedAddressKeys.append(key);
+        box->setText(value.value_or(QString()));
+    }
     // 2 to 4 go through the controls' reactions, which store the values again.
     m_separator1->setText(getRegValue(QStringLiteral("Separator1")));
     m_separator2->setText(getRegValue(QStringLiteral("Separator2")));
@@ -373,6 +374,14 @@ void SettingsDialog::load()
     // 8. The load itself is no change.
     m_settingsChanged = false;
     m_databaseChanged = false;
+}
+
+QList<QPair<QString, QLineEdit*>> SettingsDialog::addressBoxes() const
+{
+    return {{QStringLiteral("Company"), m_company}, {QStringLiteral("Name"), m_name},
+        {QStringLiteral("Address"), m_street}, {QStringLiteral("City"), m_city},
+        {QStringLiteral("Country"), m_country}, {QStringLiteral("State"), m_state},
+        {QStringLiteral("Postal_Code"), m_postalCode}};
 }
 
 void SettingsDialog::refreshSample()
@@ -428,13 +437,21 @@ void SettingsDialog::save()
     settings.defaultFolder = m_defaultFolder->text();
     settings.filterByDate = m_filterByDate->isChecked();
     settings.network = m_network->isChecked();
-    settings.company = m_company->text();
-    settings.name = m_name->text();
-    settings.address = m_street->text();
-    settings.city = m_city->text();
-    settings.country = m_country->text();
-    settings.state = m_state->text();
-    settings.postalCode = m_postalCode->text();
+    // An address key the file lacks is written once the user has typed something for it.
+    const auto address = [this](const QString& key) -> std::optional<QString> {
+        for (const auto& [name, box] : addressBoxes()) {
+            if (name == key && (m_storedAddressKeys.contains(key) || !box->text().isEmpty()))
+                return box->text();
+        }
+        return std::nullopt;
+    };
+    settings.company = address(QStringLiteral("Company"));
+    settings.name = address(QStringLiteral("Name"));
+    settings.address = address(QStringLiteral("Address"));
+    settings.city = address(QStringLiteral("City"));
+    settings.country = address(QStringLiteral("Country"));
+    settings.state = address(QStringLiteral("State"));
+    settings.postalCode = address(QStringLiteral("Postal_Code"));
     settings.databaseType = databaseTypeIndex();
     settings.dbLocation = m_dbLocation->text();
     if (!writeConfirmedSettings(settings)) {

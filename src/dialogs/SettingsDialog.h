@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QDialog>
+#include <QList>
+#include <QPair>
+#include <QStringList>
 
 class QButtonGroup;
 class QCheckBox;
@@ -54,6 +57,8 @@ private:
     QWidget* buildFileNameTab();
     QLineEdit* addTextBox(const QString& name, const QString& accessibleName = {});
     void load();
+    // The ini file's address keys and their boxes, in the file's order.
+    QList<QPair<QString, QLineEdit*>> addressBoxes() const;
     void connectEvents();
     void markChanged() { m_settingsChanged = true; }
     void refreshSample();
@@ -66,6 +71,8 @@ private:
     bool m_settingsChanged = false;
     bool m_databaseChanged = false;
     bool m_typedDatabaseType = false;
+    // The address keys the ini file held when the dialog opened.
+    QStringList m_storedAddressKeys;
 
     QTabWidget* m_tabs = nullptr;
     QLineEdit* m_defaultFolder = nullptr;

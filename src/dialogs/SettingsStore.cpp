@@ -62,7 +62,7 @@ QString iniCheckBoxText(bool checked)
 
 bool writeConfirmedSettings(const ConfirmedSettings& settings)
 {
-    const std::pair<const char*, QString> keys[] = {
+    const std::pair<const char*, std::optional<QString>> keys[] = {
         {"AllDocs", settings.defaultFolder},
         {"FilterByDateOn", iniCheckBoxText(settings.filterByDate)},
         {"Network", iniCheckBoxText(settings.network)},
@@ -75,7 +75,7 @@ bool writeConfirmedSettings(const ConfirmedSettings& settings)
         {"Postal_Code", settings.postalCode},
     };
     for (const auto& [key, value] : keys) {
-        if (!writeIniValue(QString::fromLatin1(key), value))
+        if (value && !writeIniValue(QString::fromLatin1(key), *value))
             return false;
     }
 

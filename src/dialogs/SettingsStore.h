@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace kartella {
 
 // The settings the settings dialog writes only when it is confirmed: the ini file's keys
@@ -11,13 +13,14 @@ struct ConfirmedSettings
     QString defaultFolder; // ini "AllDocs"
     bool filterByDate = false;
     bool network = false;
-    QString company;
-    QString name;
-    QString address;
-    QString city;
-    QString country;
-    QString state;
-    QString postalCode;
+    // The user's address: a key without a value here is left as the file has it (or hasn't).
+    std::optional<QString> company;
+    std::optional<QString> name;
+    std::optional<QString> address;
+    std::optional<QString> city;
+    std::optional<QString> country;
+    std::optional<QString> state;
+    std::optional<QString> postalCode;
     // The list index of the database type: 0 or 1 picks a provider, anything else keeps it.
     int databaseType = -1;
     QString dbLocation;
@@ -33,7 +36,8 @@ int listIndexForProvider(const QString& provider);
 QString iniCheckBoxText(bool checked);
 
 // Writes the settings: the ini keys of section "DocContr" one after another (AllDocs,
-// FilterByDateOn, Network, Company, Name, Address, City, Country, State, Postal_Code), then
+// FilterByDateOn, Network, Company, Name, Address, City, Country, State, Postal_Code, each
+// address key only when it has a value), then
 // Provider (only for list index 0 or 1), Filter, Network and DbLocation. Values go out
 // exactly as given. Returns false when the ini file could not be written; the options
 // are then left as they were, so that a new register is never half taken.

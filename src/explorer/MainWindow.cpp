@@ -1,6 +1,7 @@
 #include "explorer/MainWindow.h"
 
 #include "base/Error.h"
+#include "dialogs/MissingRegister.h"
 #include "dialogs/SettingsStore.h"
 #include "explorer/DocumentFills.h"
 #include "explorer/DocumentQueries.h"
@@ -208,11 +209,12 @@ void MainWindow::load()
     // the full wait of every statement. Each step that opens the register shows the busy
     // pointer while it works; the questions and messages between them show the normal one.
     const engine::OpeningWait shortWait(StartLockWaitMs);
-    // 1. A register file that isn't there gives way to the default one. A register on a
-    // server is opened as it stands: it is never replaced, created or looked for on disk.
-    if (registerLocationMissing(getRegValue(QStringLiteral("DbLocation"))))
-        setRegValue(QStringLiteral("Dblocation"), defaultDbLocation());
-    offerDefaultRegister();
+    // 1. Options that name no register get the default one; a register file that isn't
+    // there is the user's to settle (or to leave for the settings). A register on a server
+    // is opened as it stands: it is never replaced, created or looked for on disk.
+    const bool located = settleRegisterLocation(defaultDbLocation());
+    if (located)
+        offerDefaultRegister();
     // 2. The source panel, with the location as the options hold it.
     const QString location = getRegValue(QStringLiteral("DbLocation"));
     m_shownRegister = location;
@@ -220,7 +222,7 @@ void MainWindow::load()
     // Before any fill: a register of an earlier version is upgraded if the user agrees, and
     // otherwise counts as one that can't be opened. So does a server that can't be reached,
     // so that the start waits for it once rather than at every fill.
-    const std::optional<Error> refused = offerRegisterUpgrade(location);
+    const std::optional<Error> refused = located ? offerRegisterUpgrade(location) : std::nullopt;
     // 4. This month, from its first day to the first day of the next.
     const QDate today = Clock::currentDate();
     const QDate first(today.year(), today.month(), 1);
@@ -237,15 +239,16 @@ void MainWindow::load()
     m_lastNodeKey = QStringLiteral("ALL");
     // 7. The direction box's click makes the first fill.
     m_direction->setCurrentIndex(0);
-    if (!refused)
+    if (located && !refused)
         onDirectionChanged();
     connect(m_direction, &QComboBox::currentIndexChanged, this, &MainWindow::onDirectionChanged);
     connect(m_startDate, &QDateEdit::dateChanged, this, &MainWindow::onStartDateChanged);
     connect(m_endDate, &QDateEdit::dateChanged, this, &MainWindow::onEndDateChanged);
     m_loading = false;
     // 8.
-    if (refused) {
-        reportConnectionError(refused->number(), refused->description());
+    if (!located || refused) {
+        if (refused)
+            reportConnectionError(refused->number(), refused->description());
         if (openSettings)
             openSettings();
         return;

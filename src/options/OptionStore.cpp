@@ -3,6 +3,7 @@
 #include "base/Error.h"
 #include "options/SectionFile.h"
 #include "platform/Prompter.h"
+#include "registration/ValueConversions.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -219,16 +220,59 @@ QString getRegValue(const QString& name)
     return readRegValue(Hive::CurrentUser, optionsKeyPath(), name, NotFound);
 }
 
-QString getIniValue(const QString& key)
+std::optional<QString> findIniValue(const QString& key)
 {
     SectionFile file;
     if (file.load(iniFilePath()) != SectionFile::Status::Ok)
-        return iniDefaultValue();
+        return std::nullopt;
     const std::optional<QString> value = file.value(IniSection, key);
     if (!value)
-        return iniDefaultValue();
+        return std::nullopt;
     // The reader's buffer holds 254 characters and the terminating zero.
     return value->left(MaxValueLength);
+}
+
+QString wrongOptionMessage(const QString& name, const QString& value, const QString& reason)
+{
+#ifdef Q_OS_WIN
+    const QString where = QStringLiteral("HKEY_CURRENT_USER\\") + optionsKeyPath();
+#else
+    const QString where = optionsFilePath();
+#endif
+    return QStringLiteral("The option ") + name + QStringLiteral(" can't be read: it holds \"") + value
+        + QStringLiteral("\" (") + reason + QStringLiteral(").\r\rCorrect it in ") + where
+        + QStringLiteral(", then try again.");
+}
+
+namespace {
+
+// Reads an option through convert; a failure is told again in words that name the option.
+template<typename Convert>
+auto readOption(const QString& name, Convert convert)
+{
+    const QString value = getRegValue(name);
+    try {
+        return convert(value);
+    } catch (const Error& error) {
+        throw Error(error.number(), wrongOptionMessage(name, value, error.description()));
+    }
+}
+
+} // namespace
+
+qint16 getRegInteger(const QString& name)
+{
+    return readOption(name, &toInteger16);
+}
+
+bool getRegFlag(const QString& name)
+{
+    return readOption(name, &toTruthValue);
+}
+
+QString getIniValue(const QString& key)
+{
+    return findIniValue(key).value_or(iniDefaultValue());
 }
 
 bool writeIniValue(const QString& key, const QString& value)

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <concepts>
+#include <optional>
 
 namespace kartella {
 
@@ -35,6 +36,16 @@ void setRegValue(const QString& name, T value)
 // message, when the key is missing.
 QString getRegValue(const QString& name);
 
+// Reads an option that holds a whole number (FileNumber, TodayNumber, IndexStyle, ...) as
+// toInteger16 converts it, or a flag (AutoRegIndex, UseMnemonic, ...) as toTruthValue does.
+// A value that can't be read so throws that conversion's Error (type mismatch or overflow)
+// with wrongOptionMessage as its description, so that whoever shows it names the option.
+qint16 getRegInteger(const QString& name);
+bool getRegFlag(const QString& name);
+// The message for an option whose value can't be read: it names the option, its value as
+// read and where the options are kept, and adds the reason.
+QString wrongOptionMessage(const QString& name, const QString& value, const QString& reason);
+
 // The primitives under the two: write or read one value of any key.
 bool writeRegValue(Hive hive, const QString& keyPath, const QString& name, const QString& value);
 QString readRegValue(Hive hive, const QString& keyPath, const QString& name, const QString& defaultValue);
@@ -55,6 +66,8 @@ QString optionsFilePath();
 QString iniFilePath();
 // Reads one key of section "DocContr"; a missing file or key gives iniDefaultValue().
 QString getIniValue(const QString& key);
+// Reads one key of section "DocContr" as getIniValue does; nothing for a missing file or key.
+std::optional<QString> findIniValue(const QString& key);
 // Writes one key of section "DocContr"; false when the file system refuses.
 bool writeIniValue(const QString& key, const QString& value);
 // "c:\" under Windows; elsewhere the home folder followed by "/".

@@ -15,8 +15,19 @@ namespace {
 // and the two breaks.
 const QString LinesPrefix = QStringLiteral("@Lines(");
 
+// A value written by hand in double quotes ("FileNumber=" 1"") reads as the text between
+// them, the blanks outside the quotes left out. A value of ours that would read so is
+// written in quotes of its own.
+bool isQuoted(QStringView text)
+{
+    const QStringView trimmed = text.trimmed();
+    return trimmed.size() >= 2 && trimmed.startsWith(u'"') && trimmed.endsWith(u'"');
+}
+
 QString encode(const QString& value)
 {
+    if (isQuoted(value))
+        return u'"' + value + u'"';
     if (!value.contains(u'\n') && !value.contains(u'\r') && !value.startsWith(LinesPrefix))
         return value;
     QString out = LinesPrefix;
@@ -35,6 +46,10 @@ QString encode(const QString& value)
 
 QString decode(QStringView text)
 {
+    if (isQuoted(text)) {
+        const QStringView trimmed = text.trimmed();
+        return trimmed.mid(1, trimmed.size() - 2).toString();
+    }
     if (!text.startsWith(LinesPrefix) || !text.endsWith(u')'))
         return text.toString();
     const QStringView inner = text.mid(LinesPrefix.size(), text.size() - LinesPrefix.size() - 1);

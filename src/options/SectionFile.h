@@ -10,7 +10,9 @@ namespace kartella {
 // A small sectioned text file of "name=value" lines, the form the options and the ini
 // file take where there is no registry. Names and sections are compared without regard
 // to case; values are kept exactly, leading blanks and backslashes included (only a value with a
-// line break is written in an escaped form, @Lines(...)). Lines the file holds besides ours are kept.
+// line break is written in an escaped form, @Lines(...)). A value in double quotes, as people
+// write them by hand, reads as the text between the quotes. Lines the file holds besides ours
+// are kept.
 class SectionFile
 {
 public:

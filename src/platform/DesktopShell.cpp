@@ -1,6 +1,8 @@
 #include "platform/DesktopShell.h"
 
+#include "platform/DesktopHandlers.h"
 #include "platform/FilePropertiesDialog.h"
+#include "platform/Prompter.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -81,6 +83,13 @@ bool DesktopShell::open(const QString& path)
 {
     if (path.isEmpty() || !QFileInfo::exists(path))
         return false;
+    if (!desktopOpensFile(path)) {
+        ask(QStringLiteral("No program on this desktop opens files of the type ") + fileTypeDescription(path)
+                + QStringLiteral(".\r\rInstall a program for this type of file, or choose one for it in "
+                                 "the desktop's settings, then open the document again."),
+            MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation, QStringLiteral("Unable to open Document"));
+        return false;
+    }
     return QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
 }
 

@@ -22,6 +22,8 @@ public:
     // Copies and moves of more bytes than this show their progress.
     static constexpr qint64 DefaultProgressThreshold = qint64(4) << 20;
 
+    // Opens path with the desktop's program for its type; where the desktop has none, says
+    // so, naming the type, and gives false.
     bool open(const QString& path) override;
     // Starts the printing program and doesn't wait for it; false when it can't be started.
     bool print(const QString& path) override;

@@ -1,5 +1,7 @@
 #include "platform/DesktopTelephony.h"
 
+#include "platform/DesktopHandlers.h"
+
 #include <QDesktopServices>
 
 namespace kartella {
@@ -8,6 +10,11 @@ bool DesktopTelephony::requestCall(const QString& number)
 {
     const QUrl url = telUrl(number);
     return url.isValid() && QDesktopServices::openUrl(url);
+}
+
+bool DesktopTelephony::callsPossible()
+{
+    return desktopPlacesCalls();
 }
 
 bool DesktopTelephony::openLink(const QUrl& url)

@@ -10,6 +10,8 @@ class DesktopTelephony final : public Telephony
 {
 public:
     bool requestCall(const QString& number) override;
+    // False when the desktop has no program for tel: links.
+    bool callsPossible() override;
     bool openLink(const QUrl& url) override;
 };
 

@@ -21,6 +21,12 @@ public:
     }
     QString openFile(const OpenFileRequest&) override { return {}; }
     QString chooseFolder(const QString&) override { return {}; }
+    // Takes the last choice, as Esc would: the first may only ask again.
+    int choose(const QString& prompt, const QStringList& choices, int style, const QString& title) override
+    {
+        msgBox(prompt, (style & MsgBoxStyle::IconMask) + MsgBoxStyle::OkOnly, title);
+        return int(choices.size()) - 1;
+    }
 };
 
 Prompter*& installed()
@@ -75,6 +81,15 @@ int escapeResult(int style)
 }
 
 Prompter::~Prompter() = default;
+
+int Prompter::choose(const QString& prompt, const QStringList& choices, int style, const QString& title)
+{
+    const int buttons = choices.size() > 2 ? MsgBoxStyle::YesNoCancel : MsgBoxStyle::YesNo;
+    const QList<int> results = buttonResults(buttons);
+    const int answer = msgBox(prompt, buttons + (style & MsgBoxStyle::IconMask), title);
+    const qsizetype index = results.indexOf(answer);
+    return int(index < 0 ? results.size() - 1 : index);
+}
 
 Prompter& Prompter::instance()
 {

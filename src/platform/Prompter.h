@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace kartella {
 
@@ -68,6 +69,12 @@ public:
     virtual QString openFile(const OpenFileRequest& request) = 0;
     // Asks for a folder; Cancel gives an empty text.
     virtual QString chooseFolder(const QString& prompt) = 0;
+    // Offers two or three choices on buttons of their own texts, with the icon of style
+    // (its buttons are ignored); returns the index of the button pressed. The first button
+    // is the default and Esc takes the last. A prompter that knows only the standard
+    // button sets asks it as a msgBox of YesNo or YesNoCancel: Yes, No and Cancel stand for
+    // the choices in their order.
+    virtual int choose(const QString& prompt, const QStringList& choices, int style, const QString& title);
 
     static Prompter& instance();
     // Installs prompter (not owned); nullptr restores the default, which writes to stderr.

@@ -17,6 +17,8 @@ public:
     // Asks the desktop's call manager to place a voice call to number, as the user typed it;
     // false when nothing took the call.
     virtual bool requestCall(const QString& number) = 0;
+    // Whether anything on this computer can take a call; true unless known otherwise.
+    virtual bool callsPossible();
     // Opens url (a web page or a mailto: link) with the desktop's program for it; false when
     // nothing could be started.
     virtual bool openLink(const QUrl& url) = 0;

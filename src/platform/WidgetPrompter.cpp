@@ -100,6 +100,27 @@ int WidgetPrompter::msgBox(const QString& prompt, int style, const QString& titl
     return messageBoxResult(*box, style);
 }
 
+int WidgetPrompter::choose(const QString& prompt, const QStringList& choices, int style, const QString& title)
+{
+    const std::unique_ptr<QMessageBox> box
+        = buildMessageBox(prompt, style & MsgBoxStyle::IconMask, title, ownerWindow());
+    // The box comes with an OK button of its own; the choices take its place.
+    for (QAbstractButton* button : box->buttons()) {
+        box->removeButton(button);
+        delete button;
+    }
+    QList<QPushButton*> buttons;
+    for (const QString& choice : choices)
+        buttons.append(box->addButton(choice, QMessageBox::ActionRole));
+    if (buttons.isEmpty())
+        return -1;
+    box->setDefaultButton(buttons.first());
+    box->setEscapeButton(buttons.last());
+    box->exec();
+    const qsizetype index = buttons.indexOf(qobject_cast<QPushButton*>(box->clickedButton()));
+    return int(index < 0 ? buttons.size() - 1 : index);
+}
+
 QString fileDialogFilter(const QString& label, const QString& pattern)
 {
     QString name = label.trimmed();

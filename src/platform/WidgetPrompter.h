@@ -33,6 +33,7 @@ public:
     int msgBox(const QString& prompt, int style, const QString& title) override;
     QString openFile(const OpenFileRequest& request) override;
     QString chooseFolder(const QString& prompt) override;
+    int choose(const QString& prompt, const QStringList& choices, int style, const QString& title) override;
 };
 
 } // namespace kartella

@@ -191,31 +191,30 @@ private Q_SLOTS:
         QVERIFY(prompter.allAnswered());
     }
 
-    // OK writes every ini key in its order, the check boxes with a leading blank, the
-    // texts exactly as typed; a missing key loads as the default and goes back as it.
+    // OK writes the ini keys in their order, the check boxes with a leading blank, the
+    // texts exactly as typed; a missing folder loads as the default and goes back as it, a
+    // missing part of the address loads empty and is written only once typed.
     void okWritesTheIniFileInOrder()
     {
         TestRegister reg;
         ScriptedPrompter prompter;
         Settings s;
         QCOMPARE(s.control<QLineEdit>("visidok")->text(), iniDefaultValue());
-        QCOMPARE(s.control<QLineEdit>("txtCompany")->text(), iniDefaultValue());
+        QCOMPARE(s.control<QLineEdit>("txtCompany")->text(), QString());
         s.type("name", "Ona Petraitiene");
         s.type("address", " Gedimino pr. 1 ");
         s.type("post", "");
         s.press("FilterByDate");
         s.press("btnOk");
         QVERIFY(!s.dialog.isVisible());
-        QCOMPARE(iniKeyOrder(),
-            QStringList({"AllDocs", "FilterByDateOn", "Network", "Company", "Name", "Address", "City",
-                "Country", "State", "Postal_Code"}));
+        QCOMPARE(iniKeyOrder(), QStringList({"AllDocs", "FilterByDateOn", "Network", "Name", "Address"}));
         QCOMPARE(getIniValue("AllDocs"), iniDefaultValue());
         QCOMPARE(getIniValue("FilterByDateOn"), " 1");
         QCOMPARE(getIniValue("Network"), " 0");
-        QCOMPARE(getIniValue("Company"), iniDefaultValue());
+        QCOMPARE(findIniValue("Company"), std::nullopt);
         QCOMPARE(getIniValue("Name"), "Ona Petraitiene");
         QCOMPARE(getIniValue("Address"), " Gedimino pr. 1 ");
-        QCOMPARE(getIniValue("Postal_Code"), "");
+        QCOMPARE(findIniValue("Postal_Code"), std::nullopt);
         QCOMPARE(getRegValue("Filter"), "1");
         QCOMPARE(getRegValue("Network"), "0");
         QCOMPARE(getRegValue("DbLocation"), reg.path());
@@ -229,6 +228,42 @@ private Q_SLOTS:
         QVERIFY(again.control<QCheckBox>("FilterByDate")->isChecked());
         again.press("btnOk");
         QCOMPARE(getIniValue("AllDocs"), "C:\\Docs\\");
+    }
+
+    // The parts of the address the settings file lacks show empty boxes and stay out of
+    // the file until the user types them; a part the file holds is written as the box
+    // shows it, emptied too.
+    void missingAddressKeysStayUnwritten()
+    {
+        TestRegister reg;
+        ScriptedPrompter prompter;
+        QVERIFY(writeIniValue("City", "Vilnius"));
+        QVERIFY(writeIniValue("State", "Vilniaus apskr."));
+        Settings s;
+        const QStringList boxes = {"txtCompany", "name", "address", "Country", "post"};
+        for (const QString& box : boxes)
+            QVERIFY2(s.control<QLineEdit>(box)->text().isEmpty(), qPrintable(box));
+        QCOMPARE(s.control<QLineEdit>("city")->text(), "Vilnius");
+        // Typed and rubbed out again is as untouched.
+        s.type("Country", "Lietuva");
+        s.type("Country", "");
+        s.type("txtCompany", "UAB Kartella");
+        s.type("State", "");
+        s.press("btnOk");
+        QVERIFY(!s.dialog.isVisible());
+        QCOMPARE(
+            iniKeyOrder(), QStringList({"City", "State", "AllDocs", "FilterByDateOn", "Network", "Company"}));
+        QCOMPARE(getIniValue("Company"), "UAB Kartella");
+        QCOMPARE(getIniValue("City"), "Vilnius");
+        QCOMPARE(getIniValue("State"), "");
+        QVERIFY(prompter.prompts().isEmpty());
+
+        // Opened again, with the same keys missing: OK leaves them out still.
+        Settings again;
+        QCOMPARE(again.control<QLineEdit>("name")->text(), QString());
+        again.press("btnOk");
+        QCOMPARE(
+            iniKeyOrder(), QStringList({"City", "State", "AllDocs", "FilterByDateOn", "Network", "Company"}));
     }
 
     // A settings file that can't be written: the message says so, and the dialog stays with

@@ -54,6 +54,46 @@ private:
     ScriptedPrompter& m_answers;
 };
 
+// Answers as the scripted prompter, after running an action at each question.
+class QuestionHook final : public Prompter
+{
+public:
+    QuestionHook(ScriptedPrompter& answers, std::function<void()> action)
+        : m_answers(answers)
+        , m_action(std::move(action))
+    {
+        Prompter::setInstance(this);
+    }
+    ~QuestionHook() override { Prompter::setInstance(&m_answers); }
+    QuestionHook(const QuestionHook&) = delete;
+    QuestionHook& operator=(const QuestionHook&) = delete;
+
+    int msgBox(const QString& prompt, int style, const QString& title) override
+    {
+        m_action();
+        return m_answers.msgBox(prompt, style, title);
+    }
+    QString openFile(const OpenFileRequest& request) override { return m_answers.openFile(request); }
+    QString chooseFolder(const QString& prompt) override { return m_answers.chooseFolder(prompt); }
+
+private:
+    ScriptedPrompter& m_answers;
+    std::function<void()> m_action;
+};
+
+// Takes an option out of the options file, as the first start finds it.
+void forgetOption(const QString& name)
+{
+    QFile file(optionsFilePath());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n');
+    file.close();
+    lines.removeIf(
+        [&name](const QString& line) { return line.startsWith(name + u'=', Qt::CaseInsensitive); });
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(lines.join(u'\n').toUtf8());
+}
+
 // The names in a folder, its subfolders' included.
 QStringList folderContents(const QString& folder)
 {
@@ -74,10 +114,95 @@ class StartTest : public QObject
 private Q_SLOTS:
     void init() { selection() = SelectionState(); }
 
-    void missingRegisterIsReportedOnce()
+    // A register file that isn't there (a share not mounted yet) is named, and the user
+    // settles it: nothing takes its place in the options unless the user chooses a file.
+    void missingRegisterIsTheUsersToSettle_data()
     {
+        QTest::addColumn<QList<int>>("answers"); // Yes: Try Again, No: Choose Another, Cancel: Settings
+        QTest::addColumn<QString>("chosenFile"); // for Choose Another; "" is Cancel
+        QTest::addColumn<bool>("appears"); // the register turns up while the question is shown
+        QTest::addColumn<QString>("opened"); // "missing", "chosen" or "" (the settings)
+        const QList<int> tryAgain {MsgBoxResult::Yes};
+        const QList<int> choose {MsgBoxResult::No};
+        const QList<int> settings {MsgBoxResult::Cancel};
+        QTest::newRow("Open Settings") << settings << "" << false << "";
+        QTest::newRow("Try Again while missing, then Settings") << tryAgain + settings << "" << false << "";
+        QTest::newRow("Try Again once mounted") << tryAgain << "" << true << "missing";
+        QTest::newRow("Choose Another") << choose << "chosen" << false << "chosen";
+        QTest::newRow("Choose Another cancelled, then Settings") << choose + settings << "" << false << "";
+    }
+
+    void missingRegisterIsTheUsersToSettle()
+    {
+        QFETCH(QList<int>, answers);
+        QFETCH(QString, chosenFile);
+        QFETCH(bool, appears);
+        QFETCH(QString, opened);
         TestRegister reg;
-        setRegValue("DbLocation", reg.dir() + "/nowhere/Kartella.mdb");
+        reg.insert("tbl_Document_Categories", {{"DokKategorija", "Sutartys"}});
+        const QString missing = reg.dir() + "/share/Kartella.mdb";
+        const QString chosen = reg.dir() + "/Other.mdb";
+        QVERIFY(QFile::copy(reg.path(), chosen));
+        setRegValue("DbLocation", missing);
+        const bool defaultThere = QFileInfo::exists(MainWindow::defaultDbLocation());
+
+        ScriptedPrompter prompter;
+        for (const int answer : answers)
+            prompter.answer(answer);
+        if (answers.contains(MsgBoxResult::No))
+            prompter.answerFile(chosenFile.isEmpty() ? QString() : chosen);
+        // The share is mounted while the question waits.
+        QuestionHook mount(prompter, [&] {
+            if (appears && QDir().mkpath(reg.dir() + "/share"))
+                QFile::copy(reg.path(), missing);
+        });
+        MainWindow w;
+        int settingsOpened = 0;
+        w.openSettings = [&settingsOpened] { ++settingsOpened; };
+        w.show();
+        w.load();
+
+        QVERIFY(prompter.allAnswered());
+        const QString expected = opened == "chosen" ? chosen : missing;
+        QCOMPARE(getRegValue("DbLocation"), expected);
+        QCOMPARE(w.findChild<QLabel*>("pnSource")->text(), "Source : " + expected + "   ");
+        // Each question names the register, as the options name it, and offers three ways on.
+        QCOMPARE(prompter.prompts().size(), answers.size());
+        for (const auto& prompt : prompter.prompts()) {
+            QCOMPARE(prompt.title, QString("Register not found"));
+            QCOMPARE(prompt.style, MsgBoxStyle::YesNoCancel + MsgBoxStyle::Exclamation);
+            QVERIFY2(prompt.text.startsWith("The register " + missing + " cannot be found."),
+                qPrintable(prompt.text));
+        }
+        if (answers.contains(MsgBoxResult::No)) {
+            QCOMPARE(prompter.fileRequests.size(), 1);
+            QCOMPARE(prompter.fileRequests.first().pattern, QString("*.mdb"));
+        }
+        QCOMPARE(settingsOpened, opened.isEmpty() ? 1 : 0);
+        QCOMPARE(w.tree()->nodeCount() > 0, !opened.isEmpty());
+        // Neither the default register nor the missing one is made behind the user's back.
+        QCOMPARE(QFileInfo::exists(MainWindow::defaultDbLocation()), defaultThere);
+        QCOMPARE(QFileInfo::exists(missing), appears);
+    }
+
+    // The first start, whose options name no register yet, takes the default one without a
+    // question.
+    void firstStartTakesTheDefaultRegister_data()
+    {
+        QTest::addColumn<bool>("absent");
+        QTest::newRow("DbLocation absent") << true;
+        QTest::newRow("DbLocation empty") << false;
+    }
+
+    void firstStartTakesTheDefaultRegister()
+    {
+        QFETCH(bool, absent);
+        TestRegister reg;
+        if (absent)
+            forgetOption("DbLocation");
+        else
+            setRegValue("DbLocation", "");
+        QCOMPARE(getRegValue("DbLocation"), absent ? QString("Not Found") : QString());
         ScriptedPrompter prompter;
         prompter.answer(MsgBoxResult::Ok);
         MainWindow w;
@@ -85,18 +210,12 @@ private Q_SLOTS:
         w.openSettings = [&settingsOpened] { ++settingsOpened; };
         w.show();
         w.load();
-        QCOMPARE(settingsOpened, 1);
-        // The missing file gives way to the default, which isn't there either.
         QCOMPARE(getRegValue("DbLocation"), MainWindow::defaultDbLocation());
+        // The default register isn't there either: the one message is the connection's.
         QCOMPARE(prompter.prompts().size(), 1);
-        const auto prompt = prompter.prompts().first();
-        QCOMPARE(prompt.title, QString("Connection to database error:"));
-        QCOMPARE(prompt.style, MsgBoxStyle::OkOnly + MsgBoxStyle::Critical);
-        QVERIFY(prompt.text.startsWith("Error: -2147467259 "));
-        QVERIFY(prompt.text.contains(MainWindow::defaultDbLocation()));
-        QVERIFY(prompt.text.endsWith("\rSelect correct database type and file, please!"));
-        QCOMPARE(w.documentModel()->itemCount(), 0);
-        QCOMPARE(w.tree()->nodeCount(), 0);
+        QCOMPARE(prompter.prompts().first().title, QString("Connection to database error:"));
+        QVERIFY(prompter.prompts().first().text.contains(MainWindow::defaultDbLocation()));
+        QCOMPARE(settingsOpened, 1);
     }
 
     // An installed program (its folder not writable) keeps its register in the user's data
@@ -111,7 +230,7 @@ private Q_SLOTS:
     void installedProgramOffersItsDefaultRegister()
     {
         QFETCH(bool, create);
-        TestRegister reg; // the options of a register, whose location is then lost
+        TestRegister reg; // the options of a first start, which name no register
         QTemporaryDir data;
         qputenv("XDG_DATA_HOME", QFile::encodeName(data.path()));
         setProgramFolderWritableCheck([] { return false; });
@@ -124,7 +243,7 @@ private Q_SLOTS:
         const QString expected = QDir::toNativeSeparators(data.path() + "/Kartella/Kartella.mdb");
         QCOMPARE(MainWindow::defaultDbLocation(), expected);
 
-        setRegValue("DbLocation", data.filePath("nowhere/Kartella.mdb"));
+        forgetOption("DbLocation");
         ScriptedPrompter prompter;
         prompter.answer(create ? MsgBoxResult::Yes : MsgBoxResult::No);
         if (!create)

@@ -1,6 +1,9 @@
+#include "base/Error.h"
 #include "harness/ScriptedPrompter.h"
+#include "harness/TestRegister.h"
 #include "options/FirstRun.h"
 #include "options/OptionStore.h"
+#include "registration/FileNaming.h"
 
 #include <QDir>
 #include <QFile>
@@ -11,6 +14,7 @@
 
 using namespace kartella;
 using kartella::test::ScriptedPrompter;
+using kartella::test::TestRegister;
 
 class OptionStoreTest : public QObject
 {
@@ -96,6 +100,12 @@ private Q_SLOTS:
                                      << "one\r\ntwo";
         QTest::newRow("lithuanian") << "Ąžuolas Šarūnas"
                                     << "Ąžuolas Šarūnas";
+        QTest::newRow("in quotes") << "\"Acme\""
+                                   << "\"Acme\"";
+        QTest::newRow("in quotes, blanks around") << " \" 1\" "
+                                                  << " \" 1\" ";
+        QTest::newRow("one quote") << "\""
+                                   << "\"";
         QTest::newRow("254 characters") << QString(254, 'x') << QString(254, 'x');
         QTest::newRow("255 characters") << QString(255, 'x') << "Not Found";
     }
@@ -139,6 +149,93 @@ private Q_SLOTS:
         // Writing another value keeps the line as it was.
         setRegValue("Filter", 1);
         QVERIFY(optionsText().contains(QString::fromUtf8(line) + "\n"));
+    }
+
+    // A value written in double quotes by hand reads as the text between them.
+    void quotedValuesReadAsTheirText_data()
+    {
+        QTest::addColumn<QByteArray>("line");
+        QTest::addColumn<QString>("read");
+        QTest::newRow("leading blank kept") << QByteArray("FileNumber=\" 1\"") << " 1";
+        QTest::newRow("blanks outside") << QByteArray("FileNumber = \" 1\"  ") << " 1";
+        QTest::newRow("empty") << QByteArray("FileNumber=\"\"") << "";
+        QTest::newRow("quotes inside") << QByteArray("FileNumber=\"a \"b\" c\"") << "a \"b\" c";
+        QTest::newRow("not closed") << QByteArray("FileNumber=\" 1") << "\" 1";
+        QTest::newRow("one quote") << QByteArray("FileNumber=\"") << "\"";
+    }
+
+    void quotedValuesReadAsTheirText()
+    {
+        QFETCH(QByteArray, line);
+        QFETCH(QString, read);
+        writeOptionsFile("[Options]\n" + line + "\n");
+        QCOMPARE(getRegValue("FileNumber"), read);
+        QVERIFY(writeIniValue("Company", "x"));
+        QFile ini(iniFilePath());
+        QVERIFY(ini.open(QIODevice::Append));
+        ini.write(line.replace("FileNumber", "Name") + "\n");
+        ini.close();
+        QCOMPARE(getIniValue("Name"), read);
+    }
+
+    // The file name's running number written in quotes by hand gives the file its name, and
+    // the next number is stored in the program's own form.
+    void quotedFileNumberNamesTheFile()
+    {
+        TestRegister reg;
+        const qint32 category
+            = reg.insert("tbl_Document_Categories", {{"DokKategorija", "Sutartys"}, {"Mnemonic", "AGR"}});
+        QFile file(optionsFilePath());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QString text = QString::fromUtf8(file.readAll());
+        file.close();
+        text.replace("FileNumber= 1\n", "FileNumber=\" 12\"\n");
+        writeOptionsFile(text.toUtf8());
+        QCOMPARE(makeFileNumberName(category), "AGR00012");
+        QCOMPARE(getRegValue("FileNumber"), " 13");
+        QCOMPARE(getRegInteger("FileNumber"), qint16(13));
+    }
+
+    // An option whose value can't be read as what it holds is named, with its value and the
+    // file that keeps it; the error stays the conversion's.
+    void wrongOptionIsNamed_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<bool>("flag");
+        QTest::addColumn<long>("error");
+        QTest::newRow("a word for a number") << "FileNumber"
+                                             << "twelve" << false << 13L;
+        QTest::newRow("past 32767") << "TodayNumber"
+                                    << "32768" << false << 6L;
+        QTest::newRow("quotes within quotes") << "FileNumber"
+                                              << "\" 1\"" << false << 13L;
+        QTest::newRow("not a flag") << "AutoRegIndex"
+                                    << "yes" << true << 13L;
+    }
+
+    void wrongOptionIsNamed()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, value);
+        QFETCH(bool, flag);
+        QFETCH(long, error);
+        QVERIFY(seedOptionsIfMissing());
+        setRegValue(name, value);
+        try {
+            if (flag)
+                getRegFlag(name);
+            else
+                getRegInteger(name);
+            QFAIL("no error");
+        } catch (const Error& thrown) {
+            QCOMPARE(thrown.number(), error);
+            QVERIFY2(thrown.description().startsWith(
+                         "The option " + name + " can't be read: it holds \"" + value + "\" ("),
+                qPrintable(thrown.description()));
+            QVERIFY2(thrown.description().contains(optionsFilePath()), qPrintable(thrown.description()));
+        }
+        QCOMPARE(getRegValue(name), value);
     }
 
     void absentValueReadsNotFound()

@@ -109,6 +109,62 @@ private Q_SLOTS:
         QCOMPARE(result, expected);
     }
 
+    // A choice shows its own button texts in order; Enter takes the first, Esc the last.
+    void choiceButtonsCarryTheirTexts_data()
+    {
+        QTest::addColumn<int>("press"); // a button's index, or -1 Enter, -2 Esc
+        QTest::addColumn<int>("expected");
+        QTest::newRow("the second") << 1 << 1;
+        QTest::newRow("the third") << 2 << 2;
+        QTest::newRow("Enter") << -1 << 0;
+        QTest::newRow("Esc") << -2 << 2;
+    }
+
+    void choiceButtonsCarryTheirTexts()
+    {
+        QFETCH(int, press);
+        QFETCH(int, expected);
+        WidgetPrompter prompter;
+        QStringList shown;
+        QMessageBox::Icon icon = QMessageBox::NoIcon;
+        QTimer::singleShot(0, this, [&shown, &icon, press] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            QVERIFY(box);
+            icon = box->icon();
+            const QList<QAbstractButton*> buttons = box->buttons();
+            for (QAbstractButton* button : buttons)
+                shown << button->text();
+            if (press >= 0)
+                QTest::mouseClick(buttons.at(press), Qt::LeftButton);
+            else
+                QTest::keyClick(box, press == -1 ? Qt::Key_Return : Qt::Key_Escape);
+        });
+        const QStringList choices = {"Try Again", "Choose Another...", "Open Settings"};
+        QCOMPARE(prompter.choose("Where is it?", choices, MsgBoxStyle::Exclamation, "Own title"), expected);
+        QCOMPARE(shown, choices);
+        QCOMPARE(icon, QMessageBox::Warning);
+    }
+
+    // A prompter of the standard buttons only asks a choice as Yes, No and Cancel.
+    void choiceOfStandardButtons_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("Yes") << int(MsgBoxResult::Yes) << 0;
+        QTest::newRow("No") << int(MsgBoxResult::No) << 1;
+        QTest::newRow("Cancel") << int(MsgBoxResult::Cancel) << 2;
+    }
+
+    void choiceOfStandardButtons()
+    {
+        QFETCH(int, answer);
+        QFETCH(int, expected);
+        test::ScriptedPrompter prompter;
+        prompter.answer(answer);
+        QCOMPARE(prompter.choose("Which?", {"a", "b", "c"}, MsgBoxStyle::Question, "T"), expected);
+        QCOMPARE(prompter.prompts().first().style, MsgBoxStyle::YesNoCancel + MsgBoxStyle::Question);
+    }
+
     void carriageReturnBreaksTheLine()
     {
         const auto box = buildMessageBox("Error: 1 x\rSelect correct database type and file, please!", 16,
