@@ -17,10 +17,14 @@ private Q_SLOTS:
     void vCardFirstFittingLineWins();
     void vCardBalticText_data();
     void vCardBalticText();
+    void vCardNotes_data();
+    void vCardNotes();
     void outlookCsvSeparators_data();
     void outlookCsvSeparators();
     void outlookCsvCodePages_data();
     void outlookCsvCodePages();
+    void outlookCsvNotes_data();
+    void outlookCsvNotes();
     void unreadableFiles();
 
     // import

@@ -3,6 +3,7 @@
 #include "explorer/MainWindow.h"
 #include "harness/ScriptedPrompter.h"
 #include "harness/TestRegister.h"
+#include "platform/WidgetPrompter.h"
 
 #include <QAction>
 #include <QApplication>
@@ -37,7 +38,14 @@ private Q_SLOTS:
         QTRY_VERIFY(QApplication::activePopupWidget());
         QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_I);
         QTRY_VERIFY(prompter.allAnswered());
-        QCOMPARE(prompter.texts().last(), QStringLiteral("Contacts successfully imported."));
+        QCOMPARE(prompter.texts().last(),
+            QStringLiteral(
+                "Contacts successfully imported.\n\n1 added, 0 skipped as already there, 0 failed."));
+        // The chooser names the kinds of file it reads.
+        QCOMPARE(prompter.fileRequests.size(), 1);
+        const Prompter::OpenFileRequest& request = prompter.fileRequests.first();
+        QCOMPARE(fileDialogFilter(request.filterLabel, request.pattern),
+            QStringLiteral("vCard and Outlook CSV files (*.vcf *.vcard *.csv)"));
         QCOMPARE(reg.scalar(QStringLiteral("SELECT FullName FROM tbl_Contacts")).toString(),
             QStringLiteral("Rūta Jankauskaitė"));
         QCOMPARE(reg.scalar(QStringLiteral("SELECT PhoneName FROM tbl_Phones")).toString(),
@@ -50,6 +58,25 @@ private Q_SLOTS:
         QVERIFY(prompter.allAnswered());
         QCOMPARE(reg.scalar(QStringLiteral("SELECT COUNT(*) FROM tbl_Contacts")).toInt(), 1);
         QCOMPARE(reg.scalar(QStringLiteral("SELECT COUNT(*) FROM tbl_Phones")).toInt(), 1);
+        QCOMPARE(prompter.texts().last(),
+            QStringLiteral(
+                "Contacts successfully imported.\n\n0 added, 1 skipped as already there, 0 failed."));
+
+        // An Outlook export whose notes hold a line break inside quotes.
+        const QString csv = writeContactFile(dir.path(), QStringLiteral("c.csv"),
+            "First Name,Last Name,Notes,Mobile Phone\r\n"
+            "Ona,Petraitienė,\"Skambinti po 10,\r\nne anksčiau\",+370 600 2\r\n"
+            "Rūta,Jankauskaitė,,\r\n");
+        prompter.answer(MsgBoxResult::Yes).answerFile(csv).answer(MsgBoxResult::Ok);
+        command->trigger();
+        QVERIFY(prompter.allAnswered());
+        QCOMPARE(prompter.texts().last(),
+            QStringLiteral(
+                "Contacts successfully imported.\n\n1 added, 1 skipped as already there, 0 failed."));
+        QCOMPARE(
+            reg.scalar(QStringLiteral("SELECT Notes FROM tbl_Contacts WHERE FullName = 'Ona Petraitienė'"))
+                .toString(),
+            QStringLiteral("Skambinti po 10,\r\nne anksčiau"));
     }
 };
 

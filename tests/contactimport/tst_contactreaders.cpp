@@ -184,6 +184,46 @@ void ContactImportTest::vCardBalticText()
     QCOMPARE(contacts[0].value(P::FullName), QStringLiteral("Žydrūnas Šimkūnas-Čiurlionis"));
 }
 
+void ContactImportTest::vCardNotes_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QString>("notes");
+    const auto card = [](const char* version, const QByteArray& lines) -> QByteArray {
+        return "BEGIN:VCARD\r\nVERSION:" + QByteArray(version) + "\r\nFN:A\r\n" + lines + "END:VCARD\r\n";
+    };
+    QTest::newRow("2.1 folded before a blank of the text")
+        << card("2.1", "NOTE:Call after\r\n 10 o'clock\r\n") << QStringLiteral("Call after 10 o'clock");
+    QTest::newRow("2.1 quoted-printable line breaks") << card("2.1",
+        "NOTE;CHARSET=Windows-1252;ENCODING=QUOTED-PRINTABLE:Pirmadien=EF=0D=0A=\r\n"
+        " antradien=EF=\r\n"
+        "; ne savaitgal=EF\r\n") << QStringLiteral("Pirmadienï\r\n antradienï; ne savaitgalï");
+    QTest::newRow("2.1 semicolon as it stands")
+        << card("2.1", "NOTE:Tue; Thu\r\n") << QStringLiteral("Tue; Thu");
+    QTest::newRow("3.0 folded inside a word")
+        << card("3.0", "NOTE:Call after 1\r\n 0 o'clock\r\n") << QStringLiteral("Call after 10 o'clock");
+    QTest::newRow("3.0 escaped") << card(
+        "3.0", "NOTE:Line 1\\nLine 2\\, with comma\\; and semicolon\\\\ back\\N end\r\n")
+                                 << QStringLiteral("Line 1\nLine 2, with comma; and semicolon\\ back\n end");
+    QTest::newRow("3.0 folded and escaped") << card("3.0", "NOTE:Ona\\nPetr\r\n\taitienė\\, direktorė\r\n")
+                                            << QStringLiteral("Ona\nPetraitienė, direktorė");
+    QTest::newRow("3.0 after a 2.1 card")
+        << card("2.1", "NOTE:first\r\n") + card("3.0", "NOTE:Call after 1\r\n 0 o'clock\r\n")
+        << QStringLiteral("Call after 10 o'clock");
+    QTest::newRow("two notes") << card("4.0", "NOTE:one\r\nNOTE:\r\nNOTE:two\r\n")
+                               << QStringLiteral("one\ntwo");
+    QTest::newRow("no note") << card("3.0", "") << QString();
+}
+
+void ContactImportTest::vCardNotes()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(QString, notes);
+    const QList<ContactItem> contacts = readVCards(file);
+    QVERIFY(!contacts.isEmpty());
+    QCOMPARE(contacts.last().value(P::Notes), notes);
+    QCOMPARE(contacts.last().contains(P::Notes), !notes.isEmpty());
+}
+
 namespace {
 
 // The columns of a real Outlook export, in its order, with the values of one row.
@@ -262,6 +302,7 @@ void ContactImportTest::outlookCsvSeparators()
         {P::MobilePhone, QStringLiteral("555-0102")},
         {P::Fax, QStringLiteral("555-0199")},
         {P::Pager, QStringLiteral("555-0103")},
+        {P::Notes, QStringLiteral("notes\twith tab")},
     };
     QCOMPARE(contacts[0], expected);
     QCOMPARE(contacts[1], (ContactItem {{P::CompanyName, QStringLiteral("Only Company")}}));
@@ -311,6 +352,32 @@ void ContactImportTest::outlookCsvCodePages()
     QCOMPARE(contacts.size(), 1);
     QCOMPARE(contacts[0].value(P::FullName), name);
     QCOMPARE(contacts[0].value(P::City), city);
+}
+
+void ContactImportTest::outlookCsvNotes_data()
+{
+    QTest::addColumn<QChar>("separator");
+    QTest::addColumn<QString>("notes");
+    QTest::newRow("windows line break") << QChar(u',') << QStringLiteral("Line 1\r\nLine 2");
+    QTest::newRow("unix line break, semicolons")
+        << QChar(u';') << QStringLiteral("Skambinti po 10;\nne \"Šviesai\", o jai");
+    QTest::newRow("blank lines inside") << QChar(u'\t') << QStringLiteral("a\r\n\r\n\r\nb");
+    QTest::newRow("empty") << QChar(u',') << QString();
+}
+
+void ContactImportTest::outlookCsvNotes()
+{
+    QFETCH(QChar, separator);
+    QFETCH(QString, notes);
+    QStringList row(csvHeader.size());
+    row[1] = QStringLiteral("Ona");
+    row[csvHeader.indexOf(QStringLiteral("Notes"))] = notes;
+    QStringList next(csvHeader.size());
+    next[1] = QStringLiteral("Next");
+    const QList<ContactItem> contacts = readOutlookCsv(csvFile(separator, {row, next}));
+    QCOMPARE(contacts.size(), 2);
+    QCOMPARE(contacts[0].value(P::Notes), notes);
+    QCOMPARE(contacts[1], (ContactItem {{P::FullName, QStringLiteral("Next")}}));
 }
 
 void ContactImportTest::unreadableFiles()

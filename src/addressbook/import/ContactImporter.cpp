@@ -33,6 +33,7 @@ const FieldMapping contactFields[] = {
     {&ContactProperty::PostalCode, "PostalCode", 20},
     {&ContactProperty::Country, "Country", NotCut},
     {&ContactProperty::Email, "EmailName", 50},
+    {&ContactProperty::Notes, "Notes", NotCut},
 };
 
 struct PhoneMapping
@@ -167,6 +168,7 @@ bool ContactImporter::run(const QList<ContactItem>& items)
         step([&] { contactId = names.find(fullName); });
         if (!isNull(contactId)) {
             ++m_counts.skipped;
+            ++m_counts.alreadyThere;
             return;
         }
 

@@ -15,6 +15,7 @@ struct ContactImportCounts
 {
     int added = 0; // contacts stored
     int skipped = 0; // items without a name, and names already in the register
+    int alreadyThere = 0; // of skipped: names already in the register
     int failed = 0; // items of which a step failed: not stored, or stored without all of their rows
     int errors = 0; // failed steps passed over
 };
@@ -23,7 +24,7 @@ struct ContactImportCounts
 // adding and never changing: an item without a FullName, or whose FullName is already
 // there in any letter case, is skipped whole. The fields of a new contact are cut to
 // their widths (CompanyName, Title, FullName, City and EmailName 50, Address 255,
-// StateOrProvince and PostalCode 20, Country not cut); its web page and then its
+// StateOrProvince and PostalCode 20, Country and Notes not cut); its web page and then its
 // business, home, mobile, fax and pager numbers follow, each as a row of its own.
 //
 // Every step that fails (opening, the lookup, each AddNew, field and Update) is handed

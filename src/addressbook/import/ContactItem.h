@@ -27,6 +27,7 @@ inline const QString HomePhone = QStringLiteral("HomeTelephoneNumber");
 inline const QString MobilePhone = QStringLiteral("MobileTelephoneNumber");
 inline const QString Fax = QStringLiteral("BusinessFaxNumber");
 inline const QString Pager = QStringLiteral("PagerNumber");
+inline const QString Notes = QStringLiteral("Body"); // free text, line breaks kept
 } // namespace ContactProperty
 
 } // namespace kartella

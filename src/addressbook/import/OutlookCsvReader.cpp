@@ -140,6 +140,7 @@ QList<ContactItem> readOutlookCsv(const QByteArray& file, const QString& codePag
         {&ContactProperty::MobilePhone, "Mobile Phone"},
         {&ContactProperty::Fax, "Business Fax"},
         {&ContactProperty::Pager, "Pager"},
+        {&ContactProperty::Notes, "Notes"},
     };
     bool known = false;
     for (const char* name : {"First Name", "Middle Name", "Last Name", "Business Street"})

@@ -19,6 +19,7 @@ namespace kartella {
 //                  "Business Country/Region"
 //   Email1Address, BusinessHomePage  "E-mail Address", "Web Page"
 //   phones         "Business Phone", "Home Phone", "Mobile Phone", "Business Fax", "Pager"
+//   Body           "Notes", with the line breaks it holds
 //
 // The text is UTF-8 when it starts with a byte order mark or is valid UTF-8, else
 // codePage (or, when that is empty, the code page guessed from the file). A file whose

@@ -25,6 +25,17 @@ QString errorQuestion(const Error& error)
 
 } // namespace
 
+QString countsText(const ContactImportCounts& counts)
+{
+    QString text = QStringLiteral("%1 added, %2 skipped as already there, %3 failed")
+                       .arg(counts.added)
+                       .arg(counts.alreadyThere)
+                       .arg(counts.failed);
+    if (const int unnamed = counts.skipped - counts.alreadyThere; unnamed > 0)
+        text += QStringLiteral(", %1 passed over without a name").arg(unnamed);
+    return text + u'.';
+}
+
 bool OutlookImport::run()
 {
     const int answer = msgBox(QStringLiteral("Importing data will bring in ALL contacts from Outlook.")
@@ -36,7 +47,7 @@ bool OutlookImport::run()
     Prompter::OpenFileRequest request;
     request.title = QStringLiteral("Import Contacts");
     request.startFolder = QDir::homePath();
-    request.filterLabel = QStringLiteral("Contact files (*.vcf *.vcard *.csv)");
+    request.filterLabel = QStringLiteral("vCard and Outlook CSV files");
     request.pattern = QStringLiteral("*.vcf;*.vcard;*.csv");
     const QString path = Prompter::instance().openFile(request);
     if (path.isEmpty())
@@ -70,8 +81,9 @@ bool OutlookImport::run()
     setBusy(false);
     if (importer.counts().added > 0)
         Q_EMIT ContactImportNotifier::instance().contactsImported();
-    msgBox(finished ? QStringLiteral("Contacts successfully imported.")
-                    : QStringLiteral("Contacts did not import."),
+    msgBox((finished ? QStringLiteral("Contacts successfully imported.")
+                     : QStringLiteral("Contacts did not import."))
+            + QStringLiteral("\n\n") + countsText(importer.counts()),
         MsgBoxStyle::OkOnly, ClosingTitle);
     return finished;
 }

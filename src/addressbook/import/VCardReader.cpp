@@ -28,13 +28,22 @@ bool isQuotedPrintable(const QByteArray& head)
     return head.toUpper().contains("QUOTED-PRINTABLE");
 }
 
+// Whether a logical line is VERSION:2.1.
+bool isVersion21(const QByteArray& line)
+{
+    return startsWithNoCase(line, "VERSION") && line.mid(7).trimmed() == ":2.1";
+}
+
 // The physical lines joined into logical ones: a line break followed by a blank or tab
 // continues the line; in a quoted-printable value a line ending in '=' continues on the next.
+// A 2.1 card folds before a blank that belongs to the value, so there the blank stays;
+// later versions insert the blank, and it goes.
 QList<QByteArray> logicalLines(const QByteArray& file)
 {
     QList<QByteArray> lines;
     QByteArray current;
     bool haveCurrent = false;
+    bool foldKeepsBlank = false;
     qsizetype colon = -1; // of current; searched for only in what was added since
     bool quotedPrintable = false;
     const auto findColon = [&](qsizetype from) {
@@ -44,8 +53,13 @@ QList<QByteArray> logicalLines(const QByteArray& file)
         quotedPrintable = colon > 0 && isQuotedPrintable(current.left(colon));
     };
     const auto flush = [&] {
-        if (haveCurrent)
+        if (haveCurrent) {
+            if (startsWithNoCase(current, "BEGIN:VCARD"))
+                foldKeepsBlank = false;
+            else if (isVersion21(current))
+                foldKeepsBlank = true;
             lines << current;
+        }
         current.clear();
         haveCurrent = false;
         colon = -1;
@@ -60,15 +74,16 @@ QList<QByteArray> logicalLines(const QByteArray& file)
         if (line.endsWith('\r'))
             line.chop(1);
         start = end + 1;
-        if (haveCurrent && !line.isEmpty() && (line.front() == ' ' || line.front() == '\t')) {
-            const qsizetype from = current.size();
-            current += line.mid(1);
-            findColon(from);
-            continue;
-        }
+        // A soft line break goes first: the next line may start with a blank of the text.
         if (haveCurrent && quotedPrintable && current.endsWith('=')) {
             current.chop(1);
             current += line;
+            continue;
+        }
+        if (haveCurrent && !line.isEmpty() && (line.front() == ' ' || line.front() == '\t')) {
+            const qsizetype from = current.size();
+            current += foldKeepsBlank ? line : line.mid(1);
+            findColon(from);
             continue;
         }
         flush();
@@ -263,6 +278,8 @@ public:
             addPreferred(m_url, m_urlPreferred, line.types.contains("WORK"), firstValue(text));
         } else if (name == "TEL") {
             addPhone(line.types, firstValue(text));
+        } else if (name == "NOTE") {
+            addNote(components(text).join(u';').trimmed());
         }
     }
 
@@ -337,6 +354,15 @@ private:
         set(m_item, ContactProperty::State, component(parts, 4));
         set(m_item, ContactProperty::PostalCode, component(parts, 5));
         set(m_item, ContactProperty::Country, component(parts, 6));
+    }
+
+    // A card with several notes keeps them all, each on a line of its own.
+    void addNote(const QString& note)
+    {
+        if (note.isEmpty())
+            return;
+        const QString before = m_item.value(ContactProperty::Notes);
+        m_item.insert(ContactProperty::Notes, before.isEmpty() ? note : before + u'\n' + note);
     }
 
     void addPhone(const QSet<QByteArray>& types, const QString& number)

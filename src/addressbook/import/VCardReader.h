@@ -20,6 +20,8 @@ namespace kartella {
 //                  business phone, HOME without FAX the home phone, CELL the mobile,
 //                  FAX with WORK or no place the fax, PAGER the pager; the first TEL
 //                  that fits a property wins.
+//   Body           NOTE, with its line breaks; the notes of several NOTE lines one under
+//                  another
 //
 // Values may be folded, escaped, quoted-printable (with soft line breaks) and carry a
 // CHARSET; text without one is UTF-8 when the file is, else defaultCharset (or, when that
