@@ -61,14 +61,14 @@ QString DocumentFileName::cleanFileName(const QString& text)
 
 QString makeFileNumberName(qint32 category)
 {
-    const QString fileNumber = getRegValue(QStringLiteral("FileNumber"));
     QString mnemonic
         = nullToDefault(categoryField(category, QStringLiteral("Mnemonic")), QString()).toString();
     if (mnemonic.isEmpty()) {
         const QVariant title = categoryField(category, QStringLiteral("DokKategorija"));
         mnemonic = nullToDefault(title, QStringLiteral("WMN")).toString().left(3);
     }
-    const qint16 number = toInteger16(fileNumber);
+    // A value that can't be read names the option in its error.
+    const qint16 number = getRegInteger(QStringLiteral("FileNumber"));
     if (number == std::numeric_limits<qint16>::max())
         raiseOverflow(QStringLiteral("FileNumber can't go past 32767"));
     setRegValue(QStringLiteral("FileNumber"), numberWithSignPlace(number + 1));

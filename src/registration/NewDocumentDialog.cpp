@@ -3,6 +3,7 @@
 #include "base/Error.h"
 #include "options/OptionStore.h"
 #include "platform/Clock.h"
+#include "platform/OfficeSuite.h"
 #include "platform/Prompter.h"
 #include "registration/FileNaming.h"
 #include "registration/RegIndex.h"
@@ -359,8 +360,7 @@ void NewDocumentDialog::createDocument(const CreatingButton& button)
         msgBox(QStringLiteral("Document Description Required!"), warning, button.title);
         return;
     }
-    // A failure (the office program missing, the save refused) ends here without a word,
-    // leaving the current directory as it was left.
+    // A failure ends here, leaving the current directory as it was left.
     try {
         if (m_location->text().isEmpty()) {
             const QString subCategory = m_subCategory->value();
@@ -390,7 +390,13 @@ void NewDocumentDialog::createDocument(const CreatingButton& button)
             });
         }
         QDir::setCurrent(directory);
-    } catch (const Error&) { }
+    } catch (const Error& error) {
+        // A missing or stalled office program has had its notice; anything else (an option
+        // that can't be read, say) is told here instead of a button that does nothing.
+        if (error.number() != OfficeErrorNumber::NotInstalled
+            && error.number() != OfficeErrorNumber::TimedOut)
+            msgBox(error.description(), warning, button.title);
+    }
 }
 
 void NewDocumentDialog::addExistingFile()

@@ -20,8 +20,8 @@ QString compose(const QString& mnemonic, const QDate& date, const QString& numbe
 {
     const QString separator1 = option("Separator1");
     const QString separator2 = option("Separator2");
-    const bool useMnemonic = toTruthValue(option("UseMnemonic"));
-    const QString dateText = formatIndexDate(date, toLong(option("IndexStyle")));
+    const bool useMnemonic = getRegFlag(QStringLiteral("UseMnemonic"));
+    const QString dateText = formatIndexDate(date, getRegInteger(QStringLiteral("IndexStyle")));
     if (useMnemonic && !mnemonic.isEmpty())
         return mnemonic % separator1 % dateText % separator2 % number;
     return dateText % separator2 % number;

@@ -21,6 +21,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScopeGuard>
 #include <QStandardPaths>
 #include <QStringEncoder>
 #include <QTabWidget>
@@ -266,6 +267,24 @@ private Q_SLOTS:
         QVERIFY(fx.suite.calls.isEmpty());
         QCOMPARE(d.box(5)->text(), QString());
         QCOMPARE(QDir(fx.files.path()).entryList(QDir::Files), QStringList {"AGR00001.doc"});
+    }
+
+    // An option the file name needs that can't be read is named in a message; no file is made.
+    void unreadableOptionIsNamed()
+    {
+        Fixture fx(m_templatePaths);
+        const QString fileNumber = getRegValue("FileNumber");
+        const auto restore = qScopeGuard([&fileNumber] { setRegValue("FileNumber", fileNumber); });
+        setRegValue("FileNumber", "abc");
+        Dialog d;
+        d.type(4, "Lease");
+        fx.prompter.answer(MsgBoxResult::Ok);
+        d.click("cmdWord");
+        const auto prompt = fx.prompter.take();
+        QCOMPARE(prompt.size(), 1);
+        QVERIFY2(prompt.first().text.contains("FileNumber"), qPrintable(prompt.first().text));
+        QVERIFY(fx.suite.calls.isEmpty());
+        QCOMPARE(d.box(5)->text(), QString());
     }
 
     // The subcategory's own template or none, never its category's; and its folder.
