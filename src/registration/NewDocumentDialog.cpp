@@ -10,6 +10,7 @@
 #include "registration/ValueConversions.h"
 #include "store/Lookups.h"
 #include "store/Store.h"
+#include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
 #include "support/BoundList.h"
 #include "support/BusyCursor.h"
@@ -415,6 +416,8 @@ void NewDocumentDialog::save()
     // The row and its reminders in one go; a refused save keeps the dialog and the day's
     // number as they were.
     try {
+        if (!offerFreeRegIndex())
+            return;
         m_binder->validate();
         m_document->updateBatch(AffectEnum::All);
     } catch (const Error& error) {
@@ -428,6 +431,28 @@ void NewDocumentDialog::save()
         msgBox(error.description());
     }
     accept();
+}
+
+bool NewDocumentDialog::offerFreeRegIndex()
+{
+    const QString index = m_regIndex->text();
+    if (index.trimmed().isEmpty())
+        return true;
+    Connection connection;
+    connection.open(m_listConnection);
+    if (!regIndexTaken(connection, index))
+        return true;
+    const QString next = nextFreeRegIndex(connection, index);
+    connection.close();
+    const QString question = QStringLiteral("The register already has a document with the index \"") + index
+        + QStringLiteral("\". Store this one as \"") + next + QStringLiteral("\"?");
+    if (msgBox(question, MsgBoxStyle::YesNo | MsgBoxStyle::Question, windowTitle()) != MsgBoxResult::Yes) {
+        m_regIndex->setFocus(Qt::OtherFocusReason);
+        m_regIndex->selectAll();
+        return false;
+    }
+    m_regIndex->setText(next);
+    return true;
 }
 
 void NewDocumentDialog::cancel()

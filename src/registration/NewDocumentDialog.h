@@ -24,9 +24,9 @@ class RecordsetModel;
 // shaped recordset of the documents and their reminders (opened in batch mode, so nothing
 // is written yet), selects the current category and proposes a registration index. The
 // buttons under "Create With" make the document's file at once (or attach an existing
-// one); OK stores the row and the reminders typed in the grid with one updateBatch and
-// raises the day's number; Cancel (Esc) drops them and, after a question, deletes a file
-// that a creating button made.
+// one); OK refuses an index the register already has, offering the next free one, stores the row and the
+// reminders typed in the grid with one updateBatch and raises the day's number; Cancel (Esc) drops them and,
+// after a question, deletes a file that a creating button made.
 class NewDocumentDialog : public QDialog
 {
     Q_OBJECT
@@ -73,6 +73,9 @@ private:
     // Proposes the index for the chosen category; a failed proposal empties the box.
     void proposeRegIndex();
     void createDocument(const CreatingButton& button);
+    // An index the register already has is refused with the next free one on offer: true
+    // when the save may go on (with that one in the box), false when the user keeps editing.
+    bool offerFreeRegIndex();
     void onReminderGridEnter();
 
     // The new row with its reminders, and the rows of the three lists.

@@ -4,6 +4,9 @@
 #include "registration/CategoryFields.h"
 #include "registration/ValueConversions.h"
 #include "store/Store.h"
+#include "store/engine/Connection.h"
+#include "store/engine/Recordset.h"
+#include "store/engine/SqlText.h"
 #include "store/engine/Value.h"
 
 namespace kartella {
@@ -25,6 +28,17 @@ QString compose(const QString& mnemonic, const QDate& date, const QString& numbe
     if (useMnemonic && !mnemonic.isEmpty())
         return mnemonic % separator1 % dateText % separator2 % number;
     return dateText % separator2 % number;
+}
+
+// The text before an index's closing digits, and the number they make (0 without digits).
+std::pair<QString, qint64> splitClosingNumber(const QString& index)
+{
+    qsizetype start = index.size();
+    while (start > 0 && index.at(start - 1).isDigit())
+        --start;
+    // Digits past what a number holds count as text: such an index has no number to raise.
+    const QStringView digits = QStringView(index).mid(start).right(15);
+    return {index.left(index.size() - digits.size()), digits.toLongLong()};
 }
 
 } // namespace
@@ -80,6 +94,45 @@ QString makeRegIndex(const QVariant& category, const QDate& today)
     const QVariant mnemonic
         = noCategory ? QVariant() : categoryField(toLong(category), QStringLiteral("Mnemonic"));
     return compose(nullToDefault(mnemonic, QString()).toString(), date, QString::number(number));
+}
+
+bool regIndexTaken(Connection& connection, const QString& index)
+{
+    Recordset rows;
+    rows.open(QStringLiteral("SELECT COUNT(*) AS N FROM tbl_Documents WHERE DokRegistracIndeksas LIKE ")
+            + sqlLikeText(index),
+        connection);
+    const bool taken = rows.fields(QStringLiteral("N")).value().toInt() > 0;
+    rows.close();
+    return taken;
+}
+
+QString nextFreeRegIndex(Connection& connection, const QString& index, const QDate& today)
+{
+    const auto [prefix, number] = splitClosingNumber(index);
+    const QString dayTail
+        = formatIndexDate(today, getRegInteger(QStringLiteral("IndexStyle"))) + option("Separator2");
+    const bool ofTheDay = !dayTail.isEmpty() && prefix.endsWith(dayTail, Qt::CaseInsensitive);
+    const QString pattern
+        = ofTheDay ? sqlLikeText(dayTail, LikeMatch::Anywhere) : sqlLikeText(prefix, LikeMatch::Start);
+
+    qint64 highest = number;
+    Recordset rows;
+    rows.open(
+        QStringLiteral("SELECT DokRegistracIndeksas FROM tbl_Documents WHERE DokRegistracIndeksas LIKE ")
+            + pattern,
+        connection);
+    while (!rows.eof()) {
+        const auto [storedPrefix, storedNumber]
+            = splitClosingNumber(rows.fields(QStringLiteral("DokRegistracIndeksas")).value().toString());
+        const bool counts = ofTheDay ? storedPrefix.endsWith(dayTail, Qt::CaseInsensitive)
+                                     : storedPrefix.compare(prefix, Qt::CaseInsensitive) == 0;
+        if (counts)
+            highest = std::max(highest, storedNumber);
+        rows.moveNext();
+    }
+    rows.close();
+    return prefix + QString::number(highest + 1);
 }
 
 QString regIndexSample(const QDate& today)

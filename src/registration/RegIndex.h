@@ -8,6 +8,8 @@
 
 namespace kartella {
 
+class Connection;
+
 // Registration indexes: mnemonic, Separator1, date, Separator2 and the number of the day,
 // made from the options AutoRegIndex, UseMnemonic, IndexStyle, Separator1, Separator2,
 // Date and TodayNumber, read at each call. Failed conversions and lookups throw
@@ -29,5 +31,16 @@ void resetTodayNumber(const QDate& today = Clock::currentDate());
 // in IndexStyle, Separator2 and "1". Restarts the day's count on a new day whatever
 // AutoRegIndex says.
 QString regIndexSample(const QDate& today = Clock::currentDate());
+
+// Whether a document of the register on connection has this index (letter case aside, as
+// the engine compares text).
+bool regIndexTaken(Connection& connection, const QString& index);
+
+// index with its closing number raised past every number the register holds for the same
+// day: an index that ends in today's date text and Separator2 counts the day's numbers of
+// every mnemonic (the number of the day is one for all categories); any other index counts
+// those that differ from it only in their closing number.
+QString nextFreeRegIndex(
+    Connection& connection, const QString& index, const QDate& today = Clock::currentDate());
 
 } // namespace kartella

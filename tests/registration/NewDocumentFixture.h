@@ -5,6 +5,7 @@
 
 #include "harness/ScriptedPrompter.h"
 #include "harness/ScriptedShell.h"
+#include "harness/ServerDatabase.h"
 #include "harness/TestRegister.h"
 #include "platform/LibreOfficeSuite.h"
 #include "registration/NewDocumentDialog.h"
@@ -79,7 +80,8 @@ struct Fixture
     qint32 letters = 0;
     qint32 lease = 0;
 
-    explicit Fixture(const QStringList& templates = {})
+    explicit Fixture(const QStringList& templates = {}, TestRegister::Where where = TestRegister::File)
+        : reg(where)
     {
         contracts = reg.insert("tbl_Document_Categories",
             {{"DokKategorija", "Contracts"}, {"Mnemonic", "AGR"}, {"DokKategDaug", files.path()},

@@ -57,6 +57,62 @@ private Q_SLOTS:
         QCOMPARE(d.box(3)->text(), "AGR-" + today("yyyyMMdd") + "/2");
     }
 
+    // An index the register already has is refused, and the next number the register leaves
+    // free for the day (counting every category's) is offered: No keeps the dialog, Yes
+    // stores the offered one. A free index is stored without a question.
+    void duplicateIndexIsRefused_data()
+    {
+        QTest::addColumn<int>("where");
+        QTest::newRow("file") << int(TestRegister::File);
+        QTest::newRow("server") << int(TestRegister::Server);
+    }
+    void duplicateIndexIsRefused()
+    {
+        QFETCH(int, where);
+        if (where == TestRegister::Server && !ServerDatabase::available())
+            QSKIP(qPrintable(ServerDatabase::skipReason()));
+        Fixture fx({}, TestRegister::Where(where));
+        const QString day = today("yyyyMMdd");
+        fx.reg.insert("tbl_Documents",
+            {{"DokAntraste", "Lease"}, {"DokRegistracIndeksas", QString("AGR-" + day + "/1")}});
+        fx.reg.insert(
+            "tbl_Documents", {{"DokAntraste", "Letter"}, {"DokRegistracIndeksas", QString(day + "/4")}});
+        fx.reg.insert("tbl_Documents", {{"DokAntraste", "Old"}, {"DokRegistracIndeksas", "AGR-20000101/9"}});
+        {
+            Dialog d;
+            QCOMPARE(d.box(3)->text(), "AGR-" + day + "/1");
+            fx.prompter.answer(MsgBoxResult::No);
+            d.click("cmdOK");
+            QCOMPARE(fx.prompter.texts(),
+                QStringList {"The register already has a document with the index \"AGR-" + day
+                    + "/1\". Store this one as \"AGR-" + day + "/5\"?"});
+            QVERIFY(d.dialog.isVisible());
+            QCOMPARE(fx.documents(), 3);
+            QCOMPARE(d.box(3)->text(), "AGR-" + day + "/1");
+
+            fx.prompter.answer(MsgBoxResult::Yes);
+            d.click("cmdOK");
+            QVERIFY(!d.dialog.isVisible());
+        }
+        QCOMPARE(fx.documents(), 4);
+        QCOMPARE(fx.stored("DokRegistracIndeksas").toString(), "AGR-" + day + "/5");
+        {
+            Dialog d;
+            d.type(3, "agr-20000101/9");
+            fx.prompter.answer(MsgBoxResult::Yes);
+            d.click("cmdOK");
+        }
+        QCOMPARE(fx.stored("DokRegistracIndeksas").toString(), "agr-20000101/10");
+        {
+            Dialog d;
+            d.type(3, "AGR-20000101/8");
+            d.click("cmdOK");
+            QVERIFY(!d.dialog.isVisible());
+        }
+        QCOMPARE(fx.stored("DokRegistracIndeksas").toString(), "AGR-20000101/8");
+        QCOMPARE(fx.prompter.texts().size(), 3);
+    }
+
     // Enter moves on from a box as Tab does, from the Notes box too, without a line end; Tab
     // in the Notes box moves on and types no tab.
     void enterActsAsTab()
