@@ -12,7 +12,6 @@
 #include "support/Splitter.h"
 
 #include <QAction>
-#include <QDir>
 #include <QFile>
 #include <QMenu>
 #include <QMimeData>
@@ -29,14 +28,9 @@ class CommandsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    // The trash is the one of the tests' own data folder, emptied for each test.
+    // Whatever a command writes to the user's data folder goes to the tests' own.
     void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
-
-    void init()
-    {
-        selection() = SelectionState();
-        QDir(trashFolder()).removeRecursively();
-    }
+    void init() { selection() = SelectionState(); }
 
     void enablingFollowsTheSelection()
     {

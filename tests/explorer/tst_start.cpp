@@ -105,6 +105,23 @@ QStringList folderContents(const QString& folder)
     found.sort();
     return found;
 }
+// The main window started on the options' register where it finds none: the message is
+// answered, and the offers of the settings are counted.
+struct StartWithoutRegister
+{
+    ScriptedPrompter prompter;
+    MainWindow window;
+    int settingsOffered = 0;
+
+    StartWithoutRegister()
+    {
+        prompter.answer(MsgBoxResult::Ok);
+        window.openSettings = [this] { ++settingsOffered; };
+        window.show();
+        window.load();
+    }
+};
+
 } // namespace
 
 class StartTest : public QObject
@@ -380,20 +397,14 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.close();
         setRegValue("DbLocation", empty);
-        ScriptedPrompter prompter;
-        prompter.answer(MsgBoxResult::Ok);
-        MainWindow w;
-        int settingsOffered = 0;
-        w.openSettings = [&] { ++settingsOffered; };
-        w.show();
-        w.load();
-        QCOMPARE(prompter.prompts().size(), 1);
-        const auto prompt = prompter.prompts().first();
+        StartWithoutRegister start;
+        QCOMPARE(start.prompter.prompts().size(), 1);
+        const auto prompt = start.prompter.prompts().first();
         QCOMPARE(prompt.title, QString("Connection to database error:"));
         QCOMPARE(prompt.style, MsgBoxStyle::OkOnly + MsgBoxStyle::Critical);
         QVERIFY(prompt.text.startsWith("Error: -2147467259 "));
         QVERIFY(prompt.text.contains(empty));
-        QCOMPARE(settingsOffered, 1);
+        QCOMPARE(start.settingsOffered, 1);
         QCOMPARE(QFileInfo(empty).size(), 0);
         QCOMPARE(getRegValue("DbLocation"), empty);
     }
@@ -408,22 +419,16 @@ private Q_SLOTS:
         ServerDatabase empty;
         QVERIFY(empty.isValid());
         setRegValue("DbLocation", empty.location());
-        ScriptedPrompter prompter;
-        prompter.answer(MsgBoxResult::Ok);
-        MainWindow w;
-        int settingsOffered = 0;
-        w.openSettings = [&] { ++settingsOffered; };
-        w.show();
-        w.load();
-        QCOMPARE(prompter.prompts().size(), 1);
-        const auto prompt = prompter.prompts().first();
+        StartWithoutRegister start;
+        QCOMPARE(start.prompter.prompts().size(), 1);
+        const auto prompt = start.prompter.prompts().first();
         QCOMPARE(prompt.title, QString("Connection to database error:"));
         QCOMPARE(prompt.style, MsgBoxStyle::OkOnly + MsgBoxStyle::Critical);
         QVERIFY2(prompt.text.startsWith("Error: -2147467259 "), qPrintable(prompt.text));
         QVERIFY2(prompt.text.contains(withoutPasswords(empty.location()) + "' holds no register"),
             qPrintable(prompt.text));
-        QCOMPARE(settingsOffered, 1);
-        QCOMPARE(w.tree()->nodeCount(), 0);
+        QCOMPARE(start.settingsOffered, 1);
+        QCOMPARE(start.window.tree()->nodeCount(), 0);
         QCOMPARE(getRegValue("DbLocation"), empty.location());
     }
 

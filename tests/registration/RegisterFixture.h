@@ -9,12 +9,16 @@
 #include "platform/OfficeSuite.h"
 #include "support/SelectionState.h"
 
+#include <QApplication>
 #include <QDate>
+#include <QDialog>
 #include <QFile>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QStringList>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 namespace kartella::test {
 
@@ -156,5 +160,24 @@ inline void click(QWidget& dialog, const char* button)
 
 inline const QString ApplyQuestion
     = "You have details changes that have not applied.\n\nDo you want to apply these now?";
+
+// While it lives, closes every modal dialog that opens and keeps its object name: a command
+// that must open none shows here whether it did.
+struct OpenedDialogs
+{
+    QStringList names;
+    QTimer watcher;
+
+    OpenedDialogs()
+    {
+        QObject::connect(&watcher, &QTimer::timeout, [this] {
+            if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+                names << dialog->objectName();
+                dialog->reject();
+            }
+        });
+        watcher.start(10);
+    }
+};
 
 } // namespace kartella::test

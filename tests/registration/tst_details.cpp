@@ -17,7 +17,6 @@
 #include <QStyleOptionComboBox>
 #include <QTabWidget>
 #include <QTableView>
-#include <QTimer>
 
 using namespace kartella;
 using namespace kartella::test;
@@ -360,21 +359,13 @@ private Q_SLOTS:
         window.onDocumentClicked(window.documentModel()->rowOfKey(key));
         fx.reg.exec("DELETE FROM tbl_Sub_Documents");
         fx.reg.exec("DELETE FROM tbl_Documents WHERE RastasID=" + QString::number(fx.lease));
-        QStringList opened;
-        QTimer watcher;
-        connect(&watcher, &QTimer::timeout, this, [&] {
-            if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
-                opened << dialog->objectName();
-                dialog->reject();
-            }
-        });
-        watcher.start(10);
+        OpenedDialogs opened;
         fx.prompter.answer(MsgBoxResult::Ok);
         QAction* action = window.action(command);
         QVERIFY(action->isEnabled());
         action->trigger();
-        watcher.stop();
-        QCOMPARE(opened, QStringList());
+        opened.watcher.stop();
+        QCOMPARE(opened.names, QStringList());
         const auto prompts = fx.prompter.take();
         QCOMPARE(prompts.size(), 1);
         QCOMPARE(prompts.first().text, "This document no longer exists.");

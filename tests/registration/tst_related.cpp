@@ -263,19 +263,11 @@ private Q_SLOTS:
         const QString key = DocumentFills::itemKey(fx.annex);
         window.onRelatedClicked(window.relatedModel()->rowOfKey(key));
         fx.reg.exec("DELETE FROM tbl_Sub_Documents WHERE SubRastasID=" + QString::number(fx.annex));
-        QStringList opened;
-        QTimer watcher;
-        connect(&watcher, &QTimer::timeout, this, [&] {
-            if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
-                opened << dialog->objectName();
-                dialog->reject();
-            }
-        });
-        watcher.start(10);
+        OpenedDialogs opened;
         fx.prompter.answer(MsgBoxResult::Ok);
         window.action("mnuShowDetails")->trigger();
-        watcher.stop();
-        QCOMPARE(opened, QStringList());
+        opened.watcher.stop();
+        QCOMPARE(opened.names, QStringList());
         QCOMPARE(fx.prompter.take().first().text, "This related document no longer exists.");
         QCOMPARE(window.relatedModel()->rowOfKey(key), -1);
         QVERIFY(window.documentModel()->rowOfKey(DocumentFills::itemKey(fx.lease)) >= 0);
