@@ -191,4 +191,13 @@ void plainNameColumns(Connection& connection)
     createViewsAndTriggers(connection);
 }
 
+// Step 5: the day's counter of registration indexes, one row a day (the date as
+// yyyy-MM-dd and the last number taken), kept in the register so that every user of it
+// counts on one counter.
+void addDayCounter(Connection& connection)
+{
+    connection.execute(QStringLiteral("CREATE TABLE IF NOT EXISTS tbl_Day_Counter (CounterDay TEXT NOT NULL "
+                                      "PRIMARY KEY, LastNumber INTEGER NOT NULL DEFAULT 0)"));
+}
+
 } // namespace kartella

@@ -49,6 +49,8 @@ void createServerFirstForm(Connection& connection);
 void keepServerNameColumns(Connection& connection);
 void createServerSearchIndex(Connection& connection);
 void addServerReminderDoneColumn(Connection& connection);
+void addDayCounter(Connection& connection);
+void addServerDayCounter(Connection& connection);
 
 const std::vector<SchemaStep>& schemaSteps()
 {
@@ -61,6 +63,8 @@ const std::vector<SchemaStep>& schemaSteps()
             createServerSearchIndex},
         {4, QStringLiteral("reminders that can be marked done"), addReminderDoneColumn,
             addServerReminderDoneColumn},
+        {5, QStringLiteral("one counter of the day's registration indexes for every user"), addDayCounter,
+            addServerDayCounter},
     };
     return steps;
 }

@@ -220,4 +220,12 @@ void addServerReminderDoneColumn(Connection& connection)
         + QLatin1String(ReminderDoneColumn) + QStringLiteral("\" integer NOT NULL DEFAULT 0"));
 }
 
+// Step 5 on a server.
+void addServerDayCounter(Connection& connection)
+{
+    connection.execute(
+        QStringLiteral("CREATE TABLE IF NOT EXISTS \"tbl_Day_Counter\" (\"CounterDay\" text NOT "
+                       "NULL PRIMARY KEY, \"LastNumber\" integer NOT NULL DEFAULT 0)"));
+}
+
 } // namespace kartella

@@ -213,6 +213,8 @@ private Q_SLOTS:
         QCOMPARE(dumpRegister(path), expected);
         QVERIFY(!registerNeedsUpgrade(path));
         QCOMPARE(PlainSqlite(path).number("PRAGMA user_version"), qint64(newestSchemaVersion()));
+        // The day's counter of the registration indexes is there, empty until a number is taken.
+        QCOMPARE(PlainSqlite(path).number("SELECT count(*) FROM tbl_Day_Counter"), 0);
         QVERIFY(upgradeRegister(path).empty());
 
         // The program's orderings by name stay folded; the indexes and the cascade are back.
