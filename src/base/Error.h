@@ -50,6 +50,8 @@ constexpr long ItemNotFound = 3265;
 constexpr long TypeMismatch = 13;
 // Overflow.
 constexpr long Overflow = 6;
+// A value that must be unique is there already (Jet's 3022, a duplicate in an index).
+constexpr long DuplicateValue = 3022;
 // Path/File access error.
 constexpr long PathFileAccess = 75;
 // Invalid use of Null.

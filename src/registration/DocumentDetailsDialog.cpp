@@ -4,6 +4,8 @@
 #include "options/OptionStore.h"
 #include "platform/Prompter.h"
 #include "registration/DateBox.h"
+#include "registration/RegIndex.h"
+#include "registration/RegIndexOffer.h"
 #include "store/Store.h"
 #include "store/engine/Recordset.h"
 #include "support/BoundList.h"
@@ -286,6 +288,13 @@ void DocumentDetailsDialog::load()
         m_document->setFilter(QStringLiteral("RastasID=") + QString::number(id));
         m_document->open(
             DocumentTable, m_listConnection, CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
+        // A changed index is checked against the other documents when it is stored.
+        m_storedIndex = m_document->eof()
+            ? QString()
+            : m_document->fields(QStringLiteral("DokRegistracIndeksas")).value().toString();
+        guardRegIndex(
+            *m_document,
+            [this] { return m_regIndex->text() == m_storedIndex ? QString() : m_regIndex->text(); }, id);
         m_contacts->open(ContactSource, m_listConnection);
         m_categories->open(CategorySource, m_listConnection);
 
@@ -431,8 +440,19 @@ bool DocumentDetailsDialog::apply()
     const BusyCursor busy;
     try {
         commitOpenEditor();
-        m_binder->validate();
-        m_document->updateBatch(AffectEnum::Current);
+        for (;;) {
+            m_binder->validate();
+            try {
+                m_document->updateBatch(AffectEnum::Current);
+                break;
+            } catch (const Error& error) {
+                if (error.number() != ErrorNumber::DuplicateValue)
+                    throw;
+            }
+            if (!offerFreeRegIndex(m_regIndex, m_listConnection, windowTitle()))
+                return false;
+        }
+        m_storedIndex = m_regIndex->text();
         m_reminders->updateBatch(AffectEnum::All);
     } catch (const Error& error) {
         if (rowWasDeleted(error))

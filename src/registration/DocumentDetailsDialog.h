@@ -80,6 +80,7 @@ private:
     Recordset* m_reminders = nullptr;
     QString m_listConnection;
     qint32 m_documentId = 0;
+    QString m_storedIndex; // the registration index as the register holds it
     bool m_changed = false;
     bool m_showing = false;
     bool m_gone = false;

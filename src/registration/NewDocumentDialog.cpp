@@ -5,8 +5,10 @@
 #include "platform/Clock.h"
 #include "platform/OfficeSuite.h"
 #include "platform/Prompter.h"
+#include "registration/DayCounter.h"
 #include "registration/FileNaming.h"
 #include "registration/RegIndex.h"
+#include "registration/RegIndexOffer.h"
 #include "registration/ValueConversions.h"
 #include "store/Lookups.h"
 #include "store/Store.h"
@@ -247,6 +249,9 @@ void NewDocumentDialog::load()
         m_document->open(DocumentSource, shapeUpperConnectionString(provider, location),
             CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
 
+        // The index is checked, and the day's number taken, in the transaction of the row.
+        guardRegIndex(*m_document, [this] { return m_regIndex->text(); });
+
         m_listConnection = plainConnectionString(provider, location);
         m_contacts->open(ContactSource, m_listConnection);
         m_categories->open(CategorySource, m_listConnection);
@@ -416,43 +421,39 @@ void NewDocumentDialog::save()
     // The row and its reminders in one go; a refused save keeps the dialog and the day's
     // number as they were.
     try {
-        if (!offerFreeRegIndex())
-            return;
-        m_binder->validate();
-        m_document->updateBatch(AffectEnum::All);
+        for (;;) {
+            m_binder->validate();
+            try {
+                m_document->updateBatch(AffectEnum::All);
+                break;
+            } catch (const Error& error) {
+                if (error.number() != ErrorNumber::DuplicateValue)
+                    throw;
+            }
+            if (!offerFreeRegIndex(m_regIndex, m_listConnection, windowTitle()))
+                return;
+        }
     } catch (const Error& error) {
         msgBox(error.description());
         return;
     }
+    countInOptions();
+    accept();
+}
+
+void NewDocumentDialog::countInOptions()
+{
+    // A register that keeps the day's counter has counted already, in the row's transaction.
     try {
+        Connection connection;
+        connection.open(m_listConnection);
+        if (registerKeepsDayCounter(connection))
+            return;
         const int next = leadingInteger16(getRegValue(QStringLiteral("TodayNumber"))) + 1;
         setRegValue(QStringLiteral("TodayNumber"), QString::number(next));
     } catch (const Error& error) {
         msgBox(error.description());
     }
-    accept();
-}
-
-bool NewDocumentDialog::offerFreeRegIndex()
-{
-    const QString index = m_regIndex->text();
-    if (index.trimmed().isEmpty())
-        return true;
-    Connection connection;
-    connection.open(m_listConnection);
-    if (!regIndexTaken(connection, index))
-        return true;
-    const QString next = nextFreeRegIndex(connection, index);
-    connection.close();
-    const QString question = QStringLiteral("The register already has a document with the index \"") + index
-        + QStringLiteral("\". Store this one as \"") + next + QStringLiteral("\"?");
-    if (msgBox(question, MsgBoxStyle::YesNo | MsgBoxStyle::Question, windowTitle()) != MsgBoxResult::Yes) {
-        m_regIndex->setFocus(Qt::OtherFocusReason);
-        m_regIndex->selectAll();
-        return false;
-    }
-    m_regIndex->setText(next);
-    return true;
 }
 
 void NewDocumentDialog::cancel()

@@ -73,9 +73,8 @@ private:
     // Proposes the index for the chosen category; a failed proposal empties the box.
     void proposeRegIndex();
     void createDocument(const CreatingButton& button);
-    // An index the register already has is refused with the next free one on offer: true
-    // when the save may go on (with that one in the box), false when the user keeps editing.
-    bool offerFreeRegIndex();
+    // A register of an older version counts the day's numbers in the user's options.
+    void countInOptions();
     void onReminderGridEnter();
 
     // The new row with its reminders, and the rows of the three lists.

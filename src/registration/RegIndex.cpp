@@ -1,13 +1,17 @@
 #include "registration/RegIndex.h"
 
+#include "base/Error.h"
 #include "options/OptionStore.h"
 #include "registration/CategoryFields.h"
+#include "registration/DayCounter.h"
 #include "registration/ValueConversions.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
 #include "store/engine/SqlText.h"
 #include "store/engine/Value.h"
+
+#include <optional>
 
 namespace kartella {
 
@@ -39,6 +43,49 @@ std::pair<QString, qint64> splitClosingNumber(const QString& index)
     // Digits past what a number holds count as text: such an index has no number to raise.
     const QStringView digits = QStringView(index).mid(start).right(15);
     return {index.left(index.size() - digits.size()), digits.toLongLong()};
+}
+
+// The date text and Separator2 that the indexes of the day hold before their number.
+QString dayTail(const QDate& today)
+{
+    return formatIndexDate(today, getRegInteger(QStringLiteral("IndexStyle"))) + option("Separator2");
+}
+
+// The highest number the register's indexes hold under pattern (a Like text) whose text
+// before the number passes counts.
+qint64 highestHeld(
+    Connection& connection, const QString& pattern, const std::function<bool(const QString&)>& counts)
+{
+    qint64 highest = 0;
+    Recordset rows;
+    rows.open(
+        QStringLiteral("SELECT DokRegistracIndeksas FROM tbl_Documents WHERE DokRegistracIndeksas LIKE ")
+            + pattern,
+        connection);
+    while (!rows.eof()) {
+        const auto [storedPrefix, storedNumber]
+            = splitClosingNumber(rows.fields(QStringLiteral("DokRegistracIndeksas")).value().toString());
+        if (counts(storedPrefix))
+            highest = std::max(highest, storedNumber);
+        rows.moveNext();
+    }
+    rows.close();
+    return highest;
+}
+
+// The next number of the day from the register's own counter; none for a register that
+// counts in the options, or one that can't be opened (its error comes with the category).
+std::optional<qint64> nextNumberFromRegister(const QDate& today)
+{
+    Connection connection;
+    try {
+        connection.open(plainConnectionString());
+    } catch (const Error&) {
+        return std::nullopt;
+    }
+    if (!registerKeepsDayCounter(connection))
+        return std::nullopt;
+    return lastDayNumber(connection, today) + 1;
 }
 
 } // namespace
@@ -80,12 +127,14 @@ QString makeRegIndex(const QVariant& category, const QDate& today)
     if (!automatic)
         return {};
 
-    QDate date = stored;
-    qint16 number = 1;
-    if (today != stored) {
+    QDate date = today;
+    qint64 number = 1;
+    if (const auto counted = nextNumberFromRegister(today)) {
+        number = *counted;
+    } else if (today != stored) {
         resetTodayNumber(today);
-        date = today;
     } else {
+        date = stored;
         number = leadingInteger16(option("TodayNumber"));
     }
 
@@ -96,43 +145,77 @@ QString makeRegIndex(const QVariant& category, const QDate& today)
     return compose(nullToDefault(mnemonic, QString()).toString(), date, QString::number(number));
 }
 
-bool regIndexTaken(Connection& connection, const QString& index)
+bool regIndexTaken(Connection& connection, const QString& index, qint32 except)
 {
     Recordset rows;
     rows.open(QStringLiteral("SELECT COUNT(*) AS N FROM tbl_Documents WHERE DokRegistracIndeksas LIKE ")
-            + sqlLikeText(index),
+            + sqlLikeText(index) + QStringLiteral(" AND RastasID <> ") + QString::number(except),
         connection);
     const bool taken = rows.fields(QStringLiteral("N")).value().toInt() > 0;
     rows.close();
     return taken;
 }
 
+qint64 dayNumberOf(const QString& index, const QDate& today)
+{
+    const auto [prefix, number] = splitClosingNumber(index);
+    const QString tail = dayTail(today);
+    const bool ofTheDay = !tail.isEmpty() && prefix.endsWith(tail, Qt::CaseInsensitive);
+    return ofTheDay ? number : 0;
+}
+
+qint64 lastDayNumber(Connection& connection, const QDate& today)
+{
+    const qint64 counted = dayCounterValue(connection, today);
+    if (counted >= 0)
+        return counted;
+    const QString tail = dayTail(today);
+    if (tail.isEmpty())
+        return 0;
+    return highestHeld(connection, sqlLikeText(tail, LikeMatch::Anywhere),
+        [&tail](const QString& prefix) { return prefix.endsWith(tail, Qt::CaseInsensitive); });
+}
+
 QString nextFreeRegIndex(Connection& connection, const QString& index, const QDate& today)
 {
     const auto [prefix, number] = splitClosingNumber(index);
-    const QString dayTail
-        = formatIndexDate(today, getRegInteger(QStringLiteral("IndexStyle"))) + option("Separator2");
-    const bool ofTheDay = !dayTail.isEmpty() && prefix.endsWith(dayTail, Qt::CaseInsensitive);
-    const QString pattern
-        = ofTheDay ? sqlLikeText(dayTail, LikeMatch::Anywhere) : sqlLikeText(prefix, LikeMatch::Start);
-
+    const QString tail = dayTail(today);
+    const bool ofTheDay = !tail.isEmpty() && prefix.endsWith(tail, Qt::CaseInsensitive);
     qint64 highest = number;
-    Recordset rows;
-    rows.open(
-        QStringLiteral("SELECT DokRegistracIndeksas FROM tbl_Documents WHERE DokRegistracIndeksas LIKE ")
-            + pattern,
-        connection);
-    while (!rows.eof()) {
-        const auto [storedPrefix, storedNumber]
-            = splitClosingNumber(rows.fields(QStringLiteral("DokRegistracIndeksas")).value().toString());
-        const bool counts = ofTheDay ? storedPrefix.endsWith(dayTail, Qt::CaseInsensitive)
-                                     : storedPrefix.compare(prefix, Qt::CaseInsensitive) == 0;
-        if (counts)
-            highest = std::max(highest, storedNumber);
-        rows.moveNext();
+    if (ofTheDay) {
+        highest = std::max(highest,
+            highestHeld(connection, sqlLikeText(tail, LikeMatch::Anywhere),
+                [&tail](const QString& stored) { return stored.endsWith(tail, Qt::CaseInsensitive); }));
+        if (registerKeepsDayCounter(connection))
+            highest = std::max(highest, dayCounterValue(connection, today));
+    } else {
+        highest = std::max(highest,
+            highestHeld(connection, sqlLikeText(prefix, LikeMatch::Start), [&prefix](const QString& stored) {
+                return stored.compare(prefix, Qt::CaseInsensitive) == 0;
+            }));
     }
-    rows.close();
     return prefix + QString::number(highest + 1);
+}
+
+void guardRegIndex(Recordset& document, std::function<QString()> index, qint32 documentId)
+{
+    auto check = [index, documentId](Connection& connection) {
+        connection.lockForWriting(QStringLiteral("registration index"));
+        const QString text = index();
+        if (!text.trimmed().isEmpty() && regIndexTaken(connection, text, documentId))
+            throw Error(ErrorNumber::DuplicateValue,
+                QStringLiteral("The register already has a document with the index \"") + text
+                    + QStringLiteral("\"."));
+    };
+    auto count = [index](Connection& connection) {
+        if (!registerKeepsDayCounter(connection))
+            return;
+        const QDate today = Clock::currentDate();
+        const qint64 number = dayNumberOf(index(), today);
+        if (number > 0)
+            raiseDayCounter(connection, today, number);
+    };
+    document.setBatchWork(std::move(check), std::move(count));
 }
 
 QString regIndexSample(const QDate& today)

@@ -13,10 +13,13 @@
 #include "options/FirstRun.h"
 #include "options/OptionStore.h"
 #include "platform/Prompter.h"
+#include "registration/DayCounter.h"
 #include "registration/DocumentDetailsDialog.h"
 #include "registration/FileNaming.h"
 #include "registration/RegIndex.h"
 #include "registration/RelatedDocumentDialog.h"
+#include "store/Store.h"
+#include "store/engine/Connection.h"
 #include "support/SelectionState.h"
 
 #include <QApplication>
@@ -273,10 +276,10 @@ private Q_SLOTS:
         QCOMPARE(selection().selectedDocumentId, fx.id["letter"]);
     }
 
-    // Two users on one register: each keeps the day's count of registration indexes and the
-    // file number counter in the options of their own, whatever the other one takes.
-    void countersPerUser_data() { addPlaces(); }
-    void countersPerUser()
+    // Two users on one register count the day's registration indexes on the register's one
+    // counter, whatever their options say; the file number counter stays each user's own.
+    void countersOfAWorkgroup_data() { addPlaces(); }
+    void countersOfAWorkgroup()
     {
         REGISTER_OR_SKIP(reg);
         const QDate today(2024, 3, 5);
@@ -300,8 +303,19 @@ private Q_SLOTS:
         };
         const auto index = [&] { return makeRegIndex(contracts, today); };
         const auto fileName = [&] { return makeFileNumberName(contracts); };
-        QCOMPARE(asUser(first, index), "AGR-20240305/3");
+        // The first user stores the proposal: both are offered the next number.
+        QCOMPARE(asUser(first, index), "AGR-20240305/1");
         QCOMPARE(asUser(second, index), "AGR-20240305/1");
+        asUser(first, [&] {
+            Connection connection;
+            connection.open(plainConnectionString());
+            connection.beginTrans();
+            raiseDayCounter(connection, today, 1);
+            connection.commitTrans();
+            return QString();
+        });
+        QCOMPARE(asUser(second, index), "AGR-20240305/2");
+        QCOMPARE(asUser(first, index), "AGR-20240305/2");
         QCOMPARE(asUser(first, fileName), "AGR00001");
         QCOMPARE(asUser(first, fileName), "AGR00002");
         QCOMPARE(asUser(second, fileName), "AGR00001");

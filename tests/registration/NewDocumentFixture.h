@@ -98,6 +98,23 @@ struct Fixture
     ~Fixture() { selection() = SelectionState(); }
 
     int documents() const { return reg.scalar("SELECT COUNT(*) FROM tbl_Documents").toInt(); }
+    // The day's counter as the register keeps it: "yyyy-MM-dd=N" for its one row, empty
+    // when it has none, "rows: n" when it has more.
+    QString dayCounter() const
+    {
+        const int rows = reg.scalar("SELECT COUNT(*) FROM tbl_Day_Counter").toInt();
+        if (rows != 1)
+            return rows == 0 ? QString() : QStringLiteral("rows: %1").arg(rows);
+        return reg.scalar("SELECT CounterDay FROM tbl_Day_Counter").toString() + u'='
+            + reg.scalar("SELECT LastNumber FROM tbl_Day_Counter").toString();
+    }
+    // Takes a register file back to the form before the day's counter, as an older program
+    // made it: the day's numbers are counted in the options.
+    void makeOlderThanDayCounter() const
+    {
+        reg.exec("DROP TABLE tbl_Day_Counter");
+        reg.exec("PRAGMA user_version = 4");
+    }
     QVariant stored(const QString& field) const
     {
         return reg.scalar("SELECT " + field + " FROM tbl_Documents ORDER BY RastasID DESC");

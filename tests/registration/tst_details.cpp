@@ -206,6 +206,42 @@ private Q_SLOTS:
         QCOMPARE(fx.document("DokAntraste", fx.lease).toString(), "Sutartis");
     }
 
+    // An index changed to one another document has is refused, with the next free number
+    // on offer; the document's own index, kept as it was, is no duplicate of itself, even
+    // when an older register holds it twice.
+    void duplicateIndexIsRefused()
+    {
+        Fixture fx;
+        fx.reg.exec("UPDATE tbl_Documents SET DokRegistracIndeksas = 'AGR-7' WHERE RastasID = "
+            + QString::number(fx.other));
+        DocumentDetailsDialog dialog;
+        showActive(dialog);
+        retype(box(dialog, 3), "agr-7");
+        fx.prompter.answer(MsgBoxResult::No);
+        click(dialog, "cmdButton_0");
+        QCOMPARE(fx.prompter.texts(),
+            QStringList {"The register already has a document with the index \"agr-7\". Store this one as "
+                         "\"agr-8\"?"});
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(box(dialog, 3)->text(), "agr-7");
+        QCOMPARE(fx.document("DokRegistracIndeksas", fx.lease).toString(), "AGR-1");
+
+        fx.prompter.answer(MsgBoxResult::Yes);
+        click(dialog, "cmdButton_0");
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(fx.document("DokRegistracIndeksas", fx.lease).toString(), "agr-8");
+
+        fx.reg.exec("UPDATE tbl_Documents SET DokRegistracIndeksas = 'agr-8' WHERE RastasID = "
+            + QString::number(fx.other));
+        DocumentDetailsDialog again;
+        showActive(again);
+        retype(box(again, 7), "Sutartis nr. 2");
+        click(again, "cmdButton_0");
+        QVERIFY(!again.isVisible());
+        QCOMPARE(fx.document("DokAntraste", fx.lease).toString(), "Sutartis nr. 2");
+        QCOMPARE(fx.prompter.texts().size(), 2);
+    }
+
     // A date the row doesn't hold shows blank, not as today; today picked in the calendar
     // (or Up on the blank box) is a change, and Apply stores it; Delete blanks a date again.
     void blankDates_data()

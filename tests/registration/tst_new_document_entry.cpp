@@ -19,10 +19,20 @@ class NewDocumentEntryTest : public QObject
 
 private Q_SLOTS:
     // Proposals reserve nothing; a change of category proposes anew and clears the
-    // subcategory; a new day restarts the count.
+    // subcategory. The register counts the day's numbers and leaves the options alone; a
+    // register of an older version counts in the options, where a new day restarts the count.
+    void indexProposals_data()
+    {
+        QTest::addColumn<bool>("older");
+        QTest::newRow("counter in the register") << false;
+        QTest::newRow("older register") << true;
+    }
     void indexProposals()
     {
+        QFETCH(bool, older);
         Fixture fx;
+        if (older)
+            fx.makeOlderThanDayCounter();
         selection().currentSubCategoryId = fx.lease;
         const QString first = "AGR-" + today("yyyyMMdd") + "/1";
         {
@@ -43,23 +53,26 @@ private Q_SLOTS:
         }
         QCOMPARE(fx.documents(), 0);
 
-        setRegValue("Date", QDate::currentDate().addDays(-1).toString("yyyy MM dd"));
+        const QString yesterday = QDate::currentDate().addDays(-1).toString("yyyy MM dd");
+        setRegValue("Date", yesterday);
         setRegValue("TodayNumber", "7");
         {
             Dialog d;
             QCOMPARE(d.box(3)->text(), first);
-            QCOMPARE(getRegValue("Date"), today("yyyy MM dd"));
+            QCOMPARE(getRegValue("Date"), older ? today("yyyy MM dd") : yesterday);
             d.click("cmdOK");
         }
-        QCOMPARE(getRegValue("TodayNumber"), "2");
+        QCOMPARE(getRegValue("TodayNumber"), older ? "2" : "7");
+        if (!older)
+            QCOMPARE(fx.dayCounter(), today("yyyy-MM-dd") + "=1");
         QCOMPARE(fx.stored("SubKategID").toInt(), fx.lease);
         Dialog d;
         QCOMPARE(d.box(3)->text(), "AGR-" + today("yyyyMMdd") + "/2");
     }
 
-    // An index the register already has is refused, and the next number the register leaves
-    // free for the day (counting every category's) is offered: No keeps the dialog, Yes
-    // stores the offered one. A free index is stored without a question.
+    // The day's count starts from the highest number the register holds for the day, of any
+    // category; an index the register already has is refused, and the next number the
+    // register leaves free is offered; the counter follows what is stored, other users' too.
     void duplicateIndexIsRefused_data()
     {
         QTest::addColumn<int>("where");
@@ -80,24 +93,38 @@ private Q_SLOTS:
         fx.reg.insert("tbl_Documents", {{"DokAntraste", "Old"}, {"DokRegistracIndeksas", "AGR-20000101/9"}});
         {
             Dialog d;
-            QCOMPARE(d.box(3)->text(), "AGR-" + day + "/1");
+            QCOMPARE(d.box(3)->text(), "AGR-" + day + "/5");
+            d.type(3, "agr-" + day + "/1");
             fx.prompter.answer(MsgBoxResult::No);
             d.click("cmdOK");
             QCOMPARE(fx.prompter.texts(),
-                QStringList {"The register already has a document with the index \"AGR-" + day
-                    + "/1\". Store this one as \"AGR-" + day + "/5\"?"});
+                QStringList {"The register already has a document with the index \"agr-" + day
+                    + "/1\". Store this one as \"agr-" + day + "/5\"?"});
             QVERIFY(d.dialog.isVisible());
             QCOMPARE(fx.documents(), 3);
-            QCOMPARE(d.box(3)->text(), "AGR-" + day + "/1");
+            QCOMPARE(d.box(3)->text(), "agr-" + day + "/1");
 
             fx.prompter.answer(MsgBoxResult::Yes);
             d.click("cmdOK");
             QVERIFY(!d.dialog.isVisible());
         }
         QCOMPARE(fx.documents(), 4);
-        QCOMPARE(fx.stored("DokRegistracIndeksas").toString(), "AGR-" + day + "/5");
+        QCOMPARE(fx.stored("DokRegistracIndeksas").toString(), "agr-" + day + "/5");
+        QCOMPARE(fx.dayCounter(), today("yyyy-MM-dd") + "=5");
+
+        // Another user's program took numbers up to 8 meanwhile: the open dialog's /6 is still
+        // free and stored; the next proposal follows the counter.
         {
             Dialog d;
+            QCOMPARE(d.box(3)->text(), "AGR-" + day + "/6");
+            fx.reg.exec("UPDATE tbl_Day_Counter SET LastNumber = 8");
+            d.click("cmdOK");
+            QVERIFY(!d.dialog.isVisible());
+        }
+        QCOMPARE(fx.dayCounter(), today("yyyy-MM-dd") + "=8");
+        {
+            Dialog d;
+            QCOMPARE(d.box(3)->text(), "AGR-" + day + "/9");
             d.type(3, "agr-20000101/9");
             fx.prompter.answer(MsgBoxResult::Yes);
             d.click("cmdOK");
@@ -111,6 +138,7 @@ private Q_SLOTS:
         }
         QCOMPARE(fx.stored("DokRegistracIndeksas").toString(), "AGR-20000101/8");
         QCOMPARE(fx.prompter.texts().size(), 3);
+        QCOMPARE(fx.dayCounter(), today("yyyy-MM-dd") + "=8");
     }
 
     // Enter moves on from a box as Tab does, from the Notes box too, without a line end; Tab
@@ -186,13 +214,13 @@ private Q_SLOTS:
         QCOMPARE(prompt.first().style, MsgBoxStyle::OkOnly);
         QVERIFY(d.dialog.isVisible());
         QCOMPARE(fx.documents(), 0);
-        QCOMPARE(getRegValue("TodayNumber"), "1");
+        QCOMPARE(fx.dayCounter(), QString());
 
         d.type(1, "2024.09.30");
         d.click("cmdOK");
         QVERIFY(!d.dialog.isVisible());
         QCOMPARE(fx.stored("DokGavSiuntData").toDate(), QDate(2024, 9, 30));
-        QCOMPARE(getRegValue("TodayNumber"), "2");
+        QCOMPARE(fx.dayCounter(), today("yyyy-MM-dd") + "=1");
     }
 
     // Three files dropped on the main window's document list open the dialog three times, one

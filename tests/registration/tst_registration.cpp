@@ -3,9 +3,11 @@
 #include "harness/ScriptedPrompter.h"
 #include "harness/TestRegister.h"
 #include "options/OptionStore.h"
+#include "registration/DayCounter.h"
 #include "registration/FileNaming.h"
 #include "registration/OfficeDocuments.h"
 #include "registration/RegIndex.h"
+#include "store/engine/Connection.h"
 #include "store/engine/Value.h"
 
 #include <QDir>
@@ -59,6 +61,14 @@ void setExampleOptions()
             {"Separator1", "-"}, {"Separator2", "/"}, {"UseMnemonic", "1"}, {"FileNumber", " 12"}};
     for (const auto& [name, value] : options)
         setRegValue(name, value);
+}
+
+// Takes a register back to the form before the day's counter: the day's numbers are
+// counted in the options, as an older program made it.
+void makeOlderThanDayCounter(const TestRegister& reg)
+{
+    reg.exec("DROP TABLE tbl_Day_Counter");
+    reg.exec("PRAGMA user_version = 4");
 }
 
 // "known" in a test row stands for the category of the test's register.
@@ -170,6 +180,7 @@ private Q_SLOTS:
         QFETCH(QString, index);
         QFETCH(QString, numberAfter);
         TestRegister reg;
+        makeOlderThanDayCounter(reg);
         const qint32 category = addCategory(reg, QString("Sutartys"), mnemonic);
         setExampleOptions();
         if (option == "Separators") {
@@ -215,6 +226,7 @@ private Q_SLOTS:
         QFETCH(QVariant, category);
         QFETCH(long, error);
         TestRegister reg;
+        makeOlderThanDayCounter(reg);
         const qint32 known = addCategory(reg, QString("Sutartys"), QString("AGR"));
         setExampleOptions();
         if (!option.isEmpty())
@@ -229,12 +241,77 @@ private Q_SLOTS:
     void regIndexWithoutCategory()
     {
         TestRegister reg;
+        makeOlderThanDayCounter(reg);
         setExampleOptions();
         QCOMPARE(makeRegIndex(QString(), today), QString("20240305/7"));
         QCOMPARE(makeRegIndex(QVariant(), today), QString("20240305/7"));
         setRegValue("Date", QString("2024 03 04"));
         QCOMPARE(makeRegIndex(QString(), today), QString("20240305/1"));
         QCOMPARE(getRegValue("TodayNumber"), QString("1"));
+    }
+
+    // A register that keeps the day's counter gives the number and leaves the options alone:
+    // before anything is counted today it starts past the highest number its indexes of the
+    // day hold (any mnemonic, today's date text and Separator2 only), then it follows the
+    // counter, which only ever rises.
+    void regIndexFromTheRegister()
+    {
+        TestRegister reg;
+        const qint32 category = addCategory(reg, QString("Sutartys"), QString("AGR"));
+        setExampleOptions();
+        setRegValue("Date", QString("2024 03 01"));
+        QCOMPARE(makeRegIndex(category, today), QString("AGR-20240305/1"));
+        QCOMPARE(getRegValue("TodayNumber"), QString("7"));
+        QCOMPARE(getRegValue("Date"), QString("2024 03 01"));
+
+        const auto held = [&](const char* index) {
+            reg.insert("tbl_Documents", {{"DokAntraste", "Held"}, {"DokRegistracIndeksas", QString(index)}});
+        };
+        held("LET-20240305/3");
+        held("20240305/2");
+        held("AGR-20240304/9"); // another day
+        held("AGR-20240305-11"); // another separator
+        held("AGR-20240305/"); // no number
+        QCOMPARE(makeRegIndex(category, today), QString("AGR-20240305/4"));
+
+        Connection connection;
+        connection.open(reg.connectionString());
+        QCOMPARE(lastDayNumber(connection, today), 3);
+        connection.beginTrans();
+        raiseDayCounter(connection, today, 2);
+        connection.commitTrans();
+        QCOMPARE(makeRegIndex(category, today), QString("AGR-20240305/3"));
+        raiseDayCounter(connection, today, 6);
+        raiseDayCounter(connection, today, 5);
+        raiseDayCounter(connection, today.addDays(1), 1);
+        QCOMPARE(dayCounterValue(connection, today), 6);
+        QCOMPARE(makeRegIndex(category, today), QString("AGR-20240305/7"));
+        QCOMPARE(makeRegIndex(category, today.addDays(1)), QString("AGR-20240306/2"));
+        QCOMPARE(makeRegIndex(category, today.addDays(2)), QString("AGR-20240307/1"));
+        // The next free number counts the counter too.
+        QCOMPARE(nextFreeRegIndex(connection, "LET-20240305/3", today), QString("LET-20240305/7"));
+    }
+
+    void dayNumberOf_data()
+    {
+        QTest::addColumn<QString>("index");
+        QTest::addColumn<qint64>("number");
+        QTest::newRow("with mnemonic") << "AGR-20240305/12" << qint64(12);
+        QTest::newRow("without mnemonic") << "20240305/1" << qint64(1);
+        QTest::newRow("letter case") << "agr-20240305/3" << qint64(3);
+        QTest::newRow("another day") << "AGR-20240304/12" << qint64(0);
+        QTest::newRow("another separator") << "AGR-20240305-12" << qint64(0);
+        QTest::newRow("no number") << "AGR-20240305/" << qint64(0);
+        QTest::newRow("text after the number") << "AGR-20240305/12a" << qint64(0);
+        QTest::newRow("typed by hand") << "Sutartis 5" << qint64(0);
+    }
+    void dayNumberOf()
+    {
+        QFETCH(QString, index);
+        QFETCH(qint64, number);
+        TestRegister reg;
+        setExampleOptions();
+        QCOMPARE(kartella::dayNumberOf(index, today), number);
     }
 
     void regIndexOffLooksAtNothingElse()

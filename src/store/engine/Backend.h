@@ -101,6 +101,11 @@ public:
     virtual qint64 keyCounter(const QString& table) = 0;
     // Moves the counter to value unless it stands there or further already.
     virtual void raiseKeyCounter(const QString& table, qint64 value) = 0;
+
+    // Inside a transaction: waits for, then holds until the transaction ends, the lock that
+    // every writer taking the same name takes, so that a "look, then write" (a duplicate
+    // check, a counter) sees no other writer's rows appear between its look and its write.
+    virtual void lockForWriting(const QString& name) = 0;
 };
 
 } // namespace kartella

@@ -124,6 +124,11 @@ qint64 Connection::keyCounter(const QString& table)
     return backend().keyCounter(table);
 }
 
+void Connection::lockForWriting(const QString& name)
+{
+    backend().lockForWriting(name);
+}
+
 void Connection::raiseKeyCounter(const QString& table, qint64 value)
 {
     backend().raiseKeyCounter(table, value);

@@ -63,6 +63,10 @@ public:
     qint64 keyCounter(const QString& table);
     void raiseKeyCounter(const QString& table, qint64 value);
 
+    // Inside a transaction, the lock that writers of the same name queue on until it ends
+    // (see Backend::lockForWriting).
+    void lockForWriting(const QString& name);
+
     // The dialect of the open back end; throws when the connection is closed.
     SqlDialect dialect();
 

@@ -46,6 +46,7 @@ public:
     void rollbackTransaction() override;
     qint64 keyCounter(const QString& table) override;
     void raiseKeyCounter(const QString& table, qint64 value) override;
+    void lockForWriting(const QString& name) override;
 
 private:
     explicit PostgresBackend(pg_conn* connection, QString location);

@@ -145,6 +145,18 @@ void PostgresBackend::raiseKeyCounter(const QString& table, qint64 value)
         QString::fromUtf8(sql));
 }
 
+void PostgresBackend::lockForWriting(const QString& name)
+{
+    if (m_depth == 0)
+        throwError(ErrorNumber::CommandFailed, QStringLiteral("A write lock is taken inside a transaction."),
+            ConnectionSource);
+    // Writers of one database serialise on an advisory lock of the name, released by the
+    // server when the transaction ends, whichever way it ends.
+    static const QByteArray sql = "SELECT pg_advisory_xact_lock(hashtext($1))";
+    const StatementGuard guard(*this);
+    run(sql, {QByteArrayLiteral("kartella:") + name.toUtf8()}, QString::fromUtf8(sql));
+}
+
 const TableSchema& PostgresBackend::tableSchema(const QString& table)
 {
     names();

@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 namespace kartella {
@@ -118,6 +119,11 @@ public:
     void cancelUpdate();
     void updateBatch(int affect = AffectEnum::All);
     void cancelBatch();
+    // Work that updateBatch does in its transaction on the recordset's connection: before
+    // runs once it has begun and before the first row is written (a check that throws
+    // refuses the whole batch), after once every row is written, before the commit. Either
+    // failing writes nothing and leaves every change pending. Empty functions do nothing.
+    void setBatchWork(std::function<void(Connection&)> before, std::function<void(Connection&)> after);
     void deleteRecord(int affect = AffectEnum::Current);
     int editMode() const;
     bool isUpdatable() const;

@@ -111,6 +111,9 @@ struct RecordsetData
     QString restriction;
     std::unique_ptr<engine::Criteria> filter;
     std::optional<engine::EditBuffer> edit;
+    // Recordset::setBatchWork.
+    std::function<void(Connection&)> beforeBatch;
+    std::function<void(Connection&)> afterBatch;
 
     std::vector<engine::ChapterInfo> chapters;
     Recordset* parent = nullptr; // the parent of a chapter

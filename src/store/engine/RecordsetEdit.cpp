@@ -217,6 +217,12 @@ void Recordset::updateBatch(int affect)
     Q_EMIT recordsetChangeComplete();
 }
 
+void Recordset::setBatchWork(std::function<void(Connection&)> before, std::function<void(Connection&)> after)
+{
+    d->beforeBatch = std::move(before);
+    d->afterBatch = std::move(after);
+}
+
 void Recordset::cancelBatch()
 {
     d->requireOpen();

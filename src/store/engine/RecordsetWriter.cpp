@@ -133,6 +133,8 @@ void RecordsetData::writeRows(const std::vector<int>& rowList, bool allChildren)
     std::vector<Values> written(steps.size());
     backend.beginTransaction();
     try {
+        if (beforeBatch)
+            beforeBatch(*connection);
         for (std::size_t i = 0; i < steps.size(); ++i) {
             const WriteStep& step = steps[i];
             RecordsetData& d = *step.data;
@@ -170,6 +172,8 @@ void RecordsetData::writeRows(const std::vector<int>& rowList, bool allChildren)
             }
             written[i] = std::move(values);
         }
+        if (afterBatch)
+            afterBatch(*connection);
         backend.commitTransaction();
     } catch (...) {
         try {

@@ -56,6 +56,7 @@ public:
     void rollbackTransaction() override;
     qint64 keyCounter(const QString& table) override;
     void raiseKeyCounter(const QString& table, qint64 value) override;
+    void lockForWriting(const QString& name) override;
 
 private:
     explicit SqliteBackend(sqlite3* db);

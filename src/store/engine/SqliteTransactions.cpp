@@ -72,6 +72,14 @@ void SqliteBackend::rollbackTransaction()
     --m_depth;
 }
 
+void SqliteBackend::lockForWriting(const QString&)
+{
+    // BEGIN IMMEDIATE holds the register's one write lock for the whole transaction already.
+    if (m_depth == 0)
+        throwError(ErrorNumber::CommandFailed, QStringLiteral("A write lock is taken inside a transaction."),
+            ConnectionSource);
+}
+
 qint64 SqliteBackend::keyCounter(const QString& table)
 {
     // The table of counters is there once a table with AUTOINCREMENT keys is.

@@ -1,0 +1,29 @@
+#include "registration/RegIndexOffer.h"
+
+#include "platform/Prompter.h"
+#include "registration/RegIndex.h"
+#include "store/engine/Connection.h"
+
+#include <QLineEdit>
+
+namespace kartella {
+
+bool offerFreeRegIndex(QLineEdit* box, const QString& connectionString, const QString& title)
+{
+    const QString index = box->text();
+    Connection connection;
+    connection.open(connectionString);
+    const QString next = nextFreeRegIndex(connection, index);
+    connection.close();
+    const QString question = QStringLiteral("The register already has a document with the index \"") + index
+        + QStringLiteral("\". Store this one as \"") + next + QStringLiteral("\"?");
+    if (msgBox(question, MsgBoxStyle::YesNo | MsgBoxStyle::Question, title) != MsgBoxResult::Yes) {
+        box->setFocus(Qt::OtherFocusReason);
+        box->selectAll();
+        return false;
+    }
+    box->setText(next);
+    return true;
+}
+
+} // namespace kartella
