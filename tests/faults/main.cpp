@@ -1,0 +1,15 @@
+// The fault suite: each class injects one kind of fault into the program's writes and
+// checks that nothing the register held is lost.
+#include <QApplication>
+
+int runDiskFullTest(int argc, char** argv);
+int runToolExitTest(int argc, char** argv);
+
+int main(int argc, char** argv)
+{
+    QApplication app(argc, argv);
+    int failures = 0;
+    for (const auto run : {runDiskFullTest, runToolExitTest})
+        failures += run(argc, argv);
+    return failures;
+}
