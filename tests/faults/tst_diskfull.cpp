@@ -188,10 +188,11 @@ private Q_SLOTS:
             QVERIFY2(refused, where);
             QVERIFY2(!told.isEmpty(), where);
             // The first message names the cause; those after it may tell what it undid.
-            QVERIFY2(told.first().contains("disk is full"), qPrintable(told.join('\n') + ' ' + where));
+            QVERIFY2(told.first().contains("disk that holds the register is full"),
+                qPrintable(told.join('\n') + ' ' + where));
             for (const QString& message : std::as_const(told))
-                QVERIFY2(
-                    message.contains("disk is full") || message.startsWith("The changes were not stored"),
+                QVERIFY2(message.contains("disk that holds the register is full")
+                        || message.startsWith("The changes were not stored"),
                     qPrintable(message + ' ' + where));
             QCOMPARE(integrityCheck(work), QStringLiteral("ok"));
             const QStringList lost = RegisterSnapshot::take(work).lostOrChanged(before);

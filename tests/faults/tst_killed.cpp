@@ -125,6 +125,8 @@ private Q_SLOTS:
             QVERIFY2(RegisterSnapshot::take(m_sample).lostOrChanged(source).isEmpty(), where.constData());
             if (!QFile::exists(target) || QFile(target).size() == 0)
                 continue;
+            // Opening rolls back what the killed copy left in its journal.
+            QVERIFY(countThroughEngine(target, "tbl_Documents") >= 0);
             QCOMPARE(integrityCheck(target), QStringLiteral("ok"));
             const RegisterSnapshot copied = RegisterSnapshot::take(target);
             const bool empty = std::all_of(copied.tables.cbegin(), copied.tables.cend(),

@@ -1,7 +1,7 @@
 // kartella-db on a disk that fills up: a command that prints an error exits non-zero, and
 // the register it wrote to stays sound with the rows it had.
 #include "faults/FaultFixture.h"
-#include "faults/SmallDisk.h"
+#include "faults/TestMounts.h"
 #include "harness/OldRegister.h"
 
 #include <QFile>

@@ -179,6 +179,18 @@ void SqliteBackend::fail(int code, const QString& shownSql) const
             = QStringLiteral("The register is in use by another program and stayed locked for %1 seconds; "
                              "try again.")
                   .arg(BusyTimeoutMs / 1000);
+    else if (primary == SQLITE_FULL)
+        message = QStringLiteral("The disk that holds the register is full, and the change was not stored. "
+                                 "Make room on it and try again.");
+    else if (primary == SQLITE_READONLY || primary == SQLITE_CANTOPEN || primary == SQLITE_PERM)
+        // A statement that can't open a file could not make the register's journal beside it.
+        message = QStringLiteral("The register can't be written: its file or its folder is read-only, or you "
+                                 "may not change them. The change was not stored (")
+            + QString::fromUtf8(sqlite3_errmsg(m_db)) + QStringLiteral(").");
+    else if (primary == SQLITE_IOERR)
+        message = QStringLiteral("The disk that holds the register failed to read or write, and the change "
+                                 "was not stored (")
+            + QString::fromUtf8(sqlite3_errmsg(m_db)) + QStringLiteral(").");
     else
         message = QString::fromUtf8(sqlite3_errmsg(m_db));
     throwError(

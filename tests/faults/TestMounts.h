@@ -30,4 +30,25 @@ private:
     bool m_mounted = false;
 };
 
+// While it lives, a folder reads as it did but refuses every change, to root as well: the
+// folder bind-mounted read-only onto itself. Where mounting fails, skipReason() says why.
+class ReadOnlyFolder
+{
+public:
+    explicit ReadOnlyFolder(const QString& path);
+    ~ReadOnlyFolder();
+    ReadOnlyFolder(const ReadOnlyFolder&) = delete;
+    ReadOnlyFolder& operator=(const ReadOnlyFolder&) = delete;
+
+    bool isMounted() const { return m_mounted; }
+    QString skipReason() const { return m_skipReason; }
+    // Lets the folder be written again.
+    void release();
+
+private:
+    QString m_path;
+    QString m_skipReason;
+    bool m_mounted = false;
+};
+
 } // namespace kartella::test

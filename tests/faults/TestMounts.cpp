@@ -1,4 +1,4 @@
-#include "faults/SmallDisk.h"
+#include "faults/TestMounts.h"
 
 #include <QDir>
 #include <QFile>
@@ -68,6 +68,33 @@ void SmallDisk::leaveFree(qint64 freeBytes)
         if (filler.write(block.constData(), chunk) != chunk || !filler.flush())
             break;
     }
+}
+
+ReadOnlyFolder::ReadOnlyFolder(const QString& path)
+    : m_path(path)
+{
+    QString error;
+    if (runQuietly(QStringLiteral("mount"), {"--bind", m_path, m_path}, &error) != 0) {
+        m_skipReason = QStringLiteral("can't bind-mount a folder read-only (needs root): ") + error;
+        return;
+    }
+    m_mounted = true;
+    if (runQuietly(QStringLiteral("mount"), {"-o", "remount,bind,ro", m_path}, &error) != 0) {
+        m_skipReason = QStringLiteral("can't make a bind mount read-only: ") + error;
+        release();
+    }
+}
+
+ReadOnlyFolder::~ReadOnlyFolder()
+{
+    release();
+}
+
+void ReadOnlyFolder::release()
+{
+    if (m_mounted)
+        runQuietly(QStringLiteral("umount"), {m_path});
+    m_mounted = false;
 }
 
 } // namespace kartella::test
