@@ -6,12 +6,14 @@ int runDiskFullTest(int argc, char** argv);
 int runToolExitTest(int argc, char** argv);
 int runKilledTest(int argc, char** argv);
 int runDialogFaultsTest(int argc, char** argv);
+int runOptionFaultsTest(int argc, char** argv);
 
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
     int failures = 0;
-    for (const auto run : {runDiskFullTest, runToolExitTest, runKilledTest, runDialogFaultsTest})
+    for (const auto run : {runDiskFullTest, runToolExitTest, runKilledTest, runDialogFaultsTest,
+             runOptionFaultsTest})
         failures += run(argc, argv);
     return failures;
 }

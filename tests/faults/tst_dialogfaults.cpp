@@ -6,10 +6,13 @@
 #include "faults/TestMounts.h"
 #include "registration/DocumentDetailsDialog.h"
 #include "registration/RegisterFixture.h"
+#include "registration/RelatedDocumentDialog.h"
 
 #include <QFileInfo>
+#include <QPlainTextEdit>
 #include <QTest>
 
+#include <functional>
 #include <memory>
 #include <sqlite3.h>
 
@@ -100,39 +103,67 @@ class DialogFaultsTest : public QObject
                                     << "in use by another program";
     }
 
-private Q_SLOTS:
-    void detailsOkKeepsTheDialog_data() { addFaults(); }
-    void detailsOkKeepsTheDialog()
+    // OK under the fault fails with a message naming it and keeps the dialog with what was
+    // typed and the register as it was; OK once the fault is gone saves and closes.
+    void refusedThenSaved(Fixture& fx, QDialog& dialog, const char* ok,
+        const std::function<bool()>& typedKept, const std::function<bool()>& saved)
     {
         QFETCH(QString, fault);
         QFETCH(QString, told);
-        Fixture fx;
         const RegisterSnapshot before = RegisterSnapshot::take(fx.reg.path(), fx.files.path());
-        DocumentDetailsDialog dialog;
-        showActive(dialog);
-        retype(box(dialog, 7), "Sutartis po gedimo");
-
         {
             Fault injected(fault, fx.reg.path(), m_vfs);
             if (!injected.skipReason().isEmpty())
                 QSKIP(qPrintable(injected.skipReason()));
             fx.prompter.answer(MsgBoxResult::Ok);
-            click(dialog, "cmdButton_0");
+            click(dialog, ok);
             const auto prompts = fx.prompter.take();
             QCOMPARE(prompts.size(), 1);
             QVERIFY2(
                 prompts.first().text.contains(told, Qt::CaseInsensitive), qPrintable(prompts.first().text));
-            QCOMPARE(prompts.first().style, MsgBoxStyle::Critical);
             QVERIFY(dialog.isVisible());
-            QCOMPARE(box(dialog, 7)->text(), "Sutartis po gedimo");
+            QVERIFY(typedKept());
         }
         QCOMPARE(integrityCheck(fx.reg.path()), QStringLiteral("ok"));
-        QVERIFY(RegisterSnapshot::take(fx.reg.path(), fx.files.path()).lostOrChanged(before).isEmpty());
+        const QStringList lost = RegisterSnapshot::take(fx.reg.path(), fx.files.path()).lostOrChanged(before);
+        QVERIFY2(lost.isEmpty(), qPrintable(lost.join('\n')));
 
-        click(dialog, "cmdButton_0");
-        QVERIFY(fx.prompter.prompts().isEmpty());
+        click(dialog, ok);
+        QVERIFY2(fx.prompter.prompts().isEmpty(), qPrintable(fx.prompter.texts().join('\n')));
         QVERIFY(!dialog.isVisible());
-        QCOMPARE(fx.document("DokAntraste", fx.lease).toString(), "Sutartis po gedimo");
+        QVERIFY(saved());
+    }
+
+private Q_SLOTS:
+    void detailsOk_data() { addFaults(); }
+    void detailsOk()
+    {
+        Fixture fx;
+        DocumentDetailsDialog dialog;
+        showActive(dialog);
+        retype(box(dialog, 7), "Sutartis po gedimo");
+        refusedThenSaved(
+            fx, dialog, "cmdButton_0", [&] { return box(dialog, 7)->text() == "Sutartis po gedimo"; },
+            [&] { return fx.document("DokAntraste", fx.lease).toString() == "Sutartis po gedimo"; });
+    }
+
+    void relatedOk_data() { addFaults(); }
+    void relatedOk()
+    {
+        Fixture fx;
+        const QString scan = fx.files.filePath("scan.pdf");
+        writeFile(scan, "scan");
+        RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Creating);
+        showActive(dialog);
+        auto* description = dialog.findChild<QPlainTextEdit*>("txtFields_1");
+        QTest::keyClicks(description, "Kvitas");
+        fx.prompter.answerFile(scan);
+        click(dialog, "cmdAddExisting");
+        fx.prompter.take();
+        refusedThenSaved(
+            fx, dialog, "cmdOK",
+            [&] { return description->toPlainText() == "Kvitas" && box(dialog, 5)->text() == scan; },
+            [&] { return fx.relatedRows() == QStringLiteral("%1:Annex,%1:Kvitas").arg(fx.lease); });
     }
 };
 

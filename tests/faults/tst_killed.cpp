@@ -1,5 +1,6 @@
 // kartella-db killed in the middle of a write: afterwards the register opens, holds every
 // row it had, and the write's batch is there whole or not at all.
+#include "base/Error.h"
 #include "faults/FaultFixture.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
@@ -125,8 +126,17 @@ private Q_SLOTS:
             QVERIFY2(RegisterSnapshot::take(m_sample).lostOrChanged(source).isEmpty(), where.constData());
             if (!QFile::exists(target) || QFile(target).size() == 0)
                 continue;
-            // Opening rolls back what the killed copy left in its journal.
-            QVERIFY(countThroughEngine(target, "tbl_Documents") >= 0);
+            // Opening rolls back what the killed copy left in its journal. A copy killed while
+            // it made the new register's tables leaves a file that is refused with a message.
+            try {
+                countThroughEngine(target, "tbl_Documents");
+            } catch (const Error& error) {
+                QVERIFY2(error.description().contains("not a register"), qPrintable(error.description()));
+                const ToolRun again = runTool({"copy", m_sample, target});
+                QCOMPARE(again.exitCode, 1);
+                QVERIFY2(again.err.startsWith("kartella-db: "), qPrintable(again.err));
+                continue;
+            }
             QCOMPARE(integrityCheck(target), QStringLiteral("ok"));
             const RegisterSnapshot copied = RegisterSnapshot::take(target);
             const bool empty = std::all_of(copied.tables.cbegin(), copied.tables.cend(),

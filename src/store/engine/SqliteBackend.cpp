@@ -147,6 +147,10 @@ std::unique_ptr<SqliteBackend> SqliteBackend::open(const QString& path)
     const bool isRegister = status == SQLITE_ROW && sqlite3_column_int(check, 0) > 0;
     const QString message = QString::fromUtf8(sqlite3_errmsg(db));
     sqlite3_finalize(check);
+    if (status == SQLITE_BUSY || status == SQLITE_LOCKED)
+        failToOpen(QStringLiteral("The register '") + path
+            + QStringLiteral("' is in use by another program, which kept it locked; try again once it is "
+                             "done."));
     if (status != SQLITE_ROW)
         failToOpen(QStringLiteral("The register '") + path + QStringLiteral("' can't be read: ") + message
             + QStringLiteral(". The file may be damaged, or locked by another program."));
