@@ -7,13 +7,14 @@ int runToolExitTest(int argc, char** argv);
 int runKilledTest(int argc, char** argv);
 int runDialogFaultsTest(int argc, char** argv);
 int runOptionFaultsTest(int argc, char** argv);
+int runFileFaultsTest(int argc, char** argv);
 
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
     int failures = 0;
     for (const auto run : {runDiskFullTest, runToolExitTest, runKilledTest, runDialogFaultsTest,
-             runOptionFaultsTest})
+             runOptionFaultsTest, runFileFaultsTest})
         failures += run(argc, argv);
     return failures;
 }
