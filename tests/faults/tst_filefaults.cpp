@@ -4,11 +4,15 @@
 #include "faults/FaultFixture.h"
 #include "faults/FullDiskVfs.h"
 #include "faults/TestMounts.h"
+#include "harness/ScriptedOfficeSuite.h"
+#include "platform/OfficeSuite.h"
 #include "registration/CopyFileDialog.h"
 #include "registration/RegisterFixture.h"
+#include "registration/RelatedDocumentDialog.h"
 
 #include <QDir>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QTest>
 
 #include <memory>
@@ -84,6 +88,47 @@ private Q_SLOTS:
             QVERIFY2(!told.isEmpty(), "nothing told");
         if (command == "cmdMove" && !done)
             QVERIFY2(!QFile::exists(moved) || readFile(fx.leaseFile) == "lease", qPrintable(told.join('\n')));
+    }
+
+    // LibreOffice missing, stopped after its time limit, or ending without a document: the
+    // related document's Word button says so, and the dialog keeps what was typed and makes
+    // the document once Office works.
+    void relatedWordWithOfficeFailing_data()
+    {
+        QTest::addColumn<long>("failure");
+        QTest::newRow("not installed") << long(OfficeErrorNumber::NotInstalled);
+        QTest::newRow("timed out") << long(OfficeErrorNumber::TimedOut);
+        QTest::newRow("no document") << long(OfficeErrorNumber::Failed);
+    }
+
+    void relatedWordWithOfficeFailing()
+    {
+        QFETCH(long, failure);
+        Fixture fx;
+        ScriptedOfficeSuite office;
+        office.failWith(failure);
+        const RegisterSnapshot before = RegisterSnapshot::take(fx.reg.path(), fx.files.path());
+        RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Creating);
+        showActive(dialog);
+        auto* description = dialog.findChild<QPlainTextEdit*>("txtFields_1");
+        QTest::keyClicks(description, "Aktas");
+        // The error, after a notice of what to install the first time Office is missing.
+        fx.prompter.answer(MsgBoxResult::Ok).answer(MsgBoxResult::Ok);
+        click(dialog, "cmdWord");
+        QVERIFY(!fx.prompter.take().isEmpty());
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(description->toPlainText(), "Aktas");
+        QVERIFY(box(dialog, 5)->text().isEmpty());
+        QVERIFY(RegisterSnapshot::take(fx.reg.path(), fx.files.path()).lostOrChanged(before).isEmpty());
+        QCOMPARE(RegisterSnapshot::take(fx.reg.path(), fx.files.path()).files.size(), before.files.size());
+
+        office.failWith(0);
+        click(dialog, "cmdWord");
+        QVERIFY(QFile::exists(box(dialog, 5)->text()));
+        click(dialog, "cmdOK");
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(fx.relatedRows(), QStringLiteral("%1:Annex,%1:Aktas").arg(fx.lease));
+        QVERIFY(fx.prompter.prompts().isEmpty());
     }
 };
 
