@@ -127,8 +127,12 @@ bool SectionFile::save(const QString& path) const
         data += line.toUtf8();
         data += '\n';
     }
-    if (file.write(data) != data.size())
+    // The data waits in the file's buffer: on a full disk only the flush fails, and commit
+    // would put the short file in place of the whole one.
+    if (file.write(data) != data.size() || !file.flush()) {
+        file.cancelWriting();
         return false;
+    }
     return file.commit();
 }
 

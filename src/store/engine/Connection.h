@@ -53,7 +53,8 @@ public:
 
     // Transactions, for the tools that load many rows; the program itself uses none. A
     // statement that fails inside one undoes only itself. commitTrans throws when the
-    // transaction did not commit, and then no transaction is open any more.
+    // transaction did not commit, and then no transaction is open any more; rollbackTrans
+    // with none open does nothing, so that a caller may roll back after any failure.
     void beginTrans();
     void commitTrans();
     void rollbackTrans();

@@ -107,9 +107,9 @@ void PostgresBackend::commitTransaction()
 
 void PostgresBackend::rollbackTransaction()
 {
+    // A failed commit ends the transaction: the caller's rollback after it has nothing to undo.
     if (m_depth == 0)
-        throwError(ErrorNumber::CommandFailed, QStringLiteral("There is no transaction to roll back."),
-            ConnectionSource);
+        return;
     m_guardOpen = false;
     if (m_depth == 1) {
         endTransaction();

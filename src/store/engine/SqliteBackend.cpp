@@ -147,6 +147,10 @@ std::unique_ptr<SqliteBackend> SqliteBackend::open(const QString& path)
     const bool isRegister = status == SQLITE_ROW && sqlite3_column_int(check, 0) > 0;
     const QString message = QString::fromUtf8(sqlite3_errmsg(db));
     sqlite3_finalize(check);
+    if (status == SQLITE_BUSY || status == SQLITE_LOCKED)
+        failToOpen(QStringLiteral("The register '") + path
+            + QStringLiteral("' is in use by another program, which kept it locked; try again once it is "
+                             "done."));
     if (status != SQLITE_ROW)
         failToOpen(QStringLiteral("The register '") + path + QStringLiteral("' can't be read: ") + message
             + QStringLiteral(". The file may be damaged, or locked by another program."));
@@ -179,6 +183,18 @@ void SqliteBackend::fail(int code, const QString& shownSql) const
             = QStringLiteral("The register is in use by another program and stayed locked for %1 seconds; "
                              "try again.")
                   .arg(BusyTimeoutMs / 1000);
+    else if (primary == SQLITE_FULL)
+        message = QStringLiteral("The disk that holds the register is full, and the change was not stored. "
+                                 "Make room on it and try again.");
+    else if (primary == SQLITE_READONLY || primary == SQLITE_CANTOPEN || primary == SQLITE_PERM)
+        // A statement that can't open a file could not make the register's journal beside it.
+        message = QStringLiteral("The register can't be written: its file or its folder is read-only, or you "
+                                 "may not change them. The change was not stored (")
+            + QString::fromUtf8(sqlite3_errmsg(m_db)) + QStringLiteral(").");
+    else if (primary == SQLITE_IOERR)
+        message = QStringLiteral("The disk that holds the register failed to read or write, and the change "
+                                 "was not stored (")
+            + QString::fromUtf8(sqlite3_errmsg(m_db)) + QStringLiteral(").");
     else
         message = QString::fromUtf8(sqlite3_errmsg(m_db));
     throwError(

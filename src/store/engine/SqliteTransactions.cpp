@@ -54,12 +54,13 @@ void SqliteBackend::commitTransaction()
 
 void SqliteBackend::rollbackTransaction()
 {
+    // A failed commit ends the transaction: the caller's rollback after it has nothing to undo.
     if (m_depth == 0)
-        throwError(ErrorNumber::CommandFailed, QStringLiteral("There is no transaction to roll back."),
-            ConnectionSource);
+        return;
     if (sqlite3_get_autocommit(m_db) != 0) {
-        // Rolled back already by the database.
-        m_depth = 0;
+        // Rolled back already by the database, the outer levels with this one. They stay
+        // counted, so that the caller's commit of them tells that nothing was kept.
+        --m_depth;
         return;
     }
     if (m_depth == 1) {
