@@ -10,6 +10,7 @@
 #include "explorer/NavigationTree.h"
 #include "options/FirstRun.h"
 #include "options/OptionStore.h"
+#include "store/DueReminders.h"
 #include "store/InsertBatch.h"
 #include "store/SampleRegister.h"
 #include "store/Schema.h"
@@ -140,12 +141,15 @@ int main(int argc, char* argv[])
     if (at > 0 && at + 1 < arguments.size())
         documents = arguments.at(at + 1).toInt();
     const QString path = sampleRegister(documents);
+    // --no-reminders: without the window of due reminders at the start, to tell its share.
+    const bool reminders = !arguments.contains(QStringLiteral("--no-reminders"));
 
     QTemporaryDir dir;
     qputenv("XDG_CONFIG_HOME", dir.filePath(QStringLiteral("config")).toUtf8());
     seedOptionsIfMissing();
     setRegValue(QStringLiteral("DbLocation"), path);
     setRegValue(QStringLiteral("Filter"), QStringLiteral("0"));
+    setShowDueRemindersAtStart(reminders);
 
     // The start as the program makes it: show, load, paint.
     std::unique_ptr<MainWindow> window;
@@ -163,11 +167,14 @@ int main(int argc, char* argv[])
     // Clicks: every category node (and subcategory), with the filters off and on.
     std::vector<double> clicks;
     auto clickAll = [&](const QList<QTreeWidgetItem*>& nodes) {
-        for (QTreeWidgetItem* node : nodes)
+        for (QTreeWidgetItem* node : nodes) {
             clicks.push_back(elapsedMs([&] {
                 window->onNodeClicked(node);
                 paint();
             }));
+            if (qEnvironmentVariableIsSet("KARTELLA_BENCH_VERBOSE"))
+                QTextStream(stderr) << "click " << node->text(0) << ": " << qRound(clicks.back()) << " ms\n";
+        }
     };
     QList<QTreeWidgetItem*> categoryNodes;
     for (int i = 1; tree->nodeByIndex(i); ++i)

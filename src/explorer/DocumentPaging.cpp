@@ -180,11 +180,7 @@ QString DocumentPaging::pageSql(const PageKey* after, int limit, int offset) con
     QStringList more;
     if (after)
         more << seek(*after, !m_descending);
-    QString sql
-        = select() + where(more) + orderBy(false) + QStringLiteral(" LIMIT ") + QString::number(limit);
-    if (offset > 0)
-        sql += QStringLiteral(" OFFSET ") + QString::number(offset);
-    return sql;
+    return page(more, false, limit, offset);
 }
 
 QString DocumentPaging::reversePageSql(const PageKey* before, int limit, int offset) const
@@ -192,10 +188,25 @@ QString DocumentPaging::reversePageSql(const PageKey* before, int limit, int off
     QStringList more;
     if (before)
         more << seek(*before, m_descending);
-    QString sql = select() + where(more) + orderBy(true) + QStringLiteral(" LIMIT ") + QString::number(limit);
+    return page(more, true, limit, offset);
+}
+
+QString DocumentPaging::page(const QStringList& more, bool reverse, int limit, int offset) const
+{
+    QString bounds = QStringLiteral(" LIMIT ") + QString::number(limit);
     if (offset > 0)
-        sql += QStringLiteral(" OFFSET ") + QString::number(offset);
-    return sql;
+        bounds += QStringLiteral(" OFFSET ") + QString::number(offset);
+    const bool byContacts = m_condition.contains(QStringLiteral("tbl_Contacts."), Qt::CaseInsensitive);
+    const bool byDocuments = columnField(m_sortColumn, m_mode == Mode::Contact).startsWith(u"tbl_Documents.");
+    if (byContacts || !byDocuments || sortsByDate())
+        return select() + where(more) + orderBy(reverse) + bounds;
+    // A sort by a text column reads every document of the list: the page is chosen among
+    // the documents alone and joined to the names after, not every document to its contact.
+    const QString inner = QStringLiteral("(SELECT tbl_Documents.* FROM tbl_Documents") + where(more)
+        + orderBy(reverse) + bounds + QStringLiteral(") AS DocumentPage ");
+    QString outer = select() + orderBy(reverse);
+    outer.replace(QStringLiteral("tbl_Documents."), QStringLiteral("DocumentPage."));
+    return outer.replace(QStringLiteral(" FROM tbl_Documents "), QStringLiteral(" FROM ") + inner);
 }
 
 QString DocumentPaging::rowByIdSql(qint32 id) const

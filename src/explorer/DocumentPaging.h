@@ -67,6 +67,7 @@ private:
     QString from(bool withContacts) const;
     QString where(const QStringList& more) const;
     QString orderBy(bool reverse) const;
+    QString page(const QStringList& more, bool reverse, int limit, int offset) const;
     QString sortExpression() const;
     // Rows that come after key in ascending order of (sort value, id), or before it.
     QString seek(const PageKey& key, bool greater) const;
