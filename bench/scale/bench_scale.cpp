@@ -153,13 +153,19 @@ int main(int argc, char* argv[])
 
     // The start as the program makes it: show, load, paint.
     std::unique_ptr<MainWindow> window;
+    std::vector<double> steps;
     const double start = elapsedMs([&] {
-        window = std::make_unique<MainWindow>();
-        window->resize(1000, 700);
-        window->show();
-        window->load();
-        paint();
+        steps.push_back(elapsedMs([&] {
+            window = std::make_unique<MainWindow>();
+            window->resize(1000, 700);
+            window->show();
+        }));
+        steps.push_back(elapsedMs([&] { window->load(); }));
+        steps.push_back(elapsedMs([&] { paint(); }));
     });
+    if (qEnvironmentVariableIsSet("KARTELLA_BENCH_VERBOSE"))
+        QTextStream(stderr) << "start: window " << qRound(steps[0]) << " ms, load " << qRound(steps[1])
+                            << " ms, paint " << qRound(steps[2]) << " ms\n";
     QTreeView* list = window->documentList()->detailsView();
     NavigationTree* tree = window->tree();
     auto* direction = window->findChild<QComboBox*>(QStringLiteral("cboDirection"));

@@ -6,10 +6,12 @@
 #include "store/engine/Connection.h"
 #include "store/engine/EngineErrors.h"
 #include "store/engine/Recordset.h"
+#include "support/BusyCursor.h"
 
 #include <QDate>
 
 #include <algorithm>
+#include <optional>
 
 namespace kartella {
 
@@ -117,6 +119,10 @@ DocumentPages::Page DocumentPages::readPage(int number)
         }
     }
 
+    // A sort by a text column reads every row of the list for each page.
+    std::optional<BusyCursor> busy;
+    if (!m_paging.sortsByDate())
+        busy.emplace();
     Recordset rs;
     const QString sql
         = forward ? m_paging.pageSql(from, rows, skip) : m_paging.reversePageSql(from, rows, skip);
