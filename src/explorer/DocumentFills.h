@@ -8,12 +8,13 @@
 
 namespace kartella {
 
-class Recordset;
 struct SelectionState;
 
 // Turns a document query into the rows, columns, icons and count of the document list,
 // in its three modes: by the query alone (category tree), by letter and by contact.
 // Each fill rebuilds the list from nothing; an empty query result gives the empty state.
+// The rows are read as they come into view (DocumentPages); the letter and contact modes
+// narrow the query in the database.
 class DocumentFills
 {
 public:
@@ -43,8 +44,6 @@ public:
 private:
     enum class Mode { Category, Letter, Contact };
     void fill(const QString& sql, Mode mode, qint16 letterCode);
-    std::vector<ListItem> documentRows(Recordset& rs, Mode mode, qint16 letterCode);
-    void finish(std::vector<ListItem> rows);
 
     ListModel& m_model;
     SelectionState& m_selection;

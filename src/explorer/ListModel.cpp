@@ -19,6 +19,7 @@ void ListModel::setColumns(const QList<ListColumn>& columns)
 {
     beginResetModel();
     m_items.clear();
+    m_source.reset();
     m_columns = columns;
     endResetModel();
     Q_EMIT columnsReplaced();
@@ -33,19 +34,43 @@ void ListModel::clearItems()
 {
     beginResetModel();
     m_items.clear();
+    m_source.reset();
     endResetModel();
 }
 
 void ListModel::setItems(std::vector<ListItem> items)
 {
     beginResetModel();
+    m_source.reset();
     m_items = std::move(items);
     applySort();
     endResetModel();
 }
 
+void ListModel::setSource(std::unique_ptr<ListRowSource> source)
+{
+    beginResetModel();
+    m_items.clear();
+    m_source = std::move(source);
+    if (m_source && m_sorted)
+        m_source->sort(m_sortKey, m_sortOrder);
+    endResetModel();
+}
+
+ListItem ListModel::item(int row) const
+{
+    if (m_source)
+        return m_source->item(row);
+    return m_items[size_t(row)];
+}
+
 void ListModel::appendItem(ListItem item)
 {
+    if (m_source) {
+        beginResetModel();
+        m_source.reset();
+        endResetModel();
+    }
     const int row = int(m_items.size());
     beginInsertRows({}, row, row);
     m_items.push_back(std::move(item));
@@ -56,6 +81,11 @@ void ListModel::setItemTag(int row, const QString& tag)
 {
     if (row < 0 || row >= itemCount())
         return;
+    if (m_source) {
+        m_source->setItemTag(row, tag);
+        Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
+        return;
+    }
     m_items[size_t(row)].tag = tag;
     m_items[size_t(row)].tagIsNull = false;
     Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
@@ -63,6 +93,8 @@ void ListModel::setItemTag(int row, const QString& tag)
 
 int ListModel::rowOfKey(const QString& key) const
 {
+    if (m_source)
+        return m_source->rowOfKey(key);
     for (size_t i = 0; i < m_items.size(); ++i) {
         if (m_items[i].key == key)
             return int(i);
@@ -75,7 +107,7 @@ void ListModel::setLargeIcons(bool large)
     if (m_largeIcons == large)
         return;
     m_largeIcons = large;
-    if (!m_items.empty())
+    if (rowCount() > 0)
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, 0), {Qt::DecorationRole});
 }
 
@@ -85,7 +117,10 @@ void ListModel::setSort(int column, Qt::SortOrder order)
     m_sortKey = column;
     m_sortOrder = order;
     m_sorted = true;
-    applySort();
+    if (m_source)
+        m_source->sort(column, order);
+    else
+        applySort();
     endResetModel();
     Q_EMIT sortChanged();
 }
@@ -126,7 +161,7 @@ void ListModel::applySort()
 
 int ListModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : int(m_items.size());
+    return parent.isValid() ? 0 : itemCount();
 }
 
 int ListModel::columnCount(const QModelIndex& parent) const
@@ -136,9 +171,11 @@ int ListModel::columnCount(const QModelIndex& parent) const
 
 QVariant ListModel::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || index.row() >= int(m_items.size()))
+    if (!index.isValid() || index.row() >= itemCount())
         return {};
-    const ListItem& item = m_items[size_t(index.row())];
+    if (role != Qt::DisplayRole && role != Qt::DecorationRole)
+        return {};
+    const ListItem item = this->item(index.row());
     switch (role) {
     case Qt::DisplayRole:
         return columnText(item, index.column());
@@ -166,6 +203,20 @@ Qt::ItemFlags ListModel::flags(const QModelIndex& index) const
     return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled;
 }
 
+QModelIndexList ListModel::match(
+    const QModelIndex& start, int role, const QVariant& value, int hits, Qt::MatchFlags flags) const
+{
+    // Type-ahead over rows never read asks the database, not every row in turn.
+    const bool typeAhead = role == Qt::DisplayRole && start.column() == 0 && hits == 1
+        && (flags & Qt::MatchTypeMask) == Qt::MatchStartsWith && (flags & Qt::MatchWrap);
+    if (!m_source || !typeAhead)
+        return QAbstractTableModel::match(start, role, value, hits, flags);
+    const int row = m_source->rowStartingWith(start.row(), value.toString());
+    if (row < 0)
+        return {};
+    return {index(row, 0)};
+}
+
 QStringList ListModel::mimeTypes() const
 {
     return {QStringLiteral("text/uri-list")};
@@ -183,9 +234,9 @@ QMimeData* ListModel::mimeData(const QModelIndexList& indexes) const
         return data;
     }
     for (const QModelIndex& index : indexes) {
-        if (index.column() != 0 || index.row() >= int(m_items.size()))
+        if (index.column() != 0 || index.row() >= itemCount())
             continue;
-        const ListItem& item = m_items[size_t(index.row())];
+        const ListItem item = this->item(index.row());
         if (!item.tagIsNull && !item.tag.isEmpty())
             urls << QUrl::fromLocalFile(item.tag);
     }

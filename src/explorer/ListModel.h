@@ -6,6 +6,7 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace kartella {
@@ -34,6 +35,26 @@ struct ListItem
     QDate date;
 };
 
+// Rows a list reads from the database as they come into view, in the database's order:
+// the list knows their number and asks for each row when it shows or uses it.
+class ListRowSource
+{
+public:
+    virtual ~ListRowSource() = default;
+    virtual int count() const = 0;
+    // Row `row` of the list (0 <= row < count()), read with its page when not at hand.
+    virtual ListItem item(int row) = 0;
+    // The row of a key, -1 when the list has none.
+    virtual int rowOfKey(const QString& key) = 0;
+    virtual void setItemTag(int row, const QString& tag) = 0;
+    // Orders the rows by the list's column (its text as the register orders names, or its
+    // dates); the rows at hand are dropped.
+    virtual void sort(int column, Qt::SortOrder order) = 0;
+    // The first row from `from` on, wrapping round once, whose text starts with text
+    // (without regard to case); -1 when none does.
+    virtual int rowStartingWith(int from, const QString& text) = 0;
+};
+
 // The rows and columns of one explorer list. The sort (key, order, whether sorted) is
 // the list's own and stays in force across refills; sorting compares the columns' text
 // in the order of the register's names (case and Lithuanian letters folded), and a column
@@ -53,8 +74,12 @@ public:
     // Replaces all items at once (sorted if the list is sorted).
     void setItems(std::vector<ListItem> items);
     void appendItem(ListItem item);
-    int itemCount() const { return int(m_items.size()); }
-    const ListItem& item(int row) const { return m_items[size_t(row)]; }
+    // Replaces all items by the rows of source, read as they come into view and sorted by
+    // the database in the list's sort.
+    void setSource(std::unique_ptr<ListRowSource> source);
+    ListRowSource* source() const { return m_source.get(); }
+    int itemCount() const { return m_source ? m_source->count() : int(m_items.size()); }
+    ListItem item(int row) const;
     int rowOfKey(const QString& key) const;
     // Gives the item of row another file path (its tag), as after a move of its file.
     void setItemTag(int row, const QString& tag);
@@ -72,6 +97,8 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
+    QModelIndexList match(const QModelIndex& start, int role, const QVariant& value, int hits,
+        Qt::MatchFlags flags) const override;
     QStringList mimeTypes() const override;
     QMimeData* mimeData(const QModelIndexList& indexes) const override;
     Qt::DropActions supportedDragActions() const override;
@@ -94,6 +121,7 @@ private:
     IconCache* m_icons;
     QList<ListColumn> m_columns;
     std::vector<ListItem> m_items;
+    std::unique_ptr<ListRowSource> m_source;
     bool m_largeIcons = false;
     int m_sortKey = 0;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;

@@ -1,0 +1,282 @@
+#include "explorer/DocumentPages.h"
+
+#include "explorer/DocumentFills.h"
+#include "explorer/IconCache.h"
+#include "store/Store.h"
+#include "store/engine/Connection.h"
+#include "store/engine/EngineErrors.h"
+#include "store/engine/Recordset.h"
+#include "support/BusyCursor.h"
+
+#include <QDate>
+
+#include <algorithm>
+#include <optional>
+
+namespace kartella {
+
+namespace {
+
+int g_pageSize = 100;
+
+} // namespace
+
+DocumentPages::DocumentPages(
+    const QString& listSql, DocumentPaging::Mode mode, qint32 contactId, QChar letter)
+    : m_paging(listSql, mode, contactId, letter)
+    , m_connection(std::make_unique<Connection>())
+{
+    m_connection->setConnectionString(plainConnectionString());
+    if (mode != DocumentPaging::Mode::Letter)
+        m_connection->setMode(ConnectModeEnum::ShareDenyNone);
+    m_connection->open();
+    Recordset rs;
+    rs.open(m_paging.countSql(), *m_connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
+    m_count = rs.eof() ? 0 : rs.fields(0).value().toInt();
+}
+
+DocumentPages::~DocumentPages() = default;
+
+void DocumentPages::setPageSize(int rows)
+{
+    g_pageSize = std::max(1, rows);
+}
+
+int DocumentPages::pageSize()
+{
+    return g_pageSize;
+}
+
+bool DocumentPages::queryHasRows()
+{
+    if (m_count > 0)
+        return true;
+    Recordset rs;
+    rs.open(m_paging.anyRowSql(), *m_connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
+    return !rs.eof();
+}
+
+ListItem DocumentPages::item(int row)
+{
+    if (row < 0 || row >= m_count)
+        return {};
+    const Page& rows = page(row / g_pageSize);
+    const size_t at = size_t(row % g_pageSize);
+    return at < rows.items.size() ? rows.items[at] : ListItem {};
+}
+
+DocumentPages::Page& DocumentPages::page(int number)
+{
+    auto found = m_pages.find(number);
+    if (found != m_pages.end()) {
+        if (m_recent.front() != number) {
+            m_recent.remove(number);
+            m_recent.push_front(number);
+        }
+        return found->second;
+    }
+    Page read;
+    try {
+        read = readPage(number);
+    } catch (const Error&) {
+        // The register went away under the list: show empty rows rather than fail a paint.
+        read = {};
+    }
+    while (int(m_recent.size()) >= KeptPages) {
+        m_pages.erase(m_recent.back());
+        m_recent.pop_back();
+    }
+    m_recent.push_front(number);
+    return m_pages.emplace(number, std::move(read)).first->second;
+}
+
+DocumentPages::Page DocumentPages::readPage(int number)
+{
+    const int first = number * g_pageSize;
+    const int rows = std::min(g_pageSize, m_count - first);
+    // Seek from the nearest known row: either end of the list, or a page read before.
+    const PageKey* from = nullptr;
+    bool forward = true;
+    int skip = first;
+    if (m_count - (first + rows) < skip) {
+        forward = false;
+        skip = m_count - (first + rows);
+    }
+    auto next = m_bounds.upper_bound(number);
+    if (next != m_bounds.end() && next->first * g_pageSize - (first + rows) < skip) {
+        forward = false;
+        skip = next->first * g_pageSize - (first + rows);
+        from = &next->second.first;
+    }
+    auto previous = m_bounds.lower_bound(number);
+    if (previous != m_bounds.begin()) {
+        --previous;
+        const int after = first - (previous->first + 1) * g_pageSize;
+        if (after < skip) {
+            forward = true;
+            skip = after;
+            from = &previous->second.second;
+        }
+    }
+
+    // A sort by a text column reads every row of the list for each page.
+    std::optional<BusyCursor> busy;
+    if (!m_paging.sortsByDate())
+        busy.emplace();
+    Recordset rs;
+    const QString sql
+        = forward ? m_paging.pageSql(from, rows, skip) : m_paging.reversePageSql(from, rows, skip);
+    rs.open(sql, *m_connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
+    ++m_pagesRead;
+    Page read;
+    read.items = rowsOf(rs, read.keys);
+    if (!forward) {
+        std::reverse(read.items.begin(), read.items.end());
+        std::reverse(read.keys.begin(), read.keys.end());
+    }
+    if (!read.keys.empty())
+        m_bounds[number] = {read.keys.front(), read.keys.back()};
+    return read;
+}
+
+std::vector<ListItem> DocumentPages::rowsOf(Recordset& rs, std::vector<PageKey>& keys)
+{
+    const int idColumn = rs.fields(QStringLiteral("RastasID")).index();
+    const int pathColumn = rs.fields(QStringLiteral("RastoKel")).index();
+    const int indexColumn = rs.fields(QStringLiteral("DokRegistracIndeksas")).index();
+    const int nameColumn = rs.fields(QStringLiteral("FullName")).index();
+    const int dateColumn = rs.fields(QStringLiteral("DokRegistracData")).index();
+    const int notesColumn = rs.fields(QStringLiteral("DokPastaba")).index();
+    const int titleColumn = rs.fields(QStringLiteral("DokAntraste")).index();
+    const int sortColumn = rs.fields(m_paging.sortField()).index();
+    const bool contactMode = rs.hasField(QStringLiteral("DokKategorija"));
+    const int categoryColumn = contactMode ? rs.fields(QStringLiteral("DokKategorija")).index() : -1;
+
+    std::vector<ListItem> rows;
+    const int count = rs.recordCount();
+    rows.reserve(size_t(count));
+    keys.reserve(size_t(count));
+    for (int row = 0; row < count; ++row) {
+        const QVariant path = rs.rowValue(row, pathColumn);
+        ListItem item;
+        item.iconKey = getIconKey(nullToDefault(path, NoFilePath).toString());
+        item.text = displayText(rs.rowValue(row, titleColumn));
+        item.subItems[0] = displayText(rs.rowValue(row, indexColumn));
+        item.subItems[1] = displayText(rs.rowValue(row, contactMode ? categoryColumn : nameColumn));
+        const QVariant date = rs.rowValue(row, dateColumn);
+        if (date.typeId() == QMetaType::QDate || date.typeId() == QMetaType::QDateTime) {
+            item.date = date.toDate();
+            const qint64 day = item.date.toJulianDay();
+            auto text = m_dayTexts.constFind(day);
+            if (text == m_dayTexts.constEnd() || date.typeId() != QMetaType::QDate)
+                item.subItems[2] = displayText(date);
+            else
+                item.subItems[2] = *text;
+            if (date.typeId() == QMetaType::QDate && text == m_dayTexts.constEnd())
+                m_dayTexts.insert(day, item.subItems[2]);
+        } else {
+            item.subItems[2] = displayText(date);
+        }
+        item.subItems[3] = displayText(rs.rowValue(row, notesColumn));
+        const qint32 id = rs.rowValue(row, idColumn).toInt();
+        item.key = DocumentFills::itemKey(id);
+        item.tagIsNull = isNull(path);
+        item.tag = item.tagIsNull ? QString() : path.toString();
+        rows.push_back(std::move(item));
+        PageKey key;
+        key.id = id;
+        const QVariant value = rs.rowValue(row, sortColumn);
+        if (!isNull(value))
+            key.value = value;
+        keys.push_back(std::move(key));
+    }
+    return rows;
+}
+
+int DocumentPages::rowOfKey(const QString& key)
+{
+    for (const auto& [number, rows] : m_pages) {
+        for (size_t i = 0; i < rows.items.size(); ++i) {
+            if (rows.items[i].key == key)
+                return number * g_pageSize + int(i);
+        }
+    }
+    // A row never read: its place in the order is the number of rows before it.
+    const qint32 id = DocumentFills::idOfKey(key);
+    if (id == 0 || !key.startsWith(u'a'))
+        return -1;
+    try {
+        Recordset rs;
+        rs.open(m_paging.rowByIdSql(id), *m_connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
+        if (rs.eof())
+            return -1;
+        std::vector<PageKey> keys;
+        rowsOf(rs, keys);
+        return rowOf(keys.front());
+    } catch (const Error&) {
+        return -1;
+    }
+}
+
+void DocumentPages::setItemTag(int row, const QString& tag)
+{
+    auto found = m_pages.find(row / g_pageSize);
+    if (found == m_pages.end() || size_t(row % g_pageSize) >= found->second.items.size())
+        return;
+    ListItem& item = found->second.items[size_t(row % g_pageSize)];
+    item.tag = tag;
+    item.tagIsNull = false;
+}
+
+void DocumentPages::sort(int column, Qt::SortOrder order)
+{
+    m_paging.setSort(column, order == Qt::DescendingOrder);
+    dropPages();
+}
+
+void DocumentPages::dropPages()
+{
+    m_pages.clear();
+    m_recent.clear();
+    m_bounds.clear();
+}
+
+int DocumentPages::rowOf(const PageKey& key)
+{
+    Recordset rs;
+    rs.open(m_paging.rowOfKeySql(key), *m_connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
+    return rs.eof() ? -1 : rs.fields(0).value().toInt();
+}
+
+int DocumentPages::rowStartingWith(int from, const QString& text)
+{
+    if (m_count == 0 || text.isEmpty())
+        return -1;
+    from = std::clamp(from, 0, m_count - 1);
+    if (item(from).text.startsWith(text, Qt::CaseInsensitive))
+        return from;
+    try {
+        const Page& rows = page(from / g_pageSize);
+        const size_t at = size_t(from % g_pageSize);
+        const PageKey* after = at < rows.keys.size() ? &rows.keys[at] : nullptr;
+        // After the start row, then once round from the top.
+        for (const PageKey* start : {after, static_cast<const PageKey*>(nullptr)}) {
+            Recordset rs;
+            rs.open(m_paging.startingWithSql(start, text), *m_connection, CursorTypeEnum::Static,
+                LockTypeEnum::Unspecified);
+            if (rs.eof())
+                continue;
+            std::vector<PageKey> keys;
+            rowsOf(rs, keys);
+            const int row = rowOf(keys.front());
+            if (start || row < from)
+                return row;
+            return -1;
+        }
+    } catch (const Error&) {
+        return -1;
+    }
+    return -1;
+}
+
+} // namespace kartella

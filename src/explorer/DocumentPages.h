@@ -1,0 +1,73 @@
+#pragma once
+
+#include "explorer/DocumentPaging.h"
+#include "explorer/ListModel.h"
+
+#include <QHash>
+
+#include <list>
+#include <map>
+#include <memory>
+
+namespace kartella {
+
+class Connection;
+class Recordset;
+
+// The rows of the document list, read a page at a time as the list shows or uses them.
+// The number of rows comes from a COUNT of its own; a page is read by seeking from the
+// nearest row whose key is known (the end of a page read before, or either end of the
+// list), so scrolling and Ctrl+End read a page, not every row before it. A few dozen
+// pages stay at hand; the keys of every page read stay known.
+//
+// The constructor counts the rows and throws kartella::Error when the query fails; a
+// failed page read later gives rows with empty texts, and the next use tries again.
+class DocumentPages : public ListRowSource
+{
+public:
+    DocumentPages(const QString& listSql, DocumentPaging::Mode mode, qint32 contactId = 0, QChar letter = {});
+    ~DocumentPages() override;
+
+    // Whether the list query has rows before the letter's or the contact's condition.
+    bool queryHasRows();
+
+    int count() const override { return m_count; }
+    ListItem item(int row) override;
+    int rowOfKey(const QString& key) override;
+    void setItemTag(int row, const QString& tag) override;
+    void sort(int column, Qt::SortOrder order) override;
+    int rowStartingWith(int from, const QString& text) override;
+
+    // Rows per page, and the pages kept at hand (for tests; the defaults suit a window).
+    static void setPageSize(int rows);
+    static int pageSize();
+    static constexpr int KeptPages = 40;
+    // Pages read from the database since the start (for tests).
+    int pagesRead() const { return m_pagesRead; }
+
+private:
+    struct Page
+    {
+        std::vector<ListItem> items;
+        std::vector<PageKey> keys;
+    };
+    Page& page(int number);
+    Page readPage(int number);
+    std::vector<ListItem> rowsOf(Recordset& rs, std::vector<PageKey>& keys);
+    int rowOf(const PageKey& key);
+    void dropPages();
+
+    DocumentPaging m_paging;
+    std::unique_ptr<Connection> m_connection;
+    int m_count = 0;
+    int m_pagesRead = 0;
+    std::map<int, Page> m_pages;
+    // Most recently used first.
+    std::list<int> m_recent;
+    // The first and the last key of every page read in the present order.
+    std::map<int, std::pair<PageKey, PageKey>> m_bounds;
+    // Each day's text is made once.
+    QHash<qint64, QString> m_dayTexts;
+};
+
+} // namespace kartella

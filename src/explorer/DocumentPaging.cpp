@@ -1,0 +1,232 @@
+#include "explorer/DocumentPaging.h"
+
+#include <QDate>
+#include <QDateTime>
+#include <QStringList>
+
+namespace kartella {
+
+namespace {
+
+const QString Join = QStringLiteral("tbl_Contacts.ContactID = tbl_Documents.ContactID");
+const QString Ordering = QStringLiteral(" ORDER BY ");
+const QString Id = QStringLiteral("tbl_Documents.RastasID");
+
+// The list's columns in the database; the third is the category's name in contact mode.
+QString columnField(int column, bool contactMode)
+{
+    switch (column) {
+    case 0:
+        return QStringLiteral("tbl_Documents.DokAntraste");
+    case 1:
+        return QStringLiteral("tbl_Documents.DokRegistracIndeksas");
+    case 2:
+        return contactMode ? QStringLiteral("tbl_Document_Categories.DokKategorija")
+                           : QStringLiteral("tbl_Contacts.FullName");
+    case 4:
+        return QStringLiteral("tbl_Documents.DokPastaba");
+    default:
+        return QStringLiteral("tbl_Documents.DokRegistracData");
+    }
+}
+
+} // namespace
+
+DocumentPaging::DocumentPaging(const QString& listSql, Mode mode, qint32 contactId, QChar letter)
+    : m_mode(mode)
+{
+    // The WHERE clause stands between the join of the base text and the ordering.
+    qsizetype begin = listSql.indexOf(Join);
+    begin = begin < 0 ? 0 : begin + Join.size();
+    qsizetype end = listSql.lastIndexOf(Ordering, -1, Qt::CaseInsensitive);
+    if (end < begin)
+        end = listSql.size();
+    QString condition = listSql.mid(begin, end - begin).trimmed();
+    if (condition.startsWith(QStringLiteral("WHERE "), Qt::CaseInsensitive))
+        condition = condition.mid(6).trimmed();
+    m_condition = condition;
+    if (mode == Mode::Letter) {
+        // Through the contacts, so that the index of the documents' contacts serves it.
+        m_modeCondition = QStringLiteral("tbl_Documents.ContactID IN (SELECT tbl_Contacts.ContactID FROM "
+                                         "tbl_Contacts WHERE tbl_Contacts.FullName Like ")
+            + literal(QVariant(QString(letter) + u'%')) + u')';
+    } else if (mode == Mode::Contact) {
+        m_modeCondition = QStringLiteral("tbl_Documents.ContactID=") + QString::number(contactId);
+    }
+}
+
+void DocumentPaging::setSort(int column, bool descending)
+{
+    m_sortColumn = column >= 0 && column <= 4 ? column : -1;
+    m_descending = descending;
+}
+
+QString DocumentPaging::sortField() const
+{
+    const QString field = columnField(m_sortColumn, m_mode == Mode::Contact);
+    return field.mid(field.indexOf(u'.') + 1);
+}
+
+bool DocumentPaging::sortsByDate() const
+{
+    return m_sortColumn == -1 || m_sortColumn == 3;
+}
+
+QString DocumentPaging::literal(const QVariant& value)
+{
+    switch (value.typeId()) {
+    case QMetaType::QDate:
+        return u'#' + value.toDate().toString(Qt::ISODate) + u'#';
+    case QMetaType::QDateTime:
+        return u'#' + value.toDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")) + u'#';
+    case QMetaType::Int:
+    case QMetaType::LongLong:
+    case QMetaType::UInt:
+    case QMetaType::ULongLong:
+    case QMetaType::Short:
+        return QString::number(value.toLongLong());
+    case QMetaType::Double:
+        return QString::number(value.toDouble(), 'g', 17);
+    default: {
+        QString text = value.toString();
+        text.replace(u'\'', QStringLiteral("''"));
+        return u'\'' + text + u'\'';
+    }
+    }
+}
+
+QString DocumentPaging::select() const
+{
+    QString sql = QStringLiteral(
+        "SELECT tbl_Documents.RastasID, tbl_Documents.DokRegistracData, tbl_Documents.DokRegistracIndeksas, "
+        "tbl_Documents.DokAntraste, tbl_Documents.RastoKel, tbl_Documents.ContactID, tbl_Contacts.FullName, "
+        "tbl_Documents.KategID, tbl_Documents.DokPastaba");
+    if (m_mode == Mode::Contact)
+        sql += QStringLiteral(", tbl_Document_Categories.DokKategorija");
+    return sql + from(true);
+}
+
+QString DocumentPaging::from(bool withContacts) const
+{
+    QString sql = QStringLiteral(" FROM tbl_Documents");
+    if (withContacts)
+        sql += QStringLiteral(" LEFT JOIN tbl_Contacts ON ") + Join;
+    if (withContacts && m_mode == Mode::Contact)
+        sql += QStringLiteral(" LEFT JOIN tbl_Document_Categories ON "
+                              "tbl_Document_Categories.KategID = tbl_Documents.KategID");
+    return sql;
+}
+
+QString DocumentPaging::where(const QStringList& more) const
+{
+    QStringList terms;
+    if (!m_condition.isEmpty())
+        terms << u'(' + m_condition + u')';
+    if (!m_modeCondition.isEmpty())
+        terms << m_modeCondition;
+    terms << more;
+    return terms.isEmpty() ? QString() : QStringLiteral(" WHERE ") + terms.join(QStringLiteral(" AND "));
+}
+
+QString DocumentPaging::sortExpression() const
+{
+    const QString field = columnField(m_sortColumn, m_mode == Mode::Contact);
+    // Texts in the order of the register's names, as the tree orders them.
+    return sortsByDate() ? field : field + QStringLiteral(" COLLATE NAMEFOLD");
+}
+
+QString DocumentPaging::orderBy(bool reverse) const
+{
+    const QString direction = m_descending != reverse ? QStringLiteral(" DESC") : QStringLiteral(" ASC");
+    return Ordering + sortExpression() + direction + QStringLiteral(", ") + Id + direction;
+}
+
+QString DocumentPaging::seek(const PageKey& key, bool greater) const
+{
+    const QString field = columnField(m_sortColumn, m_mode == Mode::Contact);
+    const QString id = QString::number(key.id);
+    const QString comparison = greater ? QStringLiteral(" > ") : QStringLiteral(" < ");
+    if (key.value.isNull() || !key.value.isValid()) {
+        // Nulls come first: after a null come the other nulls of higher id and every value.
+        if (greater)
+            return u"((" + field + u" IS NULL AND " + Id + comparison + id + u") OR " + field
+                + u" IS NOT NULL)";
+        return u'(' + field + u" IS NULL AND " + Id + comparison + id + u')';
+    }
+    const QString rowValue = u"((" + sortExpression() + u", " + Id + u')' + comparison + u'('
+        + literal(key.value) + u", " + id + u"))";
+    if (greater)
+        return rowValue;
+    return u'(' + rowValue + u" OR " + field + u" IS NULL)";
+}
+
+QString DocumentPaging::countSql() const
+{
+    const bool contacts = m_condition.contains(QStringLiteral("tbl_Contacts."), Qt::CaseInsensitive);
+    return QStringLiteral("SELECT COUNT(*) AS RowCount") + from(contacts) + where({});
+}
+
+QString DocumentPaging::anyRowSql() const
+{
+    const bool contacts = m_condition.contains(QStringLiteral("tbl_Contacts."), Qt::CaseInsensitive);
+    QString sql = QStringLiteral("SELECT ") + Id + from(contacts);
+    if (!m_condition.isEmpty())
+        sql += QStringLiteral(" WHERE (") + m_condition + u')';
+    return sql + QStringLiteral(" LIMIT 1");
+}
+
+QString DocumentPaging::pageSql(const PageKey* after, int limit, int offset) const
+{
+    QStringList more;
+    if (after)
+        more << seek(*after, !m_descending);
+    return page(more, false, limit, offset);
+}
+
+QString DocumentPaging::reversePageSql(const PageKey* before, int limit, int offset) const
+{
+    QStringList more;
+    if (before)
+        more << seek(*before, m_descending);
+    return page(more, true, limit, offset);
+}
+
+QString DocumentPaging::page(const QStringList& more, bool reverse, int limit, int offset) const
+{
+    QString bounds = QStringLiteral(" LIMIT ") + QString::number(limit);
+    if (offset > 0)
+        bounds += QStringLiteral(" OFFSET ") + QString::number(offset);
+    const bool byContacts = m_condition.contains(QStringLiteral("tbl_Contacts."), Qt::CaseInsensitive);
+    const bool byDocuments = columnField(m_sortColumn, m_mode == Mode::Contact).startsWith(u"tbl_Documents.");
+    if (byContacts || !byDocuments || sortsByDate())
+        return select() + where(more) + orderBy(reverse) + bounds;
+    // A sort by a text column reads every document of the list: the page is chosen among
+    // the documents alone and joined to the names after, not every document to its contact.
+    const QString inner = QStringLiteral("(SELECT tbl_Documents.* FROM tbl_Documents") + where(more)
+        + orderBy(reverse) + bounds + QStringLiteral(") AS DocumentPage ");
+    QString outer = select() + orderBy(reverse);
+    outer.replace(QStringLiteral("tbl_Documents."), QStringLiteral("DocumentPage."));
+    return outer.replace(QStringLiteral(" FROM tbl_Documents "), QStringLiteral(" FROM ") + inner);
+}
+
+QString DocumentPaging::rowByIdSql(qint32 id) const
+{
+    return select() + where({Id + u'=' + QString::number(id)});
+}
+
+QString DocumentPaging::rowOfKeySql(const PageKey& key) const
+{
+    return QStringLiteral("SELECT COUNT(*) AS RowCount") + from(true) + where({seek(key, m_descending)});
+}
+
+QString DocumentPaging::startingWithSql(const PageKey* after, const QString& text) const
+{
+    QString pattern = text;
+    pattern.remove(u'%').remove(u'_');
+    QStringList more {QStringLiteral("tbl_Documents.DokAntraste Like ") + literal(QVariant(pattern + u'%'))};
+    if (after)
+        more << seek(*after, !m_descending);
+    return select() + where(more) + orderBy(false) + QStringLiteral(" LIMIT 1");
+}
+
+} // namespace kartella

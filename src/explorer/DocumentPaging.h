@@ -1,0 +1,82 @@
+#pragma once
+
+#include <QChar>
+#include <QString>
+#include <QVariant>
+
+namespace kartella {
+
+// The position of a row in a document list's order: the value of the sort column and the
+// document's id, which breaks ties (rows of one day come in the order of their ids).
+struct PageKey
+{
+    QVariant value; // null when the row has none
+    qint32 id = 0;
+};
+
+// The statements that read a document list a page at a time, so that no statement reads
+// more rows than the list shows. They are built from a list query (documentSql() with a
+// WHERE clause and the ordering by date) and seek by the key of a row (keyset paging):
+// a page after the last row of the one before, or before the first row of the one after.
+// A Null in the sort column sorts before every value, as the list's own sort puts it.
+//
+// The letter and contact modes narrow the query in the database: a letter keeps the
+// documents of contacts whose name starts with it (in either case, the letter exactly,
+// Lithuanian letters not folded), a contact its own documents.
+class DocumentPaging
+{
+public:
+    enum class Mode { Category, Letter, Contact };
+
+    DocumentPaging(const QString& listSql, Mode mode, qint32 contactId = 0, QChar letter = {});
+
+    // The list's sort: a column of the list (0-4), or -1 for the query's own order (by
+    // date); descending reverses the whole order, ids included.
+    void setSort(int column, bool descending);
+    int sortColumn() const { return m_sortColumn; }
+    bool descending() const { return m_descending; }
+    // The field that holds the sort value in a page's rows.
+    QString sortField() const;
+    // Whether the sort column is a date.
+    bool sortsByDate() const;
+
+    // SELECT COUNT(*) AS RowCount: the rows of the list.
+    QString countSql() const;
+    // One row at most, of the list query without the letter's or the contact's condition
+    // (the list shows its columns when that query has rows, else its empty state).
+    QString anyRowSql() const;
+    // Up to limit rows in the list's order, skipping offset first, after the row at `after`
+    // (from the first row when null).
+    QString pageSql(const PageKey* after, int limit, int offset = 0) const;
+    // Up to limit rows in the reverse of the list's order, skipping offset first, before the
+    // row at `before` (from the last row when null).
+    QString reversePageSql(const PageKey* before, int limit, int offset = 0) const;
+    // The list's row of the document id, when the list has it.
+    QString rowByIdSql(qint32 id) const;
+    // SELECT COUNT(*) AS RowCount of the rows before `key` in the list's order: its row.
+    QString rowOfKeySql(const PageKey& key) const;
+    // The first row after `after` (from the first row when null) whose description starts
+    // with text, without regard to case.
+    QString startingWithSql(const PageKey* after, const QString& text) const;
+
+    // A value as a literal of the engine's SQL.
+    static QString literal(const QVariant& value);
+
+private:
+    QString select() const;
+    QString from(bool withContacts) const;
+    QString where(const QStringList& more) const;
+    QString orderBy(bool reverse) const;
+    QString page(const QStringList& more, bool reverse, int limit, int offset) const;
+    QString sortExpression() const;
+    // Rows that come after key in ascending order of (sort value, id), or before it.
+    QString seek(const PageKey& key, bool greater) const;
+
+    QString m_condition;
+    QString m_modeCondition;
+    Mode m_mode;
+    int m_sortColumn = -1;
+    bool m_descending = false;
+};
+
+} // namespace kartella
