@@ -200,4 +200,11 @@ void addDayCounter(Connection& connection)
                                       "PRIMARY KEY, LastNumber INTEGER NOT NULL DEFAULT 0)"));
 }
 
+// Step 6: the lists of one direction read their rows in date order through an index.
+void addDirectionIndex(Connection& connection)
+{
+    connection.execute(QStringLiteral(
+        "CREATE INDEX IF NOT EXISTS idx_Documents_KryptisID ON tbl_Documents (KryptisID, DokRegistracData)"));
+}
+
 } // namespace kartella

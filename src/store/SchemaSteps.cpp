@@ -51,6 +51,8 @@ void createServerSearchIndex(Connection& connection);
 void addServerReminderDoneColumn(Connection& connection);
 void addDayCounter(Connection& connection);
 void addServerDayCounter(Connection& connection);
+void addDirectionIndex(Connection& connection);
+void addServerDirectionIndex(Connection& connection);
 
 const std::vector<SchemaStep>& schemaSteps()
 {
@@ -65,6 +67,8 @@ const std::vector<SchemaStep>& schemaSteps()
             addServerReminderDoneColumn},
         {5, QStringLiteral("one counter of the day's registration indexes for every user"), addDayCounter,
             addServerDayCounter},
+        {6, QStringLiteral("an index for the lists of one direction"), addDirectionIndex,
+            addServerDirectionIndex},
     };
     return steps;
 }

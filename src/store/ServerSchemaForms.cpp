@@ -228,4 +228,12 @@ void addServerDayCounter(Connection& connection)
                        "NULL PRIMARY KEY, \"LastNumber\" integer NOT NULL DEFAULT 0)"));
 }
 
+// Step 6 on a server.
+void addServerDirectionIndex(Connection& connection)
+{
+    connection.execute(
+        QStringLiteral("CREATE INDEX IF NOT EXISTS \"idx_Documents_KryptisID\" ON \"tbl_Documents\" "
+                       "(\"KryptisID\", \"DokRegistracData\")"));
+}
+
 } // namespace kartella

@@ -73,17 +73,6 @@ engine::ServerNames serverNames(Connection& connection)
     return names;
 }
 
-// Indexes the list's statements need beyond those a register is made with today; they
-// belong in the register's schema (and an upgrade step) and leave this list then.
-QStringList missingIndexes(SqlDialect dialect)
-{
-    if (dialect == SqlDialect::Sqlite)
-        return {QStringLiteral(
-            "CREATE INDEX idx_Documents_KryptisID ON tbl_Documents (KryptisID, DokRegistracData)")};
-    return {QStringLiteral("CREATE INDEX \"idx_Documents_KryptisID\" ON \"tbl_Documents\" (\"KryptisID\", "
-                           "\"DokRegistracData\")")};
-}
-
 } // namespace
 
 class QueryPlansTest : public QObject
@@ -134,8 +123,6 @@ private:
         // A server reads a small table through; it is to pick an index wherever one serves.
         if (connection.dialect() == SqlDialect::PostgreSql)
             connection.execute(QStringLiteral("SET enable_seqscan = off"));
-        for (const QString& index : missingIndexes(connection.dialect()))
-            connection.execute(index);
         const SearchIndexKind searchIndex = searchIndexKind(connection);
         PageKey dated {QVariant(QDate(2024, 3, 5)), 40};
         PageKey named {QVariant(QStringLiteral("Šarūnas")), 40};
