@@ -237,6 +237,38 @@ private Q_SLOTS:
         QCOMPARE(parsed->matches([&value](int) { return value; }), matches);
     }
 
+    // Null, whatever type a Null value carries, and nothing else is Null.
+    void criteriaOnNull_data()
+    {
+        QTest::addColumn<QString>("criteria");
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<bool>("matches");
+
+        const QVariant nullNumber(QMetaType::fromType<int>());
+        const QVariant nullText(QMetaType::fromType<QString>());
+        QTest::newRow("no value") << "F Is Null" << QVariant() << true;
+        QTest::newRow("a Null number") << "F Is Null" << nullNumber << true;
+        QTest::newRow("a Null text") << "F Is Null" << nullText << true;
+        QTest::newRow("zero") << "F Is Null" << QVariant(0) << false;
+        QTest::newRow("empty text") << "F Is Null" << QVariant(QStringLiteral("")) << false;
+        QTest::newRow("not Null, a Null number") << "F Is Not Null" << nullNumber << false;
+        QTest::newRow("not Null, zero") << "F Is Not Null" << QVariant(0) << true;
+        QTest::newRow("= Null") << "F = Null" << nullText << true;
+        QTest::newRow("<> Null") << "F <> Null" << nullText << false;
+        QTest::newRow("Like on a Null text") << "F Like '%'" << nullText << false;
+        QTest::newRow("Not Like on a Null text") << "F Not Like 'x'" << nullText << false;
+    }
+
+    void criteriaOnNull()
+    {
+        QFETCH(QString, criteria);
+        QFETCH(QVariant, value);
+        QFETCH(bool, matches);
+        const auto parsed = engine::Criteria::parse(
+            criteria, [](const QString& name) { return name == QLatin1String("F") ? 0 : -1; });
+        QCOMPARE(parsed->matches([&value](int) { return value; }), matches);
+    }
+
     // The same through a recordset's Filter, on the rows of a register.
     void filterAtEquality_data()
     {

@@ -3,6 +3,7 @@
 #include "base/Error.h"
 #include "options/FirstRun.h"
 #include "options/OptionStore.h"
+#include "options/SectionFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -42,6 +43,15 @@ private Q_SLOTS:
         qputenv("XDG_CONFIG_HOME", m_config->path().toUtf8());
     }
 
+    // Without XDG_CONFIG_HOME the options live in ~/.config.
+    void configFolderWithoutXdg()
+    {
+        qunsetenv("XDG_CONFIG_HOME");
+        QCOMPARE(configFolder(), QDir::homePath() + QStringLiteral("/.config"));
+        QCOMPARE(optionsFilePath(), QDir::homePath() + QStringLiteral("/.config/Kartella/Options.ini"));
+        QCOMPARE(iniFilePath(), QDir::homePath() + QStringLiteral("/.config/kartella.ini"));
+    }
+
     // An empty expected value: the option isn't found in that file.
     void sectionAndNameInAnotherCase_data()
     {
@@ -72,6 +82,24 @@ private Q_SLOTS:
         QCOMPARE(text.count(QStringLiteral("/b.mdb")), 1);
         QCOMPARE(text.count(u'['), content.count('['));
         QCOMPARE(text.contains(QStringLiteral("/a.mdb")), read.isEmpty());
+    }
+
+    // Loading another file, or a missing one, leaves nothing of the file read before.
+    void loadReplacesWhatWasRead()
+    {
+        const QString first = m_config->filePath(QStringLiteral("first.ini"));
+        const QString second = m_config->filePath(QStringLiteral("second.ini"));
+        writeFile(first, "[Options]\nDbLocation=/a.mdb\n");
+        writeFile(second, "[Options]\nCompany=Mėta\n");
+        SectionFile file;
+        QCOMPARE(file.load(first), SectionFile::Status::Ok);
+        QCOMPARE(
+            file.value(QStringLiteral("options"), QStringLiteral("dblocation")), QStringLiteral("/a.mdb"));
+        QCOMPARE(file.load(second), SectionFile::Status::Ok);
+        QCOMPARE(file.value(QStringLiteral("Options"), QStringLiteral("DbLocation")), std::nullopt);
+        QCOMPARE(file.value(QStringLiteral("Options"), QStringLiteral("Company")), QStringLiteral("Mėta"));
+        QCOMPARE(file.load(m_config->filePath(QStringLiteral("none.ini"))), SectionFile::Status::Missing);
+        QCOMPARE(file.value(QStringLiteral("Options"), QStringLiteral("Company")), std::nullopt);
     }
 
     void iniSectionInAnotherCase()
