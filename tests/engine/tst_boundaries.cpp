@@ -1,0 +1,310 @@
+// The engine at its edges: times around noon and midnight, the turn of the two-digit year
+// window, every Lithuanian letter in the folding and LIKE, and comparisons at equality.
+#include "EngineFixture.h"
+#include "platform/Clock.h"
+#include "store/engine/Criteria.h"
+#include "store/engine/DateText.h"
+#include "store/engine/JetDialect.h"
+#include "store/engine/TextFold.h"
+
+#include <QTest>
+
+using namespace kartella;
+using namespace kartella::test;
+
+namespace {
+
+int compareNames(const QString& a, const QString& b)
+{
+    const QByteArray x = a.toUtf8();
+    const QByteArray y = b.toUtf8();
+    return engine::compareNames(x.constData(), std::size_t(x.size()), y.constData(), std::size_t(y.size()));
+}
+
+} // namespace
+
+class BoundariesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // An invalid expected time: the text is no date.
+    void timeAroundNoonAndMidnight_data()
+    {
+        QTest::addColumn<QString>("time");
+        QTest::addColumn<QTime>("expected");
+
+        QTest::newRow("12:30 PM") << "12:30 PM" << QTime(12, 30);
+        QTest::newRow("12:05 AM") << "12:05 AM" << QTime(0, 5);
+        QTest::newRow("12:00 PM") << "12:00 PM" << QTime(12, 0);
+        QTest::newRow("12:00 AM") << "12:00 AM" << QTime(0, 0);
+        QTest::newRow("11:59 AM") << "11:59 AM" << QTime(11, 59);
+        QTest::newRow("11:59 PM") << "11:59 PM" << QTime(23, 59);
+        QTest::newRow("1:00 AM") << "1:00 AM" << QTime(1, 0);
+        QTest::newRow("1:00 PM") << "1:00 PM" << QTime(13, 0);
+        QTest::newRow("lower case pm") << "12:30 pm" << QTime(12, 30);
+        QTest::newRow("12:00") << "12:00" << QTime(12, 0);
+        QTest::newRow("0:00") << "0:00" << QTime(0, 0);
+        QTest::newRow("23:59:59") << "23:59:59" << QTime(23, 59, 59);
+        QTest::newRow("seconds and a fraction") << "11:59:59.5 PM" << QTime(23, 59, 59, 500);
+        QTest::newRow("0:30 AM") << "0:30 AM" << QTime();
+        QTest::newRow("13:00 PM") << "13:00 PM" << QTime();
+        QTest::newRow("24:00") << "24:00" << QTime();
+        QTest::newRow("12:60") << "12:60" << QTime();
+    }
+
+    void timeAroundNoonAndMidnight()
+    {
+        QFETCH(QString, time);
+        QFETCH(QTime, expected);
+        const QVariant read = engine::parseJetDate(QString(QStringLiteral("1/2/2024 ") + time));
+        if (!expected.isValid()) {
+            QVERIFY2(!read.isValid(), qPrintable(read.toString()));
+            return;
+        }
+        QCOMPARE(read.typeId(), QMetaType::QDateTime);
+        QCOMPARE(read.toDateTime(), QDateTime(QDate(2024, 1, 2), expected));
+        // The same in a Jet date literal of a statement.
+        QCOMPARE(engine::translateJetToSqlite(QStringLiteral("SELECT #1/2/2024 ") + time + u'#'),
+            QStringLiteral("SELECT '2024-01-02 ") + expected.toString(u"HH:mm:ss") + u'\'');
+    }
+
+    // The century that puts a two-digit year nearest to today; a tie goes to the past.
+    void twoDigitYearWindow_data()
+    {
+        QTest::addColumn<QDate>("today");
+        QTest::addColumn<QString>("date");
+        QTest::addColumn<int>("year");
+
+        const QDate june2024(2024, 6, 15);
+        QTest::newRow("49 years ahead") << june2024 << "3/5/73" << 2073;
+        QTest::newRow("50 either way") << june2024 << "3/5/74" << 1974;
+        QTest::newRow("49 years back") << june2024 << "3/5/75" << 1975;
+        QTest::newRow("this year") << june2024 << "3/5/24" << 2024;
+        QTest::newRow("00") << june2024 << "3/5/00" << 2000;
+        QTest::newRow("99") << june2024 << "3/5/99" << 1999;
+        QTest::newRow("next century") << QDate(2099, 1, 1) << "3/5/01" << 2101;
+        QTest::newRow("last century") << QDate(2001, 1, 1) << "3/5/99" << 1999;
+        QTest::newRow("one digit") << june2024 << "3/5/7" << 2007;
+        QTest::newRow("four digits stay") << june2024 << "3/5/0074" << 74;
+    }
+
+    void twoDigitYearWindow()
+    {
+        QFETCH(QDate, today);
+        QFETCH(QString, date);
+        QFETCH(int, year);
+        SettableClock clock(today);
+        const QVariant read = engine::parseJetDate(date);
+        QCOMPARE(read.typeId(), QMetaType::QDate);
+        QCOMPARE(read.toDate(), QDate(year, 3, 5));
+    }
+
+    void threeDigitYearIsNoDate() { QVERIFY(!engine::parseJetDate(u"3/5/024").isValid()); }
+
+    // Each letter folds onto its base letter for the order of names, small and capital
+    // alike, but LIKE keeps the accent and ignores only the case.
+    void lithuanianLetters_data()
+    {
+        QTest::addColumn<QString>("small");
+        QTest::addColumn<QString>("capital");
+        QTest::addColumn<QString>("base");
+
+        QTest::newRow("ą") << "ą"
+                           << "Ą"
+                           << "a";
+        QTest::newRow("č") << "č"
+                           << "Č"
+                           << "c";
+        QTest::newRow("ę") << "ę"
+                           << "Ę"
+                           << "e";
+        QTest::newRow("ė") << "ė"
+                           << "Ė"
+                           << "e";
+        QTest::newRow("į") << "į"
+                           << "Į"
+                           << "i";
+        QTest::newRow("š") << "š"
+                           << "Š"
+                           << "s";
+        QTest::newRow("ų") << "ų"
+                           << "Ų"
+                           << "u";
+        QTest::newRow("ū") << "ū"
+                           << "Ū"
+                           << "u";
+        QTest::newRow("ž") << "ž"
+                           << "Ž"
+                           << "z";
+    }
+
+    void lithuanianLetters()
+    {
+        QFETCH(QString, small);
+        QFETCH(QString, capital);
+        QFETCH(QString, base);
+        const QString baseCapital = base.toUpper();
+        for (const QString& letter : {small, capital}) {
+            // Folded, the letter is its base: the next letter decides.
+            QVERIFY(compareNames(letter + u'a', base + u'b') < 0);
+            QVERIFY(compareNames(base + u'b', letter + u'a') > 0);
+            QVERIFY(compareNames(letter + u'b', baseCapital + u'a') > 0);
+            // Equal when folded: a fixed order by the bytes, the plain letter first.
+            QVERIFY(compareNames(letter, base) > 0);
+            QVERIFY(compareNames(base, letter) < 0);
+            QCOMPARE(compareNames(letter + u'x', letter + u'x'), 0);
+        }
+        QVERIFY(compareNames(small + u'a', capital + u'b') < 0);
+        QVERIFY(compareNames(capital + u'a', small + u'b') < 0);
+
+        QVERIFY(engine::likeMatches(small, capital));
+        QVERIFY(engine::likeMatches(capital, small));
+        QVERIFY(engine::likeMatches(capital + u'%', small + QStringLiteral("rūnas")));
+        QVERIFY(engine::likeMatches(u'_' + small, u'x' + capital));
+        QVERIFY(!engine::likeMatches(small, base));
+        QVERIFY(!engine::likeMatches(base, small));
+        QVERIFY(!engine::likeMatches(capital, baseCapital));
+        QVERIFY(!engine::likeMatches(base + u'%', capital + u'a'));
+        QCOMPARE(engine::foldCase(capital.at(0).unicode()), char32_t(small.at(0).unicode()));
+    }
+
+    // A comparison with its boundary value: each operator on equal, lower and higher values.
+    void comparisonsAtEquality_data()
+    {
+        QTest::addColumn<QString>("criteria");
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<bool>("matches");
+
+        struct Kind
+        {
+            const char* name;
+            QString constant;
+            QVariant lower;
+            QVariant equal;
+            QVariant higher;
+        };
+        const Kind kinds[] = {
+            {"whole", QStringLiteral("5"), 4, 5, 6},
+            {"negative", QStringLiteral("-1"), -2, -1, 0},
+            {"fraction", QStringLiteral("0.5"), 0.25, 0.5, 0.75},
+            {"date", QStringLiteral("#3/5/2024#"), QDate(2024, 3, 4), QDate(2024, 3, 5), QDate(2024, 3, 6)},
+            {"date and time", QStringLiteral("#3/5/2024 12:30 PM#"),
+                QDateTime(QDate(2024, 3, 5), QTime(12, 29)), QDateTime(QDate(2024, 3, 5), QTime(12, 30)),
+                QDateTime(QDate(2024, 3, 5), QTime(12, 31))},
+            {"text", QStringLiteral("'Mėta'"), QStringLiteral("Mėlynė"), QStringLiteral("MĖTA"),
+                QStringLiteral("Mėtos")},
+        };
+        struct Op
+        {
+            const char* op;
+            bool lower;
+            bool equal;
+            bool higher;
+        };
+        const Op ops[] = {{"=", false, true, false}, {"<>", false, false, true}, {"<", true, false, false},
+            {"<=", true, true, false}, {">", false, false, true}, {">=", false, true, true}};
+        for (const Kind& kind : kinds) {
+            for (const Op& op : ops) {
+                const QString criteria = QStringLiteral("F ") + QLatin1String(op.op) + u' ' + kind.constant;
+                const bool notEqual = QLatin1String(op.op) == QLatin1String("<>");
+                QTest::addRow("%s %s lower", kind.name, op.op)
+                    << criteria << kind.lower << (op.lower || notEqual);
+                QTest::addRow("%s %s equal", kind.name, op.op) << criteria << kind.equal << op.equal;
+                QTest::addRow("%s %s higher", kind.name, op.op) << criteria << kind.higher << op.higher;
+            }
+        }
+        QTest::newRow("a date's midnight is the day")
+            << "F >= #3/5/2024#" << QVariant(QDateTime(QDate(2024, 3, 5), QTime(0, 0))) << true;
+        QTest::newRow("later that day is past it")
+            << "F <= #3/5/2024#" << QVariant(QDateTime(QDate(2024, 3, 5), QTime(0, 0, 1))) << false;
+        QTest::newRow("whole against fraction") << "F <= 5" << QVariant(5.0) << true;
+        QTest::newRow("Null is never equal") << "F = 5" << QVariant() << false;
+        QTest::newRow("Null is never unequal") << "F <> 5" << QVariant() << false;
+        QTest::newRow("!= is <>, equal") << "F != 5" << QVariant(5) << false;
+        QTest::newRow("!= is <>, higher") << "F != 5" << QVariant(6) << true;
+        QTest::newRow("True is -1") << "F = True" << QVariant(-1) << true;
+        QTest::newRow("False is 0") << "F >= False" << QVariant(0) << true;
+    }
+
+    void comparisonsAtEquality()
+    {
+        QFETCH(QString, criteria);
+        QFETCH(QVariant, value);
+        QFETCH(bool, matches);
+        const auto parsed = engine::Criteria::parse(
+            criteria, [](const QString& name) { return name == QLatin1String("F") ? 0 : -1; });
+        QCOMPARE(parsed->matches([&value](int) { return value; }), matches);
+    }
+
+    // Null, whatever type a Null value carries, and nothing else is Null.
+    void criteriaOnNull_data()
+    {
+        QTest::addColumn<QString>("criteria");
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<bool>("matches");
+
+        const QVariant nullNumber(QMetaType::fromType<int>());
+        const QVariant nullText(QMetaType::fromType<QString>());
+        QTest::newRow("no value") << "F Is Null" << QVariant() << true;
+        QTest::newRow("a Null number") << "F Is Null" << nullNumber << true;
+        QTest::newRow("a Null text") << "F Is Null" << nullText << true;
+        QTest::newRow("zero") << "F Is Null" << QVariant(0) << false;
+        QTest::newRow("empty text") << "F Is Null" << QVariant(QStringLiteral("")) << false;
+        QTest::newRow("not Null, a Null number") << "F Is Not Null" << nullNumber << false;
+        QTest::newRow("not Null, zero") << "F Is Not Null" << QVariant(0) << true;
+        QTest::newRow("= Null") << "F = Null" << nullText << true;
+        QTest::newRow("<> Null") << "F <> Null" << nullText << false;
+        QTest::newRow("Like on a Null text") << "F Like '%'" << nullText << false;
+        QTest::newRow("Not Like on a Null text") << "F Not Like 'x'" << nullText << false;
+    }
+
+    void criteriaOnNull()
+    {
+        QFETCH(QString, criteria);
+        QFETCH(QVariant, value);
+        QFETCH(bool, matches);
+        const auto parsed = engine::Criteria::parse(
+            criteria, [](const QString& name) { return name == QLatin1String("F") ? 0 : -1; });
+        QCOMPARE(parsed->matches([&value](int) { return value; }), matches);
+    }
+
+    // The same through a recordset's Filter, on the rows of a register.
+    void filterAtEquality_data()
+    {
+        QTest::addColumn<QString>("criteria");
+        QTest::addColumn<QString>("expected");
+
+        QTest::newRow("number <=") << "KategID <= 2"
+                                   << "1,2";
+        QTest::newRow("number >=") << "KategID >= 2"
+                                   << "2,3";
+        QTest::newRow("date <=") << "DokRegistracData <= #3/6/2024#"
+                                 << "1,2";
+        QTest::newRow("date >=") << "DokRegistracData >= #3/6/2024#"
+                                 << "2,3";
+        QTest::newRow("text <=") << "DokAntraste <= 'ėglė'"
+                                 << "1,2";
+        QTest::newRow("text >=") << "DokAntraste >= 'ĖGLĖ'"
+                                 << "2,3";
+    }
+
+    void filterAtEquality()
+    {
+        QFETCH(QString, criteria);
+        QFETCH(QString, expected);
+        EngineRegister reg;
+        reg.execute(
+            QStringLiteral("INSERT INTO tbl_Documents (RastasID, KategID, DokRegistracData, DokAntraste) "
+                           "VALUES (1, 1, #3/5/2024#, 'Eglė'), (2, 2, #3/6/2024#, 'Ėglė'), "
+                           "(3, 3, #3/7/2024#, 'Ėglės')"));
+        Recordset recordset;
+        recordset.open(QStringLiteral("SELECT * FROM tbl_Documents ORDER BY RastasID"), reg.connection());
+        recordset.setFilter(criteria);
+        QCOMPARE(rows(recordset, {QStringLiteral("RastasID")}).join(u','), expected);
+    }
+};
+
+QTEST_GUILESS_MAIN(BoundariesTest)
+
+#include "tst_boundaries.moc"

@@ -1,0 +1,183 @@
+// The options file at its edges: sections and names written in another case, numbers as
+// truth values, and the ends of the range of a whole-number option.
+#include "base/Error.h"
+#include "options/FirstRun.h"
+#include "options/OptionStore.h"
+#include "options/SectionFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+using namespace kartella;
+
+class OptionBoundariesTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_config;
+
+    static QString fileText(const QString& path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    }
+
+    static void writeFile(const QString& path, const QByteArray& content)
+    {
+        QDir().mkpath(QFileInfo(path).absolutePath());
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(content);
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_config = std::make_unique<QTemporaryDir>();
+        QVERIFY(m_config->isValid());
+        qputenv("XDG_CONFIG_HOME", m_config->path().toUtf8());
+    }
+
+    // Without XDG_CONFIG_HOME the options live in ~/.config.
+    void configFolderWithoutXdg()
+    {
+        qunsetenv("XDG_CONFIG_HOME");
+        QCOMPARE(configFolder(), QDir::homePath() + QStringLiteral("/.config"));
+        QCOMPARE(optionsFilePath(), QDir::homePath() + QStringLiteral("/.config/Kartella/Options.ini"));
+        QCOMPARE(iniFilePath(), QDir::homePath() + QStringLiteral("/.config/kartella.ini"));
+    }
+
+    // An empty expected value: the option isn't found in that file.
+    void sectionAndNameInAnotherCase_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("read");
+
+        QTest::newRow("section in capitals") << QByteArray("[OPTIONS]\nDbLocation=/a.mdb\n") << "/a.mdb";
+        QTest::newRow("section in small letters") << QByteArray("[options]\nDbLocation=/a.mdb\n") << "/a.mdb";
+        QTest::newRow("name in capitals") << QByteArray("[Options]\nDBLOCATION=/a.mdb\n") << "/a.mdb";
+        QTest::newRow("name in small letters") << QByteArray("[Options]\ndblocation = /a.mdb\n") << " /a.mdb";
+        QTest::newRow("both") << QByteArray("[oPTIONS]\r\ndBlOCATION=/a.mdb\r\n") << "/a.mdb";
+        QTest::newRow("another section") << QByteArray("[Options]\n[Option]\nDbLocation=/a.mdb\n") << "";
+        QTest::newRow("a longer name") << QByteArray("[Options]\nDbLocations=/a.mdb\n") << "";
+        QTest::newRow("a shorter name") << QByteArray("[Options]\nDbLocatio=/a.mdb\n") << "";
+    }
+
+    void sectionAndNameInAnotherCase()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, read);
+        writeFile(optionsFilePath(), content);
+        QCOMPARE(
+            getRegValue(QStringLiteral("DbLocation")), read.isEmpty() ? QStringLiteral("Not Found") : read);
+        // A write goes to the line that is there, in the section as it is written.
+        setRegValue(QStringLiteral("DbLocation"), QStringLiteral("/b.mdb"));
+        QCOMPARE(getRegValue(QStringLiteral("dbLOCATION")), QStringLiteral("/b.mdb"));
+        const QString text = fileText(optionsFilePath());
+        QCOMPARE(text.count(QStringLiteral("/b.mdb")), 1);
+        QCOMPARE(text.count(u'['), content.count('['));
+        QCOMPARE(text.contains(QStringLiteral("/a.mdb")), read.isEmpty());
+    }
+
+    // Loading another file, or a missing one, leaves nothing of the file read before.
+    void loadReplacesWhatWasRead()
+    {
+        const QString first = m_config->filePath(QStringLiteral("first.ini"));
+        const QString second = m_config->filePath(QStringLiteral("second.ini"));
+        writeFile(first, "[Options]\nDbLocation=/a.mdb\n");
+        writeFile(second, "[Options]\nCompany=Mėta\n");
+        SectionFile file;
+        QCOMPARE(file.load(first), SectionFile::Status::Ok);
+        QCOMPARE(
+            file.value(QStringLiteral("options"), QStringLiteral("dblocation")), QStringLiteral("/a.mdb"));
+        QCOMPARE(file.load(second), SectionFile::Status::Ok);
+        QCOMPARE(file.value(QStringLiteral("Options"), QStringLiteral("DbLocation")), std::nullopt);
+        QCOMPARE(file.value(QStringLiteral("Options"), QStringLiteral("Company")), QStringLiteral("Mėta"));
+        QCOMPARE(file.load(m_config->filePath(QStringLiteral("none.ini"))), SectionFile::Status::Missing);
+        QCOMPARE(file.value(QStringLiteral("Options"), QStringLiteral("Company")), std::nullopt);
+    }
+
+    void iniSectionInAnotherCase()
+    {
+        writeFile(iniFilePath(), "[doccontr]\nALLDOCS=/docs\n[DOCCONTR2]\nCompany=Other\n");
+        QCOMPARE(getIniValue(QStringLiteral("AllDocs")), QStringLiteral("/docs"));
+        QCOMPARE(findIniValue(QStringLiteral("Company")), std::nullopt);
+        QVERIFY(writeIniValue(QStringLiteral("allDocs"), QStringLiteral("/new")));
+        QCOMPARE(getIniValue(QStringLiteral("AllDocs")), QStringLiteral("/new"));
+        QCOMPARE(fileText(iniFilePath()).count(QStringLiteral("[")), 2);
+    }
+
+    // Any number but zero is true, "-1" as Visual Basic writes True first of all.
+    void numbersAsTruthValues_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("flag");
+
+        QTest::newRow("-1") << "-1" << true;
+        QTest::newRow("1") << "1" << true;
+        QTest::newRow("2") << "2" << true;
+        QTest::newRow("-0.5") << "-0.5" << true;
+        QTest::newRow("0.5") << "0.5" << true;
+        QTest::newRow("0.001") << "0.001" << true;
+        QTest::newRow("0") << "0" << false;
+        QTest::newRow("-0") << "-0" << false;
+        QTest::newRow("0.0") << "0.0" << false;
+        QTest::newRow("blanks around -1") << " -1 " << true;
+        QTest::newRow("True") << "True" << true;
+        QTest::newRow("TRUE") << "TRUE" << true;
+        QTest::newRow("false") << "false" << false;
+    }
+
+    void numbersAsTruthValues()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, flag);
+        QVERIFY(seedOptionsIfMissing());
+        setRegValue(QStringLiteral("AutoRegIndex"), text);
+        QCOMPARE(getRegFlag(QStringLiteral("AutoRegIndex")), flag);
+    }
+
+    // A fraction rounds half to even; past either end of 16 bits is an overflow (6).
+    void wholeNumberRange_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("number");
+        QTest::addColumn<long>("error");
+
+        QTest::newRow("-1") << "-1" << -1 << 0L;
+        QTest::newRow("-0.5") << "-0.5" << 0 << 0L;
+        QTest::newRow("0.5") << "0.5" << 0 << 0L;
+        QTest::newRow("1.5") << "1.5" << 2 << 0L;
+        QTest::newRow("-1.5") << "-1.5" << -2 << 0L;
+        QTest::newRow("32767") << "32767" << 32767 << 0L;
+        QTest::newRow("-32768") << "-32768" << -32768 << 0L;
+        QTest::newRow("32767.4") << "32767.4" << 32767 << 0L;
+        QTest::newRow("32768") << "32768" << 0 << 6L;
+        QTest::newRow("-32769") << "-32769" << 0 << 6L;
+        QTest::newRow("32767.5") << "32767.5" << 0 << 6L;
+    }
+
+    void wholeNumberRange()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, number);
+        QFETCH(long, error);
+        QVERIFY(seedOptionsIfMissing());
+        setRegValue(QStringLiteral("FileNumber"), text);
+        try {
+            QCOMPARE(getRegInteger(QStringLiteral("FileNumber")), number);
+            QCOMPARE(error, 0L);
+        } catch (const Error& thrown) {
+            QCOMPARE(thrown.number(), error);
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(OptionBoundariesTest)
+
+#include "tst_option_boundaries.moc"
