@@ -14,7 +14,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     QString written
         = target.shaped ? QStringLiteral("Provider=MSDataShape;Data Provider=") : QStringLiteral("Provider=");
-    written += target.provider + QStringLiteral(";Data Source=") + target.dataSource;
+    // The closing ; keeps a ; that ends the data source.
+    written += target.provider + QStringLiteral(";Data Source=") + target.dataSource + u';';
     const ConnectionTarget again = parseConnectionString(written);
     FUZZ_CHECK(again.shaped == target.shaped);
     FUZZ_CHECK(again.provider == target.provider);
