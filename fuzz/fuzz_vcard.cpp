@@ -1,17 +1,19 @@
 // Feeds any bytes to the vCard reader, with the code page guessed and forced.
+#include "FuzzInput.h"
+#include "addressbook/import/TextDecoding.h"
 #include "addressbook/import/VCardReader.h"
-
-#include <cstddef>
-#include <cstdint>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    const QByteArray file = QByteArray::fromRawData(reinterpret_cast<const char*>(data), qsizetype(size));
+    const QByteArray file = kartella::fuzz::bytes(data, size);
     const QList<kartella::ContactItem> contacts = kartella::readVCards(file);
     for (const kartella::ContactItem& contact : contacts)
         for (const QString& value : contact)
-            if (value.isEmpty())
-                __builtin_trap(); // the reader gives only properties with a value
-    kartella::readVCards(file, QStringLiteral("windows-1257"));
+            FUZZ_CHECK(!value.isEmpty()); // the reader gives only properties with a value
+    const QList<kartella::ContactItem> forced = kartella::readVCards(file, QStringLiteral("windows-1257"));
+    FUZZ_CHECK(forced.size() == contacts.size());
+    // The code page reads only text that is not UTF-8, and no CHARSET asks for another.
+    if (kartella::isUtf8(file) && !file.toUpper().contains("CHARSET"))
+        FUZZ_CHECK(forced == contacts);
     return 0;
 }

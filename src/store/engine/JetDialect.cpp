@@ -67,14 +67,16 @@ private:
         return i;
     }
 
+    // Whether i is a token: previousSolid gives -1 before the first, nextSolid size() after the last.
+    bool isToken(qsizetype i) const { return i >= 0 && i < size(); }
     bool isWord(qsizetype i, QStringView keyword) const
     {
-        return i < size() && isKeyword(m_text, m_tokens[i], keyword);
+        return isToken(i) && isKeyword(m_text, m_tokens[i], keyword);
     }
-    bool isPunct(qsizetype i, QChar c) const { return i < size() && engine::isPunct(m_text, m_tokens[i], c); }
+    bool isPunct(qsizetype i, QChar c) const { return isToken(i) && engine::isPunct(m_text, m_tokens[i], c); }
     bool isName(qsizetype i) const
     {
-        return i < size() && (m_tokens[i].kind == SqlToken::Word || m_tokens[i].kind == SqlToken::Quoted);
+        return isToken(i) && (m_tokens[i].kind == SqlToken::Word || m_tokens[i].kind == SqlToken::Quoted);
     }
 
     void literals()
@@ -113,7 +115,7 @@ private:
 
     bool isOrderingOperator(qsizetype i) const
     {
-        if (i >= size() || m_tokens[i].kind != SqlToken::Punct)
+        if (!isToken(i) || m_tokens[i].kind != SqlToken::Punct)
             return false;
         const QStringView op = tokenText(m_text, m_tokens[i]);
         return op == u"<" || op == u">" || op == u"<=" || op == u">=";

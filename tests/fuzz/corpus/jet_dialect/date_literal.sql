@@ -1,0 +1,1 @@
+SELECT * FROM tbl_Documents WHERE DokRegistracData >= #3/5/2024# ORDER BY DokAntraste;

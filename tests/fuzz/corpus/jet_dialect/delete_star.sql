@@ -1,0 +1,1 @@
+DELETE tbl_Tickler.* FROM tbl_Tickler WHERE TicklerDate < #12/31/1999 11:59:59 PM#

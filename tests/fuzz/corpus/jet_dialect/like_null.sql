@@ -1,0 +1,1 @@
+SELECT DokKategorija FROM tbl_Document_Categories WHERE DokKategorija Like '%ą%' AND Mnemonic Is Null

@@ -1,0 +1,1 @@
+SELECT(FullName) FROM tbl_Contacts

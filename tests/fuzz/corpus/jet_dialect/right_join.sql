@@ -1,0 +1,1 @@
+SELECT tbl_Documents.RastasID, tbl_Contacts.FullName FROM tbl_Contacts RIGHT JOIN tbl_Documents ON tbl_Contacts.ContactID = tbl_Documents.ContactID WHERE tbl_Contacts.FullName BETWEEN 'a' AND 'ž' ORDER BY tbl_Contacts.CompanyName DESC

@@ -1,0 +1,1 @@
+UPDATE tbl_Contacts SET tbl_Contacts.FullName = 'Ąžuolas `x`' WHERE `ContactID` = 7;
