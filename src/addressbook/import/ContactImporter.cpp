@@ -134,15 +134,23 @@ bool ContactImporter::run(const QList<ContactItem>& items)
                 throw RunStopped();
         }
     };
+    // The write transaction begins before an item's name is looked up. Holding off every
+    // other import of the register until it commits, it first reads the names that other
+    // programs stored since, so that the look and the write see the same contacts.
+    const auto beginItems = [&] {
+        if (!grouping || inTransaction || !connection.isOpen())
+            return;
+        connection.beginTrans();
+        inTransaction = true;
+        transactionAge.start();
+        connection.lockForWriting(QStringLiteral("contacts"));
+        names.refresh();
+    };
     // True when the row was stored.
     const auto write = [&](Recordset& recordset) {
         bool written = false;
         step([&] {
-            if (grouping && !inTransaction && connection.isOpen()) {
-                connection.beginTrans();
-                inTransaction = true;
-                transactionAge.start();
-            }
+            beginItems();
             try {
                 recordset.update();
             } catch (const Error&) {
@@ -165,7 +173,10 @@ bool ContactImporter::run(const QList<ContactItem>& items)
             ++m_counts.skipped;
             return;
         }
-        step([&] { contactId = names.find(fullName); });
+        step([&] {
+            beginItems();
+            contactId = names.find(fullName);
+        });
         if (!isNull(contactId)) {
             ++m_counts.skipped;
             ++m_counts.alreadyThere;

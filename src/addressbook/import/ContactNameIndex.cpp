@@ -6,6 +6,8 @@
 #include "store/engine/TextFold.h"
 #include "store/engine/Value.h"
 
+#include <algorithm>
+
 namespace kartella {
 
 ContactNameIndex::ContactNameIndex(Connection& connection)
@@ -26,9 +28,23 @@ QString ContactNameIndex::folded(const QString& name)
 void ContactNameIndex::load()
 {
     m_ids.clear();
+    m_highestKey = 0;
     m_loaded = false;
+    read(QString());
+    m_loaded = true;
+}
+
+void ContactNameIndex::refresh()
+{
+    if (m_loaded)
+        read(QStringLiteral(" WHERE tbl_Contacts.ContactID > ") + QString::number(m_highestKey));
+}
+
+void ContactNameIndex::read(const QString& condition)
+{
     Recordset names;
-    names.open(QStringLiteral("SELECT tbl_Contacts.ContactID, tbl_Contacts.FullName FROM tbl_Contacts"),
+    names.open(
+        QStringLiteral("SELECT tbl_Contacts.ContactID, tbl_Contacts.FullName FROM tbl_Contacts") + condition,
         m_connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified, -1);
     for (int row = 0; row < names.recordCount(); ++row) {
         const QVariant name = names.rowValue(row, 1);
@@ -36,7 +52,6 @@ void ContactNameIndex::load()
             add(name.toString(), names.rowValue(row, 0));
     }
     names.close();
-    m_loaded = true;
 }
 
 QVariant ContactNameIndex::find(const QString& name) const
@@ -51,6 +66,7 @@ void ContactNameIndex::add(const QString& name, const QVariant& contactId)
     const QString key = folded(name);
     if (!m_ids.contains(key))
         m_ids.insert(key, contactId);
+    m_highestKey = std::max(m_highestKey, contactId.toLongLong());
 }
 
 void ContactNameIndex::forget(const QString& name)

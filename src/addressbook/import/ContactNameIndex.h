@@ -22,6 +22,9 @@ public:
 
     // Reads the names of tbl_Contacts. Throws kartella::Error.
     void load();
+    // Reads the names of the contacts stored since the names were read (by another program:
+    // a key past every key read so far). Throws kartella::Error.
+    void refresh();
     // Throws kartella::Error when the statement fails.
     QVariant find(const QString& name) const;
     // A contact just stored.
@@ -36,7 +39,11 @@ private:
     QVariant findWithStatement(const QString& name) const;
 
     Connection& m_connection;
+    // Reads the names of the contacts whose key passes the condition.
+    void read(const QString& condition);
+
     QHash<QString, QVariant> m_ids;
+    qint64 m_highestKey = 0;
     bool m_loaded = false;
 };
 
