@@ -99,10 +99,11 @@ int schemaVersion(Connection& connection)
     return version;
 }
 
-std::vector<const SchemaStep*> runSchemaSteps(Connection& connection, int from)
+namespace {
+
+std::vector<const SchemaStep*> runEachStep(Connection& connection, int from, bool server)
 {
     std::vector<const SchemaStep*> done;
-    const bool server = connection.dialect() == SqlDialect::PostgreSql;
     for (const SchemaStep& step : schemaSteps()) {
         if (step.version <= from)
             continue;
@@ -122,6 +123,25 @@ std::vector<const SchemaStep*> runSchemaSteps(Connection& connection, int from)
             throw;
         }
         done.push_back(&step);
+    }
+    return done;
+}
+
+} // namespace
+
+std::vector<const SchemaStep*> runSchemaSteps(Connection& connection, int from)
+{
+    std::vector<const SchemaStep*> done;
+    const bool server = connection.dialect() == SqlDialect::PostgreSql;
+    // The steps together are one transaction too: a register is upgraded whole, or stays as
+    // it was, whichever step fails.
+    connection.beginTrans();
+    try {
+        done = runEachStep(connection, from, server);
+        connection.commitTrans();
+    } catch (...) {
+        connection.rollbackTrans();
+        throw;
     }
     return done;
 }

@@ -20,8 +20,8 @@ class Connection;
 // the last step it has had; a new register goes through every step from the first, an
 // older one through those it lacks (kartella-db upgrade, or the program when it opens
 // one). Each step is one function that takes the register from the form before it to its
-// own, and runs in one transaction together with the new user_version, so a failure
-// leaves the register at the step before. A change of the schema is a new function at the
+// own, and runs together with the new user_version; the steps of one upgrade are one
+// transaction, so a failure leaves the register as it was. A change of the schema is a new function at the
 // end of schemaSteps(); no step is ever changed once registers carry its number.
 
 struct SchemaStep
@@ -40,8 +40,9 @@ int newestSchemaVersion();
 // tbl_Schema_Version): 0 for an empty file or database.
 int schemaVersion(Connection& connection);
 
-// Runs the steps after version `from` on an open register, each in a transaction of its
-// own; gives the steps run, in order. Throws kartella::Error from the failing step.
+// Runs the steps after version `from` on an open register, all of them in one transaction
+// (each step a level of its own inside it), so that a failing step leaves the register as it
+// was; gives the steps run, in order. Throws kartella::Error from the failing step.
 std::vector<const SchemaStep*> runSchemaSteps(Connection& connection, int from);
 
 // A plain SQLite expression that orders a text column as the engine's name collation does,
