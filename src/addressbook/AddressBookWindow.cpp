@@ -78,7 +78,12 @@ AddressBookWindow::AddressBookWindow(QWidget* parent)
     load();
 }
 
-AddressBookWindow::~AddressBookWindow() = default;
+AddressBookWindow::~AddressBookWindow()
+{
+    // Closing the window commits a grid cell still being edited, after this part of the
+    // window is gone: its edits must reach no member any more.
+    m_homePageModel->disconnect(this);
+}
 
 void AddressBookWindow::load()
 {

@@ -43,7 +43,12 @@ CategoryDialog::CategoryDialog(QWidget* parent)
     load();
 }
 
-CategoryDialog::~CategoryDialog() = default;
+CategoryDialog::~CategoryDialog()
+{
+    // Closing the dialog commits a grid cell still being edited, after this part of the
+    // dialog is gone: its edits must reach no member any more.
+    m_subCategoryModel->disconnect(this);
+}
 
 int CategoryDialog::exec()
 {

@@ -124,7 +124,12 @@ DocumentDetailsDialog::DocumentDetailsDialog(qint32 documentId, QWidget* parent)
     load();
 }
 
-DocumentDetailsDialog::~DocumentDetailsDialog() = default;
+DocumentDetailsDialog::~DocumentDetailsDialog()
+{
+    // Closing the dialog commits a grid cell still being edited, after this part of the
+    // dialog is gone: its edits must reach no member any more.
+    m_tickler->disconnect(this);
+}
 
 void DocumentDetailsDialog::buildWidgets()
 {

@@ -102,7 +102,7 @@ private Q_SLOTS:
         QProcess window;
         window.setProcessEnvironment(env);
         window.start(QCoreApplication::applicationFilePath(), {"--show-title", title, kind});
-        QVERIFY(window.waitForReadyRead(15000));
+        QVERIFY2(window.waitForReadyRead(15000), window.readAllStandardError().constData());
         const QString id = QString::fromLatin1(window.readLine()).trimmed();
 
         QProcess query;
