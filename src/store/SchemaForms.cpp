@@ -207,4 +207,17 @@ void addDirectionIndex(Connection& connection)
         "CREATE INDEX IF NOT EXISTS idx_Documents_KryptisID ON tbl_Documents (KryptisID, DokRegistracData)"));
 }
 
+// Step 7: the text read from each document's file (see content/TextStore.h for the columns),
+// one row per document, gone with its document.
+void addDocumentTextStore(Connection& connection)
+{
+    connection.execute(QStringLiteral(
+        "CREATE TABLE IF NOT EXISTS tbl_Document_Text (RastasID INTEGER NOT NULL PRIMARY KEY, "
+        "FilePath TEXT, FileSize INTEGER, FileModified TEXT, State INTEGER NOT NULL DEFAULT 0, "
+        "Reason TEXT, Body TEXT, ReadAt TEXT)"));
+    connection.execute(QStringLiteral("CREATE TRIGGER IF NOT EXISTS trg_Document_Text_Delete AFTER DELETE ON "
+                                      "tbl_Documents BEGIN DELETE FROM tbl_Document_Text WHERE RastasID = "
+                                      "OLD.RastasID; END"));
+}
+
 } // namespace kartella

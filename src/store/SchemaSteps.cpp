@@ -53,6 +53,8 @@ void addDayCounter(Connection& connection);
 void addServerDayCounter(Connection& connection);
 void addDirectionIndex(Connection& connection);
 void addServerDirectionIndex(Connection& connection);
+void addDocumentTextStore(Connection& connection);
+void addServerDocumentTextStore(Connection& connection);
 
 const std::vector<SchemaStep>& schemaSteps()
 {
@@ -69,6 +71,8 @@ const std::vector<SchemaStep>& schemaSteps()
             addServerDayCounter},
         {6, QStringLiteral("an index for the lists of one direction"), addDirectionIndex,
             addServerDirectionIndex},
+        {7, QStringLiteral("the text read from the documents' files"), addDocumentTextStore,
+            addServerDocumentTextStore},
     };
     return steps;
 }

@@ -236,4 +236,14 @@ void addServerDirectionIndex(Connection& connection)
                        "(\"KryptisID\", \"DokRegistracData\")"));
 }
 
+// Step 7 on a server: the row goes with its document through the foreign key.
+void addServerDocumentTextStore(Connection& connection)
+{
+    connection.execute(QStringLiteral(
+        "CREATE TABLE IF NOT EXISTS \"tbl_Document_Text\" (\"RastasID\" integer NOT NULL PRIMARY KEY "
+        "REFERENCES \"tbl_Documents\" (\"RastasID\") ON DELETE CASCADE, \"FilePath\" text, "
+        "\"FileSize\" bigint, \"FileModified\" text, \"State\" integer NOT NULL DEFAULT 0, "
+        "\"Reason\" text, \"Body\" text, \"ReadAt\" text)"));
+}
+
 } // namespace kartella
