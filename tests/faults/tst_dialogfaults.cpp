@@ -1,10 +1,14 @@
 // A dialog's OK while the register can't be written (its disk full, its folder turned
 // read-only, another program holding the write lock): the save fails with a message, the
 // dialog stays open with what was typed, and OK once the fault is gone saves.
+#include "addressbook/ContactEditor.h"
+#include "categories/CategoryDialog.h"
+#include "categories/NewCategoryDialog.h"
 #include "faults/FaultFixture.h"
 #include "faults/FullDiskVfs.h"
 #include "faults/TestMounts.h"
 #include "registration/DocumentDetailsDialog.h"
+#include "registration/NewDocumentDialog.h"
 #include "registration/RegisterFixture.h"
 #include "registration/RelatedDocumentDialog.h"
 
@@ -125,8 +129,12 @@ class DialogFaultsTest : public QObject
             QVERIFY(typedKept());
         }
         QCOMPARE(integrityCheck(fx.reg.path()), QStringLiteral("ok"));
-        const QStringList lost = RegisterSnapshot::take(fx.reg.path(), fx.files.path()).lostOrChanged(before);
+        const RegisterSnapshot after = RegisterSnapshot::take(fx.reg.path(), fx.files.path());
+        const QStringList lost = after.lostOrChanged(before);
         QVERIFY2(lost.isEmpty(), qPrintable(lost.join('\n')));
+        // Nor did a refused save leave part of a new row behind.
+        for (auto table = before.tables.cbegin(); table != before.tables.cend(); ++table)
+            QVERIFY2(after.rowCount(table.key()) == table->size(), qPrintable(table.key()));
 
         click(dialog, ok);
         QVERIFY2(fx.prompter.prompts().isEmpty(), qPrintable(fx.prompter.texts().join('\n')));
@@ -164,6 +172,90 @@ private Q_SLOTS:
             fx, dialog, "cmdOK",
             [&] { return description->toPlainText() == "Kvitas" && box(dialog, 5)->text() == scan; },
             [&] { return fx.relatedRows() == QStringLiteral("%1:Annex,%1:Kvitas").arg(fx.lease); });
+    }
+
+    // A new document refused keeps its proposed index too, and the day's counter untouched.
+    void newDocumentOk_data() { addFaults(); }
+    void newDocumentOk()
+    {
+        Fixture fx;
+        NewDocumentDialog dialog;
+        showActive(dialog);
+        const QString index = box(dialog, 3)->text();
+        QVERIFY(!index.isEmpty());
+        retype(box(dialog, 4), "Nauja nuomos sutartis");
+        refusedThenSaved(
+            fx, dialog, "cmdOK",
+            [&] {
+                return box(dialog, 4)->text() == "Nauja nuomos sutartis" && box(dialog, 3)->text() == index;
+            },
+            [&] {
+                return fx.reg
+                           .scalar("SELECT DokRegistracIndeksas FROM tbl_Documents WHERE DokAntraste = "
+                                   "'Nauja nuomos sutartis'")
+                           .toString()
+                    == index;
+            });
+    }
+
+    void categoryOk_data() { addFaults(); }
+    void categoryOk()
+    {
+        Fixture fx;
+        CategoryDialog dialog;
+        showActive(dialog);
+        retype(box(dialog, 1), "Sutartys");
+        refusedThenSaved(
+            fx, dialog, "cmdClose", [&] { return box(dialog, 1)->text() == "Sutartys"; },
+            [&] {
+                return fx.reg
+                           .scalar("SELECT DokKategorija FROM tbl_Document_Categories WHERE KategID = "
+                               + QString::number(fx.contracts))
+                           .toString()
+                    == "Sutartys";
+            });
+    }
+
+    void newCategoryOk_data() { addFaults(); }
+    void newCategoryOk()
+    {
+        Fixture fx;
+        NewCategoryDialog dialog;
+        showActive(dialog);
+        retype(box(dialog, 1), "Ataskaitos");
+        retype(box(dialog, 2), "ATS");
+        refusedThenSaved(
+            fx, dialog, "cmdOk", [&] { return box(dialog, 1)->text() == "Ataskaitos"; },
+            [&] {
+                return fx.reg
+                           .scalar("SELECT COUNT(*) FROM tbl_Document_Categories WHERE DokKategorija = "
+                                   "'Ataskaitos' AND Mnemonic = 'ATS'")
+                           .toInt()
+                    == 1;
+            });
+    }
+
+    void contactOk_data() { addFaults(); }
+    void contactOk()
+    {
+        Fixture fx;
+        ContactEditor editor;
+        showActive(editor);
+        retype(box(editor, 4), "Ada Adomaite");
+        retype(box(editor, 10), "ada@example.lt");
+        refusedThenSaved(
+            fx, editor, "cmdOk",
+            [&] {
+                return box(editor, 4)->text() == "Ada Adomaite"
+                    && box(editor, 10)->text() == "ada@example.lt";
+            },
+            [&] {
+                return fx.reg
+                           .scalar("SELECT COUNT(*) FROM tbl_Contacts WHERE FullName = 'Ada Adomaite' AND "
+                                   "EmailName = 'ada@example.lt'")
+                           .toInt()
+                    == 1;
+            });
     }
 };
 
