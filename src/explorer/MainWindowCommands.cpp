@@ -253,7 +253,9 @@ void MainWindow::deleteRelatedDocument(Connection& connection)
     // A related document goes only together with its file; without one the user hears why
     // nothing happens.
     const QString path = m_state.selectedFilePath;
-    if (path.isEmpty() || !QFileInfo::exists(path)) {
+    const auto fileIsThere = [this, &path] {
+        if (!path.isEmpty() && QFileInfo::exists(path))
+            return true;
         const QString why = path.isEmpty()
             ? QStringLiteral("This related document has no file. A related document is deleted "
                              "together with its file.")
@@ -262,8 +264,10 @@ void MainWindow::deleteRelatedDocument(Connection& connection)
                   .arg(QDir::toNativeSeparators(path));
         msgBox(why, MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation,
             QStringLiteral("Unable to delete as requested"));
+        return false;
+    };
+    if (!fileIsThere())
         return;
-    }
     const qint32 id = m_state.selectedSubDocumentId;
     Recordset row;
     row.open(QStringLiteral("SELECT tbl_Sub_Documents.SubDocDescript FROM tbl_Sub_Documents WHERE "
@@ -274,6 +278,9 @@ void MainWindow::deleteRelatedDocument(Connection& connection)
         = row.eof() ? m_state.selectedItemText : displayText(row.collect(QStringLiteral("SubDocDescript")));
     row.close();
     if (!confirmDeletion(QStringLiteral("Delete the related document \"%1\" and its file?").arg(description)))
+        return;
+    // The file may have gone while the question was open.
+    if (!fileIsThere())
         return;
     if (!trashFileOf(connection, path, {}))
         return;
@@ -332,8 +339,9 @@ void MainWindow::deleteMainDocument(Connection& connection)
     if (!confirmDeletion(question + u'?'))
         return;
 
-    // The document's own file first: while it can't go, the document stays whole.
-    if (hasFile && !trashFileOf(connection, path, {id}))
+    // The document's own file first: while it can't go, the document stays whole. A file that
+    // went while the question was open leaves nothing to keep the document for.
+    if (hasFile && QFileInfo::exists(path) && !trashFileOf(connection, path, {id}))
         return;
     // A related document's file that stays behind is no matter: its row goes all the same.
     for (qint32 child : std::as_const(childIds))

@@ -9,13 +9,14 @@ int runDialogFaultsTest(int argc, char** argv);
 int runOptionFaultsTest(int argc, char** argv);
 int runFileFaultsTest(int argc, char** argv);
 int runServerFaultsTest(int argc, char** argv);
+int runCommandFaultsTest(int argc, char** argv);
 
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
     int failures = 0;
     for (const auto run : {runDiskFullTest, runToolExitTest, runKilledTest, runDialogFaultsTest,
-             runOptionFaultsTest, runFileFaultsTest, runServerFaultsTest})
+             runOptionFaultsTest, runFileFaultsTest, runCommandFaultsTest, runServerFaultsTest})
         failures += run(argc, argv);
     return failures;
 }

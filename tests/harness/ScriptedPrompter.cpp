@@ -2,6 +2,8 @@
 
 #include <QTest>
 
+#include <utility>
+
 namespace kartella::test {
 
 namespace {
@@ -56,6 +58,8 @@ QList<ScriptedPrompter::Prompt> ScriptedPrompter::take()
 int ScriptedPrompter::msgBox(const QString& prompt, int style, const QString& title)
 {
     m_prompts.append({prompt, title.isEmpty() ? programTitle() : title, style});
+    if (whileAsking)
+        std::exchange(whileAsking, nullptr)();
     if (m_answers.isEmpty()) {
         QTest::qFail(
             qPrintable(QStringLiteral("Unexpected message box: \"%1\"").arg(prompt)), __FILE__, __LINE__);

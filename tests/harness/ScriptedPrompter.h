@@ -5,6 +5,8 @@
 #include <QList>
 #include <QQueue>
 
+#include <functional>
+
 namespace kartella::test {
 
 // A prompter for tests. It installs itself while it lives, records every prompt and
@@ -39,6 +41,10 @@ public:
     int msgBox(const QString& prompt, int style, const QString& title) override;
     QString openFile(const OpenFileRequest& request) override;
     QString chooseFolder(const QString& prompt) override;
+
+    // Runs once, when the next message box is shown and before it is answered: what happens
+    // while the user reads it.
+    std::function<void()> whileAsking;
 
     QList<OpenFileRequest> fileRequests;
     QStringList folderPrompts;
