@@ -183,6 +183,7 @@ private:
             Connection connection(m_connectionString);
             connection.open();
             index = nextFreeRegIndex(connection, index);
+            operation.read += index + u' ';
             document.fields(QStringLiteral("DokRegistracIndeksas")).setValue(index);
         }
         operation.ms = msSince(timer);

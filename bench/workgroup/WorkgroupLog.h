@@ -17,7 +17,7 @@ struct LoggedOperation
     double ms = 0; // the write alone for new, edit and contact; the whole step otherwise
     qint64 key = 0; // the document's id (new, edit, delete), the import's batch
     QString value; // what was stored: the description, the contact's name, the index
-    QString read; // edit: the description read before it was changed
+    QString read; // edit: the description read before it was changed; new: the indexes tried after a refusal
     QString detail; // the error's text, or counts
 };
 
