@@ -11,6 +11,7 @@
 #include "explorer/NavigationTree.h"
 #include "explorer/RegisterUpgradeOffer.h"
 #include "explorer/RemindersCommand.h"
+#include "explorer/ShareNotice.h"
 #include "options/OptionStore.h"
 #include "platform/Clock.h"
 #include "platform/Prompter.h"
@@ -132,6 +133,7 @@ void MainWindow::buildWindow()
     m_source->setToolTip(QStringLiteral("Location of Data Source "));
     status->addWidget(m_count);
     status->addWidget(m_source, 1);
+    m_shareNotice = new ShareNotice(status);
 
     resize(1100, 700);
 
@@ -219,6 +221,7 @@ void MainWindow::load()
     const QString location = getRegValue(QStringLiteral("DbLocation"));
     m_shownRegister = location;
     m_source->setText(sourcePanelText(location));
+    m_shareNotice->registerOpened(location);
     // Before any fill: a register of an earlier version is upgraded if the user agrees, and
     // otherwise counts as one that can't be opened. So does a server that can't be reached,
     // so that the start waits for it once rather than at every fill.

@@ -25,6 +25,7 @@ class ListModel;
 class NavigationTree;
 class RemindersCommand;
 class SearchBox;
+class ShareNotice;
 struct SelectionState;
 
 // The main window: a band with the direction box and the two date pickers, the
@@ -252,6 +253,7 @@ private:
     ExplorerList* m_related = nullptr;
     QLabel* m_count = nullptr;
     QLabel* m_source = nullptr;
+    ShareNotice* m_shareNotice = nullptr;
     std::unique_ptr<DocumentFills> m_fills;
     SearchBox* m_search = nullptr;
     RemindersCommand* m_reminders = nullptr;

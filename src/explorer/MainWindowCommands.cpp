@@ -8,6 +8,7 @@
 #include "explorer/MainWindow.h"
 #include "explorer/NavigationTree.h"
 #include "explorer/RemindersCommand.h"
+#include "explorer/ShareNotice.h"
 #include "options/OptionStore.h"
 #include "platform/Prompter.h"
 #include "platform/Shell.h"
@@ -188,6 +189,7 @@ void MainWindow::leaveRegister(const QString& location)
     setWindowTitle(QStringLiteral("Kartella"));
     m_count->clear();
     m_source->setText(sourcePanelText(location));
+    m_shareNotice->registerOpened(location);
     m_reminders->forget();
 }
 
