@@ -182,7 +182,7 @@ private:
             }
             Connection connection(m_connectionString);
             connection.open();
-            index = nextFreeRegIndex(connection, index);
+            index = reserveFreeRegIndex(connection, index);
             operation.read += index + u' ';
             document.fields(QStringLiteral("DokRegistracIndeksas")).setValue(index);
         }

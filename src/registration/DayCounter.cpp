@@ -46,4 +46,11 @@ void raiseDayCounter(Connection& connection, const QDate& day, qint64 number)
     }
 }
 
+void giveBackDayNumber(Connection& connection, const QDate& day, qint64 number)
+{
+    if (number > 0 && dayCounterValue(connection, day) == number)
+        connection.execute(QStringLiteral("UPDATE tbl_Day_Counter SET LastNumber = ")
+            + QString::number(number - 1) + QStringLiteral(" WHERE CounterDay = ") + dayText(day));
+}
+
 } // namespace kartella

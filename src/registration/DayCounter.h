@@ -21,4 +21,9 @@ qint64 dayCounterValue(Connection& connection, const QDate& day);
 // write transaction that stores the number, so that no other writer counts in between.
 void raiseDayCounter(Connection& connection, const QDate& day, qint64 number);
 
+// Moves the day's counter back from number to the one before, when it stands at number.
+// For a number held for a user who then did not take it; the caller checks, in the same
+// write transaction, that no stored index holds it.
+void giveBackDayNumber(Connection& connection, const QDate& day, qint64 number);
+
 } // namespace kartella

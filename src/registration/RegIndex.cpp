@@ -197,6 +197,59 @@ QString nextFreeRegIndex(Connection& connection, const QString& index, const QDa
     return prefix + QString::number(highest + 1);
 }
 
+namespace {
+
+// Runs work in a write transaction of connection that holds off every other writer of
+// registration indexes.
+template<typename Work>
+auto withIndexLock(Connection& connection, Work work)
+{
+    connection.beginTrans();
+    try {
+        connection.lockForWriting(QStringLiteral("registration index"));
+        auto result = work();
+        connection.commitTrans();
+        return result;
+    } catch (...) {
+        try {
+            connection.rollbackTrans();
+        } catch (...) {
+            // The first error is the one to report.
+        }
+        throw;
+    }
+}
+
+} // namespace
+
+QString reserveFreeRegIndex(Connection& connection, const QString& index, const QDate& today)
+{
+    return withIndexLock(connection, [&] {
+        const QString next = nextFreeRegIndex(connection, index, today);
+        const qint64 number = dayNumberOf(next, today);
+        if (number > 0 && registerKeepsDayCounter(connection))
+            raiseDayCounter(connection, today, number);
+        return next;
+    });
+}
+
+void releaseRegIndex(Connection& connection, const QString& index, const QDate& today)
+{
+    const qint64 number = dayNumberOf(index, today);
+    if (number <= 0)
+        return;
+    withIndexLock(connection, [&] {
+        if (!registerKeepsDayCounter(connection))
+            return false;
+        const QString tail = dayTail(today);
+        const qint64 held = highestHeld(connection, sqlLikeText(tail, LikeMatch::Anywhere),
+            [&tail](const QString& prefix) { return prefix.endsWith(tail, Qt::CaseInsensitive); });
+        if (held < number)
+            giveBackDayNumber(connection, today, number);
+        return true;
+    });
+}
+
 void guardRegIndex(Recordset& document, std::function<QString()> index, qint32 documentId)
 {
     auto check = [index, documentId](Connection& connection) {

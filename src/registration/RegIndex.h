@@ -58,6 +58,17 @@ qint64 lastDayNumber(Connection& connection, const QDate& today = Clock::current
 QString nextFreeRegIndex(
     Connection& connection, const QString& index, const QDate& today = Clock::currentDate());
 
+// nextFreeRegIndex, drawn in a write transaction of its own that also raises the day's
+// counter to it, so that the number is held for the caller: users refused at once are each
+// offered a different number, and new proposals start past it. A number offered and then not
+// stored leaves a gap, as a ticket drawn and thrown away does.
+QString reserveFreeRegIndex(
+    Connection& connection, const QString& index, const QDate& today = Clock::currentDate());
+
+// Gives back a number reserveFreeRegIndex held, when the user did not take it and nobody
+// counted past it since: the next offer is the same number again.
+void releaseRegIndex(Connection& connection, const QString& index, const QDate& today = Clock::currentDate());
+
 // Makes document's updateBatch guard a registration index that it stores (index() gives it
 // at the time of the write; empty text when there is none to check, as when it is unchanged):
 // inside the write transaction, with every other writer of the register held off, the batch

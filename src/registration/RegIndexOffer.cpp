@@ -13,11 +13,11 @@ bool offerFreeRegIndex(QLineEdit* box, const QString& connectionString, const QS
     const QString index = box->text();
     Connection connection;
     connection.open(connectionString);
-    const QString next = nextFreeRegIndex(connection, index);
-    connection.close();
+    const QString next = reserveFreeRegIndex(connection, index);
     const QString question = QStringLiteral("The register already has a document with the index \"") + index
         + QStringLiteral("\". Store this one as \"") + next + QStringLiteral("\"?");
     if (msgBox(question, MsgBoxStyle::YesNo | MsgBoxStyle::Question, title) != MsgBoxResult::Yes) {
+        releaseRegIndex(connection, next);
         box->setFocus(Qt::OtherFocusReason);
         box->selectAll();
         return false;

@@ -290,6 +290,21 @@ private Q_SLOTS:
         QCOMPARE(makeRegIndex(category, today.addDays(2)), QString("AGR-20240307/1"));
         // The next free number counts the counter too.
         QCOMPARE(nextFreeRegIndex(connection, "LET-20240305/3", today), QString("LET-20240305/7"));
+        // Users refused at once are offered one number each, and proposals start past them.
+        QCOMPARE(reserveFreeRegIndex(connection, "LET-20240305/3", today), QString("LET-20240305/7"));
+        QCOMPARE(reserveFreeRegIndex(connection, "AGR-20240305/3", today), QString("AGR-20240305/8"));
+        QCOMPARE(dayCounterValue(connection, today), 8);
+        QCOMPARE(makeRegIndex(category, today), QString("AGR-20240305/9"));
+        // The last one given back is offered again; one a user stored is not given back.
+        releaseRegIndex(connection, "AGR-20240305/8", today);
+        QCOMPARE(dayCounterValue(connection, today), 7);
+        QCOMPARE(reserveFreeRegIndex(connection, "AGR-20240305/3", today), QString("AGR-20240305/8"));
+        held("AGR-20240305/8");
+        releaseRegIndex(connection, "AGR-20240305/8", today);
+        QCOMPARE(dayCounterValue(connection, today), 8);
+        // An index of no day reserves nothing.
+        QCOMPARE(reserveFreeRegIndex(connection, "Sutartis 5", today), QString("Sutartis 6"));
+        QCOMPARE(dayCounterValue(connection, today), 8);
     }
 
     void dayNumberOf_data()
