@@ -34,7 +34,9 @@ void MainWindow::buildPreview()
     m_mainSplit->replaceWidget(m_mainSplit->indexOf(m_listSplit), m_previewSplit);
     m_previewSplit->addWidget(m_listSplit);
     m_previewSplit->addWidget(m_preview);
-    m_previewSplit->setStretchFactor(0, 1);
+    // A window that grows gives the lists and the pane their shares of the new width.
+    m_previewSplit->setStretchFactor(0, int(100 * (1 - PaneShare)));
+    m_previewSplit->setStretchFactor(1, int(100 * PaneShare));
     m_preview->setVisible(false);
 
     // After the window's own answers to the lists, so that the selection is settled.

@@ -289,7 +289,9 @@ private Q_SLOTS:
         QCOMPARE(readRegValue(Hive::CurrentUser, optionsKeyPath(), QStringLiteral("PreviewPane"), {}), "1");
         {
             MainWindow again;
+            again.resize(1000, 700);
             again.show();
+            QTRY_VERIFY(again.previewPane()->width() > 250);
             QVERIFY(again.action(QStringLiteral("mnuPreviewPane"))->isChecked());
             QVERIFY(again.previewPane()->isVisible());
         }
