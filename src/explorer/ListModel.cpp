@@ -1,6 +1,7 @@
 #include "explorer/ListModel.h"
 
 #include "explorer/IconCache.h"
+#include "preview/Thumbnails.h"
 #include "store/engine/TextFold.h"
 
 #include <QMimeData>
@@ -13,7 +14,27 @@ namespace kartella {
 ListModel::ListModel(IconCache* icons, QObject* parent)
     : QAbstractTableModel(parent)
     , m_icons(icons)
-{ }
+{
+    connect(this, &QAbstractItemModel::modelReset, this, [this] { m_awaitingThumbnails.clear(); });
+}
+
+void ListModel::setThumbnails(Thumbnails* thumbnails)
+{
+    if (m_thumbnails)
+        disconnect(m_thumbnails, nullptr, this, nullptr);
+    m_thumbnails = thumbnails;
+    if (m_thumbnails)
+        connect(m_thumbnails, &Thumbnails::ready, this, &ListModel::onThumbnailReady);
+}
+
+void ListModel::onThumbnailReady(const QString& path)
+{
+    const QList<int> rows = m_awaitingThumbnails.take(path);
+    for (const int row : rows) {
+        if (row < rowCount())
+            Q_EMIT dataChanged(index(row, 0), index(row, 0), {Qt::DecorationRole});
+    }
+}
 
 void ListModel::setColumns(const QList<ListColumn>& columns)
 {
@@ -180,7 +201,17 @@ QVariant ListModel::data(const QModelIndex& index, int role) const
     case Qt::DisplayRole:
         return columnText(item, index.column());
     case Qt::DecorationRole:
-        if (index.column() == 0 && !item.iconKey.isEmpty() && m_icons)
+        if (index.column() != 0)
+            return {};
+        if (m_largeIcons && m_thumbnails && !item.tagIsNull && Thumbnails::shows(item.tag)) {
+            const QIcon thumbnail = m_thumbnails->icon(item.tag);
+            if (!thumbnail.isNull())
+                return thumbnail;
+            QList<int>& rows = m_awaitingThumbnails[item.tag];
+            if (!rows.contains(index.row()))
+                rows << index.row();
+        }
+        if (!item.iconKey.isEmpty() && m_icons)
             return m_largeIcons ? m_icons->large(item.iconKey) : m_icons->small(item.iconKey);
         return {};
     default:

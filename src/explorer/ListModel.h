@@ -2,6 +2,7 @@
 
 #include <QAbstractTableModel>
 #include <QDate>
+#include <QHash>
 #include <QIcon>
 
 #include <array>
@@ -12,6 +13,7 @@
 namespace kartella {
 
 class IconCache;
+class Thumbnails;
 
 struct ListColumn
 {
@@ -86,6 +88,9 @@ public:
 
     // Large or small pictures for the items (large icons view, or the others).
     void setLargeIcons(bool large);
+    // With large pictures, a PDF's or an image's row shows its thumbnail once it is made,
+    // its type's picture until then.
+    void setThumbnails(Thumbnails* thumbnails);
 
     int sortKey() const { return m_sortKey; }
     Qt::SortOrder sortOrder() const { return m_sortOrder; }
@@ -117,8 +122,12 @@ Q_SIGNALS:
 
 private:
     void applySort();
+    void onThumbnailReady(const QString& path);
 
     IconCache* m_icons;
+    Thumbnails* m_thumbnails = nullptr;
+    // The rows that showed their type's picture while their thumbnail was being made.
+    mutable QHash<QString, QList<int>> m_awaitingThumbnails;
     QList<ListColumn> m_columns;
     std::vector<ListItem> m_items;
     std::unique_ptr<ListRowSource> m_source;

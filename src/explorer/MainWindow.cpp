@@ -172,6 +172,7 @@ void MainWindow::buildWindow()
     m_documents->setDragFilesOut(true);
     m_documents->setAcceptFileDrops(true);
     m_related->setAcceptFileDrops(true);
+    buildPreview();
 }
 
 bool MainWindow::fileFound(const QString& path)

@@ -23,6 +23,8 @@ class DocumentFills;
 class ExplorerList;
 class ListModel;
 class NavigationTree;
+class PreviewPane;
+class Thumbnails;
 class RemindersCommand;
 class SearchBox;
 class ShareNotice;
@@ -83,6 +85,8 @@ public:
     ListModel* documentModel() const { return m_documentModel; }
     ListModel* relatedModel() const { return m_relatedModel; }
     SearchBox* searchBox() const { return m_search; }
+    // The preview pane beside the lists (View > Preview Pane).
+    PreviewPane* previewPane() const { return m_preview; }
     // The due reminders: the Go menu's command, the status bar panel, the window.
     RemindersCommand* reminders() const { return m_reminders; }
     // Whether the document list shows the results of a search.
@@ -139,6 +143,7 @@ public Q_SLOTS:
     void viewSmallIcons();
     void viewList();
     void viewDetails();
+    void viewPreviewPane();
     void arrangeByName();
     void arrangeByRegIndex();
     void arrangeByCorrespondent();
@@ -173,6 +178,11 @@ private:
     void buildMenus();
     void buildToolbar();
     void buildPopups();
+    // The preview pane, its thumbnails, and F6 (MainWindowPreview.cpp).
+    void buildPreview();
+    void showPreviewOfSelection();
+    // Moves the focus to the next (or previous) of the tree, the lists and the pane.
+    void cycleFocus(bool forward);
     // At a start on the default register of an installed program, before it exists: offers
     // to create it empty, so that a new user lands in a working program.
     void offerDefaultRegister();
@@ -271,6 +281,9 @@ private:
     QMenu* m_documentMenu = nullptr;
     QMenu* m_categoryMenu = nullptr;
     std::array<Splitter*, 2> m_splitters = {};
+    QSplitter* m_previewSplit = nullptr;
+    PreviewPane* m_preview = nullptr;
+    Thumbnails* m_thumbnails = nullptr;
 };
 
 } // namespace kartella

@@ -177,6 +177,9 @@ void MainWindow::buildMenus()
     for (const char* name : {"mnuLargeIcons", "mnuSmallIcons", "mnuList", "mnuDetails"})
         action(QLatin1String(name))->setCheckable(true);
     action(QStringLiteral("mnuDetails"))->setChecked(true);
+    addCommand(
+        view, QStringLiteral("mnuPreviewPane"), QStringLiteral("Pre&view Pane"), &MainWindow::viewPreviewPane)
+        ->setCheckable(true);
     view->addSeparator()->setObjectName(QStringLiteral("mnuHypen5"));
     QMenu* arrange = view->addMenu(QStringLiteral("Arrange &Icons"));
     arrange->setObjectName(QStringLiteral("mnuArrangeIcons"));
