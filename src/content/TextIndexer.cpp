@@ -1,0 +1,148 @@
+#include "content/TextIndexer.h"
+
+#include "base/Error.h"
+#include "store/engine/Backend.h"
+#include "store/engine/Connection.h"
+#include "store/engine/Value.h"
+
+#include <QDateTime>
+#include <QFileInfo>
+
+namespace kartella {
+
+TextIndexer::TextIndexer(Connection& connection, qint64 limitBytes)
+    : m_connection(connection)
+    , m_limitBytes(limitBytes)
+{ }
+
+FileStamp TextIndexer::currentStamp(const QString& storedPath)
+{
+    const QFileInfo file(storedPath);
+    FileStamp stamp;
+    stamp.path = file.absoluteFilePath();
+    if (file.exists() && file.isFile()) {
+        stamp.size = file.size();
+        stamp.modified = stampTime(file.lastModified());
+    }
+    return stamp;
+}
+
+IndexSummary TextIndexer::run(const Progress& progress)
+{
+    IndexSummary summary;
+    const engine::QueryResult documents = m_connection.backend().query(
+        QStringLiteral("SELECT RastasID, RastoKel FROM tbl_Documents ORDER BY RastasID"));
+    const QHash<qint32, FileStamp> stored = storedFileStamps(m_connection);
+
+    QList<Pending> pending;
+    for (int row = 0; row < documents.rows.rowCount(); ++row) {
+        const qint32 id = qint32(documents.rows.value(row, 0).toLongLong());
+        const QVariant path = documents.rows.value(row, 1);
+        if (isNull(path) || path.toString().trimmed().isEmpty()) {
+            // A document whose file was taken away keeps no text of it.
+            if (stored.contains(id)) {
+                try {
+                    removeDocumentText(m_connection, id);
+                } catch (const Error&) {
+                    // Taken out by the next pass.
+                }
+            }
+            continue;
+        }
+        const FileStamp stamp = currentStamp(path.toString());
+        const auto known = stored.constFind(id);
+        if (known != stored.constEnd() && *known == stamp) {
+            ++summary.unchanged;
+            continue;
+        }
+        pending.append({id, stamp});
+    }
+
+    const int total = int(pending.size());
+    int done = 0;
+    if (progress && !progress(done, total))
+        return summary;
+    QList<Pending> batch;
+    for (const Pending& file : pending) {
+        const QString extension = QFileInfo(file.stamp.path).suffix().toLower();
+        if (convertsInBatches(extension) && file.stamp.size >= 0 && file.stamp.size <= m_limitBytes) {
+            batch.append(file);
+            if (batch.size() >= m_batchSize && !readBatch(batch, summary, done, total, progress))
+                return summary;
+            continue;
+        }
+        store(file, readFileText(file.stamp.path, m_limitBytes), summary);
+        ++done;
+        if (progress && !progress(done, total))
+            return summary;
+    }
+    readBatch(batch, summary, done, total, progress);
+    return summary;
+}
+
+bool TextIndexer::readBatch(
+    QList<Pending>& batch, IndexSummary& summary, int& done, int total, const Progress& progress)
+{
+    if (batch.isEmpty())
+        return true;
+    QStringList paths;
+    for (const Pending& file : batch)
+        paths << file.stamp.path;
+    const QList<FileText> texts = readConvertedTexts(paths);
+    for (qsizetype i = 0; i < batch.size(); ++i)
+        store(batch.at(i), texts.value(i, FileText::failed(TextReason::Damaged)), summary);
+    done += int(batch.size());
+    batch.clear();
+    return !progress || progress(done, total);
+}
+
+void TextIndexer::store(const Pending& file, const FileText& text, IndexSummary& summary)
+{
+    DocumentText row;
+    row.documentId = file.documentId;
+    row.file = file.stamp;
+    row.state = text.state;
+    row.reason = text.reason;
+    row.body = text.state == TextState::Read ? text.body : QString();
+    row.readAt = stampTime(QDateTime::currentDateTimeUtc());
+    try {
+        storeDocumentText(m_connection, row);
+    } catch (const Error& error) {
+        // The register refused this row (busy, or a server gone for a moment): the next pass
+        // reads the file again, since its row still has the old stamp.
+        ++summary.failed;
+        ++summary.failures[error.description()];
+        return;
+    }
+    switch (text.state) {
+    case TextState::Read:
+        ++summary.read;
+        break;
+    case TextState::NoText:
+        ++summary.noText;
+        break;
+    case TextState::NeedsOcr:
+        ++summary.needsOcr;
+        break;
+    case TextState::Failed:
+    case TextState::NotRead:
+        ++summary.failed;
+        ++summary.failures[text.reason];
+        break;
+    }
+}
+
+QString groupedNumber(qint64 number)
+{
+    QString digits = QString::number(number < 0 ? -number : number);
+    for (qsizetype at = digits.size() - 3; at > 0; at -= 3)
+        digits.insert(at, u' ');
+    return number < 0 ? u'-' + digits : digits;
+}
+
+QString readingProgressText(int done, int total)
+{
+    return QStringLiteral("Reading files: %1 of %2").arg(groupedNumber(done), groupedNumber(total));
+}
+
+} // namespace kartella
