@@ -35,12 +35,15 @@ QString walkXml(const QByteArray& xml, const XmlWalk& walk)
     QXmlStreamReader reader(xml);
     QString out;
     int textDepth = 0;
+    int cellDepth = 0;
     while (!reader.atEnd()) {
         switch (reader.readNext()) {
         case QXmlStreamReader::StartElement: {
             const QString name = reader.name().toString();
             if (walk.textIn.contains(name))
                 ++textDepth;
+            if (walk.spaceAfter.contains(name))
+                ++cellDepth;
             if (walk.spaceAt.contains(name))
                 out += u' ';
             break;
@@ -49,10 +52,14 @@ QString walkXml(const QByteArray& xml, const XmlWalk& walk)
             const QString name = reader.name().toString();
             if (walk.textIn.contains(name))
                 --textDepth;
-            if (walk.newLineAfter.contains(name))
-                out += u'\n';
-            else if (walk.spaceAfter.contains(name))
+            if (walk.spaceAfter.contains(name)) {
+                --cellDepth;
+                while (!out.isEmpty() && out.back().isSpace())
+                    out.chop(1);
                 out += u'\t';
+            } else if (walk.newLineAfter.contains(name))
+                // The paragraphs of a cell run on in one line: a line is a row.
+                out += cellDepth > 0 ? u' ' : u'\n';
             break;
         }
         case QXmlStreamReader::Characters:
@@ -142,7 +149,7 @@ QString presentationText(zip_t* archive)
     QString out;
     for (const QString& name : numberedEntries(archive, QStringLiteral("ppt/slides/slide"))) {
         if (const auto slide = entry(archive, name))
-            out += walkXml(*slide, walk) + u'\n';
+            out += walkXml(*slide, walk);
     }
     return out;
 }
