@@ -2,6 +2,8 @@
 #include "content/ReadingQueue.h"
 #include "content/TextIndexer.h"
 #include "explorer/ContentProgress.h"
+#include "explorer/MainWindow.h"
+#include "harness/ScriptedPrompter.h"
 #include "harness/TestRegister.h"
 #include "registration/DocumentDetailsDialog.h"
 #include "store/engine/Connection.h"
@@ -35,6 +37,7 @@ class ProgressTest : public QObject
 
 private Q_SLOTS:
     void statusBarShowsTheFilesBeingRead();
+    void mainWindowReadsTheFilesOfTheRegisterItOpens();
     void detailsTellWhetherTheFileWasRead();
     void toolIndexesWithAProgressLineAndASummary();
 };
@@ -61,6 +64,21 @@ void ProgressTest::statusBarShowsTheFilesBeingRead()
         (QStringList {"Reading files: 0 of 3", "Reading files: 1 of 3", "Reading files: 2 of 3", QString()}));
     QVERIFY(!panel->isVisibleTo(&window));
     QCOMPARE(reg.scalar(QStringLiteral("SELECT COUNT(*) FROM tbl_Document_Text WHERE State=1")).toInt(), 3);
+}
+
+void ProgressTest::mainWindowReadsTheFilesOfTheRegisterItOpens()
+{
+    TestRegister reg;
+    writeBytes(reg.dir() + QStringLiteral("/note.txt"), "Pastaba apie \xC5\xA0iaulius");
+    const qint32 id = addDocument(reg, reg.dir() + QStringLiteral("/note.txt"));
+    ScriptedPrompter prompter;
+    MainWindow window;
+    window.show();
+    window.load();
+    QVERIFY(window.statusBar()->findChild<QLabel*>(QStringLiteral("pnReadingFiles")));
+    QTRY_COMPARE_WITH_TIMEOUT(reg.scalar(QStringLiteral("SELECT Body FROM tbl_Document_Text WHERE RastasID=")
+                                  + QString::number(id)),
+        QVariant(QStringLiteral("Pastaba apie Šiaulius")), 10000);
 }
 
 void ProgressTest::detailsTellWhetherTheFileWasRead()
