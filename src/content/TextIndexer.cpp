@@ -8,6 +8,8 @@
 #include <QDateTime>
 #include <QFileInfo>
 
+#include <utility>
+
 namespace kartella {
 
 TextIndexer::TextIndexer(Connection& connection, qint64 limitBytes)
@@ -67,16 +69,21 @@ IndexSummary TextIndexer::run(const Progress& progress)
         const QString extension = QFileInfo(file.stamp.path).suffix().toLower();
         if (convertsInBatches(extension) && file.stamp.size >= 0 && file.stamp.size <= m_limitBytes) {
             batch.append(file);
-            if (batch.size() >= m_batchSize && !readBatch(batch, summary, done, total, progress))
+            if (batch.size() >= m_batchSize && !readBatch(batch, summary, done, total, progress)) {
+                writeCollected(summary);
                 return summary;
+            }
             continue;
         }
-        store(file, readFileText(file.stamp.path, m_limitBytes), summary);
+        collect(file, readFileText(file.stamp.path, m_limitBytes), summary);
         ++done;
-        if (progress && !progress(done, total))
+        if (progress && !progress(done, total)) {
+            writeCollected(summary);
             return summary;
+        }
     }
     readBatch(batch, summary, done, total, progress);
+    writeCollected(summary);
     return summary;
 }
 
@@ -90,13 +97,13 @@ bool TextIndexer::readBatch(
         paths << file.stamp.path;
     const QList<FileText> texts = readConvertedTexts(paths);
     for (qsizetype i = 0; i < batch.size(); ++i)
-        store(batch.at(i), texts.value(i, FileText::failed(TextReason::Damaged)), summary);
+        collect(batch.at(i), texts.value(i, FileText::failed(TextReason::Damaged)), summary);
     done += int(batch.size());
     batch.clear();
     return !progress || progress(done, total);
 }
 
-void TextIndexer::store(const Pending& file, const FileText& text, IndexSummary& summary)
+void TextIndexer::collect(const Pending& file, const FileText& text, IndexSummary& summary)
 {
     DocumentText row;
     row.documentId = file.documentId;
@@ -105,16 +112,18 @@ void TextIndexer::store(const Pending& file, const FileText& text, IndexSummary&
     row.reason = text.reason;
     row.body = text.state == TextState::Read ? text.body : QString();
     row.readAt = stampTime(QDateTime::currentDateTimeUtc());
-    try {
-        storeDocumentText(m_connection, row);
-    } catch (const Error& error) {
-        // The register refused this row (busy, or a server gone for a moment): the next pass
-        // reads the file again, since its row still has the old stamp.
-        ++summary.failed;
-        ++summary.failures[error.description()];
-        return;
-    }
-    switch (text.state) {
+    if (m_unwritten.isEmpty())
+        m_sinceFirstUnwritten.start();
+    m_unwritten.append(row);
+    if (m_unwritten.size() >= WriteBatchFiles || m_sinceFirstUnwritten.elapsed() >= WriteBatchMs)
+        writeCollected(summary);
+}
+
+namespace {
+
+void count(const DocumentText& row, IndexSummary& summary)
+{
+    switch (row.state) {
     case TextState::Read:
         ++summary.read;
         break;
@@ -127,8 +136,36 @@ void TextIndexer::store(const Pending& file, const FileText& text, IndexSummary&
     case TextState::Failed:
     case TextState::NotRead:
         ++summary.failed;
-        ++summary.failures[text.reason];
+        ++summary.failures[row.reason];
         break;
+    }
+}
+
+} // namespace
+
+void TextIndexer::writeCollected(IndexSummary& summary)
+{
+    if (m_unwritten.isEmpty())
+        return;
+    const QList<DocumentText> rows = std::exchange(m_unwritten, {});
+    try {
+        storeDocumentTexts(m_connection, rows);
+        for (const DocumentText& row : rows)
+            count(row, summary);
+        return;
+    } catch (const Error&) {
+        // One row the register refuses must not cost the others theirs: each on its own.
+    }
+    for (const DocumentText& row : rows) {
+        try {
+            storeDocumentText(m_connection, row);
+            count(row, summary);
+        } catch (const Error& error) {
+            // The register refused this row (busy, or a server gone for a moment): the next
+            // pass reads the file again, since its row still has the old stamp.
+            ++summary.failed;
+            ++summary.failures[error.description()];
+        }
     }
 }
 

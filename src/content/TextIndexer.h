@@ -3,6 +3,8 @@
 #include "content/FileText.h"
 #include "content/TextStore.h"
 
+#include <QElapsedTimer>
+#include <QList>
 #include <QMap>
 #include <QString>
 
@@ -27,11 +29,13 @@ struct IndexSummary
 
 // One pass over the documents of a register that name a file: each file whose path, size
 // or modification time differs from what its row holds (or that has no row) is read and
-// its row written, each in its own short transaction, so that a pass that stops (a
-// cancel, a crash, the end of the program) is taken up where it stopped by the next one and
-// other writers are never kept waiting long. A file that can't be read is recorded with its
-// reason; nothing stops the pass but a cancel. The old binary presentations are gathered
-// and converted in batches.
+// its row written. The rows are written in short transactions of their own, a few files
+// at a time (at most WriteBatchFiles, or what was read in WriteBatchMs), the files read
+// before the transaction begins: so a pass that stops (a cancel, a crash, the end of the
+// program) is taken up by the next one where it stopped, other writers never wait longer
+// than a few inserts take, and a register file isn't flushed to disk once for every file. A file that can't
+// be read is recorded with its reason; nothing stops the pass but a cancel. The old binary presentations are
+// gathered and converted in batches.
 //
 // A document's stored path is taken as the program opens it: relative to the current folder
 // when it isn't absolute.
@@ -40,6 +44,9 @@ class TextIndexer
 public:
     // Called after each file (done of total); returning false cancels the pass.
     using Progress = std::function<bool(int done, int total)>;
+
+    static constexpr int WriteBatchFiles = 25;
+    static constexpr qint64 WriteBatchMs = 250;
 
     TextIndexer(Connection& connection, qint64 limitBytes);
 
@@ -59,13 +66,17 @@ private:
         qint32 documentId;
         FileStamp stamp;
     };
-    void store(const Pending& file, const FileText& text, IndexSummary& summary);
+    void collect(const Pending& file, const FileText& text, IndexSummary& summary);
+    void writeCollected(IndexSummary& summary);
     bool readBatch(
         QList<Pending>& batch, IndexSummary& summary, int& done, int total, const Progress& progress);
 
     Connection& m_connection;
     qint64 m_limitBytes;
     int m_batchSize = 50;
+    // Read and not yet written, with the outcome each counts as once written.
+    QList<DocumentText> m_unwritten;
+    QElapsedTimer m_sinceFirstUnwritten;
 };
 
 // A count with its thousands set apart by a space, as the progress shows it: "3 400".

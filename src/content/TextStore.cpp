@@ -33,7 +33,9 @@ QString stampTime(const QDateTime& time)
     return time.isValid() ? time.toUTC().toString(Qt::ISODateWithMs) : QString();
 }
 
-void storeDocumentText(Connection& connection, const DocumentText& text)
+namespace {
+
+void writeDocumentText(Connection& connection, const DocumentText& text)
 {
     const QString id = QString::number(text.documentId);
     // Selected from the document's own row, so that a document deleted meanwhile gets no
@@ -44,10 +46,23 @@ void storeDocumentText(Connection& connection, const DocumentText& text)
         + sqlString(text.file.modified) + u',' + QString::number(int(text.state)) + u','
         + sqlString(storable(text.reason)) + u',' + sqlString(storable(text.body)) + u','
         + sqlString(text.readAt) + QStringLiteral(" FROM tbl_Documents WHERE RastasID=") + id;
+    connection.execute(QStringLiteral("DELETE FROM tbl_Document_Text WHERE RastasID=") + id);
+    connection.execute(insert);
+}
+
+} // namespace
+
+void storeDocumentText(Connection& connection, const DocumentText& text)
+{
+    storeDocumentTexts(connection, {text});
+}
+
+void storeDocumentTexts(Connection& connection, const QList<DocumentText>& texts)
+{
     connection.beginTrans();
     try {
-        connection.execute(QStringLiteral("DELETE FROM tbl_Document_Text WHERE RastasID=") + id);
-        connection.execute(insert);
+        for (const DocumentText& text : texts)
+            writeDocumentText(connection, text);
         connection.commitTrans();
     } catch (...) {
         connection.rollbackTrans();

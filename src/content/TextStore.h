@@ -62,6 +62,9 @@ struct DocumentText
 // was. A document that is gone meanwhile gets no row. Throws kartella::Error.
 void storeDocumentText(Connection& connection, const DocumentText& text);
 
+// Writes the rows of several documents in one transaction: all of them, or none.
+void storeDocumentTexts(Connection& connection, const QList<DocumentText>& texts);
+
 // The row of a document, with its body when withBody; nothing when it has none.
 std::optional<DocumentText> storedDocumentText(
     Connection& connection, qint32 documentId, bool withBody = true);
