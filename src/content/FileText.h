@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 namespace kartella {
 
 // What reading one file gave: its text, or the state and reason why there is none.
@@ -42,8 +44,10 @@ FileText readMailText(const QString& path);
 // The old binary formats that LibreOffice converts first, many files in one call.
 bool convertsInBatches(const QString& extension);
 // Reads each of paths (all of a kind convertsInBatches accepts) through one LibreOffice
-// call; the results are in the order of paths. timeoutMs bounds the whole call.
-QList<FileText> readConvertedTexts(const QStringList& paths, int timeoutMs = 10 * 60 * 1000);
+// call; the results are in the order of paths. timeoutMs bounds the whole call; cancelled,
+// asked every tenth of a second, stops LibreOffice early (the files then come back Failed).
+QList<FileText> readConvertedTexts(
+    const QStringList& paths, int timeoutMs = 10 * 60 * 1000, const std::function<bool()>& cancelled = {});
 
 // The reader for a file by its extension: any file, existing or not, larger than limitBytes
 // or not, gives a result (a kind we have no reader for: NoText). Kinds convertsInBatches

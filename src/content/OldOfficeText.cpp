@@ -9,6 +9,7 @@
 #include "content/FileText.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
@@ -22,7 +23,8 @@ namespace {
 constexpr int ToolTimeoutMs = 60 * 1000;
 
 // Runs a program to its end; its standard output, or nothing when it failed or ran over.
-std::optional<QByteArray> runTool(const QString& program, const QStringList& arguments, int timeoutMs)
+std::optional<QByteArray> runTool(const QString& program, const QStringList& arguments, int timeoutMs,
+    const std::function<bool()>& cancelled = {})
 {
     QProcess process;
     process.setProgram(program);
@@ -31,10 +33,16 @@ std::optional<QByteArray> runTool(const QString& program, const QStringList& arg
     process.start();
     if (!process.waitForStarted())
         return std::nullopt;
-    if (!process.waitForFinished(timeoutMs)) {
-        process.kill();
-        process.waitForFinished();
-        return std::nullopt;
+    QElapsedTimer running;
+    running.start();
+    while (!process.waitForFinished(100)) {
+        if (process.state() == QProcess::NotRunning)
+            break;
+        if (running.elapsed() >= timeoutMs || (cancelled && cancelled())) {
+            process.kill();
+            process.waitForFinished();
+            return std::nullopt;
+        }
     }
     if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
         return std::nullopt;
@@ -66,7 +74,8 @@ bool convertsInBatches(const QString& extension)
     return extension == QLatin1String("ppt");
 }
 
-QList<FileText> readConvertedTexts(const QStringList& paths, int timeoutMs)
+QList<FileText> readConvertedTexts(
+    const QStringList& paths, int timeoutMs, const std::function<bool()>& cancelled)
 {
     QList<FileText> results;
     const QString program = QStandardPaths::findExecutable(QStringLiteral("soffice"));
@@ -96,7 +105,7 @@ QList<FileText> readConvertedTexts(const QStringList& paths, int timeoutMs)
                   + QUrl::fromLocalFile(work.filePath(QStringLiteral("profile"))).toString(),
               QStringLiteral("--convert-to"), QStringLiteral("pptx"), QStringLiteral("--outdir"), out.path()}
         + inputs;
-    runTool(program, arguments, timeoutMs);
+    runTool(program, arguments, timeoutMs, cancelled);
     for (qsizetype i = 0; i < paths.size(); ++i) {
         const QString converted = out.filePath(QString::number(i) + QStringLiteral(".pptx"));
         results << (QFileInfo::exists(converted) ? readOfficeXmlText(converted, QStringLiteral("pptx"))

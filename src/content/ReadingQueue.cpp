@@ -30,6 +30,7 @@ void ReadingWorker::scan()
             m_connection->open(m_connectionString);
         }
         TextIndexer indexer(*m_connection, m_limitBytes);
+        indexer.setCancelCheck([this] { return bool(*m_cancelled); });
         const IndexSummary summary = indexer.run([this](int done, int total) {
             Q_EMIT progress(done, total);
             return !*m_cancelled;

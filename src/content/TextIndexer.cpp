@@ -95,7 +95,10 @@ bool TextIndexer::readBatch(
     QStringList paths;
     for (const Pending& file : batch)
         paths << file.stamp.path;
-    const QList<FileText> texts = readConvertedTexts(paths);
+    const QList<FileText> texts = readConvertedTexts(paths, 10 * 60 * 1000, m_cancelled);
+    // A conversion stopped by a cancel read nothing: the files stay for the next pass.
+    if (m_cancelled && m_cancelled())
+        return false;
     for (qsizetype i = 0; i < batch.size(); ++i)
         collect(batch.at(i), texts.value(i, FileText::failed(TextReason::Damaged)), summary);
     done += int(batch.size());

@@ -51,6 +51,8 @@ public:
     TextIndexer(Connection& connection, qint64 limitBytes);
 
     void setBatchSize(int files) { m_batchSize = files; }
+    // Asked while LibreOffice converts a batch, so that a cancel needn't wait for it.
+    void setCancelCheck(std::function<bool()> cancelled) { m_cancelled = std::move(cancelled); }
 
     // Reads what changed; returns what the pass did. Throws kartella::Error only when the
     // documents can't be listed at all.
@@ -74,6 +76,7 @@ private:
     Connection& m_connection;
     qint64 m_limitBytes;
     int m_batchSize = 50;
+    std::function<bool()> m_cancelled;
     // Read and not yet written, with the outcome each counts as once written.
     QList<DocumentText> m_unwritten;
     QElapsedTimer m_sinceFirstUnwritten;

@@ -7,6 +7,7 @@
 #include "store/engine/Connection.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -96,6 +97,7 @@ private Q_SLOTS:
     void readsAgainOnlyWhatChanged_data();
     void readsAgainOnlyWhatChanged();
     void aCancelledPassIsTakenUpWhereItStopped();
+    void aCancelDuringAConversionLeavesItsFilesUnread();
     void queueReadsInTheBackgroundAndPicksUpNewDocuments();
     void progressGroupsThousandsWithASpace_data();
     void progressGroupsThousandsWithASpace();
@@ -223,6 +225,28 @@ void IndexerTest::aCancelledPassIsTakenUpWhereItStopped()
     QCOMPARE(progress.first(), qMakePair(0, 4));
     QCOMPARE(progress.last(), qMakePair(4, 4));
     QCOMPARE(fixture->rowCount(), 6);
+}
+
+void IndexerTest::aCancelDuringAConversionLeavesItsFilesUnread()
+{
+    if (!hasLibreOffice())
+        QSKIP("LibreOffice (soffice) is not installed: there is no conversion to cancel");
+    TestRegister reg;
+    for (const QString name : {"a.ppt", "b.ppt"}) {
+        writeBytes(reg.dir() + u'/' + name, "\xD0\xCF\x11\xE0 slides");
+        reg.insert(QStringLiteral("tbl_Documents"),
+            {{QStringLiteral("RastoKel"), QString(reg.dir() + u'/' + name)}});
+    }
+    Connection connection(reg.connectionString());
+    connection.open();
+    TextIndexer indexer(connection, Limit);
+    QElapsedTimer clock;
+    clock.start();
+    indexer.setCancelCheck([&clock] { return clock.elapsed() > 200; });
+    const IndexSummary summary = indexer.run();
+    QCOMPARE(summary.total(), 0);
+    QCOMPARE(reg.scalar(QStringLiteral("SELECT COUNT(*) FROM tbl_Document_Text")).toInt(), 0);
+    QVERIFY2(clock.elapsed() < 5000, "the conversion was waited for");
 }
 
 void IndexerTest::queueReadsInTheBackgroundAndPicksUpNewDocuments()
