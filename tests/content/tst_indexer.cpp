@@ -274,7 +274,7 @@ void IndexerTest::progressGroupsThousandsWithASpace_data()
     QTest::addColumn<int>("done");
     QTest::addColumn<int>("total");
     QTest::addColumn<QString>("text");
-    QTest::newRow("issue's example") << 120 << 3400 << "Reading files: 120 of 3 400";
+    QTest::newRow("thousands") << 120 << 3400 << "Reading files: 120 of 3 400";
     QTest::newRow("none") << 0 << 0 << "Reading files: 0 of 0";
     QTest::newRow("999 and 1000") << 999 << 1000 << "Reading files: 999 of 1 000";
     QTest::newRow("millions") << 1234567 << 10000000 << "Reading files: 1 234 567 of 10 000 000";
