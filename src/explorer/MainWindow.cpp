@@ -3,6 +3,7 @@
 #include "base/Error.h"
 #include "dialogs/MissingRegister.h"
 #include "dialogs/SettingsStore.h"
+#include "explorer/ContentProgress.h"
 #include "explorer/DocumentFills.h"
 #include "explorer/DocumentQueries.h"
 #include "explorer/ExplorerList.h"
@@ -147,6 +148,7 @@ void MainWindow::buildWindow()
     buildToolbar();
     buildPopups();
     m_reminders = new RemindersCommand(this);
+    m_contentProgress = new ContentProgress(this);
     registerDialogs();
     restoreLayout();
 
@@ -263,6 +265,7 @@ void MainWindow::load()
     else
         fillCategoryTree();
     m_reminders->showAtStart();
+    m_contentProgress->start(location);
 }
 
 int MainWindow::direction() const

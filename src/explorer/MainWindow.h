@@ -18,6 +18,7 @@ class QTreeWidgetItem;
 namespace kartella {
 
 class Connection;
+class ContentProgress;
 class Splitter;
 class DocumentFills;
 class ExplorerList;
@@ -267,6 +268,7 @@ private:
     std::unique_ptr<DocumentFills> m_fills;
     SearchBox* m_search = nullptr;
     RemindersCommand* m_reminders = nullptr;
+    ContentProgress* m_contentProgress = nullptr; // reads the register's files in the background
     QString m_searchText;
     QString m_titleBeforeSearch;
     bool m_searchWithinDates = false;

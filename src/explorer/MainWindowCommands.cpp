@@ -1,6 +1,7 @@
 // MainWindow: the commands that act by themselves, and the ones that open a dialog.
 #include "base/Error.h"
 #include "dialogs/SettingsStore.h"
+#include "explorer/ContentProgress.h"
 #include "explorer/DocumentFills.h"
 #include "explorer/ExplorerList.h"
 #include "explorer/IconCache.h"
@@ -164,6 +165,7 @@ void MainWindow::refresh()
 void MainWindow::leaveRegister(const QString& location)
 {
     m_shownRegister = location;
+    m_contentProgress->start(location);
     leaveSearch();
     m_documentModel->clear();
     m_relatedModel->clear();

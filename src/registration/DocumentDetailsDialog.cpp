@@ -1,4 +1,5 @@
 #include "registration/DocumentDetailsDialog.h"
+#include "registration/FileTextStatus.h"
 
 #include "base/Error.h"
 #include "options/OptionStore.h"
@@ -246,7 +247,8 @@ QWidget* DocumentDetailsDialog::buildGeneralTab()
     layout->addWidget(dates, 3, 0, 2, 3);
     layout->addWidget(categories, 3, 3);
     layout->addWidget(direction, 4, 3);
-    layout->setRowStretch(5, 1);
+    layout->addWidget(new FileTextStatus(m_documentId, page), 5, 0, 1, 4);
+    layout->setRowStretch(6, 1);
     return page;
 }
 

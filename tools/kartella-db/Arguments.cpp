@@ -43,6 +43,7 @@ QString usageText()
                           "       kartella-db report NAME PATH.pdf [--register FILE] [--previous-month] [--overwrite]\n"
                           "       kartella-db import PATH FILE [--codepage NAME]\n"
                           "       kartella-db search PATH WORD...\n"
+                          "       kartella-db index PATH\n"
                           "       kartella-db --help\n"
                           "\n"
                           "  create   makes a new, empty register at LOCATION: a file (an existing file\n"
@@ -69,6 +70,9 @@ QString usageText()
                           "  search   prints the documents of the register at PATH that hold every WORD\n"
                           "           (in description, index, notes, contact or file path; case and\n"
                           "           accents aside): index, date and description, tab-separated\n"
+                          "  index    reads the text of the files of the documents of the register at\n"
+                          "           PATH that are new or changed since they were last read, showing\n"
+                          "           its progress, then counts the files read and those skipped, and why\n"
                           "\n"
                           "Every register named (LOCATION, FROM, TO, NEW, the register's PATH or FILE)\n"
                           "is a file or a database on a PostgreSQL server, written\n"
@@ -107,6 +111,8 @@ std::optional<Invocation> parseArguments(const QStringList& arguments, QString& 
         invocation.command = Invocation::Command::Import;
     else if (command == u"copy")
         invocation.command = Invocation::Command::Copy;
+    else if (command == u"index")
+        invocation.command = Invocation::Command::Index;
     else if (command == u"search")
         return parseSearch(arguments, problem);
     else {

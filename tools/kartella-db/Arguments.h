@@ -10,7 +10,7 @@ namespace kartella::tool {
 // One call of the tool, as read from its command line.
 struct Invocation
 {
-    enum class Command { Help, Create, Sample, Info, Upgrade, Migrate, Import, Search, Copy };
+    enum class Command { Help, Create, Sample, Info, Upgrade, Migrate, Import, Search, Copy, Index };
     Command command = Command::Help;
     QString path;
     QStringList words; // search

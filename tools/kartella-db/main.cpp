@@ -3,6 +3,7 @@
 #include "Commands.h"
 #include "CopyCommand.h"
 #include "Import.h"
+#include "IndexCommand.h"
 #include "Migrate.h"
 #include "ReportCommand.h"
 #include "SearchCommand.h"
@@ -58,6 +59,11 @@ int run(const Invocation& invocation)
     case Invocation::Command::Search:
         searchCommand(invocation.path, invocation.words, out);
         break;
+    case Invocation::Command::Index: {
+        QTextStream err(stderr);
+        indexCommand(invocation.path, out, err);
+        break;
+    }
     case Invocation::Command::Copy: {
         QTextStream err(stderr);
         return copyCommand(invocation.path, invocation.target, out, err);

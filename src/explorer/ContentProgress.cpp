@@ -1,0 +1,56 @@
+#include "explorer/ContentProgress.h"
+
+#include "content/ReadingQueue.h"
+#include "options/OptionStore.h"
+#include "options/TextOptions.h"
+#include "store/Store.h"
+
+#include <QLabel>
+#include <QMainWindow>
+#include <QStatusBar>
+
+namespace kartella {
+
+ContentProgress::ContentProgress(QMainWindow* window)
+    : QObject(window)
+    , m_queue(new ReadingQueue(this))
+{
+    m_panel = new QLabel(window->statusBar());
+    m_panel->setObjectName(QStringLiteral("pnReadingFiles"));
+    m_panel->setToolTip(QStringLiteral("The text of the documents' files being read for the search"));
+    m_panel->hide();
+    window->statusBar()->addPermanentWidget(m_panel);
+    connect(m_queue, &ReadingQueue::progress, this, &ContentProgress::showProgress);
+    connect(m_queue, &ReadingQueue::finished, m_panel, &QLabel::hide);
+    connect(m_queue, &ReadingQueue::failed, m_panel, &QLabel::hide);
+}
+
+ContentProgress::~ContentProgress() = default;
+
+void ContentProgress::start(const QString& location)
+{
+    stop();
+    if (location.trimmed().isEmpty())
+        return;
+    const QString provider
+        = readRegValue(Hive::CurrentUser, optionsKeyPath(), QStringLiteral("Provider"), {});
+    m_queue->start(plainConnectionString(provider, location), textSizeLimitBytes());
+}
+
+void ContentProgress::stop()
+{
+    m_queue->stop();
+    m_panel->hide();
+}
+
+void ContentProgress::showProgress(int done, int total)
+{
+    if (total == 0 || done >= total) {
+        m_panel->hide();
+        return;
+    }
+    m_panel->setText(readingProgressText(done, total));
+    m_panel->show();
+}
+
+} // namespace kartella
