@@ -96,7 +96,7 @@ void DocumentFills::fill(const QString& sql, Mode mode, qint16 letterCode, const
     if (mode == Mode::Contact)
         setContactColumns();
     else
-        setDocumentColumns(!ranking.key.isEmpty());
+        setDocumentColumns(pages->hasPassages());
     const int count = pages->count();
     m_model.setSource(std::move(pages));
     if (setCount)

@@ -29,8 +29,7 @@ public:
     // The fills throw kartella::Error when the query fails; the list then stays as it was.
     void fillDocumentList(const QString& sql);
     // The results of a search (searchListSql's query): ranked, and with a column of the
-    // passages of the files' texts where the ranking has ranks (the register indexes its
-    // files' text).
+    // passages of the files' texts when a document's file holds a term.
     void fillSearchList(const QString& sql, const SearchRanking& ranking, const QList<SearchTerm>& terms);
     void fillLetterList(const QString& sql, qint16 letterCode);
     void fillContactDocumentList(const QString& sql);

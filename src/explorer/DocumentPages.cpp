@@ -50,7 +50,12 @@ int DocumentPages::pageSize()
 void DocumentPages::setSearch(const SearchRanking& ranking, const QList<SearchTerm>& terms)
 {
     m_paging.setRanking(ranking.join, ranking.key);
-    if (!ranking.key.isEmpty())
+    m_passageTerms.clear();
+    if (ranking.anyHit.isEmpty())
+        return;
+    Recordset rs;
+    rs.open(ranking.anyHit, *m_connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
+    if (!rs.eof())
         m_passageTerms = terms;
 }
 

@@ -33,6 +33,8 @@ public:
     // with the passage of its file's text around the first term found there (the fifth
     // column after the first). Before the first row is read.
     void setSearch(const SearchRanking& ranking, const QList<SearchTerm>& terms);
+    // Whether a document's file's text holds a term of the search: the list has passages.
+    bool hasPassages() const { return !m_passageTerms.isEmpty(); }
 
     // Whether the list query has rows before the letter's or the contact's condition.
     bool queryHasRows();

@@ -216,12 +216,17 @@ SearchRanking searchRanking(const QList<SearchTerm>& terms, const SearchIndexes&
                              "MATCH %2) AS hits ON hits.hit_id = tbl_Documents.RastasID")
                   .arg(table, sqlString(queries.join(QStringLiteral(" OR "))));
         ranking.key = QStringLiteral("coalesce(hits.hit_rank, julianday(tbl_Documents.DokRegistracData), 0)");
+        ranking.anyHit = QStringLiteral("SELECT rowid AS hit_id FROM %1 WHERE %1 MATCH %2 LIMIT 1")
+                             .arg(table, sqlString(queries.join(QStringLiteral(" OR "))));
     } else {
         const QString query = u'(' + queries.join(QStringLiteral(" || ")) + u')';
         ranking.join
             = QStringLiteral(" LEFT JOIN (SELECT RastasID AS hit_id, CAST(-1 - ts_rank(BodyWords, %1) AS "
                              "double precision) AS hit_rank FROM tbl_Document_Text WHERE BodyWords @@ %1) "
                              "AS hits ON hits.hit_id = tbl_Documents.RastasID")
+                  .arg(query);
+        ranking.anyHit
+            = QStringLiteral("SELECT RastasID AS hit_id FROM tbl_Document_Text WHERE BodyWords @@ %1 LIMIT 1")
                   .arg(query);
         ranking.key = QStringLiteral("coalesce(hits.hit_rank, CAST(tbl_Documents.DokRegistracData - DATE "
                                      "'0001-01-01' AS double precision), 0)");

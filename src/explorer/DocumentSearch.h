@@ -66,6 +66,8 @@ struct SearchRanking
 {
     QString join;
     QString key;
+    // A query of one row at most: a document whose file's text holds a term.
+    QString anyHit;
 };
 
 SearchRanking searchRanking(const QList<SearchTerm>& terms, const SearchIndexes& indexes);
