@@ -8,6 +8,7 @@ namespace kartella {
 
 const QString DocumentFills::EmptyKey = QStringLiteral("Empty");
 const QString DocumentFills::EmptyText = QStringLiteral("There aren't any data to display!");
+const QString DocumentFills::PassageCaption = QStringLiteral("Found in the file");
 
 DocumentFills::DocumentFills(ListModel& model, SelectionState& selection)
     : m_model(model)
@@ -24,11 +25,14 @@ qint32 DocumentFills::idOfKey(const QString& key)
     return key.mid(1).trimmed().toInt();
 }
 
-void DocumentFills::setDocumentColumns()
+void DocumentFills::setDocumentColumns(bool withPassages)
 {
-    m_model.setColumns({{QStringLiteral("Doc. description"), 2000}, {QStringLiteral("Reg.index"), 1300},
-        {QStringLiteral("Sender/Receiver"), 1800}, {QStringLiteral("Date"), 1500, true},
-        {QStringLiteral("Notes"), 2000}});
+    QList<ListColumn> columns {{QStringLiteral("Doc. description"), 2000},
+        {QStringLiteral("Reg.index"), 1300}, {QStringLiteral("Sender/Receiver"), 1800},
+        {QStringLiteral("Date"), 1500, true}, {QStringLiteral("Notes"), 2000}};
+    if (withPassages)
+        columns.append({PassageCaption, 5000});
+    m_model.setColumns(columns);
 }
 
 void DocumentFills::setContactColumns()
@@ -59,6 +63,12 @@ void DocumentFills::fillDocumentList(const QString& sql)
     fill(sql, Mode::Category, 0);
 }
 
+void DocumentFills::fillSearchList(
+    const QString& sql, const SearchRanking& ranking, const QList<SearchTerm>& terms)
+{
+    fill(sql, Mode::Category, 0, ranking, terms);
+}
+
 void DocumentFills::fillLetterList(const QString& sql, qint16 letterCode)
 {
     fill(sql, Mode::Letter, letterCode);
@@ -69,7 +79,8 @@ void DocumentFills::fillContactDocumentList(const QString& sql)
     fill(sql, Mode::Contact, 0);
 }
 
-void DocumentFills::fill(const QString& sql, Mode mode, qint16 letterCode)
+void DocumentFills::fill(const QString& sql, Mode mode, qint16 letterCode, const SearchRanking& ranking,
+    const QList<SearchTerm>& terms)
 {
     const DocumentPaging::Mode paging = mode == Mode::Category
         ? DocumentPaging::Mode::Category
@@ -77,6 +88,7 @@ void DocumentFills::fill(const QString& sql, Mode mode, qint16 letterCode)
     // Counting first: a query that fails leaves the list as it was.
     auto pages = std::make_unique<DocumentPages>(
         sql, paging, m_selection.currentContactId, QChar(char16_t(letterCode)));
+    pages->setSearch(ranking, terms);
     if (!pages->queryHasRows()) {
         showEmptyList();
         return;
@@ -84,7 +96,7 @@ void DocumentFills::fill(const QString& sql, Mode mode, qint16 letterCode)
     if (mode == Mode::Contact)
         setContactColumns();
     else
-        setDocumentColumns();
+        setDocumentColumns(pages->hasPassages());
     const int count = pages->count();
     m_model.setSource(std::move(pages));
     if (setCount)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "explorer/DocumentSearch.h"
 #include "explorer/ListModel.h"
 
 #include <QString>
@@ -27,15 +28,19 @@ public:
 
     // The fills throw kartella::Error when the query fails; the list then stays as it was.
     void fillDocumentList(const QString& sql);
+    // The results of a search (searchListSql's query): ranked, and with a column of the
+    // passages of the files' texts when a document's file holds a term.
+    void fillSearchList(const QString& sql, const SearchRanking& ranking, const QList<SearchTerm>& terms);
     void fillLetterList(const QString& sql, qint16 letterCode);
     void fillContactDocumentList(const QString& sql);
     void showEmptyList();
 
-    void setDocumentColumns();
+    void setDocumentColumns(bool withPassages = false);
     void setContactColumns();
 
     static const QString EmptyKey; // "Empty"
     static const QString EmptyText; // "There aren't any data to display!"
+    static const QString PassageCaption; // "Found in the file"
     // The key of a list item: "a" and the id with one leading blank.
     static QString itemKey(qint32 id);
     // The id in an item key, read from its second character on; 0 when there is none.
@@ -43,7 +48,8 @@ public:
 
 private:
     enum class Mode { Category, Letter, Contact };
-    void fill(const QString& sql, Mode mode, qint16 letterCode);
+    void fill(const QString& sql, Mode mode, qint16 letterCode, const SearchRanking& ranking = {},
+        const QList<SearchTerm>& terms = {});
 
     ListModel& m_model;
     SelectionState& m_selection;

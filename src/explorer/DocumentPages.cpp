@@ -47,6 +47,34 @@ int DocumentPages::pageSize()
     return g_pageSize;
 }
 
+void DocumentPages::setSearch(const SearchRanking& ranking, const QList<SearchTerm>& terms)
+{
+    m_paging.setRanking(ranking.join, ranking.key);
+    m_passageTerms.clear();
+    if (ranking.anyHit.isEmpty())
+        return;
+    Recordset rs;
+    rs.open(ranking.anyHit, *m_connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
+    if (!rs.eof())
+        m_passageTerms = terms;
+}
+
+void DocumentPages::addPassages(std::vector<ListItem>& rows)
+{
+    if (m_passageTerms.isEmpty() || rows.empty())
+        return;
+    std::vector<qint32> ids;
+    ids.reserve(rows.size());
+    for (const ListItem& row : rows)
+        ids.push_back(DocumentFills::idOfKey(row.key));
+    const std::map<qint32, QString> passages = searchPassages(*m_connection, ids, m_passageTerms);
+    for (size_t i = 0; i < rows.size(); ++i) {
+        auto found = passages.find(ids[i]);
+        if (found != passages.end())
+            rows[i].subItems[4] = found->second;
+    }
+}
+
 bool DocumentPages::queryHasRows()
 {
     if (m_count > 0)
@@ -130,6 +158,7 @@ DocumentPages::Page DocumentPages::readPage(int number)
     ++m_pagesRead;
     Page read;
     read.items = rowsOf(rs, read.keys);
+    addPassages(read.items);
     if (!forward) {
         std::reverse(read.items.begin(), read.items.end());
         std::reverse(read.keys.begin(), read.keys.end());

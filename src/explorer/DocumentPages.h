@@ -1,6 +1,7 @@
 #pragma once
 
 #include "explorer/DocumentPaging.h"
+#include "explorer/DocumentSearch.h"
 #include "explorer/ListModel.h"
 
 #include <QHash>
@@ -27,6 +28,13 @@ class DocumentPages : public ListRowSource
 public:
     DocumentPages(const QString& listSql, DocumentPaging::Mode mode, qint32 contactId = 0, QChar letter = {});
     ~DocumentPages() override;
+
+    // The rows of a search: in the ranking's order while the list has no sort of its own, each
+    // with the passage of its file's text around the first term found there (the fifth
+    // column after the first). Before the first row is read.
+    void setSearch(const SearchRanking& ranking, const QList<SearchTerm>& terms);
+    // Whether a document's file's text holds a term of the search: the list has passages.
+    bool hasPassages() const { return !m_passageTerms.isEmpty(); }
 
     // Whether the list query has rows before the letter's or the contact's condition.
     bool queryHasRows();
@@ -57,7 +65,10 @@ private:
     int rowOf(const PageKey& key);
     void dropPages();
 
+    void addPassages(std::vector<ListItem>& rows);
+
     DocumentPaging m_paging;
+    QList<SearchTerm> m_passageTerms;
     std::unique_ptr<Connection> m_connection;
     int m_count = 0;
     int m_pagesRead = 0;

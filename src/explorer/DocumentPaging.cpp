@@ -11,6 +11,7 @@ namespace {
 const QString Join = QStringLiteral("tbl_Contacts.ContactID = tbl_Documents.ContactID");
 const QString Ordering = QStringLiteral(" ORDER BY ");
 const QString Id = QStringLiteral("tbl_Documents.RastasID");
+const QString RankField = QStringLiteral("search_rank");
 
 // The list's columns in the database; the third is the category's name in contact mode.
 QString columnField(int column, bool contactMode)
@@ -61,8 +62,26 @@ void DocumentPaging::setSort(int column, bool descending)
     m_descending = descending;
 }
 
+void DocumentPaging::setRanking(const QString& join, const QString& key)
+{
+    m_rankJoin = join;
+    m_rankKey = key;
+}
+
+bool DocumentPaging::ranked() const
+{
+    return m_sortColumn == -1 && !m_rankKey.isEmpty();
+}
+
+QString DocumentPaging::sortColumnField() const
+{
+    return ranked() ? m_rankKey : columnField(m_sortColumn, m_mode == Mode::Contact);
+}
+
 QString DocumentPaging::sortField() const
 {
+    if (ranked())
+        return RankField;
     const QString field = columnField(m_sortColumn, m_mode == Mode::Contact);
     return field.mid(field.indexOf(u'.') + 1);
 }
@@ -103,10 +122,12 @@ QString DocumentPaging::select() const
         "tbl_Documents.KategID, tbl_Documents.DokPastaba");
     if (m_mode == Mode::Contact)
         sql += QStringLiteral(", tbl_Document_Categories.DokKategorija");
-    return sql + from(true);
+    if (ranked())
+        sql += QStringLiteral(", ") + m_rankKey + QStringLiteral(" AS ") + RankField;
+    return sql + from(true, true);
 }
 
-QString DocumentPaging::from(bool withContacts) const
+QString DocumentPaging::from(bool withContacts, bool withRanks) const
 {
     QString sql = QStringLiteral(" FROM tbl_Documents");
     if (withContacts)
@@ -114,6 +135,8 @@ QString DocumentPaging::from(bool withContacts) const
     if (withContacts && m_mode == Mode::Contact)
         sql += QStringLiteral(" LEFT JOIN tbl_Document_Categories ON "
                               "tbl_Document_Categories.KategID = tbl_Documents.KategID");
+    if (withRanks && ranked())
+        sql += m_rankJoin;
     return sql;
 }
 
@@ -130,6 +153,8 @@ QString DocumentPaging::where(const QStringList& more) const
 
 QString DocumentPaging::sortExpression() const
 {
+    if (ranked())
+        return m_rankKey;
     const QString field = columnField(m_sortColumn, m_mode == Mode::Contact);
     // Texts in the order of the register's names, as the tree orders them.
     return sortsByDate() ? field : field + QStringLiteral(" COLLATE NAMEFOLD");
@@ -143,7 +168,7 @@ QString DocumentPaging::orderBy(bool reverse) const
 
 QString DocumentPaging::seek(const PageKey& key, bool greater) const
 {
-    const QString field = columnField(m_sortColumn, m_mode == Mode::Contact);
+    const QString field = sortColumnField();
     const QString id = QString::number(key.id);
     const QString comparison = greater ? QStringLiteral(" > ") : QStringLiteral(" < ");
     if (key.value.isNull() || !key.value.isValid()) {
@@ -216,7 +241,8 @@ QString DocumentPaging::rowByIdSql(qint32 id) const
 
 QString DocumentPaging::rowOfKeySql(const PageKey& key) const
 {
-    return QStringLiteral("SELECT COUNT(*) AS RowCount") + from(true) + where({seek(key, m_descending)});
+    return QStringLiteral("SELECT COUNT(*) AS RowCount") + from(true, true)
+        + where({seek(key, m_descending)});
 }
 
 QString DocumentPaging::startingWithSql(const PageKey* after, const QString& text) const

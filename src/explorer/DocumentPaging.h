@@ -35,6 +35,9 @@ public:
     void setSort(int column, bool descending);
     int sortColumn() const { return m_sortColumn; }
     bool descending() const { return m_descending; }
+    // The order of a search's results when the list has no sort of its own: `key` (an
+    // expression never Null, ascending) over the rows of tbl_Documents with `join` added.
+    void setRanking(const QString& join, const QString& key);
     // The field that holds the sort value in a page's rows.
     QString sortField() const;
     // Whether the sort column is a date.
@@ -64,7 +67,9 @@ public:
 
 private:
     QString select() const;
-    QString from(bool withContacts) const;
+    QString from(bool withContacts, bool withRanks = false) const;
+    bool ranked() const;
+    QString sortColumnField() const;
     QString where(const QStringList& more) const;
     QString orderBy(bool reverse) const;
     QString page(const QStringList& more, bool reverse, int limit, int offset) const;
@@ -74,6 +79,8 @@ private:
 
     QString m_condition;
     QString m_modeCondition;
+    QString m_rankJoin;
+    QString m_rankKey;
     Mode m_mode;
     int m_sortColumn = -1;
     bool m_descending = false;

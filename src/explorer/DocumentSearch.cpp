@@ -6,8 +6,6 @@
 #include "store/engine/Connection.h"
 #include "store/engine/SqlText.h"
 
-#include <QRegularExpression>
-
 namespace kartella {
 
 namespace {
@@ -15,88 +13,181 @@ namespace {
 // The trigram index finds no piece shorter than this.
 constexpr qsizetype IndexedLength = 3;
 
-// A word as one FTS5 phrase: between double quotes, a double quote doubled.
-QString ftsPhrase(const QString& word)
+bool isOpeningQuote(QChar c)
 {
-    return u'"' + QString(word).replace(u'"', QStringLiteral("\"\"")) + u'"';
+    return c == u'"' || c == u'„' || c == u'“' || c == u'”';
 }
 
-bool indexable(const QString& word)
+bool isClosingQuote(QChar c)
 {
-    return word.toUcs4().size() >= IndexedLength;
+    return c == u'"' || c == u'“' || c == u'”';
 }
 
-QString contains(const QString& text, const QString& word)
+// A text as one FTS5 string: between double quotes, a double quote doubled.
+QString ftsString(const QString& text)
 {
-    return QStringLiteral("instr(") + text + QStringLiteral(", ") + sqlString(word) + QStringLiteral(") > 0");
+    return u'"' + QString(text).replace(u'"', QStringLiteral("\"\"")) + u'"';
 }
 
-QString indexedCondition(const QStringList& words)
+bool indexable(const QString& piece)
 {
-    const QString table = QLatin1String(SearchTable);
-    QStringList phrases;
-    QStringList conditions;
-    for (const QString& word : words) {
-        if (indexable(word))
-            phrases << ftsPhrase(word);
+    return piece.toUcs4().size() >= IndexedLength;
+}
+
+// Whether the files' index has a word of the term: a term of punctuation alone has none.
+bool hasWord(const SearchTerm& term)
+{
+    for (const QChar c : term.text) {
+        if (c.isLetterOrNumber())
+            return true;
     }
-    if (!phrases.isEmpty())
-        conditions << table + QStringLiteral(" MATCH ") + sqlString(phrases.join(QStringLiteral(" AND ")));
-    for (const QString& word : words) {
-        if (!indexable(word))
-            conditions << contains(QStringLiteral("FoldedText"), word);
+    return false;
+}
+
+QString contains(const QString& text, const QString& piece)
+{
+    return QStringLiteral("instr(") + text + QStringLiteral(", ") + sqlString(piece)
+        + QStringLiteral(") > 0");
+}
+
+// The documents whose fields hold the term, as a query of their ids; empty without an index.
+QString fieldIds(const SearchTerm& term, SearchIndexKind index)
+{
+    switch (index) {
+    case SearchIndexKind::FullText: {
+        const QString table = QLatin1String(SearchTable);
+        const QString condition = indexable(term.text)
+            ? table + QStringLiteral(" MATCH ") + sqlString(ftsString(term.text))
+            : contains(QStringLiteral("FoldedText"), term.text);
+        return QStringLiteral("SELECT rowid FROM ") + table + QStringLiteral(" WHERE ") + condition;
     }
-    return QStringLiteral("tbl_Documents.RastasID IN (SELECT rowid FROM ") + table + QStringLiteral(" WHERE ")
-        + conditions.join(QStringLiteral(" AND ")) + u')';
+    case SearchIndexKind::Table:
+        // Like finds the piece, through the trigram index where there is one.
+        return QStringLiteral("SELECT RastasID FROM ") + QLatin1String(SearchTable)
+            + QStringLiteral(" WHERE FoldedText LIKE ") + sqlLikeText(term.text, LikeMatch::Anywhere);
+    case SearchIndexKind::None:
+        break;
+    }
+    return {};
 }
 
-// The table of folded texts on a server: Like finds every word, through the trigram index
-// where there is one.
-QString tableCondition(const QStringList& words)
+// The term as an FTS5 query: a string is a phrase of the words the tokenizer finds in it.
+QString ftsQuery(const SearchTerm& term)
 {
-    QStringList conditions;
-    for (const QString& word : words)
-        conditions << QStringLiteral("FoldedText LIKE ") + sqlLikeText(word, LikeMatch::Anywhere);
-    return QStringLiteral("tbl_Documents.RastasID IN (SELECT RastasID FROM ") + QLatin1String(SearchTable)
-        + QStringLiteral(" WHERE ") + conditions.join(QStringLiteral(" AND ")) + u')';
+    return term.prefix ? ftsString(term.text) + QStringLiteral(" *") : ftsString(term.text);
 }
 
-QString scanCondition(const QStringList& words)
+// The term as a tsquery of the server, its words folded as the index's.
+QString textQuery(const SearchTerm& term)
 {
-    const QString text
-        = foldedDocumentText(QStringLiteral("tbl_Documents"), QStringLiteral("tbl_Contacts.FullName"));
-    QStringList conditions;
-    for (const QString& word : words)
-        conditions << contains(text, word);
-    return conditions.join(QStringLiteral(" AND "));
+    bool plainWord = term.prefix;
+    for (const QChar c : term.text)
+        plainWord = plainWord && c.isLetterOrNumber();
+    // The word alone, so that no character of the query syntax can come with it.
+    if (plainWord)
+        return QStringLiteral("to_tsquery('simple', fold_search_text(%1) || ':*')").arg(sqlString(term.text));
+    return QStringLiteral("phraseto_tsquery('simple', fold_search_text(%1))").arg(sqlString(term.text));
+}
+
+// The documents whose file's text holds the term, as a query of their ids; empty without
+// an index, or for a term without a word.
+QString contentIds(const SearchTerm& term, ContentIndexKind index)
+{
+    if (!hasWord(term))
+        return {};
+    switch (index) {
+    case ContentIndexKind::FullText:
+        return QStringLiteral("SELECT rowid FROM %1 WHERE %1 MATCH %2")
+            .arg(QLatin1String(ContentSearchTable), sqlString(ftsQuery(term)));
+    case ContentIndexKind::TextVector:
+        return QStringLiteral("SELECT RastasID FROM tbl_Document_Text WHERE BodyWords @@ ") + textQuery(term);
+    case ContentIndexKind::None:
+        break;
+    }
+    return {};
+}
+
+// One query of ids (a union where the term may be in either place), so that the documents
+// are read by their key, not scanned.
+QString termCondition(const SearchTerm& term, const SearchIndexes& indexes)
+{
+    const QString inFields = fieldIds(term, indexes.fields);
+    const QString inFile = contentIds(term, indexes.content);
+    const QString ids = QStringLiteral("tbl_Documents.RastasID IN (");
+    if (inFields.isEmpty()) {
+        const QString scan = contains(
+            foldedDocumentText(QStringLiteral("tbl_Documents"), QStringLiteral("tbl_Contacts.FullName")),
+            term.text);
+        return inFile.isEmpty() ? scan
+                                : u'(' + scan + QStringLiteral(" OR ") + ids + inFile + QStringLiteral("))");
+    }
+    if (inFile.isEmpty())
+        return ids + inFields + u')';
+    return ids + inFields + QStringLiteral(" UNION ") + inFile + u')';
 }
 
 } // namespace
 
-QStringList searchWords(const QString& text)
+QList<SearchTerm> searchTerms(const QString& text)
 {
-    static const QRegularExpression blanks(QStringLiteral("\\s+"));
-    QStringList words;
-    for (const QString& word : text.split(blanks, Qt::SkipEmptyParts)) {
-        const QString folded = foldSearchText(word);
-        if (!words.contains(folded))
-            words << folded;
+    QList<SearchTerm> terms;
+    const auto add = [&terms](const QString& piece, bool quoted) {
+        SearchTerm term;
+        term.text = foldSearchText(piece.simplified());
+        term.phrase = quoted && term.text.contains(u' ');
+        if (!quoted && term.text.size() > 1 && term.text.endsWith(u'*')) {
+            term.prefix = true;
+            term.text.chop(1);
+        }
+        if (!term.text.isEmpty() && !terms.contains(term))
+            terms << term;
+    };
+    qsizetype at = 0;
+    while (at < text.size()) {
+        if (text[at].isSpace()) {
+            ++at;
+            continue;
+        }
+        if (isOpeningQuote(text[at])) {
+            qsizetype end = at + 1;
+            while (end < text.size() && !isClosingQuote(text[end]))
+                ++end;
+            add(text.mid(at + 1, end - at - 1), true);
+            at = end + 1;
+            continue;
+        }
+        qsizetype end = at;
+        while (end < text.size() && !text[end].isSpace())
+            ++end;
+        add(text.mid(at, end - at), false);
+        at = end;
     }
-    return words;
+    return terms;
 }
 
-QString searchListSql(const QStringList& words, SearchIndexKind index, int direction, bool withinDates,
-    const QDate& start, const QDate& end)
+SearchIndexes searchIndexes(Connection& connection)
 {
+    return {searchIndexKind(connection), contentIndexKind(connection)};
+}
+
+SearchIndexes registerSearchIndexes()
+{
+    Connection connection;
+    connection.setMode(ConnectModeEnum::ShareDenyNone);
+    connection.open(plainConnectionString());
+    const SearchIndexes indexes = searchIndexes(connection);
+    connection.close();
+    return indexes;
+}
+
+QString searchListSql(const QList<SearchTerm>& terms, const SearchIndexes& indexes, int direction,
+    bool withinDates, const QDate& start, const QDate& end)
+{
+    QStringList conditions;
+    for (const SearchTerm& term : terms)
+        conditions << termCondition(term, indexes);
     QString sql = documentSql() + QStringLiteral("WHERE ");
-    if (words.isEmpty())
-        sql += QStringLiteral("0 = 1");
-    else if (index == SearchIndexKind::FullText)
-        sql += indexedCondition(words);
-    else if (index == SearchIndexKind::Table)
-        sql += tableCondition(words);
-    else
-        sql += scanCondition(words);
+    sql += conditions.isEmpty() ? QStringLiteral("0 = 1") : conditions.join(QStringLiteral(" AND "));
     if (direction != 0)
         sql += QStringLiteral(" AND tbl_Documents.KryptisID=") + QString::number(direction);
     if (withinDates)
@@ -105,14 +196,42 @@ QString searchListSql(const QStringList& words, SearchIndexKind index, int direc
     return sql + QStringLiteral(" ORDER BY tbl_Documents.DokRegistracData");
 }
 
-SearchIndexKind registerSearchIndex()
+SearchRanking searchRanking(const QList<SearchTerm>& terms, const SearchIndexes& indexes)
 {
-    Connection connection;
-    connection.setMode(ConnectModeEnum::ShareDenyNone);
-    connection.open(plainConnectionString());
-    const SearchIndexKind index = searchIndexKind(connection);
-    connection.close();
-    return index;
+    QStringList queries;
+    for (const SearchTerm& term : terms) {
+        if (!hasWord(term))
+            continue;
+        queries << (indexes.content == ContentIndexKind::FullText ? ftsQuery(term) : textQuery(term));
+    }
+    if (queries.isEmpty() || indexes.content == ContentIndexKind::None)
+        return {};
+    // The names are in lower case: a server reads them so, quoted or not.
+    SearchRanking ranking;
+    if (indexes.content == ContentIndexKind::FullText) {
+        // BM25 is below 0, lower for a better match; a date's day number is above.
+        const QString table = QLatin1String(ContentSearchTable);
+        ranking.join
+            = QStringLiteral(" LEFT JOIN (SELECT rowid AS hit_id, bm25(%1) AS hit_rank FROM %1 WHERE %1 "
+                             "MATCH %2) AS hits ON hits.hit_id = tbl_Documents.RastasID")
+                  .arg(table, sqlString(queries.join(QStringLiteral(" OR "))));
+        ranking.key = QStringLiteral("coalesce(hits.hit_rank, julianday(tbl_Documents.DokRegistracData), 0)");
+        ranking.anyHit = QStringLiteral("SELECT rowid AS hit_id FROM %1 WHERE %1 MATCH %2 LIMIT 1")
+                             .arg(table, sqlString(queries.join(QStringLiteral(" OR "))));
+    } else {
+        const QString query = u'(' + queries.join(QStringLiteral(" || ")) + u')';
+        ranking.join
+            = QStringLiteral(" LEFT JOIN (SELECT RastasID AS hit_id, CAST(-1 - ts_rank(BodyWords, %1) AS "
+                             "double precision) AS hit_rank FROM tbl_Document_Text WHERE BodyWords @@ %1) "
+                             "AS hits ON hits.hit_id = tbl_Documents.RastasID")
+                  .arg(query);
+        ranking.anyHit
+            = QStringLiteral("SELECT RastasID AS hit_id FROM tbl_Document_Text WHERE BodyWords @@ %1 LIMIT 1")
+                  .arg(query);
+        ranking.key = QStringLiteral("coalesce(hits.hit_rank, CAST(tbl_Documents.DokRegistracData - DATE "
+                                     "'0001-01-01' AS double precision), 0)");
+    }
+    return ranking;
 }
 
 } // namespace kartella

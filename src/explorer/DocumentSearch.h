@@ -3,31 +3,87 @@
 #include "store/SearchIndex.h"
 
 #include <QDate>
+#include <QList>
 #include <QString>
-#include <QStringList>
+
+#include <map>
+#include <vector>
 
 namespace kartella {
 
-// The query text of a search across the register: the documents whose description,
-// registration index, notes, contact name or file path hold every word searched for, in
-// any order, with case and the Lithuanian letters folded ("siauliu" finds "Šiaulių"). The
-// rows are those of every document list, ordered by registration date, for the category
-// mode fill.
+class Connection;
 
-// The words of a search text: split at white space, folded as the index folds, each once,
-// in the order typed. Empty when the text holds no word.
-QStringList searchWords(const QString& text);
+// The search across the register. A document is found when every term searched for is in
+// it: in its description, registration index, notes, contact name or file path (a piece of
+// any of them, with case and the Lithuanian letters folded), or among the words of its
+// file's text (whole words, with case and every diacritic folded: "siauliu" finds
+// "Šiaulių"). Each term may be found in either place, so a document whose description holds
+// one word and whose file holds the other is found.
 
-// The list query for the words (as searchWords gives them; at least one). With the FTS5
-// index of a register file, words of three characters or more are found through its
-// trigrams, shorter ones by a scan of its folded text; with a server's table of folded
-// texts, by Like; without an index, every document's text is folded and scanned. A direction of 0 adds no
+// One term of a search text: a word, "a phrase in quotes" (its words one after the other in
+// the file's text), or a word ending in * (a prefix of a word of the file's text). In the
+// fields every term is a piece of text, as before.
+struct SearchTerm
+{
+    QString text; // folded as the fields' index folds; without quotes or the star
+    bool phrase = false;
+    bool prefix = false;
+
+    friend bool operator==(const SearchTerm&, const SearchTerm&) = default;
+};
+
+// The terms of a search text: split at white space, a term that starts with a double quote
+// („ “ ” too) running to the closing one (or to the end), each term folded and kept once, in
+// the order typed. Empty when the text holds no term.
+QList<SearchTerm> searchTerms(const QString& text);
+
+// The indexes a register has for the search.
+struct SearchIndexes
+{
+    SearchIndexKind fields = SearchIndexKind::None;
+    ContentIndexKind content = ContentIndexKind::None;
+};
+
+SearchIndexes searchIndexes(Connection& connection);
+// The indexes of the register the options name. Throws kartella::Error when it can't be
+// opened.
+SearchIndexes registerSearchIndexes();
+
+// The list query for the terms (at least one), in order of registration date. With the
+// FTS5 index of a register file, fields' pieces of three characters or more are found
+// through its trigrams, shorter ones by a scan of its folded text; with a server's table of
+// folded texts, by Like; without an index, every document's text is folded and scanned. The
+// files' text is searched where the register has its index. A direction of 0 adds no
 // clause; the date range applies when withinDates is true.
-QString searchListSql(const QStringList& words, SearchIndexKind index, int direction, bool withinDates,
-    const QDate& start, const QDate& end);
+QString searchListSql(const QList<SearchTerm>& terms, const SearchIndexes& indexes, int direction,
+    bool withinDates, const QDate& start, const QDate& end);
 
-// The search index of the register the options name. Throws kartella::Error when it
-// can't be opened.
-SearchIndexKind registerSearchIndex();
+// The order of the results: the documents whose file's text holds a term first, best first
+// (BM25 on a register file, ts_rank on a server), then the others by registration date (a
+// document without one first). `join` joins the ranks to tbl_Documents, `key` is the
+// expression to order by (ascending). Both are empty when the files' text is not searched.
+struct SearchRanking
+{
+    QString join;
+    QString key;
+    // A query of one row at most: a document whose file's text holds a term.
+    QString anyHit;
+};
+
+SearchRanking searchRanking(const QList<SearchTerm>& terms, const SearchIndexes& indexes);
+
+// The marks around the hit in a passage.
+inline constexpr char16_t PassageHitStart = u'\x02';
+inline constexpr char16_t PassageHitEnd = u'\x03';
+
+// A short passage of text around the first place where a term is found in it, as the index
+// finds words (case and diacritics folded), the hit between PassageHitStart and
+// PassageHitEnd; white space runs are one blank. Empty when no term is found.
+QString searchPassage(const QString& text, const QList<SearchTerm>& terms);
+
+// The passages of the documents' files' texts, by document id; a document whose text holds
+// no term has none. Reads tbl_Document_Text on the connection; throws kartella::Error.
+std::map<qint32, QString> searchPassages(
+    Connection& connection, const std::vector<qint32>& ids, const QList<SearchTerm>& terms);
 
 } // namespace kartella

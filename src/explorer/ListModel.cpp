@@ -194,12 +194,18 @@ QVariant ListModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid() || index.row() >= itemCount())
         return {};
-    if (role != Qt::DisplayRole && role != Qt::DecorationRole)
+    if (role != Qt::DisplayRole && role != Qt::DecorationRole && role != MarkedTextRole)
         return {};
     const ListItem item = this->item(index.row());
     switch (role) {
-    case Qt::DisplayRole:
+    case MarkedTextRole:
         return columnText(item, index.column());
+    case Qt::DisplayRole: {
+        const QString& text = columnText(item, index.column());
+        if (!text.contains(QChar(u'\x02')))
+            return text;
+        return QString(text).remove(QChar(u'\x02')).remove(QChar(u'\x03'));
+    }
     case Qt::DecorationRole:
         if (index.column() != 0)
             return {};

@@ -29,7 +29,7 @@ struct ListColumn
 struct ListItem
 {
     QString text;
-    std::array<QString, 4> subItems;
+    std::array<QString, 5> subItems;
     QString key;
     QString tag;
     bool tagIsNull = true;
@@ -67,6 +67,10 @@ class ListModel : public QAbstractTableModel
 
 public:
     explicit ListModel(IconCache* icons, QObject* parent = nullptr);
+
+    // A column's text with the marks a search's passage puts around its hit (U+0002 and
+    // U+0003); the display text has none.
+    static constexpr int MarkedTextRole = Qt::UserRole + 1;
 
     // Columns: replacing them clears the items.
     void setColumns(const QList<ListColumn>& columns);

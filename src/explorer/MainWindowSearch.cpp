@@ -4,6 +4,8 @@
 #include "explorer/DocumentFills.h"
 #include "explorer/DocumentQueries.h"
 #include "explorer/DocumentSearch.h"
+#include "explorer/DocumentSearchDelegate.h"
+#include "explorer/ExplorerList.h"
 #include "explorer/MainWindow.h"
 #include "explorer/SearchBox.h"
 #include "support/SelectionState.h"
@@ -12,8 +14,15 @@
 #include <QComboBox>
 #include <QDateEdit>
 #include <QToolBar>
+#include <QTreeView>
 
 namespace kartella {
+
+namespace {
+
+constexpr int PassageColumn = 5;
+
+} // namespace
 
 void MainWindow::buildSearch()
 {
@@ -57,10 +66,17 @@ void MainWindow::search(const QString& text)
 
 void MainWindow::runSearch()
 {
+    // The column of the passages, which only a search's results have.
+    QTreeView* details = m_documents->detailsView();
+    if (!qobject_cast<PassageDelegate*>(details->itemDelegateForColumn(PassageColumn)))
+        details->setItemDelegateForColumn(PassageColumn, new PassageDelegate(details));
     runFill([&] {
-        const SearchIndexKind index = registerSearchIndex();
-        m_fills->fillDocumentList(searchListSql(searchWords(m_searchText), index, direction(),
-            m_searchWithinDates || filterOptionOn(), m_startDate->date(), m_endDate->date()));
+        const SearchIndexes indexes = registerSearchIndexes();
+        const QList<SearchTerm> terms = searchTerms(m_searchText);
+        m_fills->fillSearchList(
+            searchListSql(terms, indexes, direction(), m_searchWithinDates || filterOptionOn(),
+                m_startDate->date(), m_endDate->date()),
+            searchRanking(terms, indexes), terms);
     });
 }
 

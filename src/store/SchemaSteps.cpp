@@ -73,6 +73,8 @@ const std::vector<SchemaStep>& schemaSteps()
             addServerDirectionIndex},
         {7, QStringLiteral("the text read from the documents' files"), addDocumentTextStore,
             addServerDocumentTextStore},
+        {8, QStringLiteral("search index of the words of the documents' files"), createContentIndex,
+            createServerContentIndex},
     };
     return steps;
 }

@@ -46,4 +46,26 @@ SearchIndexKind searchIndexKind(Connection& connection);
 // Whether the open register has the search index (a register of an older schema has not).
 bool hasSearchIndex(Connection& connection);
 
+// The index of the words of the documents' files (the Body of tbl_Document_Text). On a
+// register file it is the FTS5 table tbl_Document_Text_Search over that column (its content
+// is read from tbl_Document_Text, not copied: the text of a register's files is its largest
+// part), with the unicode61 tokenizer folding case and every diacritic ("siauliu" finds
+// "Šiaulių"); triggers on tbl_Document_Text keep it, in any program that writes the register.
+// On a server it is the tsvector column BodyWords of tbl_Document_Text with a GIN index, of
+// the `simple` configuration over the text as fold_search_text() folds it (unaccent where
+// the server has it, else case and the Lithuanian letters).
+inline constexpr const char* ContentSearchTable = "tbl_Document_Text_Search";
+
+enum class ContentIndexKind {
+    None, // a register of an older schema: the files' text is not searched
+    FullText, // a register file: the FTS5 table
+    TextVector, // a server: the tsvector column
+};
+
+ContentIndexKind contentIndexKind(Connection& connection);
+
+// The schema step that makes the index, with its triggers, of the texts there are.
+void createContentIndex(Connection& connection);
+void createServerContentIndex(Connection& connection);
+
 } // namespace kartella

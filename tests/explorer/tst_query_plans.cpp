@@ -33,10 +33,10 @@ struct ListQuery
     DocumentPaging::Mode mode;
 };
 
-QList<ListQuery> listQueries(SearchIndexKind searchIndex)
+QList<ListQuery> listQueries(const SearchIndexes& searchIndex)
 {
     using Mode = DocumentPaging::Mode;
-    const QStringList words {QStringLiteral("sutart")};
+    const QList<SearchTerm> words = searchTerms(QStringLiteral("sutart"));
     return {
         {"root", categoryListSql(0, 0, false, rangeStart, rangeEnd), Mode::Category},
         {"root within dates", categoryListSql(0, 0, true, rangeStart, rangeEnd), Mode::Category},
@@ -123,7 +123,7 @@ private:
         // A server reads a small table through; it is to pick an index wherever one serves.
         if (connection.dialect() == SqlDialect::PostgreSql)
             connection.execute(QStringLiteral("SET enable_seqscan = off"));
-        const SearchIndexKind searchIndex = searchIndexKind(connection);
+        const SearchIndexes searchIndex = searchIndexes(connection);
         PageKey dated {QVariant(QDate(2024, 3, 5)), 40};
         PageKey named {QVariant(QStringLiteral("Šarūnas")), 40};
         PageKey none {QVariant(), 40};

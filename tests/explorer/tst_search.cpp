@@ -30,7 +30,13 @@ Ids found(const TestRegister& reg, const QString& text, SearchIndexKind index, i
     Connection connection;
     connection.open(reg.connectionString());
     Recordset rs;
-    rs.open(searchListSql(searchWords(text), index, direction, withinDates, start, end), connection);
+    // The files' index of the same place, where the register has it: the fields are found
+    // the same with it.
+    const ContentIndexKind content = index == SearchIndexKind::FullText ? ContentIndexKind::FullText
+        : index == SearchIndexKind::Table                               ? ContentIndexKind::TextVector
+                                                                        : ContentIndexKind::None;
+    rs.open(
+        searchListSql(searchTerms(text), {index, content}, direction, withinDates, start, end), connection);
     Ids ids;
     while (!rs.eof()) {
         ids << rs.fields(QStringLiteral("RastasID")).value().toInt();
@@ -90,11 +96,29 @@ private Q_SLOTS:
         QTest::newRow("server") << TestRegister::Server;
     }
 
-    void wordsAreSplitFoldedAndKeptOnce()
+    void termsAreSplitFoldedAndKeptOnce_data()
     {
-        QCOMPARE(searchWords(QStringLiteral("  Šiaulių\tSUTARTIS šiaulių\n0823/4 ")),
-            QStringList({"siauliu", "sutartis", "0823/4"}));
-        QVERIFY(searchWords(QStringLiteral(" \t ")).isEmpty());
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QList<SearchTerm>>("terms");
+        QTest::newRow("words") << "  Šiaulių\tSUTARTIS šiaulių\n0823/4 "
+                               << QList<SearchTerm> {{"siauliu"}, {"sutartis"}, {"0823/4"}};
+        QTest::newRow("blank") << " \t " << QList<SearchTerm> {};
+        QTest::newRow("phrase") << "\"Šiaulių  Banko\" sąskaita"
+                                << QList<SearchTerm> {{"siauliu banko", true}, {"saskaita"}};
+        QTest::newRow("lithuanian quotes")
+            << "„Didelė sutartis“" << QList<SearchTerm> {{"didele sutartis", true}};
+        QTest::newRow("unclosed quote") << "\"iki galo" << QList<SearchTerm> {{"iki galo", true}};
+        QTest::newRow("one quoted word") << "\"aktas\" aktas" << QList<SearchTerm> {{"aktas"}};
+        QTest::newRow("prefix") << "SUTART* sutart*" << QList<SearchTerm> {{"sutart", false, true}};
+        QTest::newRow("lone star") << "*" << QList<SearchTerm> {{"*"}};
+        QTest::newRow("quote inside a word") << "o\"brien" << QList<SearchTerm> {{"o\"brien"}};
+    }
+
+    void termsAreSplitFoldedAndKeptOnce()
+    {
+        QFETCH(QString, text);
+        QFETCH(QList<SearchTerm>, terms);
+        QCOMPARE(searchTerms(text), terms);
     }
 
     // One register holds a word with each letter, in upper and in lower case.

@@ -1,6 +1,8 @@
 // The main window's search box: typing, Enter, Esc, Ctrl+F, and the refills while a
 // search shows.
 #include "explorer/DocumentFills.h"
+#include "explorer/DocumentSearch.h"
+#include "explorer/DocumentSearchDelegate.h"
 #include "explorer/ExplorerFixture.h"
 #include "explorer/ExplorerList.h"
 #include "explorer/ListModel.h"
@@ -14,6 +16,7 @@
 #include <QComboBox>
 #include <QDateEdit>
 #include <QTest>
+#include <QTreeView>
 
 using namespace kartella;
 using namespace kartella::test;
@@ -86,6 +89,61 @@ private Q_SLOTS:
         QVERIFY(!w.isSearching());
         QCOMPARE(selection().selectedDocumentId, 0);
         QVERIFY(!w.relatedList()->isVisible());
+        QVERIFY(prompter.prompts().isEmpty());
+    }
+
+    // The words of the files: the best match first, the field's match after it, and the
+    // column of the passages with the hit marked.
+    void filesTextIsFoundRankedWithItsPassage()
+    {
+        ExplorerFixture fx;
+        ScriptedPrompter prompter;
+        MainWindow& w = fx.window();
+        fx.reg.exec(QStringLiteral("INSERT INTO tbl_Document_Text (RastasID, State, Body) VALUES (%1, 1, "
+                                   "'Kvitas: apmokėta grynaisiais, be PVM')")
+                        .arg(fx.id["letter"]));
+        fx.reg.exec(
+            QStringLiteral("INSERT INTO tbl_Document_Text (RastasID, State, Body) VALUES (%1, 1, "
+                           "'Pastaba dėl sutarties, kurią reikia dar kartą peržiūrėti ir pasirašyti')")
+                .arg(fx.id["note"]));
+        fx.reg.exec(QStringLiteral("INSERT INTO tbl_Document_Text (RastasID, State, Body) VALUES (%1, 1, "
+                                   "'Nuomos sutartis ir sutarties priedas')")
+                        .arg(fx.id["contract"]));
+        SearchBox* box = w.searchBox();
+        box->setFocus();
+        QTest::keyClicks(box, "APMOKETA");
+        QTest::keyClick(box, Qt::Key_Return);
+        QCOMPARE(fx.documentTexts(), QStringList({"letter"}));
+        const QStringList captions = fx.columnCaptions(fx.documents());
+        QCOMPARE(captions.size(), 6);
+        QCOMPARE(captions.at(5), DocumentFills::PassageCaption);
+        const QModelIndex passage = fx.documents().index(0, 5);
+        QCOMPARE(passage.data().toString(), QString("Kvitas: apmokėta grynaisiais, be PVM"));
+        QCOMPARE(passage.data(ListModel::MarkedTextRole).toString(),
+            QString("Kvitas: ") + QChar(PassageHitStart) + "apmokėta" + QChar(PassageHitEnd)
+                + " grynaisiais, be PVM");
+        QTreeView* details = w.documentList()->detailsView();
+        QVERIFY(qobject_cast<PassageDelegate*>(details->itemDelegateForColumn(5)));
+
+        // "pasirasyta" is in the notes of "contract", "sutart*" in its file; the file of "note"
+        // holds fewer words of "sutart*".
+        box->selectAll();
+        QTest::keyClicks(box, "sutart* pasirasyta");
+        QTest::keyClick(box, Qt::Key_Return);
+        QCOMPARE(fx.documentTexts(), QStringList({"contract"}));
+        box->selectAll();
+        QTest::keyClicks(box, "sutart*");
+        QTest::keyClick(box, Qt::Key_Return);
+        QCOMPARE(fx.documentTexts(), QStringList({"contract", "note"}));
+        // In the order of the results.
+        QCOMPARE(fx.documents().item(0).text, QString("contract"));
+        QCOMPARE(fx.documents().index(0, 5).data(ListModel::MarkedTextRole).toString(),
+            QString("Nuomos ") + QChar(PassageHitStart) + "sutartis" + QChar(PassageHitEnd)
+                + " ir sutarties priedas");
+
+        // Back to a node: the columns of a list.
+        QTest::keyClick(box, Qt::Key_Escape);
+        QCOMPARE(fx.columnCaptions(fx.documents()).size(), 5);
         QVERIFY(prompter.prompts().isEmpty());
     }
 

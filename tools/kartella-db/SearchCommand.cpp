@@ -2,10 +2,13 @@
 
 #include "RegisterArgument.h"
 #include "base/Error.h"
+#include "explorer/DocumentPaging.h"
 #include "explorer/DocumentSearch.h"
 #include "store/SearchIndex.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
+
+#include <limits>
 
 namespace kartella::tool {
 
@@ -29,20 +32,45 @@ QString cell(const QVariant& value)
 void searchCommand(const QString& path, const QStringList& words, QTextStream& out)
 {
     const QString location = existingRegister(path);
-    const QStringList folded = searchWords(words.join(u' '));
-    if (folded.isEmpty())
+    const QList<SearchTerm> terms = searchTerms(words.join(u' '));
+    if (terms.isEmpty())
         throw Error(ErrorNumber::CommandFailed, QStringLiteral("no word to search for"));
     Connection connection;
     connection.open(registerConnectionString(location));
+    const SearchIndexes indexes = searchIndexes(connection);
+    // The rows in the order of the window's list of results.
+    DocumentPaging paging(searchListSql(terms, indexes, 0, false, {}, {}), DocumentPaging::Mode::Category);
+    const SearchRanking ranking = searchRanking(terms, indexes);
+    paging.setRanking(ranking.join, ranking.key);
     Recordset rs;
-    rs.open(searchListSql(folded, searchIndexKind(connection), 0, false, {}, {}), connection);
+    rs.open(paging.pageSql(nullptr, std::numeric_limits<int>::max()), connection);
+    struct Line
+    {
+        qint32 id;
+        QString text;
+    };
+    std::vector<Line> lines;
+    std::vector<qint32> ids;
     while (!rs.eof()) {
-        out << cell(rs.fields(QStringLiteral("DokRegistracIndeksas")).value()) << '\t'
-            << cell(rs.fields(QStringLiteral("DokRegistracData")).value()) << '\t'
-            << cell(rs.fields(QStringLiteral("DokAntraste")).value()) << '\n';
+        const qint32 id = rs.fields(QStringLiteral("RastasID")).value().toInt();
+        lines.push_back({id,
+            cell(rs.fields(QStringLiteral("DokRegistracIndeksas")).value()) + u'\t'
+                + cell(rs.fields(QStringLiteral("DokRegistracData")).value()) + u'\t'
+                + cell(rs.fields(QStringLiteral("DokAntraste")).value())});
+        ids.push_back(id);
         rs.moveNext();
     }
     rs.close();
+    const std::map<qint32, QString> passages
+        = ranking.key.isEmpty() ? std::map<qint32, QString>() : searchPassages(connection, ids, terms);
+    for (const Line& line : lines) {
+        out << line.text;
+        auto passage = passages.find(line.id);
+        if (passage != passages.end())
+            out << '\t'
+                << QString(passage->second).replace(PassageHitStart, u'[').replace(PassageHitEnd, u']');
+        out << '\n';
+    }
     connection.close();
     out.flush();
 }

@@ -1,0 +1,350 @@
+// The search of the words of the documents' files: the index the schema keeps of
+// tbl_Document_Text, the terms, the ranking and the passages, read as the window reads its
+// list of results, on a register file and on a server.
+#include "base/Error.h"
+#include "explorer/DocumentPaging.h"
+#include "explorer/DocumentSearch.h"
+#include "harness/ServerDatabase.h"
+#include "harness/TestRegister.h"
+#include "store/SchemaSteps.h"
+#include "store/engine/Connection.h"
+#include "store/engine/Recordset.h"
+#include "store/engine/SqlText.h"
+
+#include <QProcess>
+#include <QTest>
+
+#include <algorithm>
+#include <memory>
+
+using namespace kartella;
+using namespace kartella::test;
+
+namespace {
+
+using Ids = QList<qint32>;
+
+// The documents found for a text, in the order of the window's list of results.
+Ids found(const TestRegister& reg, const QString& text)
+{
+    Connection connection;
+    connection.open(reg.connectionString());
+    const QList<SearchTerm> terms = searchTerms(text);
+    const SearchIndexes indexes = searchIndexes(connection);
+    DocumentPaging paging(searchListSql(terms, indexes, 0, false, {}, {}), DocumentPaging::Mode::Category);
+    const SearchRanking ranking = searchRanking(terms, indexes);
+    paging.setRanking(ranking.join, ranking.key);
+    Recordset rs;
+    rs.open(paging.pageSql(nullptr, 1000), connection);
+    Ids ids;
+    while (!rs.eof()) {
+        ids << rs.fields(QStringLiteral("RastasID")).value().toInt();
+        rs.moveNext();
+    }
+    return ids;
+}
+
+Ids sorted(Ids ids)
+{
+    std::sort(ids.begin(), ids.end());
+    return ids;
+}
+
+qint32 addDocument(const TestRegister& reg, const QString& description, const QDate& date = QDate(2024, 3, 5))
+{
+    return reg.insert(
+        QStringLiteral("tbl_Documents"), {{"DokAntraste", description}, {"DokRegistracData", date}});
+}
+
+// The text read from the document's file, as the reader stores it.
+void addText(const TestRegister& reg, qint32 id, const QString& body)
+{
+    reg.exec(QStringLiteral(
+        "INSERT INTO tbl_Document_Text (RastasID, FilePath, State, Body) VALUES (%1, %2, 1, %3)")
+                 .arg(id)
+                 .arg(sqlString(QStringLiteral("/docs/") + QString::number(id) + QStringLiteral(".pdf")),
+                     sqlString(body)));
+}
+
+void skipWithoutServer(TestRegister::Where where)
+{
+    if (where == TestRegister::Server && !ServerDatabase::available())
+        QSKIP(qPrintable(ServerDatabase::skipReason()));
+}
+
+// Whether the FTS5 index agrees with the texts it indexes (a register file).
+bool indexIsWhole(const TestRegister& reg)
+{
+    try {
+        reg.exec(QStringLiteral("INSERT INTO tbl_Document_Text_Search (tbl_Document_Text_Search) VALUES "
+                                "('integrity-check')"));
+        return true;
+    } catch (const Error&) {
+        return false;
+    }
+}
+
+} // namespace
+
+class ContentSearchTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    static void places()
+    {
+        QTest::addColumn<TestRegister::Where>("where");
+        QTest::newRow("file") << TestRegister::File;
+        QTest::newRow("server") << TestRegister::Server;
+    }
+
+    void wordsOfTheFiles_data()
+    {
+        QTest::addColumn<TestRegister::Where>("where");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QStringList>("expected");
+        const QList<std::pair<const char*, TestRegister::Where>> wheres {
+            {"file", TestRegister::File}, {"server", TestRegister::Server}};
+        const QList<std::pair<const char*, QStringList>> cases {
+            {"sutartis", {"loan"}},
+            {"SUTARTIS", {"loan"}},
+            {"siauliu", {"loan", "act"}},
+            {"ŠIAULIŲ", {"loan", "act"}},
+            {"piemenelis", {"loan"}},
+            // A piece of a word is no word of the text.
+            {"sutart", {}},
+            {"sutart*", {"loan"}},
+            {"SIAUL*", {"loan", "act"}},
+            {"\"banko paskolos\"", {"loan"}},
+            {"„Banko  paskolos“", {"loan"}},
+            {"\"paskolos banko\"", {}},
+            {"aktas siauliu", {"act"}},
+            {"sutartis aktas", {}},
+            // One word in the description, the other in the file.
+            {"saskaita apmokejimas", {"account"}},
+            {"banko apmokejimas", {"account"}},
+            {"apmokejimas nerasta", {}},
+            {"nerasta", {}},
+            {"o'brien", {"letter"}},
+            {"-", {}},
+        };
+        for (const auto& [place, where] : wheres) {
+            for (const auto& [text, expected] : cases)
+                QTest::addRow("%s: %s", place, text) << where << QString::fromUtf8(text) << expected;
+        }
+    }
+
+    void wordsOfTheFiles()
+    {
+        QFETCH(TestRegister::Where, where);
+        QFETCH(QString, text);
+        QFETCH(QStringList, expected);
+        skipWithoutServer(where);
+        const TestRegister reg(where);
+        QHash<QString, qint32> id;
+        id["loan"] = addDocument(reg, QStringLiteral("Dokumentas 1"));
+        addText(
+            reg, id["loan"], QStringLiteral("SUTARTIS dėl Šiaulių banko paskolos grąžinimo.\nPiemenėlis."));
+        id["act"] = addDocument(reg, QStringLiteral("Dokumentas 2"));
+        addText(reg, id["act"], QStringLiteral("Priėmimo aktas, pasirašytas Šiaulių mieste"));
+        id["account"] = addDocument(reg, QStringLiteral("Banko sąskaita"));
+        addText(reg, id["account"], QStringLiteral("Apmokėjimas grynaisiais"));
+        id["letter"] = addDocument(reg, QStringLiteral("Letter"));
+        addText(reg, id["letter"], QStringLiteral("Dear Mr O'Brien - thank you"));
+        id["none"] = addDocument(reg, QStringLiteral("Be failo"));
+
+        Ids ids;
+        for (const QString& name : expected)
+            ids << id[name];
+        QCOMPARE(sorted(found(reg, text)), sorted(ids));
+    }
+
+    void moreHitsComeFirstThenTheFieldsByDate_data() { places(); }
+
+    void moreHitsComeFirstThenTheFieldsByDate()
+    {
+        QFETCH(TestRegister::Where, where);
+        skipWithoutServer(where);
+        const TestRegister reg(where);
+        const qint32 once = addDocument(reg, QStringLiteral("Pirmas"));
+        addText(reg, once,
+            QStringLiteral("Nuomos sutartis dėl patalpų, kurių plotas didelis, su priedais ir planais"));
+        const qint32 often = addDocument(reg, QStringLiteral("Antras"));
+        addText(reg, often, QStringLiteral("Nuomos sutartis. Sutartis pasirašyta, sutartis galioja"));
+        const qint32 later = addDocument(reg, QStringLiteral("Sutartis be teksto"), QDate(2024, 5, 1));
+        const qint32 earlier = addDocument(reg, QStringLiteral("Sutartis sena"), QDate(2023, 1, 2));
+        const qint32 other = addDocument(reg, QStringLiteral("Kita"));
+        addText(reg, other, QStringLiteral("Nieko bendro"));
+        QCOMPARE(found(reg, QStringLiteral("sutartis")), Ids({often, once, earlier, later}));
+        QCOMPARE(found(reg, QStringLiteral("sutartis nuomos")), Ids({often, once}));
+    }
+
+    void changedAndDeletedTextsLeaveTheIndex_data() { places(); }
+
+    void changedAndDeletedTextsLeaveTheIndex()
+    {
+        QFETCH(TestRegister::Where, where);
+        skipWithoutServer(where);
+        const TestRegister reg(where);
+        const qint32 doc = addDocument(reg, QStringLiteral("Raštas"));
+        addText(reg, doc, QStringLiteral("Įsakymas dėl atostogų"));
+        const qint32 kept = addDocument(reg, QStringLiteral("Kitas"));
+        addText(reg, kept, QStringLiteral("Įsakymas dėl komandiruotės"));
+        QCOMPARE(sorted(found(reg, QStringLiteral("isakymas"))), sorted({doc, kept}));
+
+        // The file read again.
+        reg.exec(
+            QStringLiteral("UPDATE tbl_Document_Text SET Body = 'Prašymas dėl atostogų' WHERE RastasID = %1")
+                .arg(doc));
+        QCOMPARE(found(reg, QStringLiteral("isakymas")), Ids {kept});
+        QCOMPARE(found(reg, QStringLiteral("prasymas")), Ids {doc});
+        if (where == TestRegister::File) {
+            // A row written again whole, as INSERT OR REPLACE does.
+            reg.exec(
+                QStringLiteral("INSERT OR REPLACE INTO tbl_Document_Text (RastasID, State, Body) VALUES (%1, "
+                               "1, 'Skundas')")
+                    .arg(doc));
+            QCOMPARE(found(reg, QStringLiteral("prasymas")), Ids {});
+            QCOMPARE(found(reg, QStringLiteral("skundas")), Ids {doc});
+            QVERIFY(indexIsWhole(reg));
+        }
+
+        reg.exec(QStringLiteral("DELETE FROM tbl_Documents WHERE RastasID = %1").arg(doc));
+        QCOMPARE(found(reg, QStringLiteral("skundas")), Ids {});
+        QCOMPARE(found(reg, QStringLiteral("prasymas")), Ids {});
+        QCOMPARE(found(reg, QStringLiteral("atostogu")), Ids {});
+        QCOMPARE(found(reg, QStringLiteral("isakymas")), Ids {kept});
+        if (where == TestRegister::File) {
+            QVERIFY(indexIsWhole(reg));
+            QCOMPARE(reg.scalar(QStringLiteral("SELECT COUNT(*) FROM tbl_Document_Text_Search WHERE "
+                                               "tbl_Document_Text_Search MATCH 'atostogu'"))
+                         .toInt(),
+                0);
+        }
+    }
+
+    // Registers of schema 7 (texts read, no index) and 6 (no texts yet).
+    void upgradeIndexesTheTextsThereAre_data()
+    {
+        QTest::addColumn<TestRegister::Where>("where");
+        QTest::addColumn<int>("version");
+        QTest::newRow("file 7") << TestRegister::File << 7;
+        QTest::newRow("file 6") << TestRegister::File << 6;
+        QTest::newRow("server 7") << TestRegister::Server << 7;
+    }
+
+    void upgradeIndexesTheTextsThereAre()
+    {
+        QFETCH(TestRegister::Where, where);
+        QFETCH(int, version);
+        skipWithoutServer(where);
+        const TestRegister reg(where);
+        const qint32 doc = addDocument(reg, QStringLiteral("Raštas"));
+        if (where == TestRegister::File) {
+            reg.exec(QStringLiteral("DROP TABLE tbl_Document_Text_Search"));
+            for (const char* trigger : {"trg_Document_Text_Search_Replace", "trg_Document_Text_Search_Insert",
+                     "trg_Document_Text_Search_Update", "trg_Document_Text_Search_Delete"})
+                reg.exec(QStringLiteral("DROP TRIGGER ") + QLatin1String(trigger));
+            if (version == 6) {
+                reg.exec(QStringLiteral("DROP TRIGGER trg_Document_Text_Delete"));
+                reg.exec(QStringLiteral("DROP TABLE tbl_Document_Text"));
+            }
+            reg.exec(QStringLiteral("PRAGMA user_version = %1").arg(version));
+        } else {
+            reg.exec(QStringLiteral("DROP TRIGGER \"trg_Document_Text_Words\" ON \"tbl_Document_Text\""));
+            reg.exec(QStringLiteral("DROP FUNCTION \"trg_Document_Text_Words\"()"));
+            reg.exec(QStringLiteral("DROP FUNCTION fold_search_text(text)"));
+            reg.exec(QStringLiteral("ALTER TABLE \"tbl_Document_Text\" DROP COLUMN \"BodyWords\""));
+            reg.exec(QStringLiteral("UPDATE tbl_Schema_Version SET Version = %1").arg(version));
+        }
+        if (version == 7)
+            addText(reg, doc, QStringLiteral("Įgaliojimas atstovauti"));
+        {
+            Connection connection;
+            connection.open(reg.connectionString());
+            QCOMPARE(contentIndexKind(connection), ContentIndexKind::None);
+        }
+        // Without the index the files' text is not searched, and nothing fails.
+        QCOMPARE(found(reg, QStringLiteral("igaliojimas")), Ids {});
+
+        const auto done = upgradeRegister(reg.path());
+        QCOMPARE(done.back()->version, newestSchemaVersion());
+        Connection connection;
+        connection.open(reg.connectionString());
+        QVERIFY(contentIndexKind(connection) != ContentIndexKind::None);
+        if (version == 6)
+            addText(reg, doc, QStringLiteral("Įgaliojimas atstovauti"));
+        QCOMPARE(found(reg, QStringLiteral("igaliojimas")), Ids {doc});
+        QCOMPARE(found(reg, QStringLiteral("\"igaliojimas atstovauti\"")), Ids {doc});
+    }
+
+    void passageAroundTheFirstHit_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("search");
+        QTest::addColumn<QString>("passage");
+        QTest::newRow("word") << "Vienas du trys SUTARTIS keturi"
+                              << "sutartis"
+                              << "Vienas du trys [SUTARTIS] keturi";
+        QTest::newRow("folded") << "Miestas: Šiaulių\n\trajonas"
+                                << "siauliu"
+                                << "Miestas: [Šiaulių] rajonas";
+        QTest::newRow("piece of a word") << "sutartys ir sutartis"
+                                         << "sutart"
+                                         << "";
+        QTest::newRow("prefix") << "sutartys ir sutartis"
+                                << "sutart*"
+                                << "[sutartys] ir sutartis";
+        QTest::newRow("phrase") << "banko paskola, paskolos bankas, banko paskolos"
+                                << "\"banko paskolos\""
+                                << "banko paskola, paskolos bankas, [banko paskolos]";
+        QTest::newRow("first of the terms") << "a b c aktas d e sutartis"
+                                            << "sutartis aktas"
+                                            << "a b c [aktas] d e sutartis";
+        QTest::newRow("cut on both sides") << "1 2 3 4 5 6 7 8 9 10 hit 11 12 13 14 15 16 17 18 19"
+                                           << "hit"
+                                           << "… 3 4 5 6 7 8 9 10 [hit] 11 12 13 14 15 16 17 18 …";
+        QTest::newRow("none") << "nothing here"
+                              << "sutartis"
+                              << "";
+        QString far;
+        for (int i = 0; i < 1000; ++i)
+            far += QStringLiteral("žodis ");
+        QTest::newRow("after a long text")
+            << far + "radinys pabaiga"
+            << "radinys"
+            << "… žodis žodis žodis žodis žodis žodis žodis žodis [radinys] pabaiga";
+    }
+
+    void passageAroundTheFirstHit()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, search);
+        QFETCH(QString, passage);
+        const QString shown = searchPassage(text, searchTerms(search))
+                                  .replace(QChar(PassageHitStart), u'[')
+                                  .replace(QChar(PassageHitEnd), u']');
+        QCOMPARE(shown, passage);
+    }
+
+    void commandLinePrintsThePassage()
+    {
+        const TestRegister reg;
+        const qint32 doc = reg.insert(QStringLiteral("tbl_Documents"),
+            {{"DokAntraste", "Sutartis"}, {"DokRegistracIndeksas", "SUT-1"},
+                {"DokRegistracData", QDate(2024, 3, 9)}});
+        addText(reg, doc, QStringLiteral("Šalys susitarė:\ttiekėjas pristato prekes per 10 dienų."));
+        reg.insert(QStringLiteral("tbl_Documents"),
+            {{"DokAntraste", "Tiekėjas"}, {"DokRegistracData", QDate(2024, 3, 8)}});
+        QProcess tool;
+        tool.start(QStringLiteral(KARTELLA_DB_PATH), {"search", reg.path(), "tiekejas"});
+        QVERIFY(tool.waitForFinished(60000));
+        QCOMPARE(tool.exitCode(), 0);
+        QCOMPARE(QString::fromUtf8(tool.readAllStandardOutput()),
+            QString("SUT-1\t2024-03-09\tSutartis\tŠalys susitarė: [tiekėjas] pristato prekes per 10 dienų\n"
+                    "\t2024-03-08\tTiekėjas\n"));
+    }
+};
+
+QTEST_GUILESS_MAIN(ContentSearchTest)
+#include "tst_content_search.moc"
