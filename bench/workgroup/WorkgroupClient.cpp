@@ -140,9 +140,12 @@ private:
         const QString text = SearchWords.at(int(m_random.bounded(qsizetype(SearchWords.size()))));
         QElapsedTimer timer;
         timer.start();
-        const QStringList words = searchWords(text);
-        readFirstPage(DocumentPaging(
-            searchListSql(words, registerSearchIndex(), 0, false, {}, {}), DocumentPaging::Mode::Category));
+        const QList<SearchTerm> terms = searchTerms(text);
+        const SearchIndexes indexes = registerSearchIndexes();
+        DocumentPaging paging(searchListSql(terms, indexes, 0, false, {}, {}), DocumentPaging::Mode::Category);
+        const SearchRanking ranking = searchRanking(terms, indexes);
+        paging.setRanking(ranking.join, ranking.key);
+        readFirstPage(paging);
         operation.ms = msSince(timer);
         operation.value = text;
     }
