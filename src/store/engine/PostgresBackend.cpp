@@ -419,7 +419,7 @@ QVariant PostgresBackend::insertRow(
 }
 
 void PostgresBackend::updateRow(const TableSchema& table, const QString& keyName, const QVariant& key,
-    const QStringList& columns, const QVariantList& values)
+    const QStringList& columns, const QVariantList& values, const QVariantList& originals)
 {
     if (columns.isEmpty())
         return;
@@ -427,14 +427,51 @@ void PostgresBackend::updateRow(const TableSchema& table, const QString& keyName
     QStringList assignments;
     for (qsizetype i = 0; i < columns.size(); ++i)
         assignments << quotedName(columns[i]) + QStringLiteral("=$") + QString::number(i + 1);
-    const QString sql = QStringLiteral("UPDATE ") + quotedName(table.name) + QStringLiteral(" SET ")
+    QString sql = QStringLiteral("UPDATE ") + quotedName(table.name) + QStringLiteral(" SET ")
         + assignments.join(u',') + QStringLiteral(" WHERE ") + quotedName(keyName) + QStringLiteral("=$")
         + QString::number(columns.size() + 1);
     QVariantList parameters = values;
     parameters << key;
+    for (qsizetype i = 0; i < columns.size() && i < originals.size(); ++i) {
+        const QVariant& original = originals[i];
+        const QString column = quotedName(columns[i]);
+        if (isNullValue(original)) {
+            sql += QStringLiteral(" AND ") + column + QStringLiteral(" IS NULL");
+            continue;
+        }
+        // The server reads the text as the column's own type, a time to the millisecond.
+        parameters << (original.typeId() == QMetaType::QDateTime
+                ? QVariant(originalDateTimeText(original.toDateTime()))
+                : original);
+        sql += QStringLiteral(" AND ") + column + QStringLiteral("=$") + QString::number(parameters.size());
+    }
     const Result result = run(sql.toUtf8(), textParameters(parameters), sql);
-    if (qstrcmp(PQcmdTuples(result.get()), "0") == 0)
+    if (qstrcmp(PQcmdTuples(result.get()), "0") != 0)
+        return;
+    if (readRow(table, keyName, key, {keyName}).rows.rowCount() == 0)
         failRowGone(table, keyName, key);
+    failRowChanged(table, keyName, key);
+}
+
+QueryResult PostgresBackend::readRow(
+    const TableSchema& table, const QString& keyName, const QVariant& key, const QStringList& columns)
+{
+    const StatementGuard guard(*this);
+    QStringList names;
+    for (const QString& column : columns)
+        names << quotedName(column);
+    const QString sql = QStringLiteral("SELECT ") + names.join(u',') + QStringLiteral(" FROM ")
+        + quotedName(table.name) + QStringLiteral(" WHERE ") + quotedName(keyName) + QStringLiteral("=$1");
+    const Result rows = run(sql.toUtf8(), textParameters({key}), sql);
+    QueryResult result;
+    describe(rows.get(), result);
+    result.visibleColumns = int(result.columns.size());
+    std::vector<int> order;
+    for (int c = 0; c < result.visibleColumns; ++c)
+        order.push_back(c);
+    result.rows = RowStore(result.visibleColumns);
+    readRows(rows.get(), result, order);
+    return result;
 }
 
 void PostgresBackend::deleteRow(const TableSchema& table, const QString& keyName, const QVariant& key)

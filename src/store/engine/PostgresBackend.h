@@ -39,8 +39,10 @@ public:
     QVariant insertRow(
         const TableSchema& table, const QStringList& columns, const QVariantList& values) override;
     void updateRow(const TableSchema& table, const QString& keyName, const QVariant& key,
-        const QStringList& columns, const QVariantList& values) override;
+        const QStringList& columns, const QVariantList& values, const QVariantList& originals) override;
     void deleteRow(const TableSchema& table, const QString& keyName, const QVariant& key) override;
+    QueryResult readRow(const TableSchema& table, const QString& keyName, const QVariant& key,
+        const QStringList& columns) override;
     void beginTransaction() override;
     void commitTransaction() override;
     void rollbackTransaction() override;

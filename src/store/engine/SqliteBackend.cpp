@@ -484,21 +484,70 @@ QVariant SqliteBackend::insertRow(
 }
 
 void SqliteBackend::updateRow(const TableSchema& table, const QString& keyName, const QVariant& key,
-    const QStringList& columns, const QVariantList& values)
+    const QStringList& columns, const QVariantList& values, const QVariantList& originals)
 {
     if (columns.isEmpty())
         return;
     QStringList assignments;
     for (const QString& column : columns)
         assignments << quotedName(column) + QStringLiteral("=?");
-    const QString sql = QStringLiteral("UPDATE ") + quotedName(table.name) + QStringLiteral(" SET ")
+    QString sql = QStringLiteral("UPDATE ") + quotedName(table.name) + QStringLiteral(" SET ")
         + assignments.join(u',') + QStringLiteral(" WHERE ") + quotedName(keyName) + QStringLiteral("=?");
+    QVariantList parameters = values;
+    parameters << key;
+    for (qsizetype i = 0; i < columns.size() && i < originals.size(); ++i) {
+        const QVariant& original = originals[i];
+        const QString column = quotedName(columns[i]);
+        if (isNullValue(original)) {
+            sql += QStringLiteral(" AND ") + column + QStringLiteral(" IS NULL");
+        } else if (original.typeId() == QMetaType::QDate || original.typeId() == QMetaType::QDateTime) {
+            // A date was read from any of the text forms that mean it ("T" or a blank before
+            // the time, with or without milliseconds): compared as the moment it names.
+            sql += QStringLiteral(" AND julianday(") + column + QStringLiteral(")=julianday(?)");
+            parameters << (original.typeId() == QMetaType::QDate
+                    ? QVariant(isoText(original.toDate()))
+                    : QVariant(originalDateTimeText(original.toDateTime())));
+        } else {
+            sql += QStringLiteral(" AND ") + column + QStringLiteral("=?");
+            parameters << original;
+        }
+    }
     sqlite3_stmt* statement = cachedStatement(sql);
-    for (int i = 0; i < values.size(); ++i)
-        bind(statement, i + 1, values[i], sql);
-    bind(statement, int(values.size()) + 1, key, sql);
-    if (run(statement, sql) == 0)
+    for (int i = 0; i < parameters.size(); ++i)
+        bind(statement, i + 1, parameters[i], sql);
+    if (run(statement, sql) > 0)
+        return;
+    if (readRow(table, keyName, key, {keyName}).rows.rowCount() == 0)
         failRowGone(table, keyName, key);
+    failRowChanged(table, keyName, key);
+}
+
+QueryResult SqliteBackend::readRow(
+    const TableSchema& table, const QString& keyName, const QVariant& key, const QStringList& columns)
+{
+    QStringList names;
+    for (const QString& column : columns)
+        names << quotedName(column);
+    const QString sql = QStringLiteral("SELECT ") + names.join(u',') + QStringLiteral(" FROM ")
+        + quotedName(table.name) + QStringLiteral(" WHERE ") + quotedName(keyName) + QStringLiteral("=?");
+    Statement statement = prepare(sql.toUtf8(), sql);
+    bind(statement.get(), 1, key, sql);
+    QueryResult result;
+    const int count = sqlite3_column_count(statement.get());
+    std::vector<int> order;
+    for (int c = 0; c < count; ++c) {
+        ColumnInfo column;
+        column.name = QString::fromUtf8(sqlite3_column_name(statement.get(), c));
+        column.table = table.name;
+        column.origin = columns.value(c);
+        column.declared = declaredKind(sqlite3_column_decltype(statement.get(), c));
+        result.columns.push_back(column);
+        order.push_back(c);
+    }
+    result.visibleColumns = count;
+    result.rows = RowStore(count);
+    readRows(statement.get(), result, order, sql);
+    return result;
 }
 
 void SqliteBackend::deleteRow(const TableSchema& table, const QString& keyName, const QVariant& key)
