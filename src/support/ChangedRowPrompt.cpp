@@ -77,4 +77,20 @@ ChangedRowChoice resolveChangedRow(Recordset& recordset, const QString& what,
     return answer == 1 ? ChangedRowChoice::KeepMine : ChangedRowChoice::Cancel;
 }
 
+bool storeResolvingChanges(Recordset& recordset, int affect, const QString& what,
+    const QList<QPair<QString, QString>>& captions, const QString& title)
+{
+    for (;;) {
+        try {
+            recordset.updateBatch(affect);
+            return true;
+        } catch (const Error& error) {
+            if (!rowWasChanged(error))
+                throw;
+        }
+        if (resolveChangedRow(recordset, what, captions, title, affect) != ChangedRowChoice::KeepMine)
+            return false;
+    }
+}
+
 } // namespace kartella

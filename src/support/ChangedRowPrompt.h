@@ -35,4 +35,11 @@ bool rowWasChanged(const Error& error);
 ChangedRowChoice resolveChangedRow(Recordset& recordset, const QString& what,
     const QList<QPair<QString, QString>>& captions, const QString& title, int affect = AffectEnum::Current);
 
+// Writes recordset's changes (updateBatch of affect); rows another user changed meanwhile
+// are resolved as resolveChangedRow does, and written again while the user keeps theirs.
+// True when written; false when the user reloaded or went back to what was typed. Other
+// errors travel to the caller.
+bool storeResolvingChanges(Recordset& recordset, int affect, const QString& what,
+    const QList<QPair<QString, QString>>& captions, const QString& title);
+
 } // namespace kartella

@@ -358,6 +358,115 @@ private Q_SLOTS:
         QVERIFY(!dialog.isVisible());
     }
 
+    // The address book on a contact another program changes: the save question's Yes tells
+    // so, with the stored and the typed city, and the user reloads the contact (the window
+    // stays on it, showing what is stored) or stores theirs over it; the other program's
+    // address, a field not typed here, stays either way.
+    void contactChanged_data()
+    {
+        QTest::addColumn<int>("where");
+        QTest::addColumn<int>("answer");
+        for (const int where : {int(TestRegister::File), int(TestRegister::Server)}) {
+            const char* place = where == TestRegister::File ? "file" : "server";
+            QTest::addRow("%s, Reload", place) << where << int(MsgBoxResult::Yes);
+            QTest::addRow("%s, Keep Mine", place) << where << int(MsgBoxResult::No);
+        }
+    }
+    void contactChanged()
+    {
+        QFETCH(int, answer);
+        REGISTER_OR_SKIP(reg);
+        ScriptedPrompter prompter;
+        const qint32 ona = reg->insert("tbl_Contacts",
+            {{"FullName", "Ona Petraitiene"}, {"City", "Vilnius"}, {"Address", "Gedimino 1"}});
+        reg->insert("tbl_Contacts", {{"FullName", "Jonas Jonaitis"}, {"City", "Kaunas"}});
+        AddressBookWindow window;
+        Shown w(&window);
+        w.clickLine("Ona Petraitiene");
+        reg->exec(
+            "UPDATE tbl_Contacts SET City='Alytus', Address='Laisves 2' WHERE ContactID=" + idText(ona));
+        retype(w.box(6), "Trakai");
+        prompter.answer(MsgBoxResult::Yes).answer(answer);
+        w.clickLine("Jonas Jonaitis");
+        const QStringList texts = prompter.texts();
+        QCOMPARE(texts.size(), 2);
+        QCOMPARE(texts.first(), "Do you want to save changes you made to Contact?");
+        QVERIFY2(texts.last().startsWith("This contact was changed by another user since you opened it.\n\n"
+                                         "City: stored \"Alytus\", yours \"Trakai\"\n\n"),
+            qPrintable(texts.last()));
+        const bool reloaded = answer == MsgBoxResult::Yes;
+        QCOMPARE(reg->scalar("SELECT City FROM tbl_Contacts WHERE ContactID=" + idText(ona)),
+            reloaded ? "Alytus" : "Trakai");
+        QCOMPARE(reg->scalar("SELECT Address FROM tbl_Contacts WHERE ContactID=" + idText(ona)), "Laisves 2");
+        if (reloaded) {
+            QCOMPARE(w.box(4)->text(), "Ona Petraitiene");
+            QCOMPARE(w.box(6)->text(), "Alytus");
+            QTRY_COMPARE(w.list()->currentItem()->text(0), "Ona Petraitiene");
+            // The user may type again, and the next save stores it.
+            retype(w.box(6), "Birzai");
+            prompter.answer(MsgBoxResult::Yes);
+            w.clickLine("Jonas Jonaitis");
+            QCOMPARE(prompter.texts().size(), 3);
+            QCOMPARE(reg->scalar("SELECT City FROM tbl_Contacts WHERE ContactID=" + idText(ona)), "Birzai");
+        }
+        QCOMPARE(w.box(4)->text(), "Jonas Jonaitis");
+        QTest::keyClick(&window, Qt::Key_Escape);
+        QVERIFY(!window.isVisible());
+        QVERIFY(prompter.allAnswered());
+    }
+
+    // The category dialog on a category another program renamed: OK tells so; Reload shows
+    // the stored title in the dialog, Keep Mine stores the typed one; the other program's
+    // mnemonic stays either way.
+    void categoryChanged_data()
+    {
+        QTest::addColumn<int>("where");
+        QTest::addColumn<int>("answer");
+        for (const int where : {int(TestRegister::File), int(TestRegister::Server)}) {
+            const char* place = where == TestRegister::File ? "file" : "server";
+            QTest::addRow("%s, Reload", place) << where << int(MsgBoxResult::Yes);
+            QTest::addRow("%s, Keep Mine", place) << where << int(MsgBoxResult::No);
+        }
+    }
+    void categoryChanged()
+    {
+        QFETCH(int, answer);
+        REGISTER_OR_SKIP(reg);
+        ScriptedPrompter prompter;
+        const qint32 contracts
+            = reg->insert("tbl_Document_Categories", {{"DokKategorija", "Contracts"}, {"Mnemonic", "AGR"}});
+        selection().currentCategoryId = contracts;
+        selection().currentNodeKind = "a";
+        CategoryDialog dialog;
+        showActive(&dialog);
+        reg->exec("UPDATE tbl_Document_Categories SET DokKategorija='Deals', Mnemonic='DL' WHERE KategID="
+            + idText(contracts));
+        auto* name = child<QLineEdit>(&dialog, "txtFields_1");
+        retype(name, "Agreements");
+        prompter.answer(answer);
+        auto* ok = child<QPushButton>(&dialog, "cmdClose");
+        ok->setFocus();
+        QTest::keyClick(ok, Qt::Key_Space);
+        const QStringList texts = prompter.texts();
+        QCOMPARE(texts.size(), 1);
+        QVERIFY2(texts.first().startsWith("This category was changed by another user since you opened it.\n\n"
+                                          "Title of Category: stored \"Deals\", yours \"Agreements\"\n\n"),
+            qPrintable(texts.first()));
+        const bool reloaded = answer == MsgBoxResult::Yes;
+        const QString sql
+            = "SELECT DokKategorija FROM tbl_Document_Categories WHERE KategID=" + idText(contracts);
+        QCOMPARE(reg->scalar(sql), reloaded ? "Deals" : "Agreements");
+        QCOMPARE(
+            reg->scalar("SELECT Mnemonic FROM tbl_Document_Categories WHERE KategID=" + idText(contracts)),
+            "DL");
+        QCOMPARE(dialog.isVisible(), reloaded);
+        if (reloaded) {
+            QCOMPARE(name->text(), "Deals");
+            dialog.reject();
+        }
+        QVERIFY(prompter.allAnswered());
+    }
+
     // The address book on a contact another program deletes with its phones and web pages:
     // saving a change to the contact's boxes, or writing its web page in the grid, says so.
     void contactDeleted_data()

@@ -127,11 +127,11 @@ public:
     // failing writes nothing and leaves every change pending. Empty functions do nothing.
     void setBatchWork(std::function<void(Connection&)> before, std::function<void(Connection&)> after);
     void deleteRecord(int affect = AffectEnum::Current);
-    // Reads the rows again from the database (AffectEnum::Current: the current row and the
-    // chapter rows it shows; All: every row, those of the chapters too). ResyncEnum::UnderlyingValues: what the database
-    // holds now is what the next write finds the row by; fields with a change waiting keep
-    // their values, the others show the stored ones, so a write after it stores the changes
-    // over another program's and keeps the rest of what that program stored.
+    // Reads rows again from the database (AffectEnum::Current: the current row and the
+    // chapter rows it shows; All: every row with a change waiting, those of the chapters too).
+    // ResyncEnum::UnderlyingValues: what the database holds now is what the next write finds the row by;
+    // fields with a change waiting keep their values, the others show the stored ones, so a write after it
+    // stores the changes over another program's and keeps the rest of what that program stored.
     // ResyncEnum::AllValues: the changes waiting are dropped and the rows show what is stored.
     // Rows added here and rows no longer in the database stay as they are.
     void resync(int affect = AffectEnum::All, int resyncValues = ResyncEnum::AllValues);

@@ -101,8 +101,12 @@ void Recordset::resync(int affect, int resyncValues)
             Q_EMIT chapter.recordset->recordsetChangeComplete();
         }
     } else {
-        for (int row = 0; d->updatable && row < int(d->rows.size()); ++row)
-            d->resyncRow(row, keepChanges);
+        if (d->edit)
+            d->commitEdit(false);
+        for (int row = 0; d->updatable && row < int(d->rows.size()); ++row) {
+            if (d->rows[std::size_t(row)].status == RowStatus::Modified)
+                d->resyncRow(row, keepChanges);
+        }
         for (ChapterInfo& chapter : d->chapters) {
             if (chapter.recordset->d->open)
                 chapter.recordset->resync(AffectEnum::All, resyncValues);
