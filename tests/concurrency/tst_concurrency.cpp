@@ -26,6 +26,9 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QScopeGuard>
+#include <QSysInfo>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -356,6 +359,60 @@ private Q_SLOTS:
             "Letters");
         dialog.reject();
         QVERIFY(!dialog.isVisible());
+    }
+
+    // Another program holds the register locked (a write transaction on the file, the row on
+    // the server) while the details are stored: OK waits, then tells the register is in use,
+    // by whom where the server can tell; the dialog keeps what was typed, and once the lock
+    // is gone a later OK stores it beside the other program's change.
+    void busyRegister_data() { addPlaces(); }
+    void busyRegister()
+    {
+        REGISTER_OR_SKIP(reg);
+        ScriptedPrompter prompter;
+        const qint32 lease = reg->insert("tbl_Documents", {{"DokAntraste", "Lease"}});
+        selection().selectedDocumentId = lease;
+        const int wait = Connection::lockWaitMs();
+        Connection::setLockWaitMs(300);
+        const auto restoreWait = qScopeGuard([wait] { Connection::setLockWaitMs(wait); });
+        DocumentDetailsDialog dialog;
+        showActive(&dialog);
+
+        Connection other(reg->connectionString());
+        other.open();
+        other.beginTrans();
+        other.execute("UPDATE tbl_Documents SET DokPastaba='Their note' WHERE RastasID=" + idText(lease));
+        auto* description = child<QLineEdit>(&dialog, "txtFields_7");
+        retype(description, "Changed");
+        prompter.answer(MsgBoxResult::Ok);
+        auto* ok = child<QPushButton>(&dialog, "cmdButton_0");
+        QTest::keyClick(ok, Qt::Key_Space);
+        const QStringList texts = prompter.texts();
+        QCOMPARE(texts.size(), 1);
+        // On the server the holder is named as its program named itself: Kartella, a user, a host.
+        const bool onServer = reg->path().startsWith("postgresql://");
+        const QString told = texts.first();
+        QVERIFY2(told.contains(onServer ? "The register is in use by Kartella "
+                                        : "The register is in use by another program, ")
+                && told.contains(", which kept it locked for 0.3 seconds; try again."),
+            qPrintable(told));
+        if (onServer)
+            QVERIFY2(told.contains(QRegularExpression("by Kartella \\S+@"
+                         + QRegularExpression::escape(QSysInfo::machineHostName()) + ", which")),
+                qPrintable(told));
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(description->text(), "Changed");
+        QCOMPARE(
+            reg->scalar("SELECT DokAntraste FROM tbl_Documents WHERE RastasID=" + idText(lease)), "Lease");
+
+        other.commitTrans();
+        QTest::keyClick(ok, Qt::Key_Space);
+        QCOMPARE(prompter.texts().size(), 1);
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(
+            reg->scalar("SELECT DokAntraste FROM tbl_Documents WHERE RastasID=" + idText(lease)), "Changed");
+        QCOMPARE(reg->scalar("SELECT DokPastaba FROM tbl_Documents WHERE RastasID=" + idText(lease)),
+            "Their note");
     }
 
     // The address book on a contact another program changes: the save question's Yes tells

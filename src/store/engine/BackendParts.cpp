@@ -67,6 +67,13 @@ QString originalDateTimeText(const QDateTime& dateTime)
     return dateTime.toString(u"yyyy-MM-dd HH:mm:ss.zzz");
 }
 
+QString waitText(int milliseconds)
+{
+    if (milliseconds == 1000)
+        return QStringLiteral("1 second");
+    return QString::number(milliseconds / 1000.0) + QStringLiteral(" seconds");
+}
+
 void findKeyColumn(QueryResult& result, const TableSchema& schema)
 {
     for (int c = 0; c < result.visibleColumns; ++c) {

@@ -36,6 +36,9 @@ inline bool isNullValue(const QVariant& value)
 // A date and time as an original to compare with: to the millisecond, as it was read.
 QString originalDateTimeText(const QDateTime& dateTime);
 
+// A wait as a message tells it: "10 seconds", "1 second", "0.5 seconds".
+QString waitText(int milliseconds);
+
 // Sets the result's key column and name when the table's key is among its visible columns.
 void findKeyColumn(QueryResult& result, const TableSchema& schema);
 

@@ -131,7 +131,8 @@ std::unique_ptr<SqliteBackend> SqliteBackend::open(const QString& path)
     if (!registerTextFunctions(db))
         failToOpen(QStringLiteral("Could not prepare the register '") + path + QStringLiteral("': ")
             + QString::fromUtf8(sqlite3_errmsg(db)));
-    sqlite3_busy_timeout(db, g_openingWait >= 0 ? g_openingWait : BusyTimeoutMs);
+    backend->m_busyTimeoutMs = Connection::lockWaitMs();
+    sqlite3_busy_timeout(db, g_openingWait >= 0 ? g_openingWait : backend->m_busyTimeoutMs);
     // The register relies on no cascade but its own trigger.
     sqlite3_exec(db, "PRAGMA foreign_keys = OFF", nullptr, nullptr, nullptr);
     if (kind == FileKind::Empty)
@@ -157,7 +158,7 @@ std::unique_ptr<SqliteBackend> SqliteBackend::open(const QString& path)
     if (!isRegister)
         failToOpen(QStringLiteral("'") + path
             + QStringLiteral("' is a database but not a register: it has no table tbl_Documents."));
-    sqlite3_busy_timeout(db, BusyTimeoutMs);
+    sqlite3_busy_timeout(db, backend->m_busyTimeoutMs);
     return backend;
 }
 
@@ -179,10 +180,9 @@ void SqliteBackend::fail(int code, const QString& shownSql) const
     const int primary = code & 0xFF;
     QString message;
     if (primary == SQLITE_BUSY || primary == SQLITE_LOCKED)
-        message
-            = QStringLiteral("The register is in use by another program and stayed locked for %1 seconds; "
-                             "try again.")
-                  .arg(BusyTimeoutMs / 1000);
+        message = QStringLiteral("The register is in use by another program, which kept it locked for %1; "
+                                 "try again.")
+                      .arg(waitText(m_busyTimeoutMs));
     else if (primary == SQLITE_FULL)
         message = QStringLiteral("The disk that holds the register is full, and the change was not stored. "
                                  "Make room on it and try again.");
