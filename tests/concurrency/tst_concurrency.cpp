@@ -248,6 +248,62 @@ private Q_SLOTS:
         QCOMPARE(reg->scalar("SELECT COUNT(*) FROM tbl_Sub_Documents").toInt(), 0);
     }
 
+    // The related document's description, open on a row another program changes: OK tells
+    // so with both descriptions; Keep Mine stores the typed one beside the other program's
+    // location, Reload shows the stored one in the dialog.
+    void relatedDocumentChanged_data()
+    {
+        QTest::addColumn<int>("where");
+        QTest::addColumn<int>("answer");
+        for (const int where : {int(TestRegister::File), int(TestRegister::Server)}) {
+            const char* place = where == TestRegister::File ? "file" : "server";
+            QTest::addRow("%s, Reload", place) << where << int(MsgBoxResult::Yes);
+            QTest::addRow("%s, Keep Mine", place) << where << int(MsgBoxResult::No);
+        }
+    }
+    void relatedDocumentChanged()
+    {
+        QFETCH(int, answer);
+        REGISTER_OR_SKIP(reg);
+        ScriptedPrompter prompter;
+        const qint32 lease = reg->insert("tbl_Documents", {{"DokAntraste", "Lease"}});
+        const qint32 annex
+            = reg->insert("tbl_Sub_Documents", {{"RastasID", lease}, {"SubDocDescript", "Annex"}});
+        selection().selectedDocumentId = lease;
+        selection().selectedSubDocumentId = annex;
+        selection().selectedItemText = "Annex";
+        RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Editing);
+        showActive(&dialog);
+        reg->exec("UPDATE tbl_Sub_Documents SET SubDocDescript='Annex A', SubRastoKelias='annex.odt' "
+                  "WHERE SubRastasID="
+            + idText(annex));
+        auto* description = child<QPlainTextEdit>(&dialog, "txtFields_1");
+        description->setFocus();
+        QTest::keyClick(description, Qt::Key_End);
+        QTest::keyClicks(description, " 2");
+        prompter.answer(answer);
+        auto* ok = child<QPushButton>(&dialog, "cmdOK");
+        ok->setFocus();
+        QTest::keyClick(ok, Qt::Key_Space);
+        const QStringList texts = prompter.texts();
+        QCOMPARE(texts.size(), 1);
+        QVERIFY2(
+            texts.first().startsWith("This related document was changed by another user since you opened "
+                                     "it.\n\nRelated Document Description: stored \"Annex A\", yours "
+                                     "\"Annex 2\"\n\n"),
+            qPrintable(texts.first()));
+        const bool reloaded = answer == MsgBoxResult::Yes;
+        const QString where = " FROM tbl_Sub_Documents WHERE SubRastasID=" + idText(annex);
+        QCOMPARE(reg->scalar("SELECT SubDocDescript" + where), reloaded ? "Annex A" : "Annex 2");
+        QCOMPARE(reg->scalar("SELECT SubRastoKelias" + where), "annex.odt");
+        QCOMPARE(dialog.isVisible(), reloaded);
+        if (reloaded) {
+            QCOMPARE(description->toPlainText(), "Annex A");
+            dialog.reject();
+        }
+        QVERIFY(prompter.allAnswered());
+    }
+
     // The main window with a document selected that another program then deletes: F5 shows
     // the register as it is now.
     void mainWindowAfterDeletion_data() { addPlaces(); }
