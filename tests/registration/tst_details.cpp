@@ -265,6 +265,42 @@ private Q_SLOTS:
         QCOMPARE(fx.document("DokAntraste", fx.other).toString(), "Other");
     }
 
+    // Another user changed the document's reminder while the dialog was open: OK tells so;
+    // Keep Mine stores the reminder typed here, Reload shows the stored one in the grid.
+    void reminderChangedByAnotherUser_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<QString>("storedAfter");
+        QTest::newRow("Reload") << int(MsgBoxResult::Yes) << "Call at once";
+        QTest::newRow("Keep Mine") << int(MsgBoxResult::No) << "Call at noon";
+    }
+
+    void reminderChangedByAnotherUser()
+    {
+        QFETCH(int, answer);
+        QFETCH(QString, storedAfter);
+        Fixture fx;
+        DocumentDetailsDialog dialog;
+        showActive(dialog);
+        fx.reg.exec(
+            "UPDATE tbl_Tickler SET TicklerText='Call at once' WHERE RastasID=" + QString::number(fx.lease));
+        auto* grid = dialog.findChild<QTableView*>("grdTickler");
+        QVERIFY(grid->model()->setData(grid->model()->index(0, 3), "Call at noon"));
+        fx.prompter.answer(answer);
+        click(dialog, "cmdButton_0");
+        const auto prompts = fx.prompter.take();
+        QCOMPARE(prompts.size(), 1);
+        QVERIFY2(
+            prompts.first().text.startsWith("This document was changed by another user since you opened it."),
+            qPrintable(prompts.first().text));
+        QCOMPARE(fx.reminders(),
+            QString::number(fx.lease) + ":" + storedAfter + "," + QString::number(fx.other) + ":Other's");
+        const bool reloaded = answer == MsgBoxResult::Yes;
+        QCOMPARE(dialog.isVisible(), reloaded);
+        if (reloaded)
+            QCOMPARE(grid->model()->index(0, 3).data().toString(), "Call at once");
+    }
+
     // An index changed to one another document has is refused, with the next free number
     // on offer; the document's own index, kept as it was, is no duplicate of itself, even
     // when an older register holds it twice.
