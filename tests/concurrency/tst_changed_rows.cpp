@@ -3,6 +3,7 @@
 #include "../addressbook/AddressBookFixture.h"
 #include "ConcurrencyFixture.h"
 #include "addressbook/AddressBookWindow.h"
+#include "addressbook/ContactEditor.h"
 #include "categories/CategoryDialog.h"
 #include "harness/ScriptedPrompter.h"
 #include "platform/Prompter.h"
@@ -82,6 +83,54 @@ private Q_SLOTS:
         QCOMPARE(w.box(4)->text(), "Jonas Jonaitis");
         QTest::keyClick(&window, Qt::Key_Escape);
         QVERIFY(!window.isVisible());
+        QVERIFY(prompter.allAnswered());
+    }
+
+    // The new-contact editor, its contact stored by Add Phone, on a contact another program
+    // then changes: OK tells so; Keep Mine stores the typed city, Reload shows the stored one
+    // for a later OK; the other program's e-mail address stays either way.
+    void newContactChanged_data()
+    {
+        QTest::addColumn<int>("where");
+        QTest::addColumn<int>("answer");
+        for (const int where : {int(TestRegister::File), int(TestRegister::Server)}) {
+            const char* place = where == TestRegister::File ? "file" : "server";
+            QTest::addRow("%s, Reload", place) << where << int(MsgBoxResult::Yes);
+            QTest::addRow("%s, Keep Mine", place) << where << int(MsgBoxResult::No);
+        }
+    }
+    void newContactChanged()
+    {
+        QFETCH(int, answer);
+        REGISTER_OR_SKIP(reg);
+        ScriptedPrompter prompter;
+        ContactEditor editor;
+        Shown e(&editor);
+        e.box(4)->setFocus();
+        QTest::keyClicks(e.box(4), "Ada Adomaite");
+        QTest::keyClicks(e.box(6), "Vilnius");
+        e.click("cmdAddPhone");
+        const QString id = reg->scalar("SELECT ContactID FROM tbl_Contacts").toString();
+        reg->exec("UPDATE tbl_Contacts SET City='Kaunas', EmailName='ada@kaunas.lt' WHERE ContactID=" + id);
+        retype(e.box(6), "Trakai");
+        prompter.answer(answer);
+        e.click("cmdOk");
+        const QStringList texts = prompter.texts();
+        QCOMPARE(texts.size(), 1);
+        QVERIFY2(texts.first().startsWith("This contact was changed by another user since you opened it.\n\n")
+                && texts.first().contains("\nCity: stored \"Kaunas\", yours \"Trakai\"\n"),
+            qPrintable(texts.first()));
+        const bool reloaded = answer == MsgBoxResult::Yes;
+        QCOMPARE(reg->scalar("SELECT City FROM tbl_Contacts WHERE ContactID=" + id),
+            reloaded ? "Kaunas" : "Trakai");
+        QCOMPARE(editor.isVisible(), reloaded);
+        if (reloaded) {
+            QCOMPARE(e.box(6)->text(), "Kaunas");
+            e.click("cmdOk");
+            QVERIFY(!editor.isVisible());
+        }
+        QCOMPARE(reg->scalar("SELECT EmailName FROM tbl_Contacts WHERE ContactID=" + id), "ada@kaunas.lt");
+        QCOMPARE(reg->scalar("SELECT COUNT(*) FROM tbl_Contacts").toInt(), 1);
         QVERIFY(prompter.allAnswered());
     }
 
