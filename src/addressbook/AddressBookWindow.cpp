@@ -10,6 +10,7 @@
 #include "store/Store.h"
 #include "store/engine/Recordset.h"
 #include "support/BusyCursor.h"
+#include "support/ChangedRowPrompt.h"
 #include "support/DialogParts.h"
 #include "support/FieldBinder.h"
 #include "support/RecordsetModel.h"
@@ -236,7 +237,9 @@ bool AddressBookWindow::askToSave()
     if (answer == MsgBoxResult::Cancel)
         return false;
     if (answer == MsgBoxResult::Yes) {
-        saveChanges();
+        // A contact another user changed meanwhile and not stored over stays shown.
+        if (!saveChanges())
+            return false;
     } else {
         // No: the typed changes are dropped.
         try {
@@ -249,20 +252,31 @@ bool AddressBookWindow::askToSave()
     return true;
 }
 
-void AddressBookWindow::saveChanges()
+bool AddressBookWindow::saveChanges()
 {
     // A refused save is told and leaves the stored row as it was.
     try {
-        if (m_contactChanged)
-            m_contacts->updateBatch(AffectEnum::Current);
-        if (m_phonesChanged && m_phones->isOpen())
-            m_phones->updateBatch(AffectEnum::All);
-        if (m_homePagesChanged && m_homePages->isOpen())
-            m_homePages->updateBatch(AffectEnum::All);
+        const auto store = [this](Recordset& rows, int affect, bool& changed) {
+            if (!changed)
+                return true;
+            if (!storeResolvingChanges(
+                    rows, affect, QStringLiteral("contact"), ContactEditor::fieldCaptions(), windowTitle())) {
+                // Reloaded, what is shown is what is stored; else the change still waits.
+                changed = rows.hasPendingChanges();
+                return false;
+            }
+            return true;
+        };
+        if (!store(*m_contacts, AffectEnum::Current, m_contactChanged))
+            return false;
+        if (m_phones->isOpen() && !store(*m_phones, AffectEnum::All, m_phonesChanged))
+            return false;
+        if (m_homePages->isOpen() && !store(*m_homePages, AffectEnum::All, m_homePagesChanged))
+            return false;
     } catch (const Error& error) {
         if (!rowWasDeleted(error)) {
             msgBox(error.description());
-            return;
+            return true;
         }
         reportDeletedRow(QStringLiteral("contact"), windowTitle());
         // Nothing of the gone contact can be stored: its pending changes are dropped.
@@ -270,6 +284,7 @@ void AddressBookWindow::saveChanges()
             m_contacts->cancelBatch();
         } catch (const Error&) { }
     }
+    return true;
 }
 
 void AddressBookWindow::onHeaderClicked(int column)
@@ -363,8 +378,8 @@ void AddressBookWindow::done(int result)
         // Cancel closes the window too, without saving.
         const int answer = msgBox(QStringLiteral("Do you want to save changes you made to Contact?"),
             MsgBoxStyle::YesNoCancel | MsgBoxStyle::Question, QStringLiteral("Saving Contact Changes"));
-        if (answer == MsgBoxResult::Yes)
-            saveChanges();
+        if (answer == MsgBoxResult::Yes && !saveChanges())
+            return;
         clearFlags();
     }
     while (QGuiApplication::overrideCursor())

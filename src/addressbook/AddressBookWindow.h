@@ -68,7 +68,9 @@ private:
     void onHomePageRowChanged();
     // Asks whether to save the changes of the current contact; false on Cancel.
     bool askToSave();
-    void saveChanges();
+    // False when a contact another user changed meanwhile was not stored over: the window
+    // stays on it.
+    bool saveChanges();
     void clearFlags();
     void showItemCount();
     void showDataError(const QString& number, const QString& description);

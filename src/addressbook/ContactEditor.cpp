@@ -7,6 +7,7 @@
 #include "store/Store.h"
 #include "store/engine/Recordset.h"
 #include "support/BusyCursor.h"
+#include "support/ChangedRowPrompt.h"
 #include "support/DialogParts.h"
 #include "support/EnterAsTab.h"
 #include "support/FieldBinder.h"
@@ -310,14 +311,37 @@ void ContactEditor::storeGridRows()
     }
 }
 
+QList<QPair<QString, QString>> ContactEditor::fieldCaptions()
+{
+    return {{QStringLiteral("CompanyName"), QStringLiteral("Company Name")},
+        {QStringLiteral("Title"), QStringLiteral("Title")}, {QStringLiteral("Dear"), QStringLiteral("Dear")},
+        {QStringLiteral("FullName"), QStringLiteral("FullName")},
+        {QStringLiteral("Address"), QStringLiteral("Address")},
+        {QStringLiteral("City"), QStringLiteral("City")},
+        {QStringLiteral("Country"), QStringLiteral("Country")},
+        {QStringLiteral("StateOrProvince"), QStringLiteral("State/Province")},
+        {QStringLiteral("PostalCode"), QStringLiteral("Zip/Postal Code")},
+        {QStringLiteral("EmailName"), QStringLiteral("EmailName")},
+        {QStringLiteral("Notes"), QStringLiteral("Notes")},
+        {QStringLiteral("PhoneName"), QStringLiteral("Phone")},
+        {QStringLiteral("PhoneNumber"), QStringLiteral("Phone number")},
+        {QStringLiteral("Description"), QStringLiteral("Web page")},
+        {QStringLiteral("HomeWWW"), QStringLiteral("Web address")}};
+}
+
 void ContactEditor::save()
 {
-    // A refused row keeps the dialog open with what was typed.
+    // A refused row keeps the dialog open with what was typed; so does a row another user
+    // changed since it was stored here, unless the user stores theirs over it.
     try {
         m_binder->validate();
-        m_contact->updateBatch(AffectEnum::All);
-        if (m_homePages->isOpen())
-            m_homePages->updateBatch(AffectEnum::All);
+        if (!storeResolvingChanges(
+                *m_contact, AffectEnum::All, QStringLiteral("contact"), fieldCaptions(), windowTitle()))
+            return;
+        if (m_homePages->isOpen()
+            && !storeResolvingChanges(
+                *m_homePages, AffectEnum::All, QStringLiteral("contact"), fieldCaptions(), windowTitle()))
+            return;
     } catch (const Error& error) {
         msgBox(error.description());
         return;

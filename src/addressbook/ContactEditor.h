@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QDialog>
+#include <QList>
+#include <QPair>
 
 class QLineEdit;
 class QPlainTextEdit;
@@ -28,6 +30,10 @@ class ContactEditor : public QDialog
 public:
     explicit ContactEditor(QWidget* parent = nullptr);
     ~ContactEditor() override;
+
+    // The captions of a contact's fields, its phones' and its web pages', paired with the
+    // fields' names, as a row another user changed lists them.
+    static QList<QPair<QString, QString>> fieldCaptions();
 
 public Q_SLOTS:
     void addPhone();

@@ -40,6 +40,9 @@ constexpr long CommandFailed = -2147217900;
 // A row to change is no longer in the database: another program deleted it
 // (DB_E_DELETEDROW, 0x80040E23).
 constexpr long RowDeleted = -2147217885;
+// A row to change holds other values than it did when it was read: another program changed
+// it since (DB_E_CONCURRENCYVIOLATION, 0x80040E38).
+constexpr long RowChanged = -2147217864;
 // Operation not allowed in the object's present state (adErrIllegalOperation).
 constexpr long IllegalOperation = 3219;
 // Either BOF or EOF is true, or the current record has been deleted (adErrNoCurrentRecord).

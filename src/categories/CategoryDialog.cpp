@@ -8,6 +8,7 @@
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
 #include "support/BusyCursor.h"
+#include "support/ChangedRowPrompt.h"
 #include "support/DialogParts.h"
 #include "support/EnterAsTab.h"
 #include "support/RecordsetModel.h"
@@ -136,10 +137,16 @@ void CategoryDialog::refreshSubCategories()
 void CategoryDialog::save()
 {
     try {
-        if (m_category->isOpen())
-            m_category->updateBatch(AffectEnum::Current);
-        if (m_subCategories->isOpen())
-            m_subCategories->updateBatch(AffectEnum::All);
+        // A row another user changed meanwhile is told, and stays here unless the user
+        // stores theirs over it.
+        if (m_category->isOpen()
+            && !storeResolvingChanges(*m_category, AffectEnum::Current, QStringLiteral("category"),
+                categoryFieldCaptions(), windowTitle()))
+            return;
+        if (m_subCategories->isOpen()
+            && !storeResolvingChanges(*m_subCategories, AffectEnum::All, QStringLiteral("category"),
+                categoryFieldCaptions(), windowTitle()))
+            return;
     } catch (const Error& error) {
         // Refused: the dialog stays with what was typed, for the user to cancel or retry.
         if (rowWasDeleted(error))

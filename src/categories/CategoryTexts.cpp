@@ -95,6 +95,21 @@ QString subCategoryCaption(int column)
     }
 }
 
+QList<QPair<QString, QString>> categoryFieldCaptions()
+{
+    return {{QStringLiteral("DokKategorija"), QStringLiteral("Title of Category")},
+        {QStringLiteral("Mnemonic"), QStringLiteral("Mnemonic")},
+        {QStringLiteral("DokKategDaug"), QStringLiteral("Path To Files")},
+        {QStringLiteral("DokTemplates"), QStringLiteral("Word Template")},
+        {QStringLiteral("DokTemplatesExel"), QStringLiteral("Excel Template")},
+        {QStringLiteral("DokTemplatesPowPoint"), QStringLiteral("PowerPoint Template")},
+        {QStringLiteral("DokSubKategorija"), subCategoryCaption(2)},
+        {QStringLiteral("SubPathToFiles"), QStringLiteral("SubCategory Path To Files")},
+        {QStringLiteral("SubDokTemplates"), QStringLiteral("SubCategory Word Template")},
+        {QStringLiteral("SubDokTemplatesExel"), QStringLiteral("SubCategory Excel Template")},
+        {QStringLiteral("SubDokTemplatesPowPoint"), QStringLiteral("SubCategory PowerPoint Template")}};
+}
+
 QString categoryFolderPrompt(const QString& categoryTitle)
 {
     return QStringLiteral("Select a folder in which to place the new files of - ") + categoryTitle

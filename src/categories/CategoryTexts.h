@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QList>
+#include <QPair>
 #include <QString>
 
 namespace kartella {
@@ -47,6 +49,9 @@ GridCellAction gridCellAction(int column);
 TemplateChooser categoryTemplateChooser(int box);
 // The caption of the grid's column (2 to 6); empty for the hidden key columns.
 QString subCategoryCaption(int column);
+// The captions of the fields of a category and of its subcategories, paired with the
+// fields' names, as a row another user changed lists them.
+QList<QPair<QString, QString>> categoryFieldCaptions();
 // The folder chooser's prompt for the category's own folder.
 QString categoryFolderPrompt(const QString& categoryTitle);
 // The question asked on Esc after a change: the dialog's own first line, then the same

@@ -11,6 +11,7 @@
 #include "store/engine/Recordset.h"
 #include "support/BoundList.h"
 #include "support/BusyCursor.h"
+#include "support/ChangedRowPrompt.h"
 #include "support/DialogParts.h"
 #include "support/EnterAsTab.h"
 #include "support/FieldBinder.h"
@@ -50,6 +51,21 @@ const QString SentReceivedField = QStringLiteral("DokGavSiuntData");
 const QString RegistrationField = QStringLiteral("DokRegistracData");
 const QString DateFormat = QStringLiteral("yyyy.MM.dd");
 const QString ErrorTitle = QStringLiteral("Document Description");
+
+// The captions of the row's fields, as a changed row lists them.
+const QList<QPair<QString, QString>> FieldCaptions
+    = {{QStringLiteral("DokAntraste"), QStringLiteral("Description")},
+        {QStringLiteral("ContactID"), QStringLiteral("Sender/Receiver")},
+        {QStringLiteral("RastoKel"), QStringLiteral("Location")},
+        {QStringLiteral("DokGavSiuntData"), QStringLiteral("Send/Receive Date")},
+        {QStringLiteral("DokRegistracData"), QStringLiteral("Registration Date")},
+        {QStringLiteral("DokRegistracIndeksas"), QStringLiteral("Registration Index")},
+        {QStringLiteral("KategID"), QStringLiteral("Category")},
+        {QStringLiteral("SubKategID"), QStringLiteral("Subcategory")},
+        {QStringLiteral("KryptisID"), QStringLiteral("Direction")},
+        {QStringLiteral("DokPastaba"), QStringLiteral("Notes")},
+        {QStringLiteral("TicklerDate"), QStringLiteral("Reminder date")},
+        {QStringLiteral("TicklerText"), QStringLiteral("Reminder text")}};
 
 QString reminderSource(qint32 documentId)
 {
@@ -331,12 +347,17 @@ void DocumentDetailsDialog::load()
     setWindowTitle(m_description->text() + QStringLiteral(" Description"));
     showIcon();
 
+    showDirection();
+    setClean();
+}
+
+void DocumentDetailsDialog::showDirection()
+{
     const int direction = m_document->isOpen() && !m_document->eof()
         ? m_document->fields(QStringLiteral("KryptisID")).value().toInt()
         : 0;
     QRadioButton* chosen = directionButton(direction);
     (chosen ? chosen : m_otherDirection)->setChecked(true);
-    setClean();
 }
 
 void DocumentDetailsDialog::showRow()
@@ -390,6 +411,9 @@ void DocumentDetailsDialog::onCategoryChanged()
 
 void DocumentDetailsDialog::onDirectionChosen(int code)
 {
+    // A row shown again shows its stored direction: nothing for the row to take.
+    if (m_showing)
+        return;
     m_directionCode->setText(QString::number(code));
     markChanged();
 }
@@ -453,6 +477,11 @@ bool DocumentDetailsDialog::apply()
                 m_document->updateBatch(AffectEnum::Current);
                 break;
             } catch (const Error& error) {
+                if (rowWasChanged(error)) {
+                    if (!resolveChangedDocument(*m_document))
+                        return false;
+                    continue;
+                }
                 if (error.number() != ErrorNumber::DuplicateValue)
                     throw;
             }
@@ -460,7 +489,18 @@ bool DocumentDetailsDialog::apply()
                 return false;
         }
         m_storedIndex = m_regIndex->text();
-        m_reminders->updateBatch(AffectEnum::All);
+        Recordset* reminders = m_tickler->recordset();
+        for (;;) {
+            try {
+                m_reminders->updateBatch(AffectEnum::All);
+                break;
+            } catch (const Error& error) {
+                if (!rowWasChanged(error) || !reminders)
+                    throw;
+            }
+            if (!resolveChangedDocument(*reminders))
+                return false;
+        }
     } catch (const Error& error) {
         if (rowWasDeleted(error))
             reportDeletedRow(QStringLiteral("document"), ErrorTitle);
@@ -470,6 +510,20 @@ bool DocumentDetailsDialog::apply()
     }
     setClean();
     return true;
+}
+
+bool DocumentDetailsDialog::resolveChangedDocument(Recordset& rows)
+{
+    const bool reminders = &rows != m_document;
+    const ChangedRowChoice choice = resolveChangedRow(rows, QStringLiteral("document"), FieldCaptions,
+        ErrorTitle, reminders ? AffectEnum::All : AffectEnum::Current);
+    if (choice == ChangedRowChoice::Reload && !reminders) {
+        m_storedIndex = m_regIndex->text();
+        m_showing = true;
+        showDirection();
+        m_showing = false;
+    }
+    return choice == ChangedRowChoice::KeepMine;
 }
 
 void DocumentDetailsDialog::save()

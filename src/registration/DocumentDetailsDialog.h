@@ -69,6 +69,10 @@ private:
     // Takes what an open cell editor of the reminder grid holds into its row.
     void commitOpenEditor();
     QRadioButton* directionButton(int code) const;
+    void showDirection();
+    // Asks what to do with rows (the document's, or its reminders) that another user changed
+    // since they were read; true when the user stores theirs over it.
+    bool resolveChangedDocument(Recordset& rows);
     bool askOnEscape();
     void onReminderGridEnter();
 

@@ -10,6 +10,7 @@
 #include "store/engine/Recordset.h"
 #include "support/BoundList.h"
 #include "support/BusyCursor.h"
+#include "support/ChangedRowPrompt.h"
 #include "support/DialogParts.h"
 #include "support/EnterAsTab.h"
 #include "support/FieldBinder.h"
@@ -282,7 +283,16 @@ void RelatedDocumentDialog::save()
             return;
         }
         m_binder->validate();
-        m_related->updateBatch(AffectEnum::All);
+        // A row another user changed since it was read is told; it stays here unless the
+        // user stores theirs over it.
+        const QList<QPair<QString, QString>> captions
+            = {{QStringLiteral("SubDocDescript"), QStringLiteral("Related Document Description")},
+                {QStringLiteral("SubRastGavimoData"), QStringLiteral("Send/Receive Date")},
+                {QStringLiteral("ContactID"), QStringLiteral("Sender/Receiver")},
+                {QStringLiteral("SubRastoKelias"), QStringLiteral("Location")}};
+        if (!storeResolvingChanges(
+                *m_related, AffectEnum::All, QStringLiteral("related document"), captions, windowTitle()))
+            return;
     } catch (const Error& error) {
         if (rowWasDeleted(error))
             reportDeletedRow(QStringLiteral("related document"), windowTitle());

@@ -3,6 +3,7 @@
 #include "base/Error.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
+#include "store/engine/RecordsetData.h"
 
 #include <QSemaphore>
 #include <QSet>
@@ -13,6 +14,51 @@
 
 using namespace kartella;
 using namespace kartella::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A table with a column of each kind a row's edit may change.
+void createMeasures(EngineRegister& reg)
+{
+    reg.execute(reg.onServer()
+            ? QStringLiteral("CREATE TABLE measures (id integer PRIMARY KEY, note text, amount integer, "
+                             "ratio double precision, day date, taken timestamp, other text)")
+            : QStringLiteral("CREATE TABLE measures (id INTEGER PRIMARY KEY, note TEXT, amount INTEGER, "
+                             "ratio DOUBLE, day DATE, taken DATETIME, other TEXT)"));
+}
+
+void openMeasure(Recordset& recordset, Connection& connection, int lockType)
+{
+    recordset.open(
+        QStringLiteral("SELECT * FROM measures WHERE id = 1"), connection, CursorTypeEnum::Static, lockType);
+}
+
+// Whether a value read back is the one written, a time to the second as it is stored.
+bool sameStored(const QVariant& read, const QVariant& written)
+{
+    if (read.isNull() || written.isNull())
+        return read.isNull() == written.isNull();
+    switch (written.typeId()) {
+    case QMetaType::Double:
+        return read.toDouble() == written.toDouble();
+    case QMetaType::QDate:
+        return read.toDate() == written.toDate();
+    case QMetaType::QDateTime: {
+        const QDateTime moment = written.toDateTime();
+        return read.toDateTime() == moment.addMSecs(-moment.time().msec());
+    }
+    default:
+        return read.toString() == written.toString();
+    }
+}
+
+QString shown(const QVariant& value)
+{
+    return value.isNull() ? QStringLiteral("Null") : value.toString();
+}
+
+} // namespace
 
 class ConcurrencyTest : public QObject
 {
@@ -84,6 +130,141 @@ private Q_SLOTS:
         documents.fields(QStringLiteral("DokAntraste")).setValue(QStringLiteral("after"));
         documents.update();
         QVERIFY(documents.fields(QStringLiteral("RastasID")).value().toLongLong() > 1000);
+    }
+
+    // Two clients edit the same column of one row: the second write is refused as changed,
+    // keeps what its client typed and leaves the first client's value stored. Read again, it
+    // stores over it; and a client's own writes never look like another's change.
+    void editedByBoth_data()
+    {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QVariant>("original");
+        QTest::addColumn<QVariant>("theirs");
+        QTest::addColumn<QVariant>("mine");
+        const QVariant null;
+        QTest::newRow("text") << "note" << QVariant(u"first"_s) << QVariant(u"theirs"_s)
+                              << QVariant(u"mine"_s);
+        QTest::newRow("text from Null") << "note" << null << QVariant(u"theirs"_s) << QVariant(u"mine"_s);
+        QTest::newRow("text to Null") << "note" << QVariant(u"first"_s) << null << QVariant(u"mine"_s);
+        QTest::newRow("empty text") << "note" << QVariant(u""_s) << QVariant(u" "_s) << QVariant(u"mine"_s);
+        QTest::newRow("integer") << "amount" << QVariant(5) << QVariant(6) << QVariant(7);
+        QTest::newRow("integer from Null") << "amount" << null << QVariant(0) << QVariant(7);
+        QTest::newRow("real") << "ratio" << QVariant(0.1) << QVariant(0.2) << QVariant(1.0 / 3);
+        QTest::newRow("real from Null") << "ratio" << null << QVariant(0.1) << QVariant(2.5);
+        QTest::newRow("date") << "day" << QVariant(QDate(2024, 2, 29)) << QVariant(QDate(2024, 3, 1))
+                              << QVariant(QDate(1999, 12, 31));
+        QTest::newRow("date from Null")
+            << "day" << null << QVariant(QDate(2000, 1, 1)) << QVariant(QDate(2024, 3, 1));
+        QTest::newRow("time") << "taken" << QVariant(QDateTime(QDate(2024, 3, 1), QTime(12, 0)))
+                              << QVariant(QDateTime(QDate(2024, 3, 1), QTime(12, 0, 1)))
+                              << QVariant(QDateTime(QDate(2024, 3, 1), QTime(23, 59, 59, 123)));
+        QTest::newRow("time from Null")
+            << "taken" << null << QVariant(QDateTime(QDate(2024, 3, 1), QTime(0, 0)))
+            << QVariant(QDateTime(QDate(2024, 3, 2), QTime(0, 0)));
+    }
+
+    void editedByBoth()
+    {
+        QFETCH(QString, field);
+        QFETCH(QVariant, original);
+        QFETCH(QVariant, theirs);
+        QFETCH(QVariant, mine);
+        EngineRegister reg;
+        createMeasures(reg);
+        {
+            Recordset first;
+            first.open(QStringLiteral("SELECT * FROM measures WHERE id = 0"), reg.connection(),
+                CursorTypeEnum::Static, LockTypeEnum::Optimistic);
+            first.addNew();
+            first.fields(QStringLiteral("id")).setValue(1);
+            first.fields(QStringLiteral("other")).setValue(QStringLiteral("kept"));
+            first.fields(field).setValue(original);
+            first.update();
+        }
+        const QString stored
+            = QStringLiteral("SELECT ") + field + QStringLiteral(" FROM measures WHERE id = 1");
+        Recordset mineRows;
+        openMeasure(mineRows, reg.connection(), LockTypeEnum::BatchOptimistic);
+
+        Connection other(reg.connectionString());
+        other.open();
+        Recordset theirRows;
+        openMeasure(theirRows, other, LockTypeEnum::Optimistic);
+        theirRows.fields(field).setValue(theirs);
+        theirRows.update();
+
+        mineRows.fields(field).setValue(mine);
+        try {
+            mineRows.updateBatch(AffectEnum::Current);
+            QFAIL("the second write went over the first");
+        } catch (const Error& error) {
+            QCOMPARE(error.number(), ErrorNumber::RowChanged);
+            QVERIFY2(error.description().startsWith(
+                         QStringLiteral("Row cannot be located for updating. Some values may have been "
+                                        "changed since it was last read.")),
+                qPrintable(error.description()));
+        }
+        QVERIFY2(sameStored(reg.scalar(stored), theirs), qPrintable(shown(reg.scalar(stored))));
+        QVERIFY(engine::sameFieldValue(mineRows.fields(field).value(), mine));
+        QVERIFY(mineRows.hasPendingChanges());
+
+        // Read again, the row shows what the other client stored under what was typed here.
+        mineRows.resync(AffectEnum::Current, ResyncEnum::UnderlyingValues);
+        QVERIFY(sameStored(mineRows.fields(field).underlyingValue(), theirs));
+        QVERIFY(engine::sameFieldValue(mineRows.fields(field).value(), mine));
+        QVERIFY(mineRows.fields(field).isChanged());
+        QVERIFY(!mineRows.fields(QStringLiteral("other")).isChanged());
+        mineRows.updateBatch(AffectEnum::Current);
+        QVERIFY2(sameStored(reg.scalar(stored), mine), qPrintable(shown(reg.scalar(stored))));
+
+        // The row as written here is the row the next write finds.
+        mineRows.fields(field).setValue(theirs);
+        mineRows.updateBatch(AffectEnum::Current);
+        QVERIFY2(sameStored(reg.scalar(stored), theirs), qPrintable(shown(reg.scalar(stored))));
+        QCOMPARE(reg.scalar(QStringLiteral("SELECT other FROM measures WHERE id = 1")).toString(),
+            QStringLiteral("kept"));
+    }
+
+    // Another client's change to other columns of the row is kept by a write of this one, and
+    // the row read again without the changes here shows what is stored.
+    void changesToOtherColumnsMerge()
+    {
+        EngineRegister reg;
+        reg.fillSmall();
+        Recordset mine;
+        mine.open(QStringLiteral("SELECT * FROM tbl_Documents WHERE RastasID = 1"), reg.connection(),
+            CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
+        Connection other(reg.connectionString());
+        other.open();
+        other.execute(QStringLiteral("UPDATE tbl_Documents SET DokPastaba = 'their note', KategID = 8 "
+                                     "WHERE RastasID = 1"));
+
+        mine.fields(QStringLiteral("DokAntraste")).setValue(QStringLiteral("My title"));
+        mine.updateBatch(AffectEnum::Current);
+        QCOMPARE(reg.joined(QStringLiteral("SELECT DokAntraste FROM tbl_Documents WHERE RastasID = 1")),
+            QStringLiteral("My title"));
+        QCOMPARE(reg.joined(QStringLiteral("SELECT DokPastaba FROM tbl_Documents WHERE RastasID = 1")),
+            QStringLiteral("their note"));
+        QCOMPARE(
+            reg.scalar(QStringLiteral("SELECT KategID FROM tbl_Documents WHERE RastasID = 1")).toInt(), 8);
+
+        // A conflict read again with the changes dropped shows the stored row, and nothing waits.
+        other.execute(
+            QStringLiteral("UPDATE tbl_Documents SET DokAntraste = 'Their title' WHERE RastasID = 1"));
+        mine.fields(QStringLiteral("DokAntraste")).setValue(QStringLiteral("Mine again"));
+        QVERIFY_THROWS_EXCEPTION(Error, mine.updateBatch(AffectEnum::Current));
+        mine.resync(AffectEnum::Current, ResyncEnum::AllValues);
+        QVERIFY(!mine.hasPendingChanges());
+        QCOMPARE(
+            mine.fields(QStringLiteral("DokAntraste")).value().toString(), QStringLiteral("Their title"));
+        QCOMPARE(mine.fields(QStringLiteral("DokPastaba")).value().toString(), QStringLiteral("their note"));
+        QCOMPARE(mine.fields(QStringLiteral("KategID")).value().toInt(), 8);
+        mine.fields(QStringLiteral("DokPastaba")).setValue(QStringLiteral("my note"));
+        mine.updateBatch(AffectEnum::Current);
+        QCOMPARE(reg.joined(QStringLiteral("SELECT DokAntraste FROM tbl_Documents WHERE RastasID = 1")),
+            QStringLiteral("Their title"));
+        QCOMPARE(reg.joined(QStringLiteral("SELECT DokPastaba FROM tbl_Documents WHERE RastasID = 1")),
+            QStringLiteral("my note"));
     }
 
     // A row another client deleted: changing it reports it gone and changes nothing else;

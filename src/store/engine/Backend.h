@@ -82,11 +82,20 @@ public:
     virtual QVariant insertRow(
         const engine::TableSchema& table, const QStringList& columns, const QVariantList& values)
         = 0;
-    // Changes the columns of the row whose keyName column holds key; throws when no row does.
+    // Changes the columns of the row whose keyName column holds key and whose columns still
+    // hold originals, the values they had when the row was read (a Null original: the column
+    // is Null). Throws ErrorNumber::RowChanged when the row is there but another program
+    // changed one of those columns since, ErrorNumber::RowDeleted when no row has the key.
     virtual void updateRow(const engine::TableSchema& table, const QString& keyName, const QVariant& key,
-        const QStringList& columns, const QVariantList& values)
+        const QStringList& columns, const QVariantList& values, const QVariantList& originals)
         = 0;
+    // A row that is already gone is no error: the user wanted it gone.
     virtual void deleteRow(const engine::TableSchema& table, const QString& keyName, const QVariant& key) = 0;
+    // Reads the columns of the row whose keyName column holds key, as a query would read
+    // them: no row when none has the key.
+    virtual engine::QueryResult readRow(const engine::TableSchema& table, const QString& keyName,
+        const QVariant& key, const QStringList& columns)
+        = 0;
 
     // Transactions nest: the outermost one is the database's, inner ones are save points.
     // Inside one, a statement that fails undoes what it did and nothing else, on both back

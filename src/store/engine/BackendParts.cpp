@@ -53,6 +53,27 @@ void failRowGone(const TableSchema& table, const QString& keyName, const QVarian
         ConnectionSource);
 }
 
+void failRowChanged(const TableSchema& table, const QString& keyName, const QVariant& key)
+{
+    throwError(ErrorNumber::RowChanged,
+        QStringLiteral("Row cannot be located for updating. Some values may have been changed since it was "
+                       "last read. (")
+            + table.name + u' ' + keyName + u'=' + key.toString() + u')',
+        ConnectionSource);
+}
+
+QString originalDateTimeText(const QDateTime& dateTime)
+{
+    return dateTime.toString(u"yyyy-MM-dd HH:mm:ss.zzz");
+}
+
+QString waitText(int milliseconds)
+{
+    if (milliseconds == 1000)
+        return QStringLiteral("1 second");
+    return QString::number(milliseconds / 1000.0) + QStringLiteral(" seconds");
+}
+
 void findKeyColumn(QueryResult& result, const TableSchema& schema)
 {
     for (int c = 0; c < result.visibleColumns; ++c) {

@@ -2,6 +2,7 @@
 
 #include "store/engine/Backend.h"
 
+#include <QDateTime>
 #include <QString>
 
 namespace kartella::engine {
@@ -21,6 +22,22 @@ QString singleSourceTable(const std::vector<ColumnInfo>& columns);
 
 // An update found no row with the key: ErrorNumber::RowDeleted.
 [[noreturn]] void failRowGone(const TableSchema& table, const QString& keyName, const QVariant& key);
+
+// An update found the row with the key, but not with the values its columns were read with:
+// ErrorNumber::RowChanged.
+[[noreturn]] void failRowChanged(const TableSchema& table, const QString& keyName, const QVariant& key);
+
+// Whether a value stands for Null.
+inline bool isNullValue(const QVariant& value)
+{
+    return !value.isValid() || value.isNull();
+}
+
+// A date and time as an original to compare with: to the millisecond, as it was read.
+QString originalDateTimeText(const QDateTime& dateTime);
+
+// A wait as a message tells it: "10 seconds", "1 second", "0.5 seconds".
+QString waitText(int milliseconds);
 
 // Sets the result's key column and name when the table's key is among its visible columns.
 void findKeyColumn(QueryResult& result, const TableSchema& schema);

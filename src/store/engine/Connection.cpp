@@ -147,4 +147,18 @@ Backend& Connection::backend()
     return *m_backend;
 }
 
+namespace {
+int g_lockWaitMs = 10000;
+} // namespace
+
+int Connection::lockWaitMs()
+{
+    return g_lockWaitMs;
+}
+
+void Connection::setLockWaitMs(int milliseconds)
+{
+    g_lockWaitMs = milliseconds;
+}
+
 } // namespace kartella

@@ -74,6 +74,12 @@ public:
     // The open back end; throws when the connection is closed.
     Backend& backend();
 
+    // How long a statement waits for a register (a file's write lock, a server's row or
+    // lock) that another program holds, before it is refused as in use: for connections
+    // opened from now on. 10 seconds unless set.
+    static int lockWaitMs();
+    static void setLockWaitMs(int milliseconds);
+
 private:
     QString m_connectionString;
     int m_mode = ConnectModeEnum::Unknown;

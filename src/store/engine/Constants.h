@@ -36,6 +36,12 @@ constexpr int Group = 2;
 constexpr int All = 3;
 } // namespace AffectEnum
 
+// What Recordset::resync reads again.
+namespace ResyncEnum {
+constexpr int UnderlyingValues = 1;
+constexpr int AllValues = 2;
+} // namespace ResyncEnum
+
 namespace EditModeEnum {
 constexpr int None = 0;
 constexpr int InProgress = 1;

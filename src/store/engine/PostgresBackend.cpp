@@ -7,6 +7,8 @@
 
 #include <QDate>
 #include <QDateTime>
+#include <QStringList>
+#include <QSysInfo>
 #include <QTimeZone>
 #include <QUrl>
 #include <QUrlQuery>
@@ -14,6 +16,10 @@
 #include <charconv>
 #include <cstdlib>
 #include <libpq-fe.h>
+#ifdef Q_OS_UNIX
+#include <pwd.h>
+#include <unistd.h>
+#endif
 
 namespace kartella::engine {
 
@@ -48,6 +54,49 @@ QByteArray hexBytes(const char* text, int size)
     return QByteArray(text, size);
 }
 
+// Who this program runs for, as other programs on the server see it: "Kartella <user>@<host>".
+QByteArray applicationName()
+{
+    QString user = qEnvironmentVariable("USER");
+    if (user.isEmpty())
+        user = qEnvironmentVariable("USERNAME");
+#ifdef Q_OS_UNIX
+    if (user.isEmpty()) {
+        if (const passwd* account = getpwuid(geteuid()))
+            user = QString::fromLocal8Bit(account->pw_name);
+    }
+#endif
+    if (user.isEmpty())
+        user = QStringLiteral("unknown");
+    return (QStringLiteral("Kartella ") + user + u'@' + QSysInfo::machineHostName()).toUtf8();
+}
+
+// A libpq connection to location with the settings every connection of the program has.
+pg_conn* connectTo(const QString& location, int lockWaitMs)
+{
+    const QUrl url(location);
+    // Keywords after dbname override what the location says; those before it give way to it.
+    const QByteArray timeout = QByteArray::number(PostgresBackend::ConnectTimeoutSeconds);
+    const QByteArray dbname = location.toUtf8();
+    const QByteArray options = "-c DateStyle=ISO,YMD -c lock_timeout=" + QByteArray::number(lockWaitMs);
+    const QByteArray name = applicationName();
+    std::vector<const char*> keywords;
+    std::vector<const char*> values;
+    if (!QUrlQuery(url).hasQueryItem(QStringLiteral("connect_timeout"))) {
+        keywords.push_back("connect_timeout");
+        values.push_back(timeout.constData());
+    }
+    for (const auto& [keyword, value] :
+        {std::pair {"application_name", name.constData()}, std::pair {"dbname", dbname.constData()},
+            std::pair {"client_encoding", "UTF8"}, std::pair {"options", options.constData()}}) {
+        keywords.push_back(keyword);
+        values.push_back(value);
+    }
+    keywords.push_back(nullptr);
+    values.push_back(nullptr);
+    return PQconnectdbParams(keywords.data(), values.data(), 1);
+}
+
 } // namespace
 
 void PostgresBackend::ResultDeleter::operator()(pg_result* result) const
@@ -58,27 +107,8 @@ void PostgresBackend::ResultDeleter::operator()(pg_result* result) const
 std::unique_ptr<PostgresBackend> PostgresBackend::open(const QString& location)
 {
     const QString shown = shownLocation(location);
-    const QUrl url(location);
-
-    // Keywords after dbname override what the location says; those before it give way to it.
-    const QByteArray timeout = QByteArray::number(ConnectTimeoutSeconds);
-    const QByteArray dbname = location.toUtf8();
-    const QByteArray options = "-c DateStyle=ISO,YMD -c lock_timeout=" + QByteArray::number(LockTimeoutMs);
-    std::vector<const char*> keywords;
-    std::vector<const char*> values;
-    if (!QUrlQuery(url).hasQueryItem(QStringLiteral("connect_timeout"))) {
-        keywords.push_back("connect_timeout");
-        values.push_back(timeout.constData());
-    }
-    for (const auto& [keyword, value] :
-        {std::pair {"application_name", "Kartella"}, std::pair {"dbname", dbname.constData()},
-            std::pair {"client_encoding", "UTF8"}, std::pair {"options", options.constData()}}) {
-        keywords.push_back(keyword);
-        values.push_back(value);
-    }
-    keywords.push_back(nullptr);
-    values.push_back(nullptr);
-    pg_conn* connection = PQconnectdbParams(keywords.data(), values.data(), 1);
+    const int lockWait = Connection::lockWaitMs();
+    pg_conn* connection = connectTo(location, lockWait);
     if (connection == nullptr)
         failToOpen(QStringLiteral("Could not connect to '") + shown + QStringLiteral("': out of memory."));
     if (PQstatus(connection) != CONNECTION_OK) {
@@ -91,6 +121,7 @@ std::unique_ptr<PostgresBackend> PostgresBackend::open(const QString& location)
     PQsetNoticeProcessor(
         connection, [](void*, const char*) {}, nullptr);
     std::unique_ptr<PostgresBackend> backend(new PostgresBackend(connection, location));
+    backend->m_lockWaitMs = lockWait;
     // Local time for the views of this and the previous month, as on a register file; a
     // zone the server doesn't know leaves the server's own.
     const QString zone = QString::fromUtf8(QTimeZone::systemTimeZoneId());
@@ -118,10 +149,10 @@ void PostgresBackend::fail(pg_result* result, const QString& shownSql) const
     QString message;
     const char* state = result ? PQresultErrorField(result, PG_DIAG_SQLSTATE) : nullptr;
     if (state && qstrcmp(state, LockNotAvailable) == 0) {
-        message
-            = QStringLiteral("The register is in use by another program and stayed locked for %1 seconds; "
-                             "try again.")
-                  .arg(LockTimeoutMs / 1000);
+        const QString holders = lockHolders();
+        message = QStringLiteral("The register is in use by %1, which kept it locked for %2; try again.")
+                      .arg(holders.isEmpty() ? QStringLiteral("another program") : holders,
+                          waitText(m_lockWaitMs));
     } else if (state && qstrcmp(state, DeadlockDetected) == 0) {
         message = QStringLiteral("Another program was changing the same rows at the same moment; try again.");
     } else if (PQstatus(m_connection) != CONNECTION_OK) {
@@ -135,6 +166,35 @@ void PostgresBackend::fail(pg_result* result, const QString& shownSql) const
     }
     throwError(
         ErrorNumber::CommandFailed, message + QStringLiteral("\nStatement: ") + shownSql, ConnectionSource);
+}
+
+QString PostgresBackend::lockHolders() const
+{
+    // This connection's transaction failed: a connection of its own asks the server which
+    // other sessions hold write locks in the register (the lock this one waited for is
+    // among them), by the names their programs gave.
+    pg_conn* probe = connectTo(m_location, m_lockWaitMs);
+    QStringList names;
+    if (probe && PQstatus(probe) == CONNECTION_OK) {
+        const QByteArray waiter = QByteArray::number(PQbackendPID(m_connection));
+        const char* parameters[] = {waiter.constData()};
+        Result holders(PQexecParams(probe,
+            "SELECT DISTINCT CASE WHEN a.application_name <> '' THEN a.application_name "
+            "ELSE a.usename || COALESCE('@' || host(a.client_addr), '') END "
+            "FROM pg_stat_activity a JOIN pg_locks l ON l.pid = a.pid "
+            "WHERE a.datname = current_database() AND a.pid <> $1::int AND a.pid <> pg_backend_pid() "
+            "AND l.granted AND (l.locktype IN ('advisory', 'transactionid') "
+            "OR l.mode IN ('RowExclusiveLock', 'ShareRowExclusiveLock', 'ExclusiveLock', "
+            "'AccessExclusiveLock')) "
+            "ORDER BY 1",
+            1, nullptr, parameters, nullptr, nullptr, 0));
+        if (holders && PQresultStatus(holders.get()) == PGRES_TUPLES_OK) {
+            for (int row = 0; row < PQntuples(holders.get()); ++row)
+                names << QString::fromUtf8(PQgetvalue(holders.get(), row, 0));
+        }
+    }
+    PQfinish(probe);
+    return names.join(QStringLiteral(", "));
 }
 
 void PostgresBackend::reconnectIfLost()
@@ -419,7 +479,7 @@ QVariant PostgresBackend::insertRow(
 }
 
 void PostgresBackend::updateRow(const TableSchema& table, const QString& keyName, const QVariant& key,
-    const QStringList& columns, const QVariantList& values)
+    const QStringList& columns, const QVariantList& values, const QVariantList& originals)
 {
     if (columns.isEmpty())
         return;
@@ -427,14 +487,51 @@ void PostgresBackend::updateRow(const TableSchema& table, const QString& keyName
     QStringList assignments;
     for (qsizetype i = 0; i < columns.size(); ++i)
         assignments << quotedName(columns[i]) + QStringLiteral("=$") + QString::number(i + 1);
-    const QString sql = QStringLiteral("UPDATE ") + quotedName(table.name) + QStringLiteral(" SET ")
+    QString sql = QStringLiteral("UPDATE ") + quotedName(table.name) + QStringLiteral(" SET ")
         + assignments.join(u',') + QStringLiteral(" WHERE ") + quotedName(keyName) + QStringLiteral("=$")
         + QString::number(columns.size() + 1);
     QVariantList parameters = values;
     parameters << key;
+    for (qsizetype i = 0; i < columns.size() && i < originals.size(); ++i) {
+        const QVariant& original = originals[i];
+        const QString column = quotedName(columns[i]);
+        if (isNullValue(original)) {
+            sql += QStringLiteral(" AND ") + column + QStringLiteral(" IS NULL");
+            continue;
+        }
+        // The server reads the text as the column's own type, a time to the millisecond.
+        parameters << (original.typeId() == QMetaType::QDateTime
+                ? QVariant(originalDateTimeText(original.toDateTime()))
+                : original);
+        sql += QStringLiteral(" AND ") + column + QStringLiteral("=$") + QString::number(parameters.size());
+    }
     const Result result = run(sql.toUtf8(), textParameters(parameters), sql);
-    if (qstrcmp(PQcmdTuples(result.get()), "0") == 0)
+    if (qstrcmp(PQcmdTuples(result.get()), "0") != 0)
+        return;
+    if (readRow(table, keyName, key, {keyName}).rows.rowCount() == 0)
         failRowGone(table, keyName, key);
+    failRowChanged(table, keyName, key);
+}
+
+QueryResult PostgresBackend::readRow(
+    const TableSchema& table, const QString& keyName, const QVariant& key, const QStringList& columns)
+{
+    const StatementGuard guard(*this);
+    QStringList names;
+    for (const QString& column : columns)
+        names << quotedName(column);
+    const QString sql = QStringLiteral("SELECT ") + names.join(u',') + QStringLiteral(" FROM ")
+        + quotedName(table.name) + QStringLiteral(" WHERE ") + quotedName(keyName) + QStringLiteral("=$1");
+    const Result rows = run(sql.toUtf8(), textParameters({key}), sql);
+    QueryResult result;
+    describe(rows.get(), result);
+    result.visibleColumns = int(result.columns.size());
+    std::vector<int> order;
+    for (int c = 0; c < result.visibleColumns; ++c)
+        order.push_back(c);
+    result.rows = RowStore(result.visibleColumns);
+    readRows(rows.get(), result, order);
+    return result;
 }
 
 void PostgresBackend::deleteRow(const TableSchema& table, const QString& keyName, const QVariant& key)

@@ -29,8 +29,6 @@ public:
     ~PostgresBackend() override;
 
     static constexpr int ConnectTimeoutSeconds = 5;
-    // How long a statement waits for a row another program holds locked.
-    static constexpr int LockTimeoutMs = 10000;
 
     SqlDialect dialect() const override { return SqlDialect::PostgreSql; }
     void execute(const QString& sql) override;
@@ -39,8 +37,10 @@ public:
     QVariant insertRow(
         const TableSchema& table, const QStringList& columns, const QVariantList& values) override;
     void updateRow(const TableSchema& table, const QString& keyName, const QVariant& key,
-        const QStringList& columns, const QVariantList& values) override;
+        const QStringList& columns, const QVariantList& values, const QVariantList& originals) override;
     void deleteRow(const TableSchema& table, const QString& keyName, const QVariant& key) override;
+    QueryResult readRow(const TableSchema& table, const QString& keyName, const QVariant& key,
+        const QStringList& columns) override;
     void beginTransaction() override;
     void commitTransaction() override;
     void rollbackTransaction() override;
@@ -88,6 +88,9 @@ private:
     Result run(const QByteArray& sql, const std::vector<QByteArray>& parameters, const QString& shownSql);
     Result runText(const QString& sql, const QString& shownSql);
     [[noreturn]] void fail(pg_result* result, const QString& shownSql) const;
+    // The programs that hold write locks in the register now, as the server names them;
+    // empty when it can't tell.
+    QString lockHolders() const;
     void reconnectIfLost();
 
     void loadCatalog();
@@ -104,6 +107,7 @@ private:
 
     pg_conn* m_connection;
     QString m_location;
+    int m_lockWaitMs = 0; // how long a statement waits for another program's lock
     int m_depth = 0;
     bool m_guardOpen = false; // a statement's save point is set and not yet released
     int m_guardNesting = 0;

@@ -32,6 +32,8 @@ public:
     void setValue(const QVariant& value);
     // The value as the database holds it, before pending edits.
     QVariant underlyingValue() const;
+    // Whether the value differs from what the database holds: a change waiting to be written.
+    bool isChanged() const;
     // True for the chapter field of a SHAPE command.
     bool isChapter() const;
     // The child rows of the current row, for a chapter field; null otherwise.
@@ -125,6 +127,14 @@ public:
     // failing writes nothing and leaves every change pending. Empty functions do nothing.
     void setBatchWork(std::function<void(Connection&)> before, std::function<void(Connection&)> after);
     void deleteRecord(int affect = AffectEnum::Current);
+    // Reads rows again from the database (AffectEnum::Current: the current row and the
+    // chapter rows it shows; All: every row with a change waiting, those of the chapters too).
+    // ResyncEnum::UnderlyingValues: what the database holds now is what the next write finds the row by;
+    // fields with a change waiting keep their values, the others show the stored ones, so a write after it
+    // stores the changes over another program's and keeps the rest of what that program stored.
+    // ResyncEnum::AllValues: the changes waiting are dropped and the rows show what is stored.
+    // Rows added here and rows no longer in the database stay as they are.
+    void resync(int affect = AffectEnum::All, int resyncValues = ResyncEnum::AllValues);
     int editMode() const;
     bool isUpdatable() const;
     // Whether any change waits for updateBatch.

@@ -199,6 +199,10 @@ struct RecordsetData
     // allChildren takes every pending chapter row, else only those of the given rows.
     void writeRows(const std::vector<int>& rowList, bool allChildren);
 
+    // --- Reading again (RecordsetResync.cpp) ---
+    // Reads row again from the database; keepChanges as ResyncEnum::UnderlyingValues.
+    void resyncRow(int row, bool keepChanges);
+
     // --- SHAPE (RecordsetShape.cpp) ---
     void openShape(const QString& text);
     // Whether a chapter row belongs to the parent's current row.

@@ -1,6 +1,7 @@
 #include "store/engine/Connection.h"
 #include "store/engine/RecordsetData.h"
 
+#include <QDateTime>
 #include <QSet>
 
 #include <limits>
@@ -94,9 +95,10 @@ void collect(RecordsetData& d, const std::vector<RowEntry>& entries, bool allChi
 }
 
 // The table columns of the visible fields, each once, with their values; for an update
-// only those that differ from what the database holds.
+// only those that differ from what the database holds, with the values they held when they
+// were read (originals), so that the update finds the row only as it was read.
 void columnsToWrite(const RecordsetData& d, int row, const Values& values, bool onlyChanged,
-    QStringList& columns, QVariantList& columnValues)
+    QStringList& columns, QVariantList& columnValues, QVariantList* originals = nullptr)
 {
     QSet<QString> seen;
     for (int c = 0; c < d.dataFields; ++c) {
@@ -113,6 +115,21 @@ void columnsToWrite(const RecordsetData& d, int row, const Values& values, bool 
         seen.insert(origin.toLower());
         columns << origin;
         columnValues << value;
+        if (originals)
+            *originals << d.underlying(row, c);
+    }
+}
+
+// A row as the database holds it once written: a time to the second, as it is stored.
+void asStored(Values& values)
+{
+    for (QVariant& value : values) {
+        if (value.typeId() != QMetaType::QDateTime)
+            continue;
+        QDateTime moment = value.toDateTime();
+        const QTime time = moment.time();
+        moment.setTime(QTime(time.hour(), time.minute(), time.second()));
+        value = moment;
     }
 }
 
@@ -159,17 +176,22 @@ void RecordsetData::writeRows(const std::vector<int>& rowList, bool allChildren)
                 values[std::size_t(d.keyColumn)] = keyValue(key);
                 break;
             }
-            case RowStatus::Modified:
-                columnsToWrite(d, step.row, values, true, columns, columnValues);
-                backend.updateRow(
-                    d.schema, d.keyName, d.underlying(step.row, d.keyColumn), columns, columnValues);
+            case RowStatus::Modified: {
+                QVariantList originals;
+                columnsToWrite(d, step.row, values, true, columns, columnValues, &originals);
+                backend.updateRow(d.schema, d.keyName, d.underlying(step.row, d.keyColumn), columns,
+                    columnValues, originals);
                 break;
+            }
             case RowStatus::Deleted:
+                // By the key alone: a row another program changed is still the row the user
+                // deletes, and one already gone is gone as asked.
                 backend.deleteRow(d.schema, d.keyName, d.underlying(step.row, d.keyColumn));
                 break;
             default:
                 break;
             }
+            asStored(values);
             written[i] = std::move(values);
         }
         if (afterBatch)

@@ -131,7 +131,8 @@ std::unique_ptr<SqliteBackend> SqliteBackend::open(const QString& path)
     if (!registerTextFunctions(db))
         failToOpen(QStringLiteral("Could not prepare the register '") + path + QStringLiteral("': ")
             + QString::fromUtf8(sqlite3_errmsg(db)));
-    sqlite3_busy_timeout(db, g_openingWait >= 0 ? g_openingWait : BusyTimeoutMs);
+    backend->m_busyTimeoutMs = Connection::lockWaitMs();
+    sqlite3_busy_timeout(db, g_openingWait >= 0 ? g_openingWait : backend->m_busyTimeoutMs);
     // The register relies on no cascade but its own trigger.
     sqlite3_exec(db, "PRAGMA foreign_keys = OFF", nullptr, nullptr, nullptr);
     if (kind == FileKind::Empty)
@@ -157,7 +158,7 @@ std::unique_ptr<SqliteBackend> SqliteBackend::open(const QString& path)
     if (!isRegister)
         failToOpen(QStringLiteral("'") + path
             + QStringLiteral("' is a database but not a register: it has no table tbl_Documents."));
-    sqlite3_busy_timeout(db, BusyTimeoutMs);
+    sqlite3_busy_timeout(db, backend->m_busyTimeoutMs);
     return backend;
 }
 
@@ -179,10 +180,9 @@ void SqliteBackend::fail(int code, const QString& shownSql) const
     const int primary = code & 0xFF;
     QString message;
     if (primary == SQLITE_BUSY || primary == SQLITE_LOCKED)
-        message
-            = QStringLiteral("The register is in use by another program and stayed locked for %1 seconds; "
-                             "try again.")
-                  .arg(BusyTimeoutMs / 1000);
+        message = QStringLiteral("The register is in use by another program, which kept it locked for %1; "
+                                 "try again.")
+                      .arg(waitText(m_busyTimeoutMs));
     else if (primary == SQLITE_FULL)
         message = QStringLiteral("The disk that holds the register is full, and the change was not stored. "
                                  "Make room on it and try again.");
@@ -484,21 +484,70 @@ QVariant SqliteBackend::insertRow(
 }
 
 void SqliteBackend::updateRow(const TableSchema& table, const QString& keyName, const QVariant& key,
-    const QStringList& columns, const QVariantList& values)
+    const QStringList& columns, const QVariantList& values, const QVariantList& originals)
 {
     if (columns.isEmpty())
         return;
     QStringList assignments;
     for (const QString& column : columns)
         assignments << quotedName(column) + QStringLiteral("=?");
-    const QString sql = QStringLiteral("UPDATE ") + quotedName(table.name) + QStringLiteral(" SET ")
+    QString sql = QStringLiteral("UPDATE ") + quotedName(table.name) + QStringLiteral(" SET ")
         + assignments.join(u',') + QStringLiteral(" WHERE ") + quotedName(keyName) + QStringLiteral("=?");
+    QVariantList parameters = values;
+    parameters << key;
+    for (qsizetype i = 0; i < columns.size() && i < originals.size(); ++i) {
+        const QVariant& original = originals[i];
+        const QString column = quotedName(columns[i]);
+        if (isNullValue(original)) {
+            sql += QStringLiteral(" AND ") + column + QStringLiteral(" IS NULL");
+        } else if (original.typeId() == QMetaType::QDate || original.typeId() == QMetaType::QDateTime) {
+            // A date was read from any of the text forms that mean it ("T" or a blank before
+            // the time, with or without milliseconds): compared as the moment it names.
+            sql += QStringLiteral(" AND julianday(") + column + QStringLiteral(")=julianday(?)");
+            parameters << (original.typeId() == QMetaType::QDate
+                    ? QVariant(isoText(original.toDate()))
+                    : QVariant(originalDateTimeText(original.toDateTime())));
+        } else {
+            sql += QStringLiteral(" AND ") + column + QStringLiteral("=?");
+            parameters << original;
+        }
+    }
     sqlite3_stmt* statement = cachedStatement(sql);
-    for (int i = 0; i < values.size(); ++i)
-        bind(statement, i + 1, values[i], sql);
-    bind(statement, int(values.size()) + 1, key, sql);
-    if (run(statement, sql) == 0)
+    for (int i = 0; i < parameters.size(); ++i)
+        bind(statement, i + 1, parameters[i], sql);
+    if (run(statement, sql) > 0)
+        return;
+    if (readRow(table, keyName, key, {keyName}).rows.rowCount() == 0)
         failRowGone(table, keyName, key);
+    failRowChanged(table, keyName, key);
+}
+
+QueryResult SqliteBackend::readRow(
+    const TableSchema& table, const QString& keyName, const QVariant& key, const QStringList& columns)
+{
+    QStringList names;
+    for (const QString& column : columns)
+        names << quotedName(column);
+    const QString sql = QStringLiteral("SELECT ") + names.join(u',') + QStringLiteral(" FROM ")
+        + quotedName(table.name) + QStringLiteral(" WHERE ") + quotedName(keyName) + QStringLiteral("=?");
+    Statement statement = prepare(sql.toUtf8(), sql);
+    bind(statement.get(), 1, key, sql);
+    QueryResult result;
+    const int count = sqlite3_column_count(statement.get());
+    std::vector<int> order;
+    for (int c = 0; c < count; ++c) {
+        ColumnInfo column;
+        column.name = QString::fromUtf8(sqlite3_column_name(statement.get(), c));
+        column.table = table.name;
+        column.origin = columns.value(c);
+        column.declared = declaredKind(sqlite3_column_decltype(statement.get(), c));
+        result.columns.push_back(column);
+        order.push_back(c);
+    }
+    result.visibleColumns = count;
+    result.rows = RowStore(count);
+    readRows(statement.get(), result, order, sql);
+    return result;
 }
 
 void SqliteBackend::deleteRow(const TableSchema& table, const QString& keyName, const QVariant& key)

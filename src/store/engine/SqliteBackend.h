@@ -40,8 +40,6 @@ public:
     static std::unique_ptr<SqliteBackend> open(const QString& path);
     ~SqliteBackend() override;
 
-    static constexpr int BusyTimeoutMs = 10000;
-
     SqlDialect dialect() const override { return SqlDialect::Sqlite; }
     void execute(const QString& sql) override;
     QueryResult query(const QString& sql) override;
@@ -49,8 +47,10 @@ public:
     QVariant insertRow(
         const TableSchema& table, const QStringList& columns, const QVariantList& values) override;
     void updateRow(const TableSchema& table, const QString& keyName, const QVariant& key,
-        const QStringList& columns, const QVariantList& values) override;
+        const QStringList& columns, const QVariantList& values, const QVariantList& originals) override;
     void deleteRow(const TableSchema& table, const QString& keyName, const QVariant& key) override;
+    QueryResult readRow(const TableSchema& table, const QString& keyName, const QVariant& key,
+        const QStringList& columns) override;
     void beginTransaction() override;
     void commitTransaction() override;
     void rollbackTransaction() override;
@@ -81,6 +81,7 @@ private:
         sqlite3_stmt* statement, QueryResult& result, const std::vector<int>& order, const QString& shownSql);
 
     sqlite3* m_db;
+    int m_busyTimeoutMs = 0; // how long a statement waits for another program's lock
     int m_depth = 0;
     std::map<QString, TableSchema> m_schemas; // by lower-case name
     QHash<QString, sqlite3_stmt*> m_writeStatements;

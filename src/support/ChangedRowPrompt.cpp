@@ -1,0 +1,96 @@
+#include "support/ChangedRowPrompt.h"
+
+#include "base/Error.h"
+#include "platform/Prompter.h"
+#include "store/engine/Recordset.h"
+
+#include <QDate>
+#include <QDateTime>
+#include <QStringList>
+
+namespace kartella {
+
+namespace {
+
+QString shownValue(const QVariant& value)
+{
+    if (!value.isValid() || value.isNull() || value.toString().isEmpty())
+        return QStringLiteral("(empty)");
+    if (value.typeId() == QMetaType::QDate)
+        return value.toDate().toString(u"yyyy.MM.dd");
+    if (value.typeId() == QMetaType::QDateTime)
+        return value.toDateTime().toString(u"yyyy.MM.dd HH:mm:ss");
+    return u'"' + value.toString() + u'"';
+}
+
+QString captionOf(const QString& field, const QList<QPair<QString, QString>>& captions)
+{
+    for (const auto& [name, caption] : captions) {
+        if (name.compare(field, Qt::CaseInsensitive) == 0)
+            return caption;
+    }
+    return field;
+}
+
+} // namespace
+
+bool rowWasChanged(const Error& error)
+{
+    return error.number() == ErrorNumber::RowChanged;
+}
+
+ChangedRowChoice resolveChangedRow(Recordset& recordset, const QString& what,
+    const QList<QPair<QString, QString>>& captions, const QString& title, int affect)
+{
+    QStringList lines;
+    try {
+        recordset.resync(affect, ResyncEnum::UnderlyingValues);
+        for (int index = 0; recordset.currentRow() >= 0 && index < recordset.fieldCount(); ++index) {
+            const Field field = recordset.fields(index);
+            if (field.isChapter() || !field.isChanged())
+                continue;
+            lines << captionOf(field.name(), captions) + QStringLiteral(": stored ")
+                    + shownValue(field.underlyingValue()) + QStringLiteral(", yours ")
+                    + shownValue(field.value());
+        }
+    } catch (const Error& error) {
+        // The row could not be read again: the choice is still the user's, without the list.
+        lines << error.description();
+    }
+    QString prompt = QStringLiteral("This ") + what
+        + QStringLiteral(" was changed by another user since you opened it.");
+    if (!lines.isEmpty())
+        prompt += QStringLiteral("\n\n") + lines.join(u'\n');
+    prompt += QStringLiteral("\n\nReload shows what is stored now, and you may type again. Keep Mine stores "
+                             "yours over it. Cancel goes back to what you typed.");
+    const int answer = Prompter::instance().choose(prompt,
+        {QStringLiteral("&Reload"), QStringLiteral("&Keep Mine"), QStringLiteral("Cancel")},
+        MsgBoxStyle::Exclamation, title);
+    if (answer == 0) {
+        try {
+            recordset.resync(affect, ResyncEnum::AllValues);
+        } catch (const Error& error) {
+            msgBox(error.description(), MsgBoxStyle::OkOnly | MsgBoxStyle::Critical, title);
+        }
+        return ChangedRowChoice::Reload;
+    }
+    return answer == 1 ? ChangedRowChoice::KeepMine : ChangedRowChoice::Cancel;
+}
+
+bool storeResolvingChanges(Recordset& recordset, int affect, const QString& what,
+    const QList<QPair<QString, QString>>& captions, const QString& title)
+{
+    for (;;) {
+        try {
+            recordset.updateBatch(affect);
+            return true;
+        } catch (const Error& error) {
+            if (!rowWasChanged(error))
+                throw;
+        }
+        if (resolveChangedRow(recordset, what, captions, title, affect) != ChangedRowChoice::KeepMine)
+            return false;
+    }
+}
+
+} // namespace kartella
