@@ -49,14 +49,21 @@ int DocumentPages::pageSize()
 
 void DocumentPages::setSearch(const SearchRanking& ranking, const QList<SearchTerm>& terms)
 {
-    m_paging.setRanking(ranking.join, ranking.key);
     m_passageTerms.clear();
-    if (ranking.anyHit.isEmpty())
+    if (ranking.anyHit.isEmpty()) {
+        m_paging.setRanking(ranking.join, ranking.key);
         return;
+    }
     Recordset rs;
     rs.open(ranking.anyHit, *m_connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
-    if (!rs.eof())
-        m_passageTerms = terms;
+    if (rs.eof()) {
+        // No file holds a term: the results are listed by date, nothing to rank.
+        m_paging.setRanking({}, {});
+        return;
+    }
+    m_passageTerms = terms;
+    const SearchRanking prepared = prepareRanking(*m_connection, ranking);
+    m_paging.setRanking(prepared.join, prepared.key);
 }
 
 void DocumentPages::addPassages(std::vector<ListItem>& rows)
