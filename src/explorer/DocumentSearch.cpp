@@ -257,17 +257,21 @@ SearchRanking prepareRanking(Connection& connection, const SearchRanking& rankin
     const qint64 texts
         = countOf(connection, QStringLiteral("SELECT COUNT(*) AS N FROM %1_docsize").arg(table));
     QStringList ranked;
+    bool anyHit = false;
     for (const QString& query : ranking.fullTextQueries) {
         // Counted only as far as it takes to know the term is broad.
         const qint64 broad = std::max(broadHits, (texts + 1) / 2);
         const qint64 hits = countOf(connection,
             QStringLiteral("SELECT COUNT(*) AS N FROM (SELECT rowid FROM %1 WHERE %1 MATCH %2 LIMIT %3)")
                 .arg(table, sqlString(query), QString::number(broad)));
-        if (hits < broad)
+        anyHit = anyHit || hits > 0;
+        if (hits > 0 && hits < broad)
             ranked << query;
     }
     SearchRanking prepared = ranking;
     prepared.fullTextQueries.clear();
+    if (!anyHit)
+        prepared.anyHit.clear();
     if (ranked.isEmpty()) {
         prepared.join.clear();
         prepared.key.clear();
