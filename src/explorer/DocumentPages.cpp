@@ -19,6 +19,9 @@ namespace {
 
 int g_pageSize = 100;
 
+// The documents a search found, on the connection that reads its list.
+const QString FoundTable = QStringLiteral("search_found");
+
 } // namespace
 
 DocumentPages::DocumentPages(
@@ -30,6 +33,13 @@ DocumentPages::DocumentPages(
     if (mode != DocumentPaging::Mode::Letter)
         m_connection->setMode(ConnectModeEnum::ShareDenyNone);
     m_connection->open();
+    if (m_paging.searchesIndexes() && m_connection->dialect() == SqlDialect::Sqlite) {
+        m_connection->execute(QStringLiteral("DROP TABLE IF EXISTS temp.") + FoundTable);
+        m_connection->execute(QStringLiteral("CREATE TEMP TABLE ") + FoundTable
+            + QStringLiteral(" (RastasID INTEGER PRIMARY KEY)"));
+        m_connection->execute(m_paging.keepRowsSql(FoundTable));
+        m_paging.readKeptRows(FoundTable);
+    }
     Recordset rs;
     rs.open(m_paging.countSql(), *m_connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
     m_count = rs.eof() ? 0 : rs.fields(0).value().toInt();
@@ -49,14 +59,25 @@ int DocumentPages::pageSize()
 
 void DocumentPages::setSearch(const SearchRanking& ranking, const QList<SearchTerm>& terms)
 {
-    m_paging.setRanking(ranking.join, ranking.key);
     m_passageTerms.clear();
-    if (ranking.anyHit.isEmpty())
+    // On a register file the terms are counted as they are ranked: that tells whether any
+    // file holds one.
+    const SearchRanking prepared = prepareRanking(*m_connection, ranking);
+    if (!prepared.anyHit.isEmpty() && ranking.fullTextQueries.isEmpty()) {
+        Recordset rs;
+        rs.open(prepared.anyHit, *m_connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
+        if (rs.eof()) {
+            m_paging.setRanking({}, {});
+            return;
+        }
+    }
+    if (prepared.anyHit.isEmpty()) {
+        // No file holds a term: the results are listed by date, nothing to rank.
+        m_paging.setRanking({}, {});
         return;
-    Recordset rs;
-    rs.open(ranking.anyHit, *m_connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
-    if (!rs.eof())
-        m_passageTerms = terms;
+    }
+    m_passageTerms = terms;
+    m_paging.setRanking(prepared.join, prepared.key);
 }
 
 void DocumentPages::addPassages(std::vector<ListItem>& rows)

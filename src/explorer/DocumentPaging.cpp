@@ -1,5 +1,7 @@
 #include "explorer/DocumentPaging.h"
 
+#include "store/SearchIndex.h"
+
 #include <QDate>
 #include <QDateTime>
 #include <QStringList>
@@ -76,6 +78,28 @@ bool DocumentPaging::ranked() const
 QString DocumentPaging::sortColumnField() const
 {
     return ranked() ? m_rankKey : columnField(m_sortColumn, m_mode == Mode::Contact);
+}
+
+bool DocumentPaging::searchesIndexes() const
+{
+    return m_condition.contains(QLatin1String(SearchTable))
+        || m_condition.contains(QLatin1String(ContentSearchTable))
+        || m_condition.contains(QStringLiteral("BodyWords"));
+}
+
+QString DocumentPaging::keepRowsSql(const QString& table) const
+{
+    const bool contacts = m_condition.contains(QStringLiteral("tbl_Contacts."), Qt::CaseInsensitive);
+    QString sql = QStringLiteral("INSERT INTO temp.") + table + QStringLiteral(" (RastasID) SELECT ") + Id
+        + from(contacts);
+    if (!m_condition.isEmpty())
+        sql += QStringLiteral(" WHERE (") + m_condition + u')';
+    return sql;
+}
+
+void DocumentPaging::readKeptRows(const QString& table)
+{
+    m_condition = Id + QStringLiteral(" IN (SELECT RastasID FROM temp.") + table + u')';
 }
 
 QString DocumentPaging::sortField() const

@@ -4,7 +4,10 @@
 #include "store/SearchIndex.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
+#include "store/engine/Recordset.h"
 #include "store/engine/SqlText.h"
+
+#include <algorithm>
 
 namespace kartella {
 
@@ -126,6 +129,16 @@ QString termCondition(const SearchTerm& term, const SearchIndexes& indexes)
     return ids + inFields + QStringLiteral(" UNION ") + inFile + u')';
 }
 
+// The ranks of one search's hits, on the connection that reads its list.
+constexpr const char* RankedHitsTable = "search_ranked_hits";
+
+qint64 countOf(Connection& connection, const QString& sql)
+{
+    Recordset rs;
+    rs.open(sql, connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
+    return rs.eof() ? 0 : rs.fields(QStringLiteral("N")).value().toLongLong();
+}
+
 } // namespace
 
 QList<SearchTerm> searchTerms(const QString& text)
@@ -218,6 +231,7 @@ SearchRanking searchRanking(const QList<SearchTerm>& terms, const SearchIndexes&
         ranking.key = QStringLiteral("coalesce(hits.hit_rank, julianday(tbl_Documents.DokRegistracData), 0)");
         ranking.anyHit = QStringLiteral("SELECT rowid AS hit_id FROM %1 WHERE %1 MATCH %2 LIMIT 1")
                              .arg(table, sqlString(queries.join(QStringLiteral(" OR "))));
+        ranking.fullTextQueries = queries;
     } else {
         const QString query = u'(' + queries.join(QStringLiteral(" || ")) + u')';
         ranking.join
@@ -232,6 +246,48 @@ SearchRanking searchRanking(const QList<SearchTerm>& terms, const SearchIndexes&
                                      "'0001-01-01' AS double precision), 0)");
     }
     return ranking;
+}
+
+SearchRanking prepareRanking(Connection& connection, const SearchRanking& ranking, qint64 broadHits)
+{
+    if (ranking.fullTextQueries.isEmpty())
+        return ranking;
+    const QString table = QLatin1String(ContentSearchTable);
+    // The index's own count of its rows (one per text) is small to read; the texts are not.
+    const qint64 texts
+        = countOf(connection, QStringLiteral("SELECT COUNT(*) AS N FROM %1_docsize").arg(table));
+    QStringList ranked;
+    bool anyHit = false;
+    for (const QString& query : ranking.fullTextQueries) {
+        // Counted only as far as it takes to know the term is broad.
+        const qint64 broad = std::max(broadHits, (texts + 1) / 2);
+        const qint64 hits = countOf(connection,
+            QStringLiteral("SELECT COUNT(*) AS N FROM (SELECT rowid FROM %1 WHERE %1 MATCH %2 LIMIT %3)")
+                .arg(table, sqlString(query), QString::number(broad)));
+        anyHit = anyHit || hits > 0;
+        if (hits > 0 && hits < broad)
+            ranked << query;
+    }
+    SearchRanking prepared = ranking;
+    prepared.fullTextQueries.clear();
+    if (!anyHit)
+        prepared.anyHit.clear();
+    if (ranked.isEmpty()) {
+        prepared.join.clear();
+        prepared.key.clear();
+        return prepared;
+    }
+    const QString hits = QLatin1String(RankedHitsTable);
+    connection.execute(QStringLiteral("DROP TABLE IF EXISTS temp.") + hits);
+    connection.execute(
+        QStringLiteral("CREATE TEMP TABLE %1 (hit_id INTEGER PRIMARY KEY, hit_rank REAL NOT NULL)")
+            .arg(hits));
+    connection.execute(QStringLiteral("INSERT INTO temp.%1 (hit_id, hit_rank) SELECT rowid, bm25(%2) FROM %2 "
+                                      "WHERE %2 MATCH %3")
+                           .arg(hits, table, sqlString(ranked.join(QStringLiteral(" OR ")))));
+    prepared.join
+        = QStringLiteral(" LEFT JOIN temp.%1 AS hits ON hits.hit_id = tbl_Documents.RastasID").arg(hits);
+    return prepared;
 }
 
 } // namespace kartella

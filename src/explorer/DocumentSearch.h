@@ -68,9 +68,20 @@ struct SearchRanking
     QString key;
     // A query of one row at most: a document whose file's text holds a term.
     QString anyHit;
+    // On a register file, the terms as queries of the FTS5 table, for prepareRanking().
+    QStringList fullTextQueries;
 };
 
 SearchRanking searchRanking(const QList<SearchTerm>& terms, const SearchIndexes& indexes);
+
+// The ranking of one search, made once on the connection that then reads its list. On a
+// register file the ranks of the hits are kept in a temporary table of that connection, so
+// that neither a page nor the position of a row ranks every hit again. A term found in the
+// texts of at least half of the documents, and of `broadHits` or more, ranks nothing: BM25
+// gives such a word no weight, and ranking nearly every document of a large register takes
+// seconds. A search of such words alone lists its results by date. Elsewhere the ranking is
+// given back as it is. Throws kartella::Error.
+SearchRanking prepareRanking(Connection& connection, const SearchRanking& ranking, qint64 broadHits = 5000);
 
 // The marks around the hit in a passage.
 inline constexpr char16_t PassageHitStart = u'\x02';

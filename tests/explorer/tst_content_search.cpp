@@ -24,15 +24,16 @@ namespace {
 
 using Ids = QList<qint32>;
 
-// The documents found for a text, in the order of the window's list of results.
-Ids found(const TestRegister& reg, const QString& text)
+// The documents found for a text, in the order of the window's list of results: ranked once
+// on the connection that reads the list, a term of `broadHits` hits or more being broad.
+Ids found(const TestRegister& reg, const QString& text, qint64 broadHits = 5000)
 {
     Connection connection;
     connection.open(reg.connectionString());
     const QList<SearchTerm> terms = searchTerms(text);
     const SearchIndexes indexes = searchIndexes(connection);
     DocumentPaging paging(searchListSql(terms, indexes, 0, false, {}, {}), DocumentPaging::Mode::Category);
-    const SearchRanking ranking = searchRanking(terms, indexes);
+    const SearchRanking ranking = prepareRanking(connection, searchRanking(terms, indexes), broadHits);
     paging.setRanking(ranking.join, ranking.key);
     Recordset rs;
     rs.open(paging.pageSql(nullptr, 1000), connection);
@@ -177,6 +178,32 @@ private Q_SLOTS:
         addText(reg, other, QStringLiteral("Nieko bendro"));
         QCOMPARE(found(reg, QStringLiteral("sutartis")), Ids({often, once, earlier, later}));
         QCOMPARE(found(reg, QStringLiteral("sutartis nuomos")), Ids({often, once}));
+    }
+
+    void wordOfMostFilesListsByDate_data()
+    {
+        QTest::addColumn<qint64>("broadHits");
+        QTest::addColumn<bool>("byDate");
+        // Two texts of three hold the word: half of them or more.
+        QTest::newRow("two hits are broad") << qint64(2) << true;
+        QTest::newRow("three hits are broad") << qint64(3) << false;
+    }
+
+    void wordOfMostFilesListsByDate()
+    {
+        QFETCH(qint64, broadHits);
+        QFETCH(bool, byDate);
+        const TestRegister reg(TestRegister::File);
+        const qint32 once = addDocument(reg, QStringLiteral("Pirmas"));
+        addText(reg, once, QStringLiteral("Nuomos sutartis dėl patalpų, su priedais ir planais"));
+        const qint32 often = addDocument(reg, QStringLiteral("Antras"));
+        addText(reg, often, QStringLiteral("Sutartis pasirašyta, sutartis galioja"));
+        const qint32 later = addDocument(reg, QStringLiteral("Sutartis be teksto"), QDate(2024, 5, 1));
+        const qint32 earlier = addDocument(reg, QStringLiteral("Sutartis sena"), QDate(2023, 1, 2));
+        addText(reg, addDocument(reg, QStringLiteral("Kita")), QStringLiteral("Nieko bendro"));
+        QCOMPARE(found(reg, QStringLiteral("sutartis"), broadHits),
+            byDate ? Ids({earlier, once, often, later}) : Ids({often, once, earlier, later}));
+        QCOMPARE(found(reg, QStringLiteral("planais"), broadHits), Ids({once}));
     }
 
     void changedAndDeletedTextsLeaveTheIndex_data() { places(); }
