@@ -5,8 +5,10 @@
 #include <QLabel>
 #include <QPdfDocument>
 #include <QPdfPageNavigator>
+#include <QPdfPageRenderer>
 #include <QPdfView>
 #include <QScrollBar>
+#include <QScroller>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -65,6 +67,11 @@ PdfViewer::~PdfViewer()
 {
     // The view lets go of the document before the document goes.
     m_view->setDocument(nullptr);
+    // Qt's PDF view never frees its renderer's thread, nor the scroller it grabs for its
+    // viewport: both are handed back here, while the view still lives.
+    if (auto* renderer = m_view->findChild<QPdfPageRenderer*>())
+        renderer->setRenderMode(QPdfPageRenderer::RenderMode::SingleThreaded);
+    QScroller::ungrabGesture(m_view->viewport());
 }
 
 void PdfViewer::setDocument(std::unique_ptr<QPdfDocument> document)

@@ -155,7 +155,7 @@ void ReadersTest::recordsWhyAFileIsNotRead_data()
     QTest::newRow("damaged docx") << "broken.docx" << QByteArray("PK\x03\x04 cut short") << failed
                                   << "damaged";
     QTest::newRow("password-protected docx")
-        << "locked.docx" << QByteArray("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1 encrypted package", 32) << failed
+        << "locked.docx" << QByteArray("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1 encrypted package") << failed
         << "password-protected";
     QTest::newRow("damaged rtf") << "broken.rtf" << QByteArray("not rtf") << failed << "damaged";
     QTest::newRow("image") << "scan.jpg" << QByteArray("\xFF\xD8\xFF\xE0 jpeg") << int(TextState::NoText)
