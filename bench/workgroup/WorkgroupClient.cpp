@@ -25,9 +25,6 @@ namespace kartella::bench {
 
 namespace {
 
-// The refusal of an update whose row another program changed since it was read.
-constexpr long RowChangedByAnother = -2147217864;
-
 // The New Document dialog's recordset: the document with its reminders, opened to add.
 const QString DocumentSource = QStringLiteral(
     "SHAPE {select RastasID,DokGavSiuntData,DokRegistracData,DokRegistracIndeksas,DokAntraste,DokPastaba,"
@@ -40,7 +37,7 @@ const QStringList SearchWords = {QStringLiteral("seed"), QStringLiteral("documen
 
 bool isConflict(const Error& error)
 {
-    return error.number() == RowChangedByAnother || error.number() == ErrorNumber::RowDeleted;
+    return error.number() == ErrorNumber::RowChanged || error.number() == ErrorNumber::RowDeleted;
 }
 
 double msSince(const QElapsedTimer& timer)
