@@ -67,12 +67,6 @@ void addText(const TestRegister& reg, qint32 id, const QString& body)
                      sqlString(body)));
 }
 
-void skipWithoutServer(TestRegister::Where where)
-{
-    if (where == TestRegister::Server && !ServerDatabase::available())
-        QSKIP(qPrintable(ServerDatabase::skipReason()));
-}
-
 // Whether the FTS5 index agrees with the texts it indexes (a register file).
 bool indexIsWhole(const TestRegister& reg)
 {
@@ -140,7 +134,8 @@ private Q_SLOTS:
         QFETCH(TestRegister::Where, where);
         QFETCH(QString, text);
         QFETCH(QStringList, expected);
-        skipWithoutServer(where);
+        if (where == TestRegister::Server && !ServerDatabase::available())
+            QSKIP(qPrintable(ServerDatabase::skipReason()));
         const TestRegister reg(where);
         QHash<QString, qint32> id;
         id["loan"] = addDocument(reg, QStringLiteral("Dokumentas 1"));
@@ -165,7 +160,8 @@ private Q_SLOTS:
     void moreHitsComeFirstThenTheFieldsByDate()
     {
         QFETCH(TestRegister::Where, where);
-        skipWithoutServer(where);
+        if (where == TestRegister::Server && !ServerDatabase::available())
+            QSKIP(qPrintable(ServerDatabase::skipReason()));
         const TestRegister reg(where);
         const qint32 once = addDocument(reg, QStringLiteral("Pirmas"));
         addText(reg, once,
@@ -211,7 +207,8 @@ private Q_SLOTS:
     void changedAndDeletedTextsLeaveTheIndex()
     {
         QFETCH(TestRegister::Where, where);
-        skipWithoutServer(where);
+        if (where == TestRegister::Server && !ServerDatabase::available())
+            QSKIP(qPrintable(ServerDatabase::skipReason()));
         const TestRegister reg(where);
         const qint32 doc = addDocument(reg, QStringLiteral("Raštas"));
         addText(reg, doc, QStringLiteral("Įsakymas dėl atostogų"));
@@ -264,7 +261,8 @@ private Q_SLOTS:
     {
         QFETCH(TestRegister::Where, where);
         QFETCH(int, version);
-        skipWithoutServer(where);
+        if (where == TestRegister::Server && !ServerDatabase::available())
+            QSKIP(qPrintable(ServerDatabase::skipReason()));
         const TestRegister reg(where);
         const qint32 doc = addDocument(reg, QStringLiteral("Raštas"));
         if (where == TestRegister::File) {
