@@ -26,14 +26,8 @@ class ChangedRowsTest : public QObject
 {
     Q_OBJECT
 
-private Q_SLOTS:
-    void cleanup() { selection() = SelectionState(); }
-
-    // The address book on a contact another program changes: the save question's Yes tells
-    // so, with the stored and the typed city, and the user reloads the contact (the window
-    // stays on it, showing what is stored) or stores theirs over it; the other program's
-    // address, a field not typed here, stays either way.
-    void contactChanged_data()
+    // A register file and a server, each answered Reload (Yes) and Keep Mine (No).
+    static void addPlacesAndAnswers()
     {
         QTest::addColumn<int>("where");
         QTest::addColumn<int>("answer");
@@ -43,6 +37,15 @@ private Q_SLOTS:
             QTest::addRow("%s, Keep Mine", place) << where << int(MsgBoxResult::No);
         }
     }
+
+private Q_SLOTS:
+    void cleanup() { selection() = SelectionState(); }
+
+    // The address book on a contact another program changes: the save question's Yes tells
+    // so, with the stored and the typed city, and the user reloads the contact (the window
+    // stays on it, showing what is stored) or stores theirs over it; the other program's
+    // address, a field not typed here, stays either way.
+    void contactChanged_data() { addPlacesAndAnswers(); }
     void contactChanged()
     {
         QFETCH(int, answer);
@@ -89,16 +92,7 @@ private Q_SLOTS:
     // The new-contact editor, its contact stored by Add Phone, on a contact another program
     // then changes: OK tells so; Keep Mine stores the typed city, Reload shows the stored one
     // for a later OK; the other program's e-mail address stays either way.
-    void newContactChanged_data()
-    {
-        QTest::addColumn<int>("where");
-        QTest::addColumn<int>("answer");
-        for (const int where : {int(TestRegister::File), int(TestRegister::Server)}) {
-            const char* place = where == TestRegister::File ? "file" : "server";
-            QTest::addRow("%s, Reload", place) << where << int(MsgBoxResult::Yes);
-            QTest::addRow("%s, Keep Mine", place) << where << int(MsgBoxResult::No);
-        }
-    }
+    void newContactChanged_data() { addPlacesAndAnswers(); }
     void newContactChanged()
     {
         QFETCH(int, answer);
@@ -137,16 +131,7 @@ private Q_SLOTS:
     // The category dialog on a category another program renamed: OK tells so; Reload shows
     // the stored title in the dialog, Keep Mine stores the typed one; the other program's
     // mnemonic stays either way.
-    void categoryChanged_data()
-    {
-        QTest::addColumn<int>("where");
-        QTest::addColumn<int>("answer");
-        for (const int where : {int(TestRegister::File), int(TestRegister::Server)}) {
-            const char* place = where == TestRegister::File ? "file" : "server";
-            QTest::addRow("%s, Reload", place) << where << int(MsgBoxResult::Yes);
-            QTest::addRow("%s, Keep Mine", place) << where << int(MsgBoxResult::No);
-        }
-    }
+    void categoryChanged_data() { addPlacesAndAnswers(); }
     void categoryChanged()
     {
         QFETCH(int, answer);
@@ -189,16 +174,7 @@ private Q_SLOTS:
     // The related document's description, open on a row another program changes: OK tells
     // so with both descriptions; Keep Mine stores the typed one beside the other program's
     // location, Reload shows the stored one in the dialog.
-    void relatedDocumentChanged_data()
-    {
-        QTest::addColumn<int>("where");
-        QTest::addColumn<int>("answer");
-        for (const int where : {int(TestRegister::File), int(TestRegister::Server)}) {
-            const char* place = where == TestRegister::File ? "file" : "server";
-            QTest::addRow("%s, Reload", place) << where << int(MsgBoxResult::Yes);
-            QTest::addRow("%s, Keep Mine", place) << where << int(MsgBoxResult::No);
-        }
-    }
+    void relatedDocumentChanged_data() { addPlacesAndAnswers(); }
     void relatedDocumentChanged()
     {
         QFETCH(int, answer);
