@@ -7,6 +7,7 @@
 // for presentations: those are converted to .pptx in one LibreOffice call for many files
 // (50 in 8 s) and read as Office Open XML.
 #include "content/FileText.h"
+#include "platform/LibreOfficeSuite.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -14,7 +15,6 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
-#include <QUrl>
 
 namespace kartella {
 
@@ -78,7 +78,7 @@ QList<FileText> readConvertedTexts(
     const QStringList& paths, int timeoutMs, const std::function<bool()>& cancelled)
 {
     QList<FileText> results;
-    const QString program = QStandardPaths::findExecutable(QStringLiteral("soffice"));
+    const QString program = LibreOfficeSuite::program();
     QTemporaryDir work;
     if (program.isEmpty() || !work.isValid()) {
         for (qsizetype i = 0; i < paths.size(); ++i)
@@ -98,12 +98,10 @@ QList<FileText> readConvertedTexts(
         if (QFile::copy(paths.at(i), copy))
             inputs << copy;
     }
-    // A profile of its own, so that a LibreOffice the user is running is left alone.
     const QStringList arguments
-        = QStringList {QStringLiteral("--headless"), QStringLiteral("--norestore"),
-              QStringLiteral("-env:UserInstallation=")
-                  + QUrl::fromLocalFile(work.filePath(QStringLiteral("profile"))).toString(),
-              QStringLiteral("--convert-to"), QStringLiteral("pptx"), QStringLiteral("--outdir"), out.path()}
+        = LibreOfficeSuite::headlessArguments(work.filePath(QStringLiteral("profile")))
+        + QStringList {QStringLiteral("--convert-to"), QStringLiteral("pptx"), QStringLiteral("--outdir"),
+            out.path()}
         + inputs;
     runTool(program, arguments, timeoutMs, cancelled);
     for (qsizetype i = 0; i < paths.size(); ++i) {

@@ -48,7 +48,7 @@ QString filterName(OfficeSuite::Kind kind)
 
 QString findProgram()
 {
-    const QString program = QStandardPaths::findExecutable(QStringLiteral("soffice"));
+    const QString program = LibreOfficeSuite::program();
     if (program.isEmpty())
         raise(OfficeErrorNumber::NotInstalled,
             QStringLiteral("LibreOffice can't be found: there is no program \"soffice\" on the PATH. Install "
@@ -234,11 +234,9 @@ void LibreOfficeSuite::create(Kind kind, const QString& templatePath, const QStr
     }
 
     const QString targetExtension = extension(kind);
-    const QStringList arguments = {QStringLiteral("--headless"), QStringLiteral("--norestore"),
-        QStringLiteral("--nolockcheck"),
-        QStringLiteral("-env:UserInstallation=") % QUrl::fromLocalFile(profile).toString(QUrl::FullyEncoded),
-        QStringLiteral("--convert-to"), targetExtension % QLatin1Char(':') % filterName(kind),
-        QStringLiteral("--outdir"), outDir, source};
+    const QStringList arguments = headlessArguments(profile)
+        + QStringList {QStringLiteral("--convert-to"), targetExtension % QLatin1Char(':') % filterName(kind),
+            QStringLiteral("--outdir"), outDir, source};
     const QString what = QLatin1Char('\'') % shown % QLatin1Char('\'');
     const QString output = run(program, arguments, m_timeoutMs, what);
 
@@ -265,6 +263,18 @@ void LibreOfficeSuite::show(const QString& path)
         raise(OfficeErrorNumber::Failed,
             QStringLiteral("No program could be started to show '") % QDir::toNativeSeparators(path)
                 % QStringLiteral("'."));
+}
+
+QString LibreOfficeSuite::program()
+{
+    return QStandardPaths::findExecutable(QStringLiteral("soffice"));
+}
+
+QStringList LibreOfficeSuite::headlessArguments(const QString& profileFolder)
+{
+    return {QStringLiteral("--headless"), QStringLiteral("--norestore"), QStringLiteral("--nolockcheck"),
+        QStringLiteral("-env:UserInstallation=")
+            + QUrl::fromLocalFile(profileFolder).toString(QUrl::FullyEncoded)};
 }
 
 } // namespace kartella

@@ -3,6 +3,7 @@
 #include "platform/OfficeSuite.h"
 
 #include <QByteArray>
+#include <QStringList>
 
 namespace kartella {
 
@@ -26,6 +27,12 @@ public:
     // The empty document of kind as flat ODF (.fodt, .fods, .fodp), and its extension.
     static QByteArray seedDocument(Kind kind);
     static QString seedExtension(Kind kind);
+
+    // The soffice program on the PATH; empty when LibreOffice is not installed.
+    static QString program();
+    // What every headless call starts with: no window, no recovery, and the profile folder
+    // given, so that a LibreOffice the user is running is left alone.
+    static QStringList headlessArguments(const QString& profileFolder);
 
 private:
     int m_timeoutMs = DefaultTimeoutMs;

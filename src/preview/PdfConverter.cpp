@@ -1,12 +1,12 @@
 #include "preview/PdfConverter.h"
 
+#include "platform/LibreOfficeSuite.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTimer>
-#include <QUrl>
 
 #ifdef Q_OS_UNIX
 #include <csignal>
@@ -36,7 +36,7 @@ LibreOfficeConverter::~LibreOfficeConverter()
 
 QString LibreOfficeConverter::program()
 {
-    return QStandardPaths::findExecutable(QStringLiteral("soffice"));
+    return LibreOfficeSuite::program();
 }
 
 void LibreOfficeConverter::convert(const QString& source)
@@ -57,11 +57,8 @@ void LibreOfficeConverter::convert(const QString& source)
     m_output = new QTemporaryDir(QDir(QDir::tempPath()).filePath(QStringLiteral("kartella-preview-XXXXXX")));
     m_process = new QProcess(this);
     m_process->setProgram(soffice);
-    m_process->setArguments(
-        {QStringLiteral("--headless"), QStringLiteral("--norestore"), QStringLiteral("--nolockcheck"),
-            QStringLiteral("-env:UserInstallation=")
-                + QUrl::fromLocalFile(m_profile).toString(QUrl::FullyEncoded),
-            QStringLiteral("--convert-to"), QStringLiteral("pdf"), QStringLiteral("--outdir"),
+    m_process->setArguments(LibreOfficeSuite::headlessArguments(m_profile)
+        + QStringList {QStringLiteral("--convert-to"), QStringLiteral("pdf"), QStringLiteral("--outdir"),
             m_output->path(), QFileInfo(source).absoluteFilePath()});
     m_process->setProcessChannelMode(QProcess::MergedChannels);
     m_process->setStandardInputFile(QProcess::nullDevice());
