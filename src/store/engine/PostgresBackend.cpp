@@ -163,9 +163,10 @@ void PostgresBackend::fail(pg_result* result, const QString& shownSql) const
         message = QString::fromUtf8(primary ? primary : PQerrorMessage(m_connection)).trimmed();
         if (const char* detail = result ? PQresultErrorField(result, PG_DIAG_MESSAGE_DETAIL) : nullptr)
             message += QStringLiteral(" (") + QString::fromUtf8(detail) + u')';
+        // Only a failure the register can't explain in a user's words names its statement.
+        message += QStringLiteral("\nStatement: ") + shownSql;
     }
-    throwError(
-        ErrorNumber::CommandFailed, message + QStringLiteral("\nStatement: ") + shownSql, ConnectionSource);
+    throwError(ErrorNumber::CommandFailed, message, ConnectionSource);
 }
 
 QString PostgresBackend::lockHolders() const

@@ -196,9 +196,9 @@ void SqliteBackend::fail(int code, const QString& shownSql) const
                                  "was not stored (")
             + QString::fromUtf8(sqlite3_errmsg(m_db)) + QStringLiteral(").");
     else
-        message = QString::fromUtf8(sqlite3_errmsg(m_db));
-    throwError(
-        ErrorNumber::CommandFailed, message + QStringLiteral("\nStatement: ") + shownSql, ConnectionSource);
+        // Only a failure the register can't explain in a user's words names its statement.
+        message = QString::fromUtf8(sqlite3_errmsg(m_db)) + QStringLiteral("\nStatement: ") + shownSql;
+    throwError(ErrorNumber::CommandFailed, message, ConnectionSource);
 }
 
 SqliteBackend::Statement SqliteBackend::prepare(
