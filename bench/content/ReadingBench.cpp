@@ -2,7 +2,6 @@
 // scratch by a TextIndexer pass; and the longest stall of the window's thread while the
 // background queue reads.
 #include "ContentBench.h"
-
 #include "content/ReadingQueue.h"
 #include "content/TextIndexer.h"
 #include "platform/LibreOfficeSuite.h"
@@ -82,7 +81,8 @@ QStringList makeOfficeFiles(const QString& folder, const QString& format, int co
     const QString seed = QDir(folder).filePath(QStringLiteral("seed.fodt"));
     QByteArray body = LibreOfficeSuite::seedDocument(OfficeSuite::Kind::Word);
     body.replace("<text:p/>",
-        "<text:p>Sutartis su \xC5\xA0iauli\xC5\xB3 bendrove d\xC4\x97l \xC4\x85\xC5\xBEuol\xC5\xB3 pristatymo.</text:p>"
+        "<text:p>Sutartis su \xC5\xA0iauli\xC5\xB3 bendrove d\xC4\x97l \xC4\x85\xC5\xBEuol\xC5\xB3 "
+        "pristatymo.</text:p>"
         "<text:p>Mok\xC4\x97jimas per trisde\xC5\xA1imt dien\xC5\xB3.</text:p>");
     QFile seedFile(seed);
     if (!seedFile.open(QIODevice::WriteOnly) || seedFile.write(body) != body.size())
@@ -136,9 +136,8 @@ qint64 longestStall(const QString& registerPath)
     QTimer tick;
     QElapsedTimer sinceLast;
     qint64 longest = 0;
-    QObject::connect(&tick, &QTimer::timeout, &loop, [&] {
-        longest = std::max(longest, sinceLast.restart());
-    });
+    QObject::connect(
+        &tick, &QTimer::timeout, &loop, [&] { longest = std::max(longest, sinceLast.restart()); });
     QObject::connect(&queue, &ReadingQueue::finished, &loop, &QEventLoop::quit);
     QObject::connect(&queue, &ReadingQueue::failed, &loop, &QEventLoop::quit);
     tick.start(10);
@@ -156,9 +155,11 @@ void benchReading(const QString& folder, QTextStream& out)
     const QDir root(folder);
     const QStringList pdfs = makePdfs(root.filePath(QStringLiteral("pdf")), 1000);
     out << "index_pdf_per_s: "
-        << qRound(filesPerSecond(makeRegister(folder, QStringLiteral("pdf"), pdfs), int(pdfs.size()))) << Qt::endl;
+        << qRound(filesPerSecond(makeRegister(folder, QStringLiteral("pdf"), pdfs), int(pdfs.size())))
+        << Qt::endl;
 
-    const QStringList docx = makeOfficeFiles(root.filePath(QStringLiteral("docx")), QStringLiteral("docx"), 200);
+    const QStringList docx
+        = makeOfficeFiles(root.filePath(QStringLiteral("docx")), QStringLiteral("docx"), 200);
     if (!docx.isEmpty())
         out << "index_docx_per_s: "
             << qRound(filesPerSecond(makeRegister(folder, QStringLiteral("docx"), docx), int(docx.size())))
@@ -172,7 +173,8 @@ void benchReading(const QString& folder, QTextStream& out)
         out << "# LibreOffice (soffice) is missing: no .docx or .doc files to read" << Qt::endl;
 
     // The same PDFs once more, from scratch, through the background queue.
-    out << "max_ui_stall_ms: " << longestStall(makeRegister(folder, QStringLiteral("stall"), pdfs)) << Qt::endl;
+    out << "max_ui_stall_ms: " << longestStall(makeRegister(folder, QStringLiteral("stall"), pdfs))
+        << Qt::endl;
 }
 
 } // namespace kartella::bench

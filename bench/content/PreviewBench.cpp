@@ -1,16 +1,17 @@
 // Times the preview pane: from the selection of a document whose file is a 20-page PDF to
 // its first page painted in the pane (preview_pdf_ms, the median of several selections,
 // and the slowest), with another document's text shown in between. Prints "name: value" lines.
+#include "ContentBench.h"
 #include "preview/PdfViewer.h"
 #include "preview/PreviewPane.h"
 
-#include <QApplication>
+#include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QPainter>
 #include <QPdfView>
 #include <QPdfWriter>
-#include <QTemporaryDir>
 #include <QTextStream>
 
 #include <algorithm>
@@ -59,17 +60,18 @@ bool pagePainted(QPdfView* view)
 
 } // namespace
 
-int main(int argc, char* argv[])
+void kartella::bench::benchPreview(const QString& folder, QTextStream& out)
 {
-    QApplication app(argc, argv);
-    QTemporaryDir dir;
+    const QDir dir(folder);
     qputenv("XDG_CACHE_HOME", dir.filePath(QStringLiteral("cache")).toLocal8Bit());
     const QString pdf = dir.filePath(QStringLiteral("sutartis.pdf"));
     const QString text = dir.filePath(QStringLiteral("laiskas.txt"));
     writePdf(pdf);
     QFile note(text);
-    if (!note.open(QIODevice::WriteOnly) || note.write("Laiškas\n") < 0)
-        return 1;
+    if (!note.open(QIODevice::WriteOnly) || note.write("Laiškas\n") < 0) {
+        QTextStream(stderr) << "the text file could not be written\n";
+        return;
+    }
     note.close();
 
     PreviewPane pane;
@@ -89,15 +91,13 @@ int main(int argc, char* argv[])
             QCoreApplication::processEvents(QEventLoop::AllEvents, 2);
             if (timer.elapsed() > 10000) {
                 QTextStream(stderr) << "the first page was not painted within 10 s\n";
-                return 1;
+                return;
             }
         }
         times.push_back(double(timer.nsecsElapsed()) / 1e6);
     }
     std::sort(times.begin(), times.end());
-    QTextStream out(stdout);
     out << "preview_pdf_pages: " << Pages << '\n';
     out << "preview_pdf_ms: " << QString::number(times[times.size() / 2], 'f', 1) << '\n';
     out << "preview_pdf_max_ms: " << QString::number(times.back(), 'f', 1) << '\n';
-    return 0;
 }

@@ -4,6 +4,7 @@
 // Each search runs as the window runs it: the indexes looked up, the list of results
 // counted and its first page read with the passages. The register is made once and kept in
 // the build folder. Prints "name: value" lines.
+#include "ContentBench.h"
 #include "explorer/DocumentFills.h"
 #include "explorer/DocumentSearch.h"
 #include "explorer/ListModel.h"
@@ -14,12 +15,11 @@
 #include "store/engine/Connection.h"
 #include "support/SelectionState.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QRandomGenerator>
-#include <QTemporaryDir>
 #include <QTextStream>
 
 #include <algorithm>
@@ -194,10 +194,8 @@ double percentile(std::vector<double> times, double part)
 
 } // namespace
 
-int main(int argc, char* argv[])
+void kartella::bench::benchSearch(const QString& folder, QTextStream& out)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
     int documents = 100000;
     const QStringList arguments = QCoreApplication::arguments();
     const qsizetype at = arguments.indexOf(QStringLiteral("--documents"));
@@ -205,8 +203,7 @@ int main(int argc, char* argv[])
         documents = arguments.at(at + 1).toInt();
     const QString path = sampleRegister(documents);
 
-    QTemporaryDir dir;
-    qputenv("XDG_CONFIG_HOME", dir.filePath(QStringLiteral("config")).toUtf8());
+    qputenv("XDG_CONFIG_HOME", QDir(folder).filePath(QStringLiteral("config")).toUtf8());
     seedOptionsIfMissing();
     setRegValue(QStringLiteral("DbLocation"), path);
     setRegValue(QStringLiteral("Filter"), QStringLiteral("0"));
@@ -248,10 +245,8 @@ int main(int argc, char* argv[])
                 QTextStream(stderr) << search << ": " << rows << " rows, " << qRound(ms) << " ms\n";
         }
     }
-    QTextStream out(stdout);
     out << "documents: " << documents << '\n';
     out << "content_search_p50_ms: " << qRound(percentile(times, 0.5)) << '\n';
     out << "content_search_p90_ms: " << qRound(percentile(times, 0.9)) << '\n';
     out << "content_search_max_ms: " << qRound(percentile(times, 1.0)) << '\n';
-    return 0;
 }
