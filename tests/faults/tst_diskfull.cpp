@@ -5,6 +5,7 @@
 #include "base/Error.h"
 #include "faults/FaultFixture.h"
 #include "faults/FullDiskVfs.h"
+#include "faults/ListSource.h"
 #include "harness/OldRegister.h"
 #include "harness/TestRegister.h"
 #include "store/RegisterCopy.h"
@@ -35,34 +36,6 @@ QString connectionStringOf(const QString& path)
 {
     return plainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"), path);
 }
-
-class ListSource final : public migration::SourceDatabase
-{
-public:
-    QStringList tableNames() override
-    {
-        return {QStringLiteral("tbl_Contacts"), QStringLiteral("tbl_Phones")};
-    }
-    std::optional<migration::SourceTable> readTable(const QString& name) override
-    {
-        migration::SourceTable table;
-        table.name = name;
-        if (name.compare(QStringLiteral("tbl_Contacts"), Qt::CaseInsensitive) == 0) {
-            table.columns = QStringList {"ContactID", "FullName", "City"};
-            for (int i = 1; i <= 400; ++i)
-                table.rows.append(QVariantList {
-                    QString::number(i), QStringLiteral("Žemaitis %1").arg(i), QStringLiteral("Šiauliai")});
-        } else if (name.compare(QStringLiteral("tbl_Phones"), Qt::CaseInsensitive) == 0) {
-            table.columns = QStringList {"PhoneID", "ContactID", "PhoneName", "PhoneNumber"};
-            for (int i = 1; i <= 400; ++i)
-                table.rows.append(QVariantList {QString::number(i), QString::number(i),
-                    QStringLiteral("Darbo"), QString(QStringLiteral("+370 41 ") + QString::number(i))});
-        } else {
-            return std::nullopt;
-        }
-        return table;
-    }
-};
 
 // One write path: it runs on `work` (a fresh copy of the fixture's register) and may write
 // `target`; it returns what it told the user (or throws kartella::Error, which is what the

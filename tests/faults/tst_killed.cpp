@@ -23,11 +23,15 @@ namespace {
 constexpr int KillPoints = 20;
 constexpr int Contacts = 5000;
 
-// Starts kartella-db with arguments and kills it after delayMs; false when it ended first.
-bool killAfter(const QStringList& arguments, int delayMs)
+constexpr int MigratedContacts = 20000;
+
+// Starts kartella-db (or another program) with arguments and kills it after delayMs; false
+// when it ended first.
+bool killAfter(
+    const QStringList& arguments, int delayMs, const QString& program = QStringLiteral(KARTELLA_DB_PATH))
 {
     QProcess process;
-    process.start(QStringLiteral(KARTELLA_DB_PATH), arguments);
+    process.start(program, arguments);
     if (!process.waitForStarted())
         return false;
     if (process.waitForFinished(delayMs))
@@ -112,6 +116,8 @@ private Q_SLOTS:
         QVERIFY2(killed >= KillPoints / 2, qPrintable(QString::number(killed)));
     }
 
+    void killedMigrationIsWholeOrNothing();
+
     // The copy commits its rows in one transaction: a killed copy leaves a register with no
     // rows, or none at all, and the source as it was.
     void killedCopyIsWholeOrEmpty()
@@ -151,6 +157,50 @@ private Q_SLOTS:
         }
     }
 };
+
+// The migration moves every table in one transaction: a killed migration leaves no
+// register, one that is refused with a message, or one with no migrated rows at all.
+void KilledTest::killedMigrationIsWholeOrNothing()
+{
+    const QString child = QStringLiteral(KARTELLA_MIGRATE_CHILD_PATH);
+    const QString count = QString::number(MigratedContacts);
+    QElapsedTimer clock;
+    clock.start();
+    QProcess whole;
+    whole.start(child, {m_dir.filePath("timed-migration.mdb"), count});
+    QVERIFY(whole.waitForFinished(120000));
+    QCOMPARE(whole.exitCode(), 0);
+    const int total = int(clock.elapsed());
+    QCOMPARE(
+        countThroughEngine(m_dir.filePath("timed-migration.mdb"), "tbl_Contacts"), qint64(MigratedContacts));
+
+    int killed = 0;
+    for (int point = 1; point <= KillPoints; ++point) {
+        const QString target = m_dir.filePath(QStringLiteral("migration%1.mdb").arg(point));
+        if (killAfter({target, count}, total * point / (KillPoints + 1), child))
+            ++killed;
+        const QByteArray where
+            = "killed at " + QByteArray::number(point) + '/' + QByteArray::number(KillPoints);
+        if (!QFile::exists(target) || QFile(target).size() == 0)
+            continue;
+        qint64 contacts = 0;
+        try {
+            contacts = countThroughEngine(target, "tbl_Contacts");
+        } catch (const Error& error) {
+            // Killed while it made the register's tables.
+            QVERIFY2(error.description().contains("not a register"),
+                qPrintable(error.description() + ' ' + where));
+            continue;
+        }
+        QCOMPARE(integrityCheck(target), QStringLiteral("ok"));
+        QVERIFY2(contacts == 0 || contacts == MigratedContacts,
+            qPrintable(QString::number(contacts) + ' ' + where));
+        const qint64 phones = countThroughEngine(target, "tbl_Phones");
+        QVERIFY2(phones == contacts, where.constData());
+        QFile::remove(target);
+    }
+    QVERIFY2(killed >= KillPoints / 2, qPrintable(QString::number(killed)));
+}
 
 int runKilledTest(int argc, char** argv)
 {
