@@ -167,6 +167,13 @@ void ContactImportTest::vCardBalticText_data()
     QTest::newRow("quoted-printable charset") << "BEGIN:VCARD\nFN;CHARSET=windows-1257;QUOTED-PRINTABLE:=DE"
             + baltic.mid(1) + "\nEND:VCARD\n" << QString();
     QTest::newRow("guessed") << "BEGIN:VCARD\nFN:" + baltic + "\nEND:VCARD\n" << QString();
+    // The file is plain ASCII; only the value's decoded bytes tell their code page.
+    QByteArray quoted;
+    for (const char byte : baltic)
+        quoted += '=' + QByteArray(1, byte).toHex().toUpper();
+    QTest::newRow("quoted-printable without charset")
+        << "BEGIN:VCARD\nVERSION:2.1\nFN;ENCODING=QUOTED-PRINTABLE:" + quoted + "\nEND:VCARD\n"
+        << QString();
     QTest::newRow("forced") << "BEGIN:VCARD\nFN:" + baltic + "\nEND:VCARD\n"
                             << QStringLiteral("windows-1257");
     QTest::newRow("utf-8 with mark") << "\xEF\xBB\xBF"

@@ -316,7 +316,10 @@ private:
             = line.encoding == "QUOTED-PRINTABLE" ? decodeQuotedPrintable(line.value) : line.value;
         if (!line.charset.isEmpty())
             return decodeText(bytes, line.charset);
-        return isUtf8(bytes) ? QString::fromUtf8(bytes) : decodeText(bytes, m_defaultCharset);
+        if (isUtf8(bytes))
+            return QString::fromUtf8(bytes);
+        // A file of plain ASCII guesses nothing; its quoted-printable bytes guess for themselves.
+        return decodeText(bytes, m_defaultCharset.isEmpty() ? guessCodePage(bytes) : m_defaultCharset);
     }
 
     static QString firstValue(const QString& text)
@@ -417,8 +420,10 @@ QList<ContactItem> readVCards(const QByteArray& file, const QString& defaultChar
     QByteArray data = file;
     if (data.startsWith("\xEF\xBB\xBF"))
         data = data.mid(3);
+    // Empty: the file is UTF-8, and a value that isn't (quoted-printable bytes) has its code
+    // page guessed from its own bytes.
     const QString charset = !defaultCharset.isEmpty() ? defaultCharset
-        : isUtf8(data)                                ? QStringLiteral("UTF-8")
+        : isUtf8(data)                                ? QString()
                                                       : guessCodePage(data);
     QList<ContactItem> contacts;
     std::optional<CardBuilder> card;

@@ -24,8 +24,9 @@ namespace kartella {
 //                  another
 //
 // Values may be folded, escaped, quoted-printable (with soft line breaks) and carry a
-// CHARSET; text without one is UTF-8 when the file is, else defaultCharset (or, when that
-// is empty, the code page guessed from the file). Lines that make no sense are passed
+// CHARSET; text without one is UTF-8 when it is valid UTF-8, else defaultCharset (or, when
+// that is empty, the code page guessed from the file, or from the value's own bytes when the
+// file itself is UTF-8). Lines that make no sense are passed
 // over: the reader never fails, it gives what it could read.
 QList<ContactItem> readVCards(const QByteArray& file, const QString& defaultCharset = {});
 
