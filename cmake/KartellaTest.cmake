@@ -3,11 +3,16 @@
 # Adds one QtTest executable tst_<area> and registers it with ctest. Each test runs
 # offscreen with its own XDG_CONFIG_HOME and HOME under the build tree, so it never
 # touches the user's options and tests can run in parallel.
+# The test executables' own code is compiled with these options besides (the presets that
+# run the suite make it quick to compile: it runs once and calls into optimised libraries).
+set(KARTELLA_TEST_CODE_OPTIONS "" CACHE STRING "Compile options of the test executables' own code")
+
 function(kartella_add_test area)
     cmake_parse_arguments(ARG "GUI" "TIMEOUT" "SOURCES;LIBS" ${ARGN})
     set(target tst_${area})
     add_executable(${target} ${ARG_SOURCES})
     kartella_warnings(${target})
+    target_compile_options(${target} PRIVATE ${KARTELLA_TEST_CODE_OPTIONS})
     target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/tests)
     set(libs kartella_testsupport kartella_core Qt6::Test Qt6::Core)
     if(ARG_GUI)
