@@ -216,9 +216,11 @@ QWidget* AddressBookWindow::buildFields()
     m_homePageGrid->setObjectName(QStringLiteral("dgrHP"));
     m_phoneModel = new RecordsetModel(this);
     m_phoneModel->setAllowAddNew(true);
+    m_phoneModel->setRowName(QStringLiteral("phone"));
     m_phoneModel->attachView(m_phoneGrid);
     m_homePageModel = new RecordsetModel(this);
     m_homePageModel->setAllowAddNew(true);
+    m_homePageModel->setRowName(QStringLiteral("web page"));
     m_homePageModel->attachView(m_homePageGrid);
     // The keys are hidden; the settings last across the contacts.
     const std::array<std::pair<RecordsetModel*, int>, 2> widths

@@ -4,6 +4,7 @@
 #include "platform/Prompter.h"
 #include "store/engine/Recordset.h"
 #include "store/engine/Value.h"
+#include "support/ChangedRowPrompt.h"
 #include "support/DialogParts.h"
 
 #include <QDate>
@@ -238,12 +239,49 @@ bool RecordsetModel::setCell(int row, int column, const QVariant& value)
             return false;
         }
         m_self = false;
+        if (rowWasChanged(error))
+            return resolveChangedCell(row);
         msgBox(error.description());
         return false;
     }
     m_self = false;
     Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
     return true;
+}
+
+bool RecordsetModel::resolveChangedCell(int row)
+{
+    QList<QPair<QString, QString>> captions;
+    for (auto caption = m_captions.cbegin(); caption != m_captions.cend(); ++caption) {
+        if (caption.key() < m_fields.size())
+            captions.append({m_fields.at(caption.key()), caption.value()});
+    }
+    bool stored = false;
+    for (;;) {
+        const ChangedRowChoice choice = resolveChangedRow(*m_recordset, m_rowName, captions, QString());
+        m_self = true;
+        try {
+            if (choice == ChangedRowChoice::KeepMine) {
+                // The typed value waits in the row, read again underneath it: write the row.
+                m_recordset->updateBatch(AffectEnum::Current);
+                stored = true;
+            } else if (choice == ChangedRowChoice::Reload) {
+                // The row holds what is stored now; the typed value goes.
+                m_recordset->cancelUpdate();
+            }
+            // Cancel leaves the typed value waiting in the row, shown in the cell: the next
+            // write of the row (another of its cells typed) stores it over what was shown.
+        } catch (const Error& error) {
+            m_self = false;
+            if (rowWasChanged(error))
+                continue; // changed again while the user chose
+            msgBox(error.description());
+        }
+        m_self = false;
+        break;
+    }
+    Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
+    return stored;
 }
 
 void RecordsetModel::onFieldChanged(const QString& name)

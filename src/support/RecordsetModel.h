@@ -48,6 +48,9 @@ public:
     // How date values show and are offered for editing; the system's short date form by
     // default.
     void setDateFormat(const QString& format) { m_dateFormat = format; }
+    // What a row is, as a user would call it ("phone", "web page"): a cell written over a
+    // row another user changed asks "This <rowName> was changed by another user ...".
+    void setRowName(const QString& rowName) { m_rowName = rowName; }
 
     // Whether the last line adds rows.
     void setAllowAddNew(bool allow);
@@ -82,12 +85,16 @@ private:
     void applyColumns();
     bool addRow(int column, const QVariant& value);
     bool setCell(int row, int column, const QVariant& value);
+    // The choice of Reload, Keep Mine or Cancel for a cell of row written over another
+    // user's change; true when the typed value was stored.
+    bool resolveChangedCell(int row);
     QString displayText(const QVariant& value) const;
 
     QPointer<Recordset> m_recordset;
     QPointer<QTableView> m_view;
     QStringList m_fields;
     QHash<int, QString> m_captions;
+    QString m_rowName = QStringLiteral("row");
     QHash<int, int> m_widths;
     QHash<int, bool> m_hidden;
     QString m_dateFormat;

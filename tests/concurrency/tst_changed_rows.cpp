@@ -89,6 +89,62 @@ private Q_SLOTS:
         QVERIFY(prompter.allAnswered());
     }
 
+    // The address book's phone grid writes a cell at once: a number another program changed
+    // meanwhile asks Reload (the cell shows what is stored), Keep Mine (the typed number is
+    // stored) or Cancel (nothing stored; the cell keeps what was typed, and the next write of
+    // the row stores it). The other program's phone name stays either way.
+    void phoneCellChanged_data()
+    {
+        QTest::addColumn<int>("where");
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QString>("shown");
+        for (const int where : {int(TestRegister::File), int(TestRegister::Server)}) {
+            const char* place = where == TestRegister::File ? "file" : "server";
+            QTest::addRow("%s, Reload", place) << where << int(MsgBoxResult::Yes) << "8 600 22222"
+                                               << "8 600 22222";
+            QTest::addRow("%s, Keep Mine", place) << where << int(MsgBoxResult::No) << "8 600 33333"
+                                                  << "8 600 33333";
+            QTest::addRow("%s, Cancel", place) << where << int(MsgBoxResult::Cancel) << "8 600 22222"
+                                               << "8 600 33333";
+        }
+    }
+    void phoneCellChanged()
+    {
+        QFETCH(int, answer);
+        QFETCH(QString, stored);
+        QFETCH(QString, shown);
+        REGISTER_OR_SKIP(reg);
+        ScriptedPrompter prompter;
+        const qint32 ona = reg->insert("tbl_Contacts", {{"FullName", "Ona Petraitiene"}});
+        const qint32 phone = reg->insert(
+            "tbl_Phones", {{"ContactID", ona}, {"PhoneName", "Mobile"}, {"PhoneNumber", "8 600 11111"}});
+        AddressBookWindow window;
+        Shown w(&window);
+        w.clickLine("Ona Petraitiene");
+        reg->exec("UPDATE tbl_Phones SET PhoneName='Work', PhoneNumber='8 600 22222' WHERE PhoneID="
+            + idText(phone));
+        prompter.answer(answer);
+        w.typeCell("grdDataGrid", 0, 3, "8 600 33333");
+        const QStringList texts = prompter.texts();
+        QCOMPARE(texts.size(), 1);
+        QVERIFY2(texts.first().startsWith("This phone was changed by another user since you opened it.\n\n")
+                && texts.first().contains("stored \"8 600 22222\", yours \"8 600 33333\""),
+            qPrintable(texts.first()));
+        const QString number = "SELECT PhoneNumber FROM tbl_Phones WHERE PhoneID=" + idText(phone);
+        QCOMPARE(reg->scalar(number), stored);
+        QCOMPARE(w.column("grdDataGrid", 3), QStringList {shown});
+        QCOMPARE(reg->scalar("SELECT PhoneName FROM tbl_Phones WHERE PhoneID=" + idText(phone)), "Work");
+        if (answer == MsgBoxResult::Cancel) {
+            // Typing on in the row writes it, the kept number with it, over what was shown.
+            w.typeCell("grdDataGrid", 0, 2, "Home");
+            QCOMPARE(prompter.texts().size(), 1);
+            QCOMPARE(reg->scalar(number), "8 600 33333");
+            QCOMPARE(reg->scalar("SELECT PhoneName FROM tbl_Phones WHERE PhoneID=" + idText(phone)), "Home");
+        }
+        QVERIFY(prompter.allAnswered());
+    }
+
     // The new-contact editor, its contact stored by Add Phone, on a contact another program
     // then changes: OK tells so; Keep Mine stores the typed city, Reload shows the stored one
     // for a later OK; the other program's e-mail address stays either way.
