@@ -1,9 +1,11 @@
 #include "explorer/MainWindow.h"
 #include "options/FirstRun.h"
+#include "options/LanguageOption.h"
 #include "platform/Application.h"
 #include "platform/DesktopShell.h"
 #include "platform/DesktopTelephony.h"
 #include "platform/LibreOfficeSuite.h"
+#include "platform/Translations.h"
 #include "platform/WidgetPrompter.h"
 #include "support/DataFiles.h"
 #include "support/FileInfo.h"
@@ -13,6 +15,8 @@ int main(int argc, char* argv[])
     kartella::Application app(argc, argv);
     QApplication::setDesktopFileName(QStringLiteral("org.kartella.Kartella"));
     kartella::useIconThemeFallback();
+    kartella::installTranslations(
+        kartella::interfaceLanguages(kartella::interfaceLanguage(), QLocale::system().uiLanguages()));
     for (const QString& name : {QStringLiteral("snow.ico"), QStringLiteral("kartella.png")}) {
         if (kartella::findDataFile(name).isEmpty())
             qWarning("kartella: the data file %s was not found in %s", qPrintable(name),
