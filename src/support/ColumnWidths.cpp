@@ -7,6 +7,8 @@
 #include <QHeaderView>
 #include <QMouseEvent>
 
+#include <algorithm>
+
 namespace kartella {
 
 namespace {
@@ -70,10 +72,14 @@ QList<int> ColumnWidths::storedWidths() const
 void ColumnWidths::apply()
 {
     const QList<int> widths = storedWidths();
-    if (widths.isEmpty() || widths.size() != m_header->count() - 1)
+    // A list of one column (an empty state) keeps its own width; one with a column more than
+    // when the widths were stored (the search results' passages) gets them for the columns
+    // they name.
+    const int shared = std::min(int(widths.size()), m_header->count() - 1);
+    if (shared < 1 || m_header->count() < 2)
         return;
     m_applying = true;
-    for (int column = 0; column < widths.size(); ++column) {
+    for (int column = 0; column < shared; ++column) {
         if (!m_header->isSectionHidden(column) && widths[column] > 0)
             m_header->resizeSection(column, toPixels(widths[column], m_header));
     }

@@ -17,9 +17,9 @@ namespace kartella {
 //
 //     ColumnWidths::attach(view->header(), QStringLiteral("AddressBookColumns"));
 //
-// The widths are kept in twips, all columns but the last, and given back only to a header
-// with as many columns as when they were stored: a list whose columns change (an empty
-// state of one column) keeps its own widths then. Widths set by code are not stored. A
+// The widths are kept in twips, all columns but the last, and given back to the columns
+// they name (a header with a column more, or fewer, gets those it shares); a list of one
+// column (an empty state) keeps its own width. Widths set by code are not stored. A
 // list that sets its own widths whenever its columns come calls apply() after it.
 class ColumnWidths : public QObject
 {

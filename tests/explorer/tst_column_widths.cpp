@@ -157,6 +157,18 @@ private Q_SLOTS:
         QTest::keyClick(search, Qt::Key_Return);
         QCOMPARE(again.documentModel()->itemCount(), 1);
         QCOMPARE(shown(), widths);
+        // A word of a file adds the column of the passages; the others keep their widths.
+        fx.reg.exec("INSERT INTO tbl_Document_Text (RastasID, State, Body) SELECT RastasID, 1, "
+                    "'Nuomos sutartis pasirasyta' FROM tbl_Documents WHERE DokAntraste = 'loose'");
+        search->clear();
+        QTest::keyClicks(search, "sutartis");
+        QTest::keyClick(search, Qt::Key_Return);
+        QCOMPARE(again.documentModel()->itemCount(), 1);
+        QCOMPARE(columns->count(), 6);
+        QCOMPARE(shown(), widths);
+        const int last = columns->count() - 1;
+        QVERIFY(columns->sectionViewportPosition(last) + columns->sectionSize(last)
+            >= columns->viewport()->width());
         QVERIFY(prompter.prompts().isEmpty());
     }
 };
