@@ -1,4 +1,6 @@
 // MainWindow: the menu bar, the toolbar, the two context menus and the enabling of commands.
+#include "content/ReadingQueue.h"
+#include "explorer/ContentProgress.h"
 #include "explorer/MainWindow.h"
 #include "support/SelectionState.h"
 
@@ -90,11 +92,14 @@ void MainWindow::openDialog(const QString& name, const QString& droppedFile)
     if (!open)
         return;
     open(droppedFile);
-    // The dialogs that write documents: the list shows what they wrote.
+    // The dialogs that write documents: the list shows what they wrote, and the files they
+    // named are read now rather than at the next rescan.
     static const QStringList writers = {QStringLiteral("frmNewDocument"), QStringLiteral("frmRelated"),
         QStringLiteral("frmRelDescr"), QStringLiteral("frmNew"), QStringLiteral("frmCopyFile")};
-    if (writers.contains(name))
+    if (writers.contains(name)) {
         refillList();
+        m_contentProgress->queue().rescan();
+    }
 }
 
 void MainWindow::setCommandEnabled(const QString& name, bool enabled)

@@ -38,6 +38,7 @@ class ProgressTest : public QObject
 private Q_SLOTS:
     void statusBarShowsTheFilesBeingRead();
     void mainWindowReadsTheFilesOfTheRegisterItOpens();
+    void aDocumentDialogHasItsFileReadAtOnce();
     void detailsTellWhetherTheFileWasRead();
     void toolIndexesWithAProgressLineAndASummary();
 };
@@ -79,6 +80,28 @@ void ProgressTest::mainWindowReadsTheFilesOfTheRegisterItOpens()
     QTRY_COMPARE_WITH_TIMEOUT(reg.scalar(QStringLiteral("SELECT Body FROM tbl_Document_Text WHERE RastasID=")
                                   + QString::number(id)),
         QVariant(QStringLiteral("Pastaba apie Šiaulius")), 10000);
+}
+
+// A file that a document dialog named is read when the dialog closes, not at the next rescan
+// half a minute later.
+void ProgressTest::aDocumentDialogHasItsFileReadAtOnce()
+{
+    TestRegister reg;
+    ScriptedPrompter prompter;
+    MainWindow window;
+    window.show();
+    window.load();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    writeBytes(reg.dir() + QStringLiteral("/new.txt"), "Nauja nuomos sutartis");
+    qint32 id = 0;
+    // The New Document dialog, as it stores a document with its file.
+    window.setDialog(QStringLiteral("frmNewDocument"),
+        [&](const QString&) { id = addDocument(reg, reg.dir() + QStringLiteral("/new.txt")); });
+    QTest::keyClick(&window, Qt::Key_N, Qt::ControlModifier);
+    QVERIFY(id > 0);
+    QTRY_COMPARE_WITH_TIMEOUT(reg.scalar(QStringLiteral("SELECT Body FROM tbl_Document_Text WHERE RastasID=")
+                                  + QString::number(id)),
+        QVariant(QStringLiteral("Nauja nuomos sutartis")), 5000);
 }
 
 void ProgressTest::detailsTellWhetherTheFileWasRead()
