@@ -317,6 +317,8 @@ void MainWindow::dateChanged(const QString& message)
 
 void MainWindow::refillByDates()
 {
+    if (m_inbox->isShown())
+        return;
     if (refillSearch(true))
         return;
     const int code = direction();
