@@ -280,6 +280,38 @@ private Q_SLOTS:
         QVERIFY(fx.prompter.prompts().isEmpty());
     }
 
+    // A name the register's naming gives that is taken already is told, and the dialog stays
+    // with nothing copied; OK again takes the next number.
+    void aTakenNameKeepsTheDialog()
+    {
+        Fixture fx;
+        const QString original = fx.outside + "/scan.pdf";
+        writeFile(original, "new");
+        writeFile(fx.letters + "/LET00001.pdf", "old");
+        MainWindow window;
+        window.load();
+        window.show();
+        QSignalSpy done(window.fileDrops(), &FileDrops::filesRegistered);
+        bool stayed = false;
+        DialogScript script({[&stayed](NewDocumentDialog& dialog) {
+            PressOk(dialog);
+            stayed = dialog.isVisible();
+            PressOk(dialog);
+        }});
+        fx.prompter.answer(MsgBoxResult::Ok);
+        dropFiles(window.tree()->viewport(), nodeCenter(window.tree(), "Letters"), {original});
+        QVERIFY(done.wait(10000));
+        QVERIFY(stayed);
+        QCOMPARE(fx.prompter.texts(),
+            QStringList {"The File with name " + fx.letters
+                + "/LET00001.pdf exist. Depending on the File Name style, check Doc. Description, "
+                  "Registration Index or other parameters."});
+        QCOMPARE(readFile(fx.letters + "/LET00001.pdf"), QByteArray("old"));
+        QCOMPARE(readFile(fx.letters + "/LET00002.pdf"), QByteArray("new"));
+        QCOMPARE(fx.documents(),
+            QStringList {QString::number(fx.lettersId) + "//" + fx.letters + "/LET00002.pdf"});
+    }
+
     // Several files dropped open one dialog after another: Cancel skips a file, Esc stops the
     // files left; a folder among them is named in a message and skipped.
     void severalDroppedFilesRegisterInTurn()
