@@ -93,6 +93,7 @@ void InboxView::show()
     state.selectedDocumentId = 0;
     m_window->setWindowTitle(Title);
     m_window->setCommandEnabled(QStringLiteral("mnuCategoryOptions"), false);
+    m_window->setCommandEnabled(QStringLiteral("mnuDeleteCategory"), false);
     m_window->disableDocumentCommands();
     m_window->showRelatedList(false);
     m_window->m_refill = [this] { fillList(); };

@@ -393,7 +393,7 @@ private Q_SLOTS:
         window.action("mnuPreviewPane")->trigger();
         clickRow(window, 0);
         QTRY_COMPARE(window.previewPane()->shownPath(), fx.inbox + "/letter.pdf");
-        for (const char* name : {"mnuShowDetails", "mnuRelated", "mnuCopy"})
+        for (const char* name : {"mnuShowDetails", "mnuRelated", "mnuCopy", "mnuMove", "mnuDeleteCategory"})
             QVERIFY2(!window.action(QLatin1String(name))->isEnabled(), name);
         QVERIFY(window.action("mnuDelete")->isEnabled());
 
