@@ -438,6 +438,13 @@ private Q_SLOTS:
         QCOMPARE(readFile(fx.dataHome + "/Trash/files/scan.pdf"), QByteArray("%PDF part one and part two"));
         QCOMPARE(tree->topLevelItem(0)->text(0), QString("Inbox (0)"));
         QCOMPARE(fx.documents().size(), 1);
+
+        // The inbox turned off in the settings: the node goes, and the list shows the root's.
+        setInboxFolder(QString());
+        QCOMPARE(tree->topLevelItemCount(), 1);
+        QCOMPARE(tree->topLevelItem(0)->text(0), QString("CATEGORIES"));
+        QCOMPARE(window.windowTitle(), QString("CATEGORIES"));
+        QCOMPARE(window.documentModel()->columns().first().caption, QString("Doc. description"));
     }
 
     // The settings store the inbox folder and the OCR languages; a folder that isn't there
