@@ -108,7 +108,7 @@ void FileDrops::registerFiles(const QStringList& paths, qint32 category, qint32 
         {
             NewDocumentDialog dialog(m_window);
             dialog.attachIncomingFile(path, Intake::Copy);
-            if (dialog.exec() == QDialog::Accepted)
+            if (dialog.exec() == QDialog::Accepted && !dialog.placedFile().isEmpty())
                 placed << dialog.placedFile();
             stop = dialog.closedByEscape();
         }

@@ -463,8 +463,9 @@ void NewDocumentDialog::save()
     try {
         for (;;) {
             m_binder->validate();
-            // The file first, so that the stored row never names a file that isn't there.
-            if (!m_incomingFile.isEmpty() && !placeIncomingFile())
+            // The file first, so that the stored row never names a file that isn't there. A
+            // file chosen with Add Existing since stands in its stead, and is left where it is.
+            if (!m_incomingFile.isEmpty() && m_location->text() == m_incomingFile && !placeIncomingFile())
                 return;
             try {
                 m_document->updateBatch(AffectEnum::All);
@@ -509,7 +510,6 @@ void NewDocumentDialog::cancel()
 
 void NewDocumentDialog::reject()
 {
-
     // Nothing reaches the register before OK; a file a creating button made is taken back
     // too, once the user agrees. No keeps the dialog open.
     if (!m_madeFile.isEmpty()) {

@@ -312,6 +312,31 @@ private Q_SLOTS:
             QStringList {QString::number(fx.lettersId) + "//" + fx.letters + "/LET00002.pdf"});
     }
 
+    // A file chosen with Add Existing after the drop is the document's, where it is; the
+    // dropped file is copied nowhere.
+    void addExistingReplacesTheDroppedFile()
+    {
+        Fixture fx;
+        const QString dropped = fx.outside + "/dropped.pdf";
+        const QString chosen = fx.outside + "/chosen.pdf";
+        writeFile(dropped, "dropped");
+        writeFile(chosen, "chosen");
+        MainWindow window;
+        window.load();
+        window.show();
+        QSignalSpy done(window.fileDrops(), &FileDrops::filesRegistered);
+        DialogScript script({[](NewDocumentDialog& dialog) {
+            pressButton(dialog, "cmdAddExisting");
+            PressOk(dialog);
+        }});
+        fx.prompter.answerFile(chosen);
+        dropFiles(window.tree()->viewport(), nodeCenter(window.tree(), "Letters"), {dropped});
+        QVERIFY(done.wait(10000));
+        QCOMPARE(fx.documents(), QStringList {QString::number(fx.lettersId) + "//" + chosen});
+        QVERIFY(QDir(fx.letters).isEmpty());
+        QCOMPARE(QDir(fx.outside).entryList(QDir::Files), (QStringList {"chosen.pdf", "dropped.pdf"}));
+    }
+
     // Several files dropped open one dialog after another: Cancel skips a file, Esc stops the
     // files left; a folder among them is named in a message and skipped.
     void severalDroppedFilesRegisterInTurn()
