@@ -1,6 +1,7 @@
 #include "dialogs/SettingsDialog.h"
 
 #include "base/Error.h"
+#include "dialogs/CaptureSettingsPage.h"
 #include "dialogs/SettingsStore.h"
 #include "options/OptionStore.h"
 #include "platform/Prompter.h"
@@ -92,6 +93,7 @@ SettingsDialog::SettingsDialog(QWidget* parent)
     m_tabs->addTab(buildIndexTab(), QStringLiteral("Registration Index"));
     m_tabs->addTab(buildDatabaseTab(), QStringLiteral("Database Location"));
     m_tabs->addTab(buildFileNameTab(), QStringLiteral("File Name"));
+    m_tabs->addTab(new CaptureSettingsPage(this), QStringLiteral("Incoming Files"));
 
     auto* buttons = new QDialogButtonBox(this);
     m_ok = buttons->addButton(QStringLiteral("OK"), QDialogButtonBox::AcceptRole);

@@ -7,7 +7,9 @@
 #include "explorer/DocumentFills.h"
 #include "explorer/DocumentQueries.h"
 #include "explorer/ExplorerList.h"
+#include "explorer/FileDrops.h"
 #include "explorer/IconCache.h"
+#include "explorer/InboxView.h"
 #include "explorer/ListModel.h"
 #include "explorer/NavigationTree.h"
 #include "explorer/RegisterUpgradeOffer.h"
@@ -175,6 +177,8 @@ void MainWindow::buildWindow()
     m_documents->setAcceptFileDrops(true);
     m_related->setAcceptFileDrops(true);
     buildPreview();
+    m_inbox = new InboxView(this);
+    m_drops = new FileDrops(this);
 }
 
 bool MainWindow::fileFound(const QString& path)
@@ -275,6 +279,8 @@ int MainWindow::direction() const
 
 void MainWindow::onDirectionChanged()
 {
+    if (m_inbox->isShown())
+        return;
     if (refillSearch())
         return;
     const int code = direction();
@@ -311,6 +317,8 @@ void MainWindow::dateChanged(const QString& message)
 
 void MainWindow::refillByDates()
 {
+    if (m_inbox->isShown())
+        return;
     if (refillSearch(true))
         return;
     const int code = direction();

@@ -21,6 +21,8 @@ class Connection;
 class ContentProgress;
 class Splitter;
 class DocumentFills;
+class FileDrops;
+class InboxView;
 class ExplorerList;
 class ListModel;
 class NavigationTree;
@@ -92,6 +94,9 @@ public:
     RemindersCommand* reminders() const { return m_reminders; }
     // Whether the document list shows the results of a search.
     bool isSearching() const { return !m_searchText.isEmpty(); }
+    // The Inbox node and list, and the files dropped on the window.
+    InboxView* inbox() const { return m_inbox; }
+    FileDrops* fileDrops() const { return m_drops; }
 
 public Q_SLOTS:
     void onDirectionChanged();
@@ -175,6 +180,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    friend class InboxView;
     void buildWindow();
     void buildMenus();
     void buildToolbar();
@@ -286,6 +292,8 @@ private:
     QSplitter* m_previewSplit = nullptr;
     PreviewPane* m_preview = nullptr;
     Thumbnails* m_thumbnails = nullptr;
+    InboxView* m_inbox = nullptr;
+    FileDrops* m_drops = nullptr;
 };
 
 } // namespace kartella

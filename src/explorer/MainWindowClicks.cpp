@@ -2,6 +2,7 @@
 #include "base/Error.h"
 #include "explorer/DocumentFills.h"
 #include "explorer/ExplorerList.h"
+#include "explorer/InboxView.h"
 #include "explorer/ListModel.h"
 #include "explorer/MainWindow.h"
 #include "explorer/NavigationTree.h"
@@ -50,6 +51,7 @@ void MainWindow::fillCategoryTree()
                 QStringLiteral("The database '") + written.trimmed()
                     + QStringLiteral("' holds no register."));
         buildCategoryTree(*m_tree);
+        m_inbox->addNode();
     } catch (const Error& error) {
         // Only an unusable register is reported; any other error leaves the tree as far as it got.
         if (error.number() == ErrorNumber::ConnectionFailed) {
@@ -65,6 +67,7 @@ void MainWindow::fillContactTree()
     try {
         const BusyCursor busy;
         buildContactTree(*m_tree);
+        m_inbox->addNode();
     } catch (const Error& error) {
         reportConnectionError(error.number(), error.description());
     }
@@ -82,6 +85,11 @@ void MainWindow::onNodeClicked(QTreeWidgetItem* node)
     }
     const QString key = NavigationTree::nodeKey(node);
     m_lastNodeKey = key;
+    if (InboxView::isInboxNode(node)) {
+        m_lastNodeIndex = index;
+        m_inbox->show();
+        return;
+    }
     if (key.compare(QLatin1String("ALL"), Qt::CaseInsensitive) == 0) {
         listCategory(0, direction());
         m_lastNodeIndex = index;
@@ -185,6 +193,8 @@ void MainWindow::showNodeAgain()
 
 void MainWindow::onDocumentClicked(int row)
 {
+    if (m_inbox->isShown())
+        return m_inbox->onFileClicked(row);
     if (row < 0 || row >= m_documentModel->itemCount())
         return;
     const ListItem& item = m_documentModel->item(row);

@@ -5,6 +5,7 @@
 #include "explorer/DocumentFills.h"
 #include "explorer/ExplorerList.h"
 #include "explorer/IconCache.h"
+#include "explorer/InboxView.h"
 #include "explorer/ListModel.h"
 #include "explorer/MainWindow.h"
 #include "explorer/NavigationTree.h"
@@ -68,6 +69,8 @@ void MainWindow::copyDocument()
 
 void MainWindow::deleteSelected()
 {
+    if (m_inbox->isShown())
+        return m_inbox->trashSelectedFile();
     deleteDocument();
 }
 

@@ -1,5 +1,6 @@
 // MainWindow: what the user does with the two lists and the tree besides a plain click.
 #include "explorer/ExplorerList.h"
+#include "explorer/InboxView.h"
 #include "explorer/ListModel.h"
 #include "explorer/MainWindow.h"
 #include "support/SelectionState.h"
@@ -90,6 +91,8 @@ void MainWindow::viewDetails()
 
 void MainWindow::onDocumentDoubleClicked()
 {
+    if (m_inbox->isShown())
+        return m_inbox->registerSelectedFile();
     openDocumentFile(m_state.selectedFilePath, QStringLiteral("open"));
 }
 

@@ -28,6 +28,7 @@
 #include <QDate>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QGuiApplication>
@@ -143,7 +144,9 @@ void NewDocumentDialog::buildWidgets()
     m_keys->watch(m_notes);
     m_keys->onEnter(m_grid, [this] { onReminderGridEnter(); });
     m_keys->onEscape([this] {
+        m_escapePressed = true;
         m_cancel->click();
+        m_escapePressed = false;
         return true;
     });
     resize(640, 400);
@@ -300,6 +303,43 @@ void NewDocumentDialog::setLocation(const QString& path)
     m_location->setText(path);
 }
 
+void NewDocumentDialog::attachIncomingFile(const QString& path, Intake intake)
+{
+    m_incomingFile = path;
+    m_intake = intake;
+    setLocation(path);
+    if (m_description->text().isEmpty())
+        m_description->setText(QFileInfo(path).completeBaseName());
+}
+
+bool NewDocumentDialog::placeIncomingFile()
+{
+    try {
+        const QString placed = kartella::placeIncomingFile(m_incomingFile, m_intake,
+            {m_category->value(), m_subCategory->value(), m_description->text(), m_regIndex->text()});
+        if (placed.isEmpty())
+            return false;
+        m_placedFile = placed;
+        setLocation(placed);
+        return true;
+    } catch (const Error& error) {
+        msgBox(error.description(), MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, windowTitle());
+        return false;
+    }
+}
+
+void NewDocumentDialog::takeBackIncomingFile()
+{
+    if (m_placedFile.isEmpty())
+        return;
+    if (!kartella::takeBackIncomingFile(m_placedFile, m_incomingFile, m_intake))
+        msgBox(QStringLiteral("The file \"") + m_placedFile + QStringLiteral("\" can't be taken back to \"")
+                + m_incomingFile + QStringLiteral("\"."),
+            MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, windowTitle());
+    m_placedFile.clear();
+    setLocation(m_incomingFile);
+}
+
 void NewDocumentDialog::onCategoryChanged()
 {
     const QString category = m_category->value();
@@ -423,10 +463,15 @@ void NewDocumentDialog::save()
     try {
         for (;;) {
             m_binder->validate();
+            // The file first, so that the stored row never names a file that isn't there. A
+            // file chosen with Add Existing since stands in its stead, and is left where it is.
+            if (!m_incomingFile.isEmpty() && m_location->text() == m_incomingFile && !placeIncomingFile())
+                return;
             try {
                 m_document->updateBatch(AffectEnum::All);
                 break;
             } catch (const Error& error) {
+                takeBackIncomingFile();
                 if (error.number() != ErrorNumber::DuplicateValue)
                     throw;
             }
@@ -458,7 +503,9 @@ void NewDocumentDialog::countInOptions()
 
 void NewDocumentDialog::cancel()
 {
+    m_cancelPressed = true;
     reject();
+    m_cancelPressed = false;
 }
 
 void NewDocumentDialog::reject()
@@ -478,6 +525,8 @@ void NewDocumentDialog::reject()
         }
         m_madeFile.clear();
     }
+    // Esc, and the close box that bypasses the buttons, stop what was to follow the dialog.
+    m_closedByEscape = m_escapePressed || !m_cancelPressed;
     QDialog::reject();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "capture/IncomingFile.h"
 #include "registration/OfficeDocuments.h"
 
 #include <QDialog>
@@ -38,6 +39,14 @@ public:
 
     // Writes path into the Location box, as a file dropped on the document list does.
     void setLocation(const QString& path);
+    // Attaches a file brought in from outside: it stands in the Location box, its name
+    // proposes the description, and OK copies or moves it into the register's files folder
+    // (placeIncomingFile), where the stored row finds it.
+    void attachIncomingFile(const QString& path, Intake intake);
+    // After OK: where the incoming file went.
+    QString placedFile() const { return m_placedFile; }
+    // Whether Esc (or the close box) closed the dialog, rather than its buttons.
+    bool closedByEscape() const { return m_closedByEscape; }
     // Set once the load sequence has proposed an index.
     bool indexProposed() const { return m_indexProposed; }
 
@@ -76,6 +85,10 @@ private:
     // A register of an older version counts the day's numbers in the user's options.
     void countInOptions();
     void onReminderGridEnter();
+    // Copies or moves the incoming file to its place and names it in the row; false, after
+    // telling why, when it can't.
+    bool placeIncomingFile();
+    void takeBackIncomingFile();
 
     // The new row with its reminders, and the rows of the three lists.
     Recordset* m_document = nullptr;
@@ -86,6 +99,13 @@ private:
     bool m_indexProposed = false;
     // The file a creating button made, until the dialog is closed.
     QString m_madeFile;
+    // The file brought in, how it comes, and where OK put it.
+    QString m_incomingFile;
+    Intake m_intake = Intake::Copy;
+    QString m_placedFile;
+    bool m_closedByEscape = false;
+    bool m_escapePressed = false;
+    bool m_cancelPressed = false;
 
     // The row's key and its direction code are in boxes nobody sees.
     QLineEdit* m_documentId = nullptr;
