@@ -2,11 +2,13 @@
 // the trash as every connection to the register sees it.
 
 #include "TrashFixture.h"
+#include "base/Error.h"
 #include "history/Trash.h"
 #include "platform/Clock.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QTest>
 
 using namespace kartella;
@@ -130,6 +132,145 @@ private Q_SLOTS:
             QCOMPARE(TrashFixture::bytes(it.value()), contents[it.key()]);
         QVERIFY(trash.items().isEmpty());
         QCOMPARE(QDir(fx.trashFolder).entryList(QDir::NoDotAndDotDot | QDir::AllEntries), QStringList());
+    }
+
+    // A path another file took while the document was in the trash: the file comes back
+    // beside it under the next free name, the row names that, and the restore says so.
+    void restoreOverATakenPathTakesTheNextFreeName()
+    {
+        TrashFixture fx;
+        Trash trash(fx.connection, fx.trashFolder);
+        const qint64 item = trash.deleteDocument(fx.id["doc"]);
+        fx.makeFile("sutartis.doc", "a newcomer");
+        fx.makeFile("sutartis (2).doc", "another newcomer");
+        const RestoreOutcome outcome = trash.restore(item);
+        const QString moved = QFileInfo(fx.file["doc"]).absolutePath() + "/sutartis (3).doc";
+        QCOMPARE(outcome.renamed.size(), 1);
+        QCOMPARE(outcome.renamed.first().first, fx.file["doc"]);
+        QCOMPARE(outcome.renamed.first().second, moved);
+        QCOMPARE(TrashFixture::bytes(moved), QByteArray("the contract"));
+        QCOMPARE(TrashFixture::bytes(fx.file["doc"]), QByteArray("a newcomer"));
+        QCOMPARE(
+            fx.reg
+                .scalar(
+                    QStringLiteral("SELECT RastoKel FROM tbl_Documents WHERE RastasID=%1").arg(fx.id["doc"]))
+                .toString(),
+            moved);
+        QCOMPARE(TrashFixture::bytes(fx.file["rel1"]), QByteArray("appendix\0one", 12));
+    }
+
+    // A document restored into a category deleted after it brings the category back, with
+    // the subcategories it took; the document's own subcategory with it.
+    void documentRestoredIntoADeletedCategoryBringsItBack()
+    {
+        TrashFixture fx;
+        const QStringList before = fx.snapshot();
+        Trash trash(fx.connection, fx.trashFolder);
+        const qint64 document = trash.deleteDocument(fx.id["doc"]);
+        trash.deleteSubCategory(fx.id["Nuomos"]);
+        trash.deleteCategory(fx.id["Sutartys"]);
+        QCOMPARE(trash.items().size(), 3);
+        const RestoreOutcome outcome = trash.restore(document);
+        QCOMPARE(outcome.restored.size(), 3);
+        QCOMPARE(outcome.restored.last().kind, TrashKind::Document);
+        QCOMPARE(fx.snapshot(), before);
+        QVERIFY(trash.items().isEmpty());
+    }
+
+    // Items older than the limit go for good with their files; younger ones stay.
+    void purgeTakesOnlyItemsOlderThanTheLimit_data()
+    {
+        QTest::addColumn<int>("daysAgo");
+        QTest::addColumn<bool>("purged");
+        QTest::newRow("a day short") << 89 << false;
+        QTest::newRow("the limit to the second") << 90 << false;
+        QTest::newRow("a day past") << 91 << true;
+    }
+
+    void purgeTakesOnlyItemsOlderThanTheLimit()
+    {
+        QFETCH(int, daysAgo);
+        QFETCH(bool, purged);
+        TrashFixture fx;
+        Trash trash(fx.connection, fx.trashFolder);
+        const QDateTime now(QDate(2026, 1, 1), QTime(0, 0), Qt::UTC);
+        {
+            SettableClock then(now.addDays(-daysAgo));
+            trash.deleteDocument(fx.id["doc"]);
+        }
+        trash.deleteContact(fx.id["Ona"]);
+        QCOMPARE(trash.purgeOlderThan(90, now), purged ? 1 : 0);
+        QCOMPARE(trash.items().size(), purged ? 1 : 2);
+        QCOMPARE(trash.items().first().kind, TrashKind::Contact);
+        const int folders = QDir(fx.trashFolder).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
+        QCOMPARE(folders, purged ? 0 : 1);
+        QCOMPARE(QFileInfo::exists(fx.file["doc"]), false);
+        QCOMPARE(fx.reg.scalar("SELECT COUNT(*) FROM tbl_Documents").toInt(), 1);
+    }
+
+    // Delete there and Empty Trash: the rows and the files go for good.
+    void deleteForGoodAndEmpty()
+    {
+        TrashFixture fx;
+        Trash trash(fx.connection, fx.trashFolder);
+        const qint64 related = trash.deleteRelatedDocument(fx.id["rel1"]);
+        trash.deleteDocument(fx.id["doc"]);
+        trash.deleteForGood(related);
+        QCOMPARE(trash.items().size(), 1);
+        QCOMPARE(QDir(fx.trashFolder).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);
+        QVERIFY_THROWS_EXCEPTION(Error, trash.restore(related));
+        trash.empty();
+        QVERIFY(trash.items().isEmpty());
+        QCOMPARE(QDir(fx.trashFolder).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 0);
+        QCOMPARE(fx.reg.scalar("SELECT COUNT(*) FROM tbl_Sub_Documents").toInt(), 0);
+    }
+
+    // A file that can't leave keeps the whole document: no row goes, no file moves.
+    void aFileThatCantMoveKeepsEverything()
+    {
+        TrashFixture fx;
+        const QStringList before = fx.snapshot();
+        // The trash folder is a file: nothing can be moved into it.
+        QFile blocker(fx.trashFolder);
+        QVERIFY(blocker.open(QIODevice::WriteOnly));
+        blocker.close();
+        Trash trash(fx.connection, fx.trashFolder);
+        QTest::ignoreMessage(QtCriticalMsg, QRegularExpression("Not a directory"));
+        QVERIFY_THROWS_EXCEPTION(Error, trash.deleteDocument(fx.id["doc"]));
+        QCOMPARE(fx.snapshot(), before);
+        for (const char* name : {"doc", "rel1", "rel2"})
+            QVERIFY(QFileInfo::exists(fx.file[name]));
+        QVERIFY(trash.items().isEmpty());
+    }
+
+    // Two connections share one trash: what one deletes, the other lists and restores.
+    void theTrashIsSharedByEveryConnection_data()
+    {
+        QTest::addColumn<int>("where");
+        QTest::newRow("file") << int(TestRegister::File);
+        QTest::newRow("server") << int(TestRegister::Server);
+    }
+
+    void theTrashIsSharedByEveryConnection()
+    {
+        QFETCH(int, where);
+        if (skipWithoutServer(TestRegister::Where(where)))
+            QSKIP(qPrintable(ServerDatabase::skipReason()));
+        TrashFixture fx {TestRegister::Where(where)};
+        const QStringList before = fx.snapshot();
+        Connection other(fx.reg.connectionString());
+        other.open();
+        Trash mine(fx.connection, fx.trashFolder);
+        Trash theirs(other, fx.trashFolder);
+        mine.deleteDocument(fx.id["doc"]);
+        const QList<TrashItem> seen = theirs.items();
+        QCOMPARE(seen.size(), 1);
+        QCOMPARE(theirs.findDocument("SUT-7"), seen.first().id);
+        QCOMPARE(theirs.findDocument("SUT-8"), 0);
+        theirs.restore(seen.first().id);
+        QCOMPARE(fx.snapshot(), before);
+        QVERIFY(mine.items().isEmpty());
+        QCOMPARE(TrashFixture::bytes(fx.file["doc"]), QByteArray("the contract"));
     }
 };
 
