@@ -130,6 +130,7 @@ public Q_SLOTS:
     void newDocument();
     void openDocument();
     void copyDocument();
+    void newVersion();
     void deleteSelected();
     void deleteSelectedCategory();
     void printSetup();

@@ -130,6 +130,19 @@ qint64 Trash::deleteContact(qint64 id)
         {0, TrashKind::Contact, id, {}, name, {}, {}}, rows, {}, [&transaction] { transaction.commit(); });
 }
 
+qint64 Trash::deleteItem(const QString& kind, qint64 key)
+{
+    if (kind == TrashKind::Document)
+        return deleteDocument(key);
+    if (kind == TrashKind::RelatedDocument)
+        return deleteRelatedDocument(key);
+    if (kind == TrashKind::Category)
+        return deleteCategory(key);
+    if (kind == TrashKind::SubCategory)
+        return deleteSubCategory(key);
+    return deleteContact(key);
+}
+
 QList<Trash::TrashedFile> Trash::filesOf(
     const QList<TableRows>& rows, const QString& table, const QString& column)
 {
@@ -176,6 +189,8 @@ bool Trash::namedElsewhere(const QString& path, const QList<TableRows>& leaving)
 qint64 Trash::moveToTrash(const TrashItem& item, const QList<TableRows>& rows,
     const QList<TrashedFile>& files, const std::function<void()>& commit)
 {
+    if (!files.isEmpty() && m_folder.isEmpty() && m_askFolder)
+        m_folder = m_askFolder();
     if (!files.isEmpty() && m_folder.isEmpty())
         throw Error(ErrorNumber::PathFileAccess,
             QStringLiteral("No folder is named for the trash of this register: its files can't be kept."));

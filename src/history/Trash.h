@@ -59,6 +59,10 @@ class Trash
 public:
     Trash(Connection& connection, QString folder);
 
+    // Gives the folder when a delete has files to move and none was given (a register on a
+    // server whose shared folder isn't named yet); empty: the delete is refused.
+    void setFolderQuestion(std::function<QString()> ask) { m_askFolder = std::move(ask); }
+
     // Whether the register has a trash; an older one deletes for good as it always did.
     static bool inRegister(Connection& connection);
     // Who is deleting: the desktop user and the host name.
@@ -69,6 +73,8 @@ public:
     qint64 deleteCategory(qint64 id);
     qint64 deleteSubCategory(qint64 id);
     qint64 deleteContact(qint64 id);
+    // One of the above by the item's kind (a TrashKind name).
+    qint64 deleteItem(const QString& kind, qint64 key);
 
     // The deleted items, newest first.
     QList<TrashItem> items();
@@ -107,6 +113,7 @@ private:
 
     Connection& m_connection;
     QString m_folder;
+    std::function<QString()> m_askFolder;
 };
 
 } // namespace kartella

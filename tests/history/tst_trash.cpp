@@ -3,13 +3,30 @@
 
 #include "TrashFixture.h"
 #include "base/Error.h"
+#include "dialogs/SettingsDialog.h"
+#include "explorer/CommandsFixture.h"
+#include "explorer/DeletedItemsNode.h"
+#include "explorer/MainWindow.h"
+#include "explorer/NavigationTree.h"
+#include "harness/ScriptedPrompter.h"
+#include "history/DeletedItemsWindow.h"
+#include "history/KeepVersion.h"
 #include "history/Trash.h"
+#include "history/VersionList.h"
+#include "history/Versions.h"
+#include "options/TrashOptions.h"
 #include "platform/Clock.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QProcess>
+#include <QPushButton>
 #include <QRegularExpression>
+#include <QSpinBox>
 #include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
 
 using namespace kartella;
 using namespace kartella::test;
@@ -19,19 +36,6 @@ namespace {
 bool skipWithoutServer(TestRegister::Where where)
 {
     return where == TestRegister::Server && !ServerDatabase::available();
-}
-
-qint64 deleteItem(Trash& trash, const QString& kind, qint64 key)
-{
-    if (kind == TrashKind::Document)
-        return trash.deleteDocument(key);
-    if (kind == TrashKind::RelatedDocument)
-        return trash.deleteRelatedDocument(key);
-    if (kind == TrashKind::Category)
-        return trash.deleteCategory(key);
-    if (kind == TrashKind::SubCategory)
-        return trash.deleteSubCategory(key);
-    return trash.deleteContact(key);
 }
 
 QStringList without(const QStringList& rows, const QStringList& gone)
@@ -111,7 +115,7 @@ private Q_SLOTS:
 
         Trash trash(fx.connection, fx.trashFolder);
         SettableClock clock(QDateTime(QDate(2026, 3, 1), QTime(12, 0)));
-        const qint64 item = deleteItem(trash, kind, fx.id[name]);
+        const qint64 item = trash.deleteItem(kind, fx.id[name]);
         QCOMPARE(fx.snapshot(), without(before, rowsGone));
         QVERIFY(fx.snapshot().size() < before.size());
         for (auto it = fx.file.cbegin(); it != fx.file.cend(); ++it)
@@ -272,7 +276,264 @@ private Q_SLOTS:
         QVERIFY(mine.items().isEmpty());
         QCOMPARE(TrashFixture::bytes(fx.file["doc"]), QByteArray("the contract"));
     }
+
+    // The tool lists the trash, restores a document by its registration index and purges;
+    // each says so, and exits non-zero with a reason when it can't.
+    void commandLineListsRestoresAndPurges()
+    {
+        TrashFixture fx;
+        const QString folder = trashFolderFor(fx.reg.path());
+        {
+            SettableClock clock(QDateTime(QDate(2026, 3, 1), QTime(10, 0), Qt::UTC));
+            Trash trash(fx.connection, folder);
+            trash.deleteDocument(fx.id["doc"]);
+            trash.deleteContact(fx.id["Ona"]);
+        }
+        const QString who = Trash::whoIsWorking();
+        const QString path = fx.reg.path();
+        struct Run
+        {
+            QStringList arguments;
+            int exitCode;
+            QString out;
+            QString error;
+        };
+        const Run runs[] = {
+            {{"trash", path}, 0,
+                QStringLiteral("contact\tOna Žemaitė\t%1\t2026-03-01 10:00:00 UTC\n"
+                               "document\tSUT-7\t%1\t2026-03-01 10:00:00 UTC\n")
+                    .arg(who),
+                ""},
+            {{"restore", path, "SUT-8"}, 1, "",
+                "kartella-db: the trash holds no document with the registration index \"SUT-8\"\n"},
+            {{"restore", path}, 2, "", "kartella-db: restore needs PATH and INDEX\n"},
+            {{"restore", path, "SUT-7"}, 0, "Restored document \"Nuomos sutartis\"\n", ""},
+            {{"restore", path, "SUT-7"}, 1, "",
+                "kartella-db: the trash holds no document with the registration index \"SUT-7\"\n"},
+            {{"purge", path}, 2, "", "kartella-db: purge needs --older-than DAYS\n"},
+            {{"purge", path, "--older-than", "x"}, 2, "",
+                "kartella-db: --older-than needs a whole number of days, 0 or more\n"},
+            {{"purge", path, "--older-than", "100000"}, 0, "Deleted for good: 0 items\n", ""},
+            {{"purge", path, "--older-than", "0"}, 0, "Deleted for good: 1 item\n", ""},
+            {{"trash", path}, 0, "The trash is empty.\n", ""},
+            {{"trash", fx.reg.dir() + "/none.mdb"}, 1, "", "*"},
+        };
+        for (const Run& run : runs) {
+            QProcess tool;
+            tool.start(QStringLiteral(KARTELLA_DB_PATH), run.arguments);
+            QVERIFY(tool.waitForFinished(30000));
+            const QString error = QString::fromUtf8(tool.readAllStandardError());
+            QCOMPARE(tool.exitCode(), run.exitCode);
+            QCOMPARE(QString::fromUtf8(tool.readAllStandardOutput()), run.out);
+            if (run.error == "*")
+                QVERIFY(!error.isEmpty());
+            else if (run.exitCode != 2)
+                QCOMPARE(error, run.error);
+            else
+                QVERIFY2(error.startsWith(run.error), qPrintable(error));
+        }
+        // The restore gave the document back with its file.
+        QCOMPARE(TrashFixture::bytes(fx.file["doc"]), QByteArray("the contract"));
+        QCOMPARE(fx.reg.scalar("SELECT COUNT(*) FROM tbl_Sub_Documents").toInt(), 2);
+        QCOMPARE(fx.reg.scalar("SELECT COUNT(*) FROM tbl_Contacts").toInt(), 0);
+        // A register without the trash is told so.
+        fx.reg.exec("DROP TABLE tbl_Trash");
+        QProcess tool;
+        tool.start(QStringLiteral(KARTELLA_DB_PATH), {"trash", path});
+        QVERIFY(tool.waitForFinished(30000));
+        QCOMPARE(tool.exitCode(), 1);
+        QVERIFY(QString::fromUtf8(tool.readAllStandardError()).contains("has no trash"));
+    }
+
+    // The tree's last node lists the deleted items; Enter restores one, the Delete key asks
+    // and deletes it for good, Empty Trash asks once.
+    void deletedItemsNodeByKeysAndMouse()
+    {
+        CommandsFixture fx;
+        ScriptedPrompter prompter;
+        const QString own = fx.makeFile("contract.doc");
+        fx.setPath("tbl_Documents", "RastasID", fx.id["contract"], "RastoKel", own);
+        MainWindow& w = fx.load();
+        w.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&w));
+        NavigationTree* tree = w.tree();
+        const QTreeWidgetItem* node = tree->topLevelItem(tree->topLevelItemCount() - 1);
+        QCOMPARE(NavigationTree::nodeKey(node), DeletedItemsKey);
+        QCOMPARE(node->text(0), QString("Deleted items"));
+
+        const auto deleteContract = [&] {
+            fx.clickNode("a" + QString::number(fx.id["Sutartys"]));
+            fx.clickDocument("contract");
+            prompter.answer(MsgBoxResult::Yes);
+            w.action("btnDelete")->trigger();
+            QVERIFY(!fx.documentExists("contract"));
+            QVERIFY(!QFile::exists(own));
+        };
+        // Acts on the window the node opens, then closes it with Esc.
+        const auto inDeletedItems = [&](const std::function<void(DeletedItemsWindow&)>& act) {
+            bool acted = false;
+            QTimer::singleShot(0, [&] {
+                auto* window = qobject_cast<DeletedItemsWindow*>(QApplication::activeModalWidget());
+                QVERIFY(window);
+                act(*window);
+                acted = true;
+                QTest::keyClick(window, Qt::Key_Escape);
+            });
+            // The tree is built again after a restore: its nodes are new ones.
+            QTreeWidgetItem* last = tree->nodeByKey(DeletedItemsKey);
+            QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualItemRect(last).center());
+            QVERIFY(acted);
+            // The window goes, and the tree shows again the node it showed before.
+            QCOMPARE(tree->selectedItems().size(), 1);
+            QVERIFY(tree->selectedItems().first() != last);
+        };
+
+        deleteContract();
+        inDeletedItems([&](DeletedItemsWindow& window) {
+            QTreeWidget* list = window.itemList();
+            QCOMPARE(list->topLevelItemCount(), 1);
+            QCOMPARE(list->topLevelItem(0)->text(0), QString("contract (SUT-1)"));
+            QCOMPARE(list->topLevelItem(0)->text(1), QString("document"));
+            QCOMPARE(list->topLevelItem(0)->text(2), Trash::whoIsWorking());
+            list->setFocus();
+            QTest::keyClick(list, Qt::Key_Return);
+            QCOMPARE(list->topLevelItemCount(), 0);
+            QVERIFY(!window.findChild<QPushButton*>("cmdEmptyTrash")->isEnabled());
+        });
+        QVERIFY(fx.documentExists("contract"));
+        QCOMPARE(TrashFixture::bytes(own), QByteArray("x"));
+        QVERIFY(fx.documentTexts().contains("contract"));
+        QCOMPARE(fx.rowCount("tbl_Sub_Documents"), 2);
+
+        deleteContract();
+        fx.clickNode("a" + QString::number(fx.id["Sutartys"]));
+        fx.clickDocument("work");
+        prompter.answer(MsgBoxResult::Yes);
+        w.action("btnDelete")->trigger();
+        inDeletedItems([&](DeletedItemsWindow& window) {
+            QTreeWidget* list = window.itemList();
+            QCOMPARE(list->topLevelItemCount(), 2);
+            list->setFocus();
+            prompter.answer(MsgBoxResult::No);
+            QTest::keyClick(list, Qt::Key_Delete);
+            QCOMPARE(list->topLevelItemCount(), 2);
+            prompter.answer(MsgBoxResult::Yes);
+            QTest::keyClick(list, Qt::Key_Delete);
+            QCOMPARE(list->topLevelItemCount(), 1);
+            prompter.answer(MsgBoxResult::Yes);
+            QTest::mouseClick(window.findChild<QPushButton*>("cmdEmptyTrash"), Qt::LeftButton);
+            QCOMPARE(list->topLevelItemCount(), 0);
+        });
+        QCOMPARE(prompter.prompts().size(), 6);
+        QCOMPARE(prompter.prompts().last().title, QString("Empty Trash"));
+        QVERIFY(!fx.documentExists("contract"));
+        QVERIFY(!fx.documentExists("work"));
+        QCOMPARE(QDir(trashFolderFor(fx.reg.path())).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+            QStringList());
+    }
+
+    // Each new version keeps the file it replaces; beyond the limit the oldest go; a restored
+    // version becomes the file again and the file it replaces is kept in its turn.
+    void versionsKeepReplaceRestoreAndLimit()
+    {
+        TrashFixture fx;
+        const QString folder = fx.reg.dir() + "/versions";
+        Versions versions(folder, 3);
+        const QString current = fx.file["doc"];
+        const QDateTime start(QDate(2026, 3, 1), QTime(9, 0), Qt::UTC);
+        for (int i = 1; i <= 4; ++i) {
+            SettableClock clock(start.addSecs(i * 60));
+            versions.replace(fx.id["doc"], current,
+                fx.makeFile(QString("new %1.doc").arg(i), "version " + QByteArray::number(i)));
+        }
+        QCOMPARE(TrashFixture::bytes(current), QByteArray("version 4"));
+        QList<FileVersion> kept = versions.list(fx.id["doc"]);
+        QCOMPARE(kept.size(), 3);
+        const QByteArray expected[] = {"version 3", "version 2", "version 1"};
+        for (int i = 0; i < 3; ++i) {
+            QCOMPARE(TrashFixture::bytes(kept[i].path), expected[i]);
+            QCOMPARE(kept[i].keptAt, start.addSecs((4 - i) * 60));
+            QCOMPARE(kept[i].size, qint64(expected[i].size()));
+            QCOMPARE(kept[i].keptBy, Trash::whoIsWorking());
+        }
+        // The oldest of the limit is restored; the current file is kept first, which drops
+        // that oldest version from the folder, but not from what comes back.
+        {
+            SettableClock clock(start.addSecs(10 * 60));
+            versions.restore(fx.id["doc"], current, kept[2]);
+        }
+        QCOMPARE(TrashFixture::bytes(current), QByteArray("version 1"));
+        kept = versions.list(fx.id["doc"]);
+        QCOMPARE(kept.size(), 3);
+        QCOMPARE(TrashFixture::bytes(kept[0].path), QByteArray("version 4"));
+        QCOMPARE(TrashFixture::bytes(kept[2].path), QByteArray("version 2"));
+        // Another document's versions are its own.
+        QVERIFY(versions.list(fx.id["other"]).isEmpty());
+    }
+
+    // Document > New Version... asks for the file and keeps the one it replaces.
+    void newVersionFromTheMenu()
+    {
+        CommandsFixture fx;
+        ScriptedPrompter prompter;
+        const QString own = fx.makeFile("contract.doc");
+        fx.setPath("tbl_Documents", "RastasID", fx.id["contract"], "RastoKel", own);
+        const QString replacement = fx.reg.dir() + "/signed.doc";
+        QFile file(replacement);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("signed");
+        file.close();
+        MainWindow& w = fx.load();
+        fx.clickNode("a" + QString::number(fx.id["Sutartys"]));
+        fx.clickDocument("contract");
+        prompter.answerFile(QString());
+        w.action("mnuNewVersion")->trigger();
+        QCOMPARE(TrashFixture::bytes(own), QByteArray("x"));
+        prompter.answerFile(replacement);
+        w.action("mnuNewVersion")->trigger();
+        QCOMPARE(TrashFixture::bytes(own), QByteArray("signed"));
+        QCOMPARE(TrashFixture::bytes(replacement), QByteArray("signed"));
+        const QList<FileVersion> kept
+            = Versions(versionsFolderFor(fx.reg.path()), DefaultVersionsPerDocument).list(fx.id["contract"]);
+        QCOMPARE(kept.size(), 1);
+        QCOMPARE(TrashFixture::bytes(kept.first().path), QByteArray("x"));
+        QVERIFY(prompter.texts().isEmpty());
+        // The list of versions shows it; Restore brings it back and keeps the signed one.
+        VersionList list(fx.id["contract"], own);
+        QCOMPARE(list.list()->topLevelItemCount(), 1);
+        QTest::mouseClick(list.findChild<QPushButton*>("cmdRestoreVersion"), Qt::LeftButton);
+        QCOMPARE(TrashFixture::bytes(own), QByteArray("x"));
+        QCOMPARE(list.list()->topLevelItemCount(), 2);
+        // Before the program copies or moves over a file: a document's file is kept, another
+        // file is not.
+        QVERIFY(keepVersionBeforeReplacing(own));
+        QVERIFY(keepVersionBeforeReplacing(replacement));
+        list.fill();
+        QCOMPARE(list.list()->topLevelItemCount(), 3);
+    }
+
+    // The settings' tab stores the limits and the shared folder.
+    void settingsTabStoresTheLimits()
+    {
+        TestRegister reg;
+        ScriptedPrompter prompter;
+        QCOMPARE(trashDays(), 90);
+        QCOMPARE(versionsPerDocument(), 20);
+        SettingsDialog dialog;
+        auto* days = dialog.findChild<QSpinBox*>("spnTrashDays");
+        auto* versions = dialog.findChild<QSpinBox*>("spnVersions");
+        QCOMPARE(days->value(), 90);
+        days->setValue(30);
+        versions->setValue(5);
+        prompter.answerFolder(reg.dir());
+        QTest::mouseClick(dialog.findChild<QPushButton*>("cmdBrowseTrashFolder"), Qt::LeftButton);
+        QTest::mouseClick(dialog.findChild<QPushButton*>("btnOk"), Qt::LeftButton);
+        QCOMPARE(trashDays(), 30);
+        QCOMPARE(versionsPerDocument(), 5);
+        QCOMPARE(sharedTrashFolder(), reg.dir());
+        QCOMPARE(trashFolderFor("postgresql://u@h:5432/db"), reg.dir() + "/trash");
+    }
 };
 
-QTEST_GUILESS_MAIN(TrashTest)
+QTEST_MAIN(TrashTest)
 #include "tst_trash.moc"
