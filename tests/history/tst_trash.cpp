@@ -16,6 +16,7 @@
 #include "history/Versions.h"
 #include "options/TrashOptions.h"
 #include "platform/Clock.h"
+#include "store/SchemaSteps.h"
 
 #include <QApplication>
 #include <QDir>
@@ -532,6 +533,31 @@ private Q_SLOTS:
         QCOMPARE(versionsPerDocument(), 5);
         QCOMPARE(sharedTrashFolder(), reg.dir());
         QCOMPARE(trashFolderFor("postgresql://u@h:5432/db"), reg.dir() + "/trash");
+    }
+
+    // A register without the trash deletes for good as it always did and shows no Deleted
+    // items node; the upgrade gives it the trash.
+    void anOlderRegisterDeletesAsBeforeUntilUpgraded()
+    {
+        CommandsFixture fx;
+        ScriptedPrompter prompter;
+        fx.reg.exec("DROP TABLE tbl_Trash");
+        MainWindow& w = fx.load();
+        QVERIFY(!w.tree()->nodeByKey(DeletedItemsKey));
+        fx.clickNode("a" + QString::number(fx.id["Sutartys"]));
+        fx.clickDocument("work");
+        prompter.answer(MsgBoxResult::Yes);
+        w.action("btnDelete")->trigger();
+        QVERIFY(!fx.documentExists("work"));
+        QVERIFY(!QFileInfo::exists(trashFolderFor(fx.reg.path())));
+
+        fx.reg.exec(QStringLiteral("PRAGMA user_version = %1").arg(newestSchemaVersion() - 1));
+        const auto steps = upgradeRegister(fx.reg.path());
+        QCOMPARE(steps.size(), size_t(1));
+        QCOMPARE(steps.front()->version, newestSchemaVersion());
+        Connection connection(fx.reg.connectionString());
+        connection.open();
+        QVERIFY(Trash::inRegister(connection));
     }
 };
 
