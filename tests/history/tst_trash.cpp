@@ -12,6 +12,7 @@
 #include "history/DeletedItemsWindow.h"
 #include "history/KeepVersion.h"
 #include "history/Trash.h"
+#include "history/TrashCommands.h"
 #include "history/VersionList.h"
 #include "history/Versions.h"
 #include "options/TrashOptions.h"
@@ -558,6 +559,36 @@ private Q_SLOTS:
         Connection connection(fx.reg.connectionString());
         connection.open();
         QVERIFY(Trash::inRegister(connection));
+    }
+
+    // A register on a server: a delete with files asks for the shared folder once and keeps
+    // it; a delete without files asks nothing; Cancel keeps everything and says why.
+    void aServerRegisterAsksForTheSharedFolderOnce()
+    {
+        if (!ServerDatabase::available())
+            QSKIP(qPrintable(ServerDatabase::skipReason()));
+        TrashFixture fx {TestRegister::Server};
+        ScriptedPrompter prompter;
+        QCOMPARE(registerTrashFolder(), QString());
+        QVERIFY(moveToRegisterTrash(fx.connection, TrashKind::Contact, fx.id["Ona"]));
+        const QStringList before = fx.snapshot();
+        prompter.answerFolder(QString());
+        prompter.answer(MsgBoxResult::Ok);
+        QVERIFY(!moveToRegisterTrash(fx.connection, TrashKind::RelatedDocument, fx.id["rel1"]));
+        QCOMPARE(prompter.texts(),
+            QStringList {"No folder is named for the trash of this register: its files can't be kept."});
+        QCOMPARE(fx.snapshot(), before);
+        QVERIFY(QFileInfo::exists(fx.file["rel1"]));
+
+        const QString shared = fx.reg.dir() + "/shared";
+        prompter.answerFolder(shared);
+        QVERIFY(moveToRegisterTrash(fx.connection, TrashKind::RelatedDocument, fx.id["rel1"]));
+        QCOMPARE(sharedTrashFolder(), shared);
+        QVERIFY(moveToRegisterTrash(fx.connection, TrashKind::Document, fx.id["doc"]));
+        QVERIFY(prompter.allAnswered());
+        QCOMPARE(QDir(shared + "/trash").entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 2);
+        QVERIFY(!QFileInfo::exists(fx.file["doc"]));
+        QCOMPARE(Trash(fx.connection, registerTrashFolder()).items().size(), 3);
     }
 };
 
