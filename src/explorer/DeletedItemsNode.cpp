@@ -31,7 +31,9 @@ void purgeOldDeletedItems()
             return;
         // A register on a server whose shared folder isn't named yet: the rows go, and the
         // files stay in the folder until someone names it.
-        Trash trash(connection, trashFolderFor(getRegValue(QStringLiteral("DbLocation")).trimmed()));
+        const QString location = getRegValue(QStringLiteral("DbLocation")).trimmed();
+        Trash trash(connection, trashFolderFor(location));
+        trash.setVersionsFolder(versionsFolderFor(location));
         trash.purgeOlderThan(trashDays(), Clock::instance().now().toUTC());
     } catch (const Error&) { }
 }

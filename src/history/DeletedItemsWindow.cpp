@@ -31,6 +31,7 @@ bool onTrash(Work work)
         Connection connection(plainConnectionString());
         connection.open();
         Trash trash(connection, registerTrashFolder());
+        trash.setVersionsFolder(versionsFolderFor(getRegValue(QStringLiteral("DbLocation")).trimmed()));
         work(trash);
         return true;
     } catch (const Error& error) {

@@ -62,6 +62,8 @@ public:
     // Gives the folder when a delete has files to move and none was given (a register on a
     // server whose shared folder isn't named yet); empty: the delete is refused.
     void setFolderQuestion(std::function<QString()> ask) { m_askFolder = std::move(ask); }
+    // The versions folder (see Versions): a document deleted for good takes its versions too.
+    void setVersionsFolder(const QString& folder) { m_versionsFolder = folder; }
 
     // Whether the register has a trash; an older one deletes for good as it always did.
     static bool inRegister(Connection& connection);
@@ -114,6 +116,7 @@ private:
     Connection& m_connection;
     QString m_folder;
     std::function<QString()> m_askFolder;
+    QString m_versionsFolder;
 };
 
 } // namespace kartella

@@ -132,6 +132,11 @@ void Trash::restoreInside(qint64 itemId, RestoreOutcome& outcome, QList<QPair<QS
     restoreCategoryOf(rows, outcome, moved);
 
     QList<QPair<QString, QString>> toMove;
+    if (m_folder.isEmpty() && !files.value(QStringLiteral("files")).toArray().isEmpty())
+        throw Error(ErrorNumber::PathFileAccess,
+            QStringLiteral("No folder is named for the trash of this register: the files of \"%1\" can't be "
+                           "put back.")
+                .arg(restored.title));
     for (const QJsonValue& value : files.value(QStringLiteral("files")).toArray()) {
         const QJsonObject file = value.toObject();
         const QString path = file.value(QStringLiteral("path")).toString();
@@ -228,12 +233,18 @@ int Trash::removeItems(const QString& where)
 {
     Transaction transaction(m_connection);
     Recordset stored;
-    stored.open(QStringLiteral("SELECT TrashID, ItemFiles FROM tbl_Trash WHERE ") + where, m_connection,
-        CursorTypeEnum::Static, LockTypeEnum::Unspecified);
+    stored.open(QStringLiteral("SELECT TrashID, Kind, ItemKey, ItemFiles FROM tbl_Trash WHERE ") + where,
+        m_connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
     QStringList folders;
+    QStringList versionFolders;
     QList<qint64> ids;
     while (!stored.eof()) {
         ids << stored.collect(QStringLiteral("TrashID")).toLongLong();
+        // A document gone for good takes its earlier files with it.
+        if (!m_versionsFolder.isEmpty()
+            && stored.collect(QStringLiteral("Kind")).toString() == TrashKind::Document)
+            versionFolders
+                << QDir(m_versionsFolder).filePath(stored.collect(QStringLiteral("ItemKey")).toString());
         folders << filesObject(stored.collect(QStringLiteral("ItemFiles")).toString())
                        .value(QStringLiteral("folder"))
                        .toString();
@@ -244,6 +255,8 @@ int Trash::removeItems(const QString& where)
         m_connection.execute(QStringLiteral("DELETE FROM tbl_Trash WHERE TrashID=") + QString::number(id));
     transaction.commit();
     // The rows are gone for good; their files follow.
+    for (const QString& folder : std::as_const(versionFolders))
+        QDir(folder).removeRecursively();
     if (!m_folder.isEmpty()) {
         for (const QString& folder : std::as_const(folders)) {
             if (!folder.isEmpty())

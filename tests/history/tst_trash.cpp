@@ -181,6 +181,12 @@ private Q_SLOTS:
         QCOMPARE(outcome.restored.last().kind, TrashKind::Document);
         QCOMPARE(fx.snapshot(), before);
         QVERIFY(trash.items().isEmpty());
+        // A related document restored after its document was deleted brings the document back.
+        const qint64 related = trash.deleteRelatedDocument(fx.id["rel2"]);
+        trash.deleteDocument(fx.id["doc"]);
+        QCOMPARE(trash.restore(related).restored.size(), 2);
+        QCOMPARE(fx.snapshot(), before);
+        QCOMPARE(TrashFixture::bytes(fx.file["rel2"]), QByteArray("appendix two"));
     }
 
     // Items older than the limit go for good with their files; younger ones stay.
@@ -219,14 +225,22 @@ private Q_SLOTS:
     {
         TrashFixture fx;
         Trash trash(fx.connection, fx.trashFolder);
+        const QString versions = fx.reg.dir() + "/versions";
+        trash.setVersionsFolder(versions);
+        Versions(versions, 5).keep(fx.id["doc"], fx.file["doc"]);
+        Versions(versions, 5).keep(fx.id["other"], fx.file["other"]);
         const qint64 related = trash.deleteRelatedDocument(fx.id["rel1"]);
         trash.deleteDocument(fx.id["doc"]);
         trash.deleteForGood(related);
+        QCOMPARE(Versions(versions, 5).list(fx.id["doc"]).size(), 1);
         QCOMPARE(trash.items().size(), 1);
         QCOMPARE(QDir(fx.trashFolder).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);
         QVERIFY_THROWS_EXCEPTION(Error, trash.restore(related));
         trash.empty();
         QVERIFY(trash.items().isEmpty());
+        // The document's versions went with it; another document's stay.
+        QVERIFY(Versions(versions, 5).list(fx.id["doc"]).isEmpty());
+        QCOMPARE(Versions(versions, 5).list(fx.id["other"]).size(), 1);
         QCOMPARE(QDir(fx.trashFolder).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 0);
         QCOMPARE(fx.reg.scalar("SELECT COUNT(*) FROM tbl_Sub_Documents").toInt(), 0);
     }

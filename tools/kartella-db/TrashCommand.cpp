@@ -27,6 +27,7 @@ void withTrash(const QString& path, Work work)
                 "upgrade)")
                 .arg(path));
     Trash trash(connection, trashFolderFor(location));
+    trash.setVersionsFolder(versionsFolderFor(location));
     work(trash);
 }
 
