@@ -25,4 +25,5 @@ private Q_SLOTS:
     void settingsTabStoresTheLimits();
     void anOlderRegisterDeletesAsBeforeUntilUpgraded();
     void aServerRegisterAsksForTheSharedFolderOnce();
+    void contactFromTheAddressBookComesBackWhole();
 };

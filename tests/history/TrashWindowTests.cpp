@@ -3,6 +3,8 @@
 
 #include "TrashFixture.h"
 #include "TrashTest.h"
+#include "addressbook/AddressBookFixture.h"
+#include "addressbook/AddressBookWindow.h"
 #include "dialogs/SettingsDialog.h"
 #include "explorer/CommandsFixture.h"
 #include "explorer/DeletedItemsNode.h"
@@ -234,4 +236,42 @@ void TrashTest::aServerRegisterAsksForTheSharedFolderOnce()
     QCOMPARE(QDir(shared + "/trash").entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 2);
     QVERIFY(!QFileInfo::exists(fx.file["doc"]));
     QCOMPARE(Trash(fx.connection, registerTrashFolder()).items().size(), 3);
+}
+
+// Ctrl+Delete in the address book moves the contact with its phones and web pages to the
+// trash; restored, every row is back with its key.
+void TrashTest::contactFromTheAddressBookComesBackWhole()
+{
+    AddressBookFixture fx;
+    const QString phones
+        = "SELECT PhoneID & ' ' & ContactID & ' ' & PhoneName & ' ' & PhoneNumber FROM tbl_Phones "
+          "ORDER BY PhoneID";
+    const QString pages
+        = "SELECT HomeID & ' ' & ContactID & ' ' & HomeWWW FROM tbl_HomePages ORDER BY HomeID";
+    const QStringList phonesBefore = fx.column(phones);
+    const QStringList pagesBefore = fx.column(pages);
+    {
+        AddressBookWindow window;
+        Shown w(&window);
+        w.clickLine("Ona Petraitiene");
+        fx.prompter.answer(MsgBoxResult::Yes);
+        w.list()->setFocus();
+        QTest::keyClick(w.list(), Qt::Key_Delete, Qt::ControlModifier);
+        QVERIFY(!w.lines().contains("Ona Petraitiene"));
+    }
+    QCOMPARE(fx.count("tbl_Phones"), 1);
+    QCOMPARE(fx.count("tbl_HomePages"), 0);
+    Connection connection(fx.reg.connectionString());
+    connection.open();
+    Trash trash(connection, trashFolderFor(fx.reg.path()));
+    const QList<TrashItem> items = trash.items();
+    QCOMPARE(items.size(), 1);
+    QCOMPARE(items.first().kind, TrashKind::Contact);
+    QCOMPARE(items.first().key, qint64(fx.ona));
+    trash.restore(items.first().id);
+    QCOMPARE(fx.column(phones), phonesBefore);
+    QCOMPARE(fx.column(pages), pagesBefore);
+    QCOMPARE(fx.reg.scalar("SELECT FullName FROM tbl_Contacts WHERE ContactID=" + QString::number(fx.ona))
+                 .toString(),
+        QString("Ona Petraitiene"));
 }
