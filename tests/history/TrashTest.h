@@ -26,4 +26,5 @@ private Q_SLOTS:
     void anOlderRegisterDeletesAsBeforeUntilUpgraded();
     void aServerRegisterAsksForTheSharedFolderOnce();
     void contactFromTheAddressBookComesBackWhole();
+    void restoreInTheWindowTellsOfATakenPath();
 };

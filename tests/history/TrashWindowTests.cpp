@@ -275,3 +275,27 @@ void TrashTest::contactFromTheAddressBookComesBackWhole()
                  .toString(),
         QString("Ona Petraitiene"));
 }
+
+// A restore in the window over a path another file took meanwhile tells where the file went.
+void TrashTest::restoreInTheWindowTellsOfATakenPath()
+{
+    TrashFixture fx;
+    ScriptedPrompter prompter;
+    Trash(fx.connection, trashFolderFor(fx.reg.path())).deleteRelatedDocument(fx.id["rel2"]);
+    fx.makeFile("priedas 2.txt", "a newcomer");
+    DeletedItemsWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCOMPARE(window.itemList()->topLevelItem(0)->text(0), QString("Priedas 2 (SUT-7)"));
+    prompter.answer(MsgBoxResult::Ok);
+    QTest::mouseClick(window.findChild<QPushButton*>("cmdRestore"), Qt::LeftButton);
+    const QString moved = QFileInfo(fx.file["rel2"]).absolutePath() + "/priedas 2 (2).txt";
+    QCOMPARE(prompter.texts(),
+        QStringList {
+            "Another file took the place of a restored one meanwhile; the restored file got a new name:\n"
+            + QDir::toNativeSeparators(fx.file["rel2"]) + "\n    -> " + QDir::toNativeSeparators(moved)});
+    QCOMPARE(TrashFixture::bytes(moved), QByteArray("appendix two"));
+    QCOMPARE(TrashFixture::bytes(fx.file["rel2"]), QByteArray("a newcomer"));
+    QCOMPARE(window.itemList()->topLevelItemCount(), 0);
+    QVERIFY(window.changed());
+}
