@@ -5,9 +5,11 @@
 #include "addressbook/ContactQueries.h"
 #include "addressbook/Dialing.h"
 #include "base/Error.h"
+#include "history/TrashCommands.h"
 #include "options/OptionStore.h"
 #include "platform/Prompter.h"
 #include "store/Store.h"
+#include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
 #include "support/BusyCursor.h"
 #include "support/ChangedRowPrompt.h"
@@ -336,13 +338,21 @@ void AddressBookWindow::deleteContact()
                 QStringLiteral("Confirm Deletion"))
             != MsgBoxResult::Yes)
             return;
-        m_contacts->deleteRecord(AffectEnum::Current);
-        m_contacts->updateBatch(AffectEnum::All);
-        // The grids hold the rows of the contact the fields showed.
-        for (Recordset* children : {m_phoneModel->recordset(), m_homePageModel->recordset()}) {
-            while (children && children->isOpen() && children->recordCount() > 0) {
-                children->moveFirst();
-                children->deleteRecord(AffectEnum::Current);
+        Connection connection(plainConnectionString());
+        connection.open();
+        if (Trash::inRegister(connection)) {
+            if (!moveToRegisterTrash(connection, TrashKind::Contact,
+                    m_contacts->collect(QStringLiteral("ContactID")).toLongLong()))
+                return;
+        } else {
+            m_contacts->deleteRecord(AffectEnum::Current);
+            m_contacts->updateBatch(AffectEnum::All);
+            // The grids hold the rows of the contact the fields showed.
+            for (Recordset* children : {m_phoneModel->recordset(), m_homePageModel->recordset()}) {
+                while (children && children->isOpen() && children->recordCount() > 0) {
+                    children->moveFirst();
+                    children->deleteRecord(AffectEnum::Current);
+                }
             }
         }
         m_contacts->requery();

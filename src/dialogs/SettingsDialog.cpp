@@ -3,6 +3,7 @@
 #include "base/Error.h"
 #include "dialogs/CaptureSettingsPage.h"
 #include "dialogs/SettingsStore.h"
+#include "dialogs/TrashSettingsPage.h"
 #include "options/OptionStore.h"
 #include "platform/Prompter.h"
 #include "registration/RegIndex.h"
@@ -94,6 +95,7 @@ SettingsDialog::SettingsDialog(QWidget* parent)
     m_tabs->addTab(buildDatabaseTab(), QStringLiteral("Database Location"));
     m_tabs->addTab(buildFileNameTab(), QStringLiteral("File Name"));
     m_tabs->addTab(new CaptureSettingsPage(this), QStringLiteral("Incoming Files"));
+    m_tabs->addTab(new TrashSettingsPage(this), QStringLiteral("Trash and Versions"));
 
     auto* buttons = new QDialogButtonBox(this);
     m_ok = buttons->addButton(QStringLiteral("OK"), QDialogButtonBox::AcceptRole);
@@ -465,6 +467,7 @@ void SettingsDialog::save()
         return;
     }
 
+    findChild<TrashSettingsPage*>()->save();
     // The main window answers after this dialog has closed: its refresh is queued.
     if (m_databaseChanged)
         Q_EMIT databaseLocationChanged();

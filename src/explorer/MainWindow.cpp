@@ -4,6 +4,7 @@
 #include "dialogs/MissingRegister.h"
 #include "dialogs/SettingsStore.h"
 #include "explorer/ContentProgress.h"
+#include "explorer/DeletedItemsNode.h"
 #include "explorer/DocumentFills.h"
 #include "explorer/DocumentQueries.h"
 #include "explorer/ExplorerList.h"
@@ -233,6 +234,8 @@ void MainWindow::load()
     // otherwise counts as one that can't be opened. So does a server that can't be reached,
     // so that the start waits for it once rather than at every fill.
     const std::optional<Error> refused = located ? offerRegisterUpgrade(location) : std::nullopt;
+    if (located && !refused)
+        purgeOldDeletedItems();
     // 4. This month, from its first day to the first day of the next.
     const QDate today = Clock::currentDate();
     const QDate first(today.year(), today.month(), 1);

@@ -135,6 +135,7 @@ public Q_SLOTS:
     void newDocument();
     void openDocument();
     void copyDocument();
+    void newVersion();
     void deleteSelected();
     void deleteSelectedCategory();
     void printSetup();

@@ -1,5 +1,6 @@
 // MainWindow: the tree's fills and node click, the lists' item clicks and the related list.
 #include "base/Error.h"
+#include "explorer/DeletedItemsNode.h"
 #include "explorer/DocumentFills.h"
 #include "explorer/ExplorerList.h"
 #include "explorer/InboxView.h"
@@ -8,6 +9,7 @@
 #include "explorer/NavigationTree.h"
 #include "explorer/RelatedFill.h"
 #include "explorer/TreeFills.h"
+#include "history/DeletedItemsWindow.h"
 #include "options/OptionStore.h"
 #include "store/SchemaSteps.h"
 #include "store/Store.h"
@@ -75,6 +77,12 @@ void MainWindow::fillContactTree()
 
 void MainWindow::onNodeClicked(QTreeWidgetItem* node)
 {
+    if (NavigationTree::nodeKey(node) == DeletedItemsKey) {
+        DeletedItemsWindow window(this);
+        window.exec();
+        window.changed() ? refresh() : m_tree->selectNode(m_tree->nodeByKey(m_lastNodeKey));
+        return;
+    }
     // A click leaves a search shown, also on the node last clicked.
     if (leaveSearch())
         m_lastNodeIndex = 0;

@@ -11,6 +11,7 @@
 #include "explorer/NavigationTree.h"
 #include "explorer/RemindersCommand.h"
 #include "explorer/ShareNotice.h"
+#include "history/TrashCommands.h"
 #include "options/OptionStore.h"
 #include "platform/Prompter.h"
 #include "platform/Shell.h"
@@ -289,9 +290,14 @@ void MainWindow::deleteRelatedDocument(Connection& connection)
     // The file may have gone while the question was open.
     if (!fileIsThere())
         return;
-    if (!trashFileOf(connection, path, {}))
-        return;
-    connection.execute(deleteSubDocumentSql(id));
+    if (Trash::inRegister(connection)) {
+        if (!moveToRegisterTrash(connection, TrashKind::RelatedDocument, id))
+            return;
+    } else {
+        if (!trashFileOf(connection, path, {}))
+            return;
+        connection.execute(deleteSubDocumentSql(id));
+    }
     IconCache::shared().clear();
     refillList();
 }
@@ -345,6 +351,13 @@ void MainWindow::deleteMainDocument(Connection& connection)
         question += QStringLiteral(", with its %1 related documents and their files").arg(childIds.size());
     if (!confirmDeletion(question + u'?'))
         return;
+    if (Trash::inRegister(connection)) {
+        if (moveToRegisterTrash(connection, TrashKind::Document, id)) {
+            IconCache::shared().clear();
+            refillList();
+        }
+        return;
+    }
 
     // The document's own file first: while it can't go, the document stays whole. A file that
     // went while the question was open leaves nothing to keep the document for.
@@ -407,7 +420,8 @@ void MainWindow::deleteCategory()
 {
     QString question;
     QString sql;
-    if (m_state.currentNodeKind == QLatin1String("a")) {
+    const bool category = m_state.currentNodeKind == QLatin1String("a");
+    if (category) {
         question = QStringLiteral("Do you wish to delete Category and SubCategories?");
         sql = QStringLiteral("DELETE tbl_Document_Categories.* FROM tbl_Document_Categories WHERE "
                              "tbl_Document_Categories.KategID=")
@@ -426,7 +440,11 @@ void MainWindow::deleteCategory()
     try {
         Connection connection;
         connection.open(plainConnectionString());
-        connection.execute(sql);
+        if (!Trash::inRegister(connection))
+            connection.execute(sql);
+        else if (!moveToRegisterTrash(connection, category ? TrashKind::Category : TrashKind::SubCategory,
+                     category ? m_state.currentCategoryId : m_state.currentSubCategoryId))
+            return;
     } catch (const Error& error) {
         msgBox(error.description());
         return;

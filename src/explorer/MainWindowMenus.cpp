@@ -139,6 +139,8 @@ void MainWindow::buildMenus()
         QKeySequence(Qt::CTRL | Qt::Key_C), QStringLiteral("frmCopyFile"));
     addCommand(file, QStringLiteral("mnuMove"), QStringLiteral("&Move Document"), &MainWindow::copyDocument,
         QKeySequence(Qt::CTRL | Qt::Key_M), QStringLiteral("frmCopyFile"));
+    addCommand(
+        file, QStringLiteral("mnuNewVersion"), QStringLiteral("New &Version..."), &MainWindow::newVersion);
     addCommand(file, QStringLiteral("mnuDelete"), QStringLiteral("&Delete Document"),
         &MainWindow::deleteSelected, QKeySequence(Qt::Key_Delete));
     file->addSeparator()->setObjectName(QStringLiteral("mnuHyper4"));

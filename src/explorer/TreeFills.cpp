@@ -1,5 +1,6 @@
 #include "explorer/TreeFills.h"
 
+#include "explorer/DeletedItemsNode.h"
 #include "explorer/NavigationTree.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
@@ -82,6 +83,7 @@ void buildCategoryTree(NavigationTree& tree)
     }
     categories.close();
     connection.close();
+    addDeletedItemsNode(tree);
     tree.expandAll();
     tree.selectNode(tree.nodeByIndex(1));
 }
@@ -115,6 +117,7 @@ void buildContactTree(NavigationTree& tree)
     }
     contacts.close();
     connection.close();
+    addDeletedItemsNode(tree);
     QTreeWidgetItem* first = tree.nodeByIndex(1);
     tree.selectNode(first);
     first->setExpanded(true);

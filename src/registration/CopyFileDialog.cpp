@@ -1,6 +1,7 @@
 #include "registration/CopyFileDialog.h"
 
 #include "base/Error.h"
+#include "history/KeepVersion.h"
 #include "platform/Prompter.h"
 #include "platform/Shell.h"
 #include "registration/ShellFiles.h"
@@ -139,6 +140,7 @@ void CopyFileDialog::copyFile()
         return;
     const SelectionState& state = selection();
     QString target = targetInFolder(folder, state.selectedFilePath);
+    keepVersionBeforeReplacing(target);
     shellCopyFile(state.selectedFilePath, target);
 }
 
@@ -160,6 +162,7 @@ void CopyFileDialog::moveFile()
         return;
     }
     QString moved = target;
+    keepVersionBeforeReplacing(target);
     if (!shellMoveFile(source, moved))
         return;
     moved = QFileInfo(moved).absoluteFilePath();

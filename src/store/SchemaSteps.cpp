@@ -55,6 +55,8 @@ void addDirectionIndex(Connection& connection);
 void addServerDirectionIndex(Connection& connection);
 void addDocumentTextStore(Connection& connection);
 void addServerDocumentTextStore(Connection& connection);
+void addTrash(Connection& connection);
+void addServerTrash(Connection& connection);
 
 const std::vector<SchemaStep>& schemaSteps()
 {
@@ -75,6 +77,7 @@ const std::vector<SchemaStep>& schemaSteps()
             addServerDocumentTextStore},
         {8, QStringLiteral("search index of the words of the documents' files"), createContentIndex,
             createServerContentIndex},
+        {10, QStringLiteral("the trash of deleted items"), addTrash, addServerTrash},
     };
     return steps;
 }

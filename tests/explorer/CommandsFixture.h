@@ -2,7 +2,10 @@
 
 #include "explorer/ExplorerFixture.h"
 #include "explorer/MainWindow.h"
+#include "options/OptionStore.h"
+#include "options/TrashOptions.h"
 
+#include <QDirIterator>
 #include <QFile>
 #include <QMenu>
 #include <QStandardPaths>
@@ -69,9 +72,17 @@ inline QString trashFolder()
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/Trash";
 }
 
+// Whether the register's trash holds a file of that name (an item's folder keeps it as
+// "<n>-<name>").
 inline bool inTrash(const QString& name)
 {
-    return QFile::exists(trashFolder() + "/files/" + name);
+    QDirIterator files(
+        trashFolderFor(getRegValue("DbLocation").trimmed()), QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        if (files.next().endsWith(u'-' + name))
+            return true;
+    }
+    return false;
 }
 
 } // namespace kartella::test

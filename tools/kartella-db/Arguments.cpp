@@ -44,6 +44,9 @@ QString usageText()
                           "       kartella-db import PATH FILE [--codepage NAME]\n"
                           "       kartella-db search PATH WORD...\n"
                           "       kartella-db index PATH\n"
+                          "       kartella-db trash PATH\n"
+                          "       kartella-db restore PATH INDEX\n"
+                          "       kartella-db purge PATH --older-than DAYS\n"
                           "       kartella-db --help\n"
                           "\n"
                           "  create   makes a new, empty register at LOCATION: a file (an existing file\n"
@@ -73,6 +76,11 @@ QString usageText()
                           "  index    reads the text of the files of the documents of the register at\n"
                           "           PATH that are new or changed since they were last read, showing\n"
                           "           its progress, then counts the files read and those skipped, and why\n"
+                          "  trash    lists the deleted items of the register at PATH, newest first:\n"
+                          "           kind, registration index or name, who deleted it and when (UTC)\n"
+                          "  restore  puts the deleted document of the registration index INDEX back,\n"
+                          "           with its related documents, reminders and files\n"
+                          "  purge    deletes for good the items deleted more than DAYS days ago\n"
                           "\n"
                           "Every register named (LOCATION, FROM, TO, NEW, the register's PATH or FILE)\n"
                           "is a file or a database on a PostgreSQL server, written\n"
@@ -113,6 +121,12 @@ std::optional<Invocation> parseArguments(const QStringList& arguments, QString& 
         invocation.command = Invocation::Command::Copy;
     else if (command == u"index")
         invocation.command = Invocation::Command::Index;
+    else if (command == u"trash")
+        invocation.command = Invocation::Command::Trash;
+    else if (command == u"restore")
+        invocation.command = Invocation::Command::Restore;
+    else if (command == u"purge")
+        invocation.command = Invocation::Command::Purge;
     else if (command == u"search")
         return parseSearch(arguments, problem);
     else {
@@ -135,6 +149,16 @@ std::optional<Invocation> parseArguments(const QStringList& arguments, QString& 
                 return std::nullopt;
             }
             invocation.codePage = *codePage;
+            continue;
+        }
+        if (invocation.command == Invocation::Command::Purge) {
+            const auto days = optionValue(arguments, i, QStringLiteral("--older-than"));
+            bool ok = false;
+            invocation.olderThanDays = days ? days->toInt(&ok) : -1;
+            if (!ok || invocation.olderThanDays < 0) {
+                problem = QStringLiteral("--older-than needs a whole number of days, 0 or more");
+                return std::nullopt;
+            }
             continue;
         }
         if (invocation.command != Invocation::Command::Sample) {
@@ -172,6 +196,17 @@ std::optional<Invocation> parseArguments(const QStringList& arguments, QString& 
             return std::nullopt;
         }
         invocation.target = paths.takeLast();
+    }
+    if (invocation.command == Invocation::Command::Purge && invocation.olderThanDays < 0) {
+        problem = QStringLiteral("purge needs --older-than DAYS");
+        return std::nullopt;
+    }
+    if (invocation.command == Invocation::Command::Restore) {
+        if (paths.size() != 2) {
+            problem = QStringLiteral("restore needs PATH and INDEX");
+            return std::nullopt;
+        }
+        invocation.registrationIndex = paths.takeLast();
     }
     if (invocation.command == Invocation::Command::Import) {
         if (paths.size() != 2) {

@@ -10,7 +10,21 @@ namespace kartella::tool {
 // One call of the tool, as read from its command line.
 struct Invocation
 {
-    enum class Command { Help, Create, Sample, Info, Upgrade, Migrate, Import, Search, Copy, Index };
+    enum class Command {
+        Help,
+        Create,
+        Sample,
+        Info,
+        Upgrade,
+        Migrate,
+        Import,
+        Search,
+        Copy,
+        Index,
+        Trash,
+        Restore,
+        Purge
+    };
     Command command = Command::Help;
     QString path;
     QStringList words; // search
@@ -23,6 +37,8 @@ struct Invocation
     // migrate: the new register (path is the old file); copy: the new register (path is the
     // register copied).
     QString target;
+    QString registrationIndex; // restore
+    int olderThanDays = -1; // purge
 };
 
 // Reads the arguments (without the program's name). On a usage error gives nothing and

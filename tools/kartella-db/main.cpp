@@ -7,6 +7,7 @@
 #include "Migrate.h"
 #include "ReportCommand.h"
 #include "SearchCommand.h"
+#include "TrashCommand.h"
 #include "UpgradeCommand.h"
 #include "base/Error.h"
 
@@ -64,6 +65,15 @@ int run(const Invocation& invocation)
         indexCommand(invocation.path, out, err);
         break;
     }
+    case Invocation::Command::Trash:
+        trashCommand(invocation.path, out);
+        break;
+    case Invocation::Command::Restore:
+        restoreCommand(invocation.path, invocation.registrationIndex, out);
+        break;
+    case Invocation::Command::Purge:
+        purgeCommand(invocation.path, invocation.olderThanDays, out);
+        break;
     case Invocation::Command::Copy: {
         QTextStream err(stderr);
         return copyCommand(invocation.path, invocation.target, out, err);

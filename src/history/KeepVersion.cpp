@@ -1,0 +1,40 @@
+#include "history/KeepVersion.h"
+
+#include "base/Error.h"
+#include "history/Versions.h"
+#include "options/OptionStore.h"
+#include "options/TrashOptions.h"
+#include "store/Store.h"
+#include "store/engine/Connection.h"
+#include "store/engine/Recordset.h"
+
+#include <QFileInfo>
+
+namespace kartella {
+
+bool keepVersionBeforeReplacing(const QString& path)
+{
+    if (!QFileInfo(path).isFile())
+        return true;
+    try {
+        Connection connection(plainConnectionString());
+        connection.open();
+        Recordset owner;
+        owner.open(QStringLiteral("SELECT RastasID FROM tbl_Documents WHERE RastoKel='%1'")
+                       .arg(QString(path).replace(u'\'', QStringLiteral("''"))),
+            connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
+        if (owner.eof())
+            return true;
+        const qint64 id = owner.collect(QStringLiteral("RastasID")).toLongLong();
+        owner.close();
+        const QString folder = versionsFolderFor(getRegValue(QStringLiteral("DbLocation")).trimmed());
+        if (folder.isEmpty())
+            return true;
+        Versions(folder, versionsPerDocument()).keep(id, path);
+        return true;
+    } catch (const Error&) {
+        return false;
+    }
+}
+
+} // namespace kartella

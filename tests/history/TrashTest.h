@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QObject>
+
+// The trash, the versions and their windows; the windows' cases are in TrashWindowTests.cpp.
+class TrashTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void deleteAndRestoreGiveBackEveryRowAndFile_data();
+    void deleteAndRestoreGiveBackEveryRowAndFile();
+    void restoreOverATakenPathTakesTheNextFreeName();
+    void documentRestoredIntoADeletedCategoryBringsItBack();
+    void purgeTakesOnlyItemsOlderThanTheLimit_data();
+    void purgeTakesOnlyItemsOlderThanTheLimit();
+    void deleteForGoodAndEmpty();
+    void aFileThatCantMoveKeepsEverything();
+    void theTrashIsSharedByEveryConnection_data();
+    void theTrashIsSharedByEveryConnection();
+    void commandLineListsRestoresAndPurges();
+    void deletedItemsNodeByKeysAndMouse();
+    void versionsKeepReplaceRestoreAndLimit();
+    void newVersionFromTheMenu();
+    void settingsTabStoresTheLimits();
+    void anOlderRegisterDeletesAsBeforeUntilUpgraded();
+    void aServerRegisterAsksForTheSharedFolderOnce();
+    void contactFromTheAddressBookComesBackWhole();
+    void restoreInTheWindowTellsOfATakenPath();
+};
