@@ -17,6 +17,7 @@
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
+#include "store/engine/WriteContext.h"
 #include "support/SelectionState.h"
 #include "support/SharedPrinter.h"
 
@@ -53,6 +54,7 @@ QString deleteSubDocumentSql(qint32 id)
 
 void MainWindow::newDocument()
 {
+    const CommandScope command(QStringLiteral("New Document"));
     openDialog(QStringLiteral("frmNewDocument"));
 }
 
@@ -63,6 +65,7 @@ void MainWindow::openDocument()
 
 void MainWindow::copyDocument()
 {
+    const CommandScope command(QStringLiteral("Copy/Move"));
     openDialog(QStringLiteral("frmCopyFile"));
 }
 
@@ -91,11 +94,13 @@ void MainWindow::printDocument()
 
 void MainWindow::newRelatedDocument()
 {
+    const CommandScope command(QStringLiteral("Related"));
     openDialog(QStringLiteral("frmRelated"));
 }
 
 void MainWindow::showDetails()
 {
+    const CommandScope command(QStringLiteral("Details"));
     if (sameName(m_state.activeListName, DocumentListName))
         openDialog(QStringLiteral("frmNew"));
     else if (sameName(m_state.activeListName, RelatedListName))
@@ -116,6 +121,7 @@ void MainWindow::exitProgram()
 
 void MainWindow::editCategory()
 {
+    const CommandScope command(QStringLiteral("Category"));
     openDialog(QStringLiteral("frmCategory"));
 }
 
@@ -234,6 +240,7 @@ void MainWindow::reloadAfterDelete()
 
 void MainWindow::deleteDocument()
 {
+    const CommandScope command(QStringLiteral("Delete"));
     const QString active = m_state.activeListName;
     if (!sameName(active, DocumentListName) && !sameName(active, RelatedListName)) {
         msgBox(QStringLiteral("Select document, please!"), MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation,
@@ -402,6 +409,7 @@ bool MainWindow::trashFileOf(Connection& connection, const QString& path, const 
 
 void MainWindow::deleteCategory()
 {
+    const CommandScope command(QStringLiteral("Delete"));
     QString question;
     QString sql;
     if (m_state.currentNodeKind == QLatin1String("a")) {

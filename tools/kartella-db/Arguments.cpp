@@ -1,5 +1,7 @@
 #include "Arguments.h"
 
+#include "HistoryCommand.h"
+
 namespace kartella::tool {
 
 namespace {
@@ -44,6 +46,7 @@ QString usageText()
                           "       kartella-db import PATH FILE [--codepage NAME]\n"
                           "       kartella-db search PATH WORD...\n"
                           "       kartella-db index PATH\n"
+                          "       kartella-db history PATH [INDEX]\n"
                           "       kartella-db --help\n"
                           "\n"
                           "  create   makes a new, empty register at LOCATION: a file (an existing file\n"
@@ -73,6 +76,10 @@ QString usageText()
                           "  index    reads the text of the files of the documents of the register at\n"
                           "           PATH that are new or changed since they were last read, showing\n"
                           "           its progress, then counts the files read and those skipped, and why\n"
+                          "  history  prints the changes of the register at PATH, or of the document\n"
+                          "           whose registration index is INDEX with its related documents and\n"
+                          "           reminders, newest first: when, who, the command, what and the\n"
+                          "           change, tab-separated\n"
                           "\n"
                           "Every register named (LOCATION, FROM, TO, NEW, the register's PATH or FILE)\n"
                           "is a file or a database on a PostgreSQL server, written\n"
@@ -115,6 +122,8 @@ std::optional<Invocation> parseArguments(const QStringList& arguments, QString& 
         invocation.command = Invocation::Command::Index;
     else if (command == u"search")
         return parseSearch(arguments, problem);
+    else if (command == u"history")
+        return parseHistory(arguments, problem);
     else {
         problem = QStringLiteral("unknown command \"") + command + u'"';
         return std::nullopt;

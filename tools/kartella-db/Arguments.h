@@ -10,10 +10,10 @@ namespace kartella::tool {
 // One call of the tool, as read from its command line.
 struct Invocation
 {
-    enum class Command { Help, Create, Sample, Info, Upgrade, Migrate, Import, Search, Copy, Index };
+    enum class Command { Help, Create, Sample, Info, Upgrade, Migrate, Import, Search, Copy, Index, History };
     Command command = Command::Help;
     QString path;
-    QStringList words; // search
+    QStringList words; // search; history: the registration index, when one is given
     QString contactFile; // import: the contact file
     // import: the code page of text that is not UTF-8 (empty: guessed); migrate: the code
     // page of a Jet 3 file (empty: CP1257).

@@ -2,6 +2,7 @@
 #include "Arguments.h"
 #include "Commands.h"
 #include "CopyCommand.h"
+#include "HistoryCommand.h"
 #include "Import.h"
 #include "IndexCommand.h"
 #include "Migrate.h"
@@ -64,6 +65,9 @@ int run(const Invocation& invocation)
         indexCommand(invocation.path, out, err);
         break;
     }
+    case Invocation::Command::History:
+        historyCommand(invocation.path, invocation.words, out);
+        break;
     case Invocation::Command::Copy: {
         QTextStream err(stderr);
         return copyCommand(invocation.path, invocation.target, out, err);
