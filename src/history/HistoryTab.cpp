@@ -49,10 +49,12 @@ void HistoryTab::refresh()
     if (key <= 0)
         return;
     std::vector<HistoryEntry> entries;
+    HistoryNames names;
     try {
         Connection connection(m_connectionString.isEmpty() ? plainConnectionString() : m_connectionString);
         connection.open();
         entries = m_subject == Document ? documentHistory(connection, key) : contactHistory(connection, key);
+        names = historyNames(connection, entries);
     } catch (const Error& error) {
         // The history is a view beside the dialog's work: a register it can't read leaves it empty.
         m_table->setToolTip(error.description());
@@ -61,7 +63,7 @@ void HistoryTab::refresh()
     std::vector<HistoryLine> lines;
     lines.reserve(entries.size());
     for (const HistoryEntry& entry : entries) {
-        if (std::optional<HistoryLine> line = historyLine(entry))
+        if (std::optional<HistoryLine> line = historyLine(entry, &names))
             lines.push_back(std::move(*line));
     }
     m_table->setRowCount(int(lines.size()));

@@ -2,9 +2,11 @@
 
 #include "history/HistorySchema.h"
 #include "store/Store.h"
+#include "store/engine/Backend.h"
+#include "store/engine/Connection.h"
 
 #include <QDate>
-#include <QHash>
+#include <QSet>
 
 #include <utility>
 
@@ -95,6 +97,72 @@ QString valueText(const QVariant& value)
     return u'"' + text + u'"';
 }
 
+// Which names a column's keys stand for.
+enum class KeyKind { None, Contact, Category, SubCategory, Direction };
+
+KeyKind keyKind(const QString& table, const QString& column)
+{
+    const bool ofDocuments = table.compare(QLatin1String("tbl_Documents"), Qt::CaseInsensitive) == 0;
+    const bool ofRelated = table.compare(QLatin1String("tbl_Sub_Documents"), Qt::CaseInsensitive) == 0;
+    if ((ofDocuments || ofRelated) && column.compare(QLatin1String("ContactID"), Qt::CaseInsensitive) == 0)
+        return KeyKind::Contact;
+    if ((ofDocuments || table.compare(QLatin1String("tbl_Sub_Categories"), Qt::CaseInsensitive) == 0)
+        && column.compare(QLatin1String("KategID"), Qt::CaseInsensitive) == 0)
+        return KeyKind::Category;
+    if (ofDocuments && column.compare(QLatin1String("SubKategID"), Qt::CaseInsensitive) == 0)
+        return KeyKind::SubCategory;
+    if (ofDocuments && column.compare(QLatin1String("KryptisID"), Qt::CaseInsensitive) == 0)
+        return KeyKind::Direction;
+    return KeyKind::None;
+}
+
+// The names of the directions, by their codes, as the details dialog shows them.
+QString directionName(qint64 code)
+{
+    static const char* const names[] = {"Inner", "Outgoing", "Incoming", "Other"};
+    return code >= 1 && code <= 4 ? QLatin1String(names[code - 1]) : QString();
+}
+
+// A key's value as its name, when it has one.
+QVariant named(const QVariant& value, KeyKind kind, const HistoryNames* names)
+{
+    bool isNumber = false;
+    const qint64 key = value.toString().toLongLong(&isNumber);
+    if (value.isNull() || !isNumber)
+        return value;
+    QString name;
+    switch (kind) {
+    case KeyKind::Direction:
+        name = directionName(key);
+        break;
+    case KeyKind::Contact:
+        name = names ? names->contacts.value(key) : QString();
+        break;
+    case KeyKind::Category:
+        name = names ? names->categories.value(key) : QString();
+        break;
+    case KeyKind::SubCategory:
+        name = names ? names->subCategories.value(key) : QString();
+        break;
+    case KeyKind::None:
+        break;
+    }
+    return name.isEmpty() ? value : QVariant(name);
+}
+
+void readNames(
+    Connection& connection, const QString& sql, const QSet<qint64>& keys, QHash<qint64, QString>& names)
+{
+    if (keys.isEmpty())
+        return;
+    QStringList list;
+    for (const qint64 key : keys)
+        list << QString::number(key);
+    const engine::QueryResult result = connection.backend().query(sql.arg(list.join(u',')));
+    for (int row = 0; row < result.rows.rowCount(); ++row)
+        names.insert(result.rows.value(row, 0).toLongLong(), result.rows.value(row, 1).toString());
+}
+
 const HistoryTable* tableOf(const QString& name)
 {
     for (const HistoryTable& table : historyTables()) {
@@ -130,7 +198,48 @@ QString rowNoun(const QString& table)
     return table;
 }
 
-std::optional<HistoryLine> historyLine(const HistoryEntry& entry)
+HistoryNames historyNames(Connection& connection, const std::vector<HistoryEntry>& entries)
+{
+    QSet<qint64> contacts;
+    QSet<qint64> categories;
+    QSet<qint64> subCategories;
+    for (const HistoryEntry& entry : entries) {
+        QSet<qint64>* keys = nullptr;
+        switch (keyKind(entry.table, entry.column)) {
+        case KeyKind::Contact:
+            keys = &contacts;
+            break;
+        case KeyKind::Category:
+            keys = &categories;
+            break;
+        case KeyKind::SubCategory:
+            keys = &subCategories;
+            break;
+        default:
+            continue;
+        }
+        for (const QVariant& value : {entry.before, entry.after}) {
+            bool isNumber = false;
+            const qint64 key = value.toString().toLongLong(&isNumber);
+            if (isNumber)
+                keys->insert(key);
+        }
+    }
+    HistoryNames names;
+    readNames(connection,
+        QStringLiteral("SELECT ContactID, FullName FROM tbl_Contacts WHERE ContactID IN (%1)"), contacts,
+        names.contacts);
+    readNames(connection,
+        QStringLiteral("SELECT KategID, DokKategorija FROM tbl_Document_Categories WHERE KategID IN (%1)"),
+        categories, names.categories);
+    readNames(connection,
+        QStringLiteral(
+            "SELECT SubKategID, DokSubKategorija FROM tbl_Sub_Categories WHERE SubKategID IN (%1)"),
+        subCategories, names.subCategories);
+    return names;
+}
+
+std::optional<HistoryLine> historyLine(const HistoryEntry& entry, const HistoryNames* names)
 {
     // The keys that tie a row to its document or contact say nothing beside the row's own lines.
     if (entry.change != QLatin1String("update")) {
@@ -145,18 +254,21 @@ std::optional<HistoryLine> historyLine(const HistoryEntry& entry)
     line.when = entry.changedAt.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
     line.who = entry.who;
     line.command = entry.anotherProgram ? QStringLiteral("another program") : entry.command;
+    const KeyKind kind = keyKind(entry.table, entry.column);
+    const QVariant before = named(entry.before, kind, names);
+    const QVariant after = named(entry.after, kind, names);
     const QString noun = rowNoun(entry.table);
     const QString caption = columnCaption(entry.table, entry.column);
     if (entry.change == QLatin1String("insert")) {
         line.what = noun + QStringLiteral(" added");
-        line.change = caption + QStringLiteral(": ") + valueText(entry.after);
+        line.change = caption + QStringLiteral(": ") + valueText(after);
     } else if (entry.change == QLatin1String("delete")) {
         line.what = noun + QStringLiteral(" deleted");
-        line.change = caption + QStringLiteral(" was ") + valueText(entry.before);
+        line.change = caption + QStringLiteral(" was ") + valueText(before);
     } else {
         line.what = noun + QStringLiteral(" changed");
-        line.change = caption + QStringLiteral(" changed from ") + valueText(entry.before)
-            + QStringLiteral(" to ") + valueText(entry.after);
+        line.change = caption + QStringLiteral(" changed from ") + valueText(before) + QStringLiteral(" to ")
+            + valueText(after);
     }
     return line;
 }

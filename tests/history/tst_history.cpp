@@ -202,6 +202,15 @@ private Q_SLOTS:
         QVERIFY(changes(registerHistory(connection))
                     .contains(
                         QStringLiteral("Contact insert tbl_Document_Categories.DokKategorija:  -> Leases")));
+
+        // A key shows as the name it stands for.
+        connection.execute(QStringLiteral("UPDATE tbl_Documents SET ContactID = %1 WHERE RastasID = %2")
+                               .arg(contact)
+                               .arg(document));
+        const std::vector<HistoryEntry> latest = documentHistory(connection, document);
+        const HistoryNames names = historyNames(connection, latest);
+        QCOMPARE(historyLine(latest.front(), &names)->change,
+            QStringLiteral("Sender/Receiver changed from (empty) to \"Ona\""));
     }
 
     void failedChangeLeavesNoHistory_data() { addPlaces(); }
@@ -321,9 +330,12 @@ private Q_SLOTS:
         // The save's lines come first (the dialog stores the direction it shows beside the
         // description), then those of the document's making.
         QCOMPARE(QSet<QString>(rows.begin(), rows.begin() + 2),
-            (QSet<QString> {
-                Clerk + QStringLiteral("|Details|Document changed|Description changed from \"Lease\" to \"Lease, signed\""),
-                Clerk + QStringLiteral("|Details|Document changed|Direction changed from (empty) to \"4\"")}));
+            (QSet<QString> {Clerk
+                    + QStringLiteral(
+                        "|Details|Document changed|Description changed from \"Lease\" to \"Lease, signed\""),
+                Clerk
+                    + QStringLiteral(
+                        "|Details|Document changed|Direction changed from (empty) to \"Other\"")}));
         QCOMPARE(QSet<QString>(rows.begin() + 2, rows.end()),
             (QSet<QString> {Clerk + QStringLiteral("||Document added|Description: \"Lease\""),
                 Clerk + QStringLiteral("||Document added|Registration Index: \"A-1\""),
@@ -350,6 +362,73 @@ private Q_SLOTS:
         QVERIFY(run.lines.isEmpty());
         QCOMPARE(
             run.err.trimmed(), QStringLiteral("kartella-db: no document has the registration index \"B-2\""));
+    }
+
+    void lineSaysTheChangeInPlainWords_data()
+    {
+        QTest::addColumn<QString>("change");
+        QTest::addColumn<QString>("table");
+        QTest::addColumn<QString>("column");
+        QTest::addColumn<QVariant>("before");
+        QTest::addColumn<QVariant>("after");
+        QTest::addColumn<QString>("what");
+        QTest::addColumn<QString>("text");
+        const QString leap = QLocale().toString(QDate(2024, 2, 29), QLocale::ShortFormat);
+        QTest::newRow("update") << "update"
+                                << "tbl_Documents"
+                                << "DokAntraste" << QVariant("Old") << QVariant("New") << "Document changed"
+                                << "Description changed from \"Old\" to \"New\"";
+        QTest::newRow("date alone") << "insert"
+                                    << "tbl_Tickler"
+                                    << "TicklerDate" << QVariant() << QVariant("2024-02-29")
+                                    << "Reminder added"
+                                    << "Reminder date: " + leap;
+        QTest::newRow("date at midnight") << "delete"
+                                          << "tbl_Sub_Documents"
+                                          << "SubRastGavimoData" << QVariant("2024-02-29 00:00:00")
+                                          << QVariant() << "Related document deleted"
+                                          << "Send/Receive Date was " + leap;
+        QTest::newRow("a time is no date")
+            << "update"
+            << "tbl_Contacts"
+            << "Notes" << QVariant("2024-02-29 12:00:00") << QVariant() << "Contact changed"
+            << "Notes changed from \"2024-02-29 12:00:00\" to (empty)";
+        QTest::newRow("emptied") << "update"
+                                 << "tbl_Phones"
+                                 << "PhoneNumber" << QVariant("555") << QVariant("") << "Phone changed"
+                                 << "Phone number changed from \"555\" to (empty)";
+        QTest::newRow("named key") << "update"
+                                   << "tbl_Documents"
+                                   << "KategID" << QVariant(3) << QVariant(9) << "Document changed"
+                                   << "Category changed from \"Leases\" to \"9\"";
+        QTest::newRow("direction") << "update"
+                                   << "tbl_Documents"
+                                   << "KryptisID" << QVariant(2) << QVariant(3) << "Document changed"
+                                   << "Direction changed from \"Outgoing\" to \"Incoming\"";
+        QTest::newRow("no caption") << "update"
+                                    << "tbl_Contacts"
+                                    << "Extra" << QVariant(1) << QVariant(2) << "Contact changed"
+                                    << "Extra changed from \"1\" to \"2\"";
+    }
+    void lineSaysTheChangeInPlainWords()
+    {
+        QFETCH(QString, change);
+        QFETCH(QString, table);
+        QFETCH(QString, column);
+        QFETCH(QVariant, before);
+        QFETCH(QVariant, after);
+        HistoryEntry entry;
+        entry.change = change;
+        entry.table = table;
+        entry.column = column;
+        entry.before = before;
+        entry.after = after;
+        HistoryNames names;
+        names.categories.insert(3, QStringLiteral("Leases"));
+        const std::optional<HistoryLine> line = historyLine(entry, &names);
+        QVERIFY(line);
+        QTEST(line->what, "what");
+        QTEST(line->change, "text");
     }
 
     void olderRegisterWorksWithoutHistory()

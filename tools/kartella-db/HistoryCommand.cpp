@@ -51,8 +51,9 @@ void historyCommand(const QString& path, const QStringList& index, QTextStream& 
                 QStringLiteral("no document has the registration index \"") + index.first() + u'"');
         entries = documentHistory(connection, document);
     }
+    const HistoryNames names = historyNames(connection, entries);
     for (const HistoryEntry& entry : entries) {
-        const std::optional<HistoryLine> line = historyLine(entry);
+        const std::optional<HistoryLine> line = historyLine(entry, &names);
         if (!line)
             continue;
         out << cell(line->when) << u'\t' << cell(line->who) << u'\t' << cell(line->command) << u'\t'
