@@ -1,6 +1,7 @@
 // The history of every change: what each write records, with whom and which command; a
 // failed change and another program's writes; an older register; the History tab and
 // kartella-db history.
+#include "addressbook/ContactEditor.h"
 #include "base/Error.h"
 #include "harness/OldRegister.h"
 #include "harness/ServerDatabase.h"
@@ -8,10 +9,12 @@
 #include "history/HistoryLog.h"
 #include "history/HistoryText.h"
 #include "registration/DocumentDetailsDialog.h"
+#include "store/SchemaSteps.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
 #include "store/engine/WriteContext.h"
 
+#include <QApplication>
 #include <QDate>
 #include <QDateTime>
 #include <QLineEdit>
@@ -450,6 +453,40 @@ private Q_SLOTS:
         const ToolRun run = runHistoryTool({path});
         QCOMPARE(run.exitCode, 0);
         QVERIFY(run.lines.isEmpty());
+        connection.close();
+
+        // The upgrade brings the history, and the next change is in it.
+        upgradeRegister(path);
+        connection.open();
+        QVERIFY(registerHasHistory(connection));
+        connection.execute(
+            QStringLiteral("UPDATE tbl_Documents SET DokAntraste = 'Again' WHERE RastasID = 1"));
+        QCOMPARE(changes(documentHistory(connection, 1)),
+            QStringList {QStringLiteral("Details update tbl_Documents.DokAntraste: Changed -> Again")});
+    }
+
+    void contactEditorShowsTheContactsHistory()
+    {
+        TestRegister reg;
+        ContactEditor editor;
+        editor.show();
+        QApplication::setActiveWindow(&editor);
+        QVERIFY(QTest::qWaitForWindowActive(&editor));
+        auto* name = editor.findChild<QLineEdit*>(QStringLiteral("txtFields_4"));
+        name->setFocus();
+        QTest::keyClicks(name, QStringLiteral("Ona Petraitiene"));
+        // Add Phone stores the contact first.
+        QTest::keyClick(name, Qt::Key_P, Qt::AltModifier);
+        auto* tabs = editor.findChild<QTabWidget*>(QStringLiteral("SSTab1"));
+        tabs->setCurrentIndex(tabs->count() - 1);
+        QCOMPARE(tabs->tabText(tabs->currentIndex()), QStringLiteral("History"));
+        auto* table = editor.findChild<QTableWidget*>(QStringLiteral("lstHistory"));
+        QCOMPARE(table->rowCount(), 1);
+        QCOMPARE(table->item(0, 1)->text(), Clerk);
+        QCOMPARE(table->item(0, 2)->text(), QStringLiteral("Contact"));
+        QCOMPARE(table->item(0, 3)->text(), QStringLiteral("Contact added"));
+        QCOMPARE(table->item(0, 4)->text(), QStringLiteral("FullName: \"Ona Petraitiene\""));
+        editor.reject();
     }
 };
 
