@@ -1,5 +1,6 @@
 #include "history/HistorySchema.h"
 
+#include "history/HistoryLog.h"
 #include "store/engine/Backend.h"
 #include "store/engine/Connection.h"
 
@@ -132,6 +133,34 @@ void addServerHistory(Connection& connection)
             QStringLiteral("CREATE TRIGGER \"trg_History\" AFTER INSERT OR UPDATE OR DELETE ON \"%1\" FOR "
                            "EACH ROW EXECUTE FUNCTION \"trg_History\"('%2', '%3', '%4')")
                 .arg(table.name, table.key, table.documentKey, table.contactKey));
+    }
+}
+
+void pauseHistory(Connection& connection)
+{
+    if (!registerHasHistory(connection))
+        return;
+    const bool server = connection.dialect() == SqlDialect::PostgreSql;
+    for (const HistoryTable& table : historyTables()) {
+        if (server)
+            connection.execute(
+                QStringLiteral("ALTER TABLE \"%1\" DISABLE TRIGGER \"trg_History\"").arg(table.name));
+        else
+            dropSqliteTriggers(connection, table);
+    }
+}
+
+void resumeHistory(Connection& connection)
+{
+    if (!registerHasHistory(connection))
+        return;
+    const bool server = connection.dialect() == SqlDialect::PostgreSql;
+    for (const HistoryTable& table : historyTables()) {
+        if (server)
+            connection.execute(
+                QStringLiteral("ALTER TABLE \"%1\" ENABLE TRIGGER \"trg_History\"").arg(table.name));
+        else
+            recreateHistoryTriggers(connection, table);
     }
 }
 

@@ -37,4 +37,11 @@ void addServerHistory(Connection& connection);
 // for a later step that adds a column to one of the tables (a server's need nothing).
 void recreateHistoryTriggers(Connection& connection, const HistoryTable& table);
 
+// Inside a transaction of connection: from pauseHistory to resumeHistory its writes are not
+// recorded, for rows that are no change of anybody's (a register copied or migrated into a
+// new one, whose history comes along as rows of its own). A rollback undoes the pause too.
+// Nothing to do on a register without history.
+void pauseHistory(Connection& connection);
+void resumeHistory(Connection& connection);
+
 } // namespace kartella

@@ -7,6 +7,7 @@
 #include "harness/ServerDatabase.h"
 #include "harness/TestRegister.h"
 #include "history/HistoryLog.h"
+#include "history/HistorySchema.h"
 #include "history/HistoryText.h"
 #include "registration/DocumentDetailsDialog.h"
 #include "store/SchemaSteps.h"
@@ -432,6 +433,29 @@ private Q_SLOTS:
         QVERIFY(line);
         QTEST(line->what, "what");
         QTEST(line->change, "text");
+    }
+
+    void pausedHistoryRecordsNothingUntilResumed_data() { addPlaces(); }
+    void pausedHistoryRecordsNothingUntilResumed()
+    {
+        REGISTER_OR_SKIP(reg);
+        Connection connection(reg->connectionString());
+        connection.open();
+        const qsizetype before = registerHistory(connection).size();
+        connection.beginTrans();
+        pauseHistory(connection);
+        connection.execute(QStringLiteral("INSERT INTO tbl_Contacts (FullName) VALUES ('Copied')"));
+        resumeHistory(connection);
+        connection.commitTrans();
+        QCOMPARE(registerHistory(connection).size(), before);
+        // A pause rolled back leaves the history on.
+        connection.beginTrans();
+        pauseHistory(connection);
+        connection.rollbackTrans();
+        connection.execute(QStringLiteral("INSERT INTO tbl_Contacts (FullName) VALUES ('Typed')"));
+        const std::vector<HistoryEntry> history = registerHistory(connection);
+        QCOMPARE(qsizetype(history.size()), before + 1);
+        QCOMPARE(history.front().after.toString(), QStringLiteral("Typed"));
     }
 
     void olderRegisterWorksWithoutHistory()
