@@ -11,6 +11,7 @@
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
+#include "store/engine/WriteContext.h"
 #include "support/BusyCursor.h"
 #include "support/ChangedRowPrompt.h"
 #include "support/DialogParts.h"
@@ -326,6 +327,7 @@ void AddressBookWindow::newContact()
 
 void AddressBookWindow::deleteContact()
 {
+    const CommandScope command(QStringLiteral("Delete"));
     // The contact goes with its phones and web pages; its documents keep its key.
     try {
         if (!m_contacts->isOpen() || m_contacts->eof() || m_contacts->bof())

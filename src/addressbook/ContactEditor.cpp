@@ -2,10 +2,12 @@
 
 #include "addressbook/ContactQueries.h"
 #include "base/Error.h"
+#include "history/HistoryTab.h"
 #include "options/OptionStore.h"
 #include "platform/Prompter.h"
 #include "store/Store.h"
 #include "store/engine/Recordset.h"
+#include "store/engine/WriteContext.h"
 #include "support/BusyCursor.h"
 #include "support/ChangedRowPrompt.h"
 #include "support/DialogParts.h"
@@ -104,6 +106,9 @@ void ContactEditor::buildWidgets()
     m_notes->setAccessibleName(QStringLiteral("Notes"));
     m_notes->setTabChangesFocus(true);
     m_tabs->addTab(m_notes, QStringLiteral("Notes"));
+    m_tabs->addTab(new HistoryTab(
+                       HistoryTab::Contact, [this] { return m_contactId->text().toLongLong(); }, this),
+        QStringLiteral("History"));
 
     m_ok = makeButton(QStringLiteral("cmdOk"), QStringLiteral("OK"), this);
     m_cancel = makeButton(QStringLiteral("cmdClose"), QStringLiteral("Cancel"), this);
@@ -226,6 +231,7 @@ void ContactEditor::addContactRow()
 
 void ContactEditor::saveContactRow()
 {
+    const CommandScope command(QStringLiteral("Contact"));
     try {
         m_contact->updateBatch(AffectEnum::All);
         m_contact->moveLast();
@@ -300,6 +306,7 @@ void ContactEditor::dropUntypedHomePage()
 
 void ContactEditor::storeGridRows()
 {
+    const CommandScope command(QStringLiteral("Contact"));
     try {
         if (Recordset* phones = m_phoneModel->recordset(); phones && phones->isOpen())
             phones->updateBatch(AffectEnum::All);

@@ -19,6 +19,7 @@
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
+#include "store/engine/WriteContext.h"
 #include "support/SelectionState.h"
 #include "support/SharedPrinter.h"
 
@@ -55,6 +56,7 @@ QString deleteSubDocumentSql(qint32 id)
 
 void MainWindow::newDocument()
 {
+    const CommandScope command(QStringLiteral("New Document"));
     openDialog(QStringLiteral("frmNewDocument"));
 }
 
@@ -65,6 +67,7 @@ void MainWindow::openDocument()
 
 void MainWindow::copyDocument()
 {
+    const CommandScope command(QStringLiteral("Copy/Move"));
     openDialog(QStringLiteral("frmCopyFile"));
 }
 
@@ -95,11 +98,13 @@ void MainWindow::printDocument()
 
 void MainWindow::newRelatedDocument()
 {
+    const CommandScope command(QStringLiteral("Related"));
     openDialog(QStringLiteral("frmRelated"));
 }
 
 void MainWindow::showDetails()
 {
+    const CommandScope command(QStringLiteral("Details"));
     if (sameName(m_state.activeListName, DocumentListName))
         openDialog(QStringLiteral("frmNew"));
     else if (sameName(m_state.activeListName, RelatedListName))
@@ -120,6 +125,7 @@ void MainWindow::exitProgram()
 
 void MainWindow::editCategory()
 {
+    const CommandScope command(QStringLiteral("Category"));
     openDialog(QStringLiteral("frmCategory"));
 }
 
@@ -238,6 +244,7 @@ void MainWindow::reloadAfterDelete()
 
 void MainWindow::deleteDocument()
 {
+    const CommandScope command(QStringLiteral("Delete"));
     const QString active = m_state.activeListName;
     if (!sameName(active, DocumentListName) && !sameName(active, RelatedListName)) {
         msgBox(QStringLiteral("Select document, please!"), MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation,
@@ -418,6 +425,7 @@ bool MainWindow::trashFileOf(Connection& connection, const QString& path, const 
 
 void MainWindow::deleteCategory()
 {
+    const CommandScope command(QStringLiteral("Delete"));
     QString question;
     QString sql;
     const bool category = m_state.currentNodeKind == QLatin1String("a");

@@ -19,6 +19,7 @@
 #include "registration/NewDocumentDialog.h"
 #include "registration/RelatedDocumentDialog.h"
 #include "reports/ReportPreview.h"
+#include "store/engine/WriteContext.h"
 #include "support/SelectionState.h"
 
 #include <QAction>
@@ -165,8 +166,10 @@ void MainWindow::registerDialogs()
         dialog.exec();
     });
 
-    setDialog(QStringLiteral("frmNewCategory"),
-        [this](const QString&) { openCategoryDialog<NewCategoryDialog>(this); });
+    setDialog(QStringLiteral("frmNewCategory"), [this](const QString&) {
+        const CommandScope command(QStringLiteral("Category"));
+        openCategoryDialog<NewCategoryDialog>(this);
+    });
     setDialog(QStringLiteral("frmCategory"), [this](const QString&) {
         if (openCategoryDialog<CategoryDialog>(this))
             refresh();

@@ -6,6 +6,7 @@
 #include "store/SchemaSteps.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
+#include "store/engine/WriteContext.h"
 #include "support/BusyCursor.h"
 
 #include <QHBoxLayout>
@@ -187,6 +188,7 @@ bool RemindersWindow::offerUpgrade()
 
 void RemindersWindow::markDone()
 {
+    const CommandScope command(QStringLiteral("Reminders Done"));
     // Every selected line, or the current one when none is selected.
     std::vector<int> rows;
     for (QTreeWidgetItem* line : m_list->selectedItems())

@@ -1,14 +1,16 @@
 #include "registration/DocumentDetailsDialog.h"
-#include "registration/FileTextStatus.h"
 
 #include "base/Error.h"
+#include "history/HistoryTab.h"
 #include "options/OptionStore.h"
 #include "platform/Prompter.h"
 #include "registration/DateBox.h"
+#include "registration/FileTextStatus.h"
 #include "registration/RegIndex.h"
 #include "registration/RegIndexOffer.h"
 #include "store/Store.h"
 #include "store/engine/Recordset.h"
+#include "store/engine/WriteContext.h"
 #include "support/BoundList.h"
 #include "support/BusyCursor.h"
 #include "support/ChangedRowPrompt.h"
@@ -166,6 +168,9 @@ void DocumentDetailsDialog::buildWidgets()
     m_notes->setAccessibleName(QStringLiteral("Notes"));
     m_notes->setTabChangesFocus(true);
     m_tabs->addTab(m_notes, QStringLiteral("Notes"));
+    m_tabs->addTab(new HistoryTab(
+                       HistoryTab::Document, [this] { return qint64(m_documentId); }, this),
+        QStringLiteral("History"));
 
     m_ok = makeDialogButton(QStringLiteral("cmdButton_0"), QStringLiteral("OK"), this);
     m_cancel = makeDialogButton(QStringLiteral("cmdButton_1"), QStringLiteral("Cancel"), this);
@@ -469,6 +474,7 @@ bool DocumentDetailsDialog::apply()
     if (!m_changed)
         return true;
     const BusyCursor busy;
+    const CommandScope command(QStringLiteral("Details"));
     try {
         commitOpenEditor();
         for (;;) {

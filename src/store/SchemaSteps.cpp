@@ -1,6 +1,7 @@
 #include "store/SchemaSteps.h"
 
 #include "base/Error.h"
+#include "history/HistorySchema.h"
 #include "store/DueReminders.h"
 #include "store/SearchIndex.h"
 #include "store/Store.h"
@@ -77,6 +78,7 @@ const std::vector<SchemaStep>& schemaSteps()
             addServerDocumentTextStore},
         {8, QStringLiteral("search index of the words of the documents' files"), createContentIndex,
             createServerContentIndex},
+        {9, QStringLiteral("the history of every change"), addHistory, addServerHistory},
         {10, QStringLiteral("the trash of deleted items"), addTrash, addServerTrash},
     };
     return steps;

@@ -1,5 +1,7 @@
 #include "Arguments.h"
 
+#include "HistoryCommand.h"
+
 namespace kartella::tool {
 
 namespace {
@@ -47,6 +49,7 @@ QString usageText()
                           "       kartella-db trash PATH\n"
                           "       kartella-db restore PATH INDEX\n"
                           "       kartella-db purge PATH --older-than DAYS\n"
+                          "       kartella-db history PATH [INDEX]\n"
                           "       kartella-db --help\n"
                           "\n"
                           "  create   makes a new, empty register at LOCATION: a file (an existing file\n"
@@ -81,6 +84,10 @@ QString usageText()
                           "  restore  puts the deleted document of the registration index INDEX back,\n"
                           "           with its related documents, reminders and files\n"
                           "  purge    deletes for good the items deleted more than DAYS days ago\n"
+                          "  history  prints the changes of the register at PATH, or of the document\n"
+                          "           whose registration index is INDEX with its related documents and\n"
+                          "           reminders, newest first: when, who, the command, what and the\n"
+                          "           change, tab-separated\n"
                           "\n"
                           "Every register named (LOCATION, FROM, TO, NEW, the register's PATH or FILE)\n"
                           "is a file or a database on a PostgreSQL server, written\n"
@@ -129,6 +136,8 @@ std::optional<Invocation> parseArguments(const QStringList& arguments, QString& 
         invocation.command = Invocation::Command::Purge;
     else if (command == u"search")
         return parseSearch(arguments, problem);
+    else if (command == u"history")
+        return parseHistory(arguments, problem);
     else {
         problem = QStringLiteral("unknown command \"") + command + u'"';
         return std::nullopt;

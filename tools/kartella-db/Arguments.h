@@ -23,11 +23,12 @@ struct Invocation
         Index,
         Trash,
         Restore,
-        Purge
+        Purge,
+        History
     };
     Command command = Command::Help;
     QString path;
-    QStringList words; // search
+    QStringList words; // search; history: the registration index, when one is given
     QString contactFile; // import: the contact file
     // import: the code page of text that is not UTF-8 (empty: guessed); migrate: the code
     // page of a Jet 3 file (empty: CP1257).

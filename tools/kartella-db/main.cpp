@@ -2,6 +2,7 @@
 #include "Arguments.h"
 #include "Commands.h"
 #include "CopyCommand.h"
+#include "HistoryCommand.h"
 #include "Import.h"
 #include "IndexCommand.h"
 #include "Migrate.h"
@@ -73,6 +74,9 @@ int run(const Invocation& invocation)
         break;
     case Invocation::Command::Purge:
         purgeCommand(invocation.path, invocation.olderThanDays, out);
+        break;
+    case Invocation::Command::History:
+        historyCommand(invocation.path, invocation.words, out);
         break;
     case Invocation::Command::Copy: {
         QTextStream err(stderr);

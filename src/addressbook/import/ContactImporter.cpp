@@ -5,6 +5,7 @@
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
 #include "store/engine/Value.h"
+#include "store/engine/WriteContext.h"
 
 #include <QElapsedTimer>
 
@@ -81,6 +82,7 @@ ContactImporter::ContactImporter(QString connectionString, ErrorHandler onError)
 
 bool ContactImporter::run(const QList<ContactItem>& items)
 {
+    const CommandScope command(QStringLiteral("Import"));
     m_counts = {};
     Connection connection;
     connection.setCursorLocation(CursorLocationEnum::UseClient);

@@ -2,6 +2,7 @@
 
 #include "store/engine/Connection.h"
 #include "store/engine/RowStore.h"
+#include "store/engine/WriteContext.h"
 
 #include <QString>
 #include <QStringList>
@@ -115,6 +116,16 @@ public:
     // every writer taking the same name takes, so that a "look, then write" (a duplicate
     // check, a counter) sees no other writer's rows appear between its look and its write.
     virtual void lockForWriting(const QString& name) = 0;
+
+    // Whether this connection's writes carry the program's user and command (see
+    // WriteContext.h); one that does not writes as another program would.
+    void setCarriesContext(bool carries) { m_carriesContext = carries; }
+
+protected:
+    bool writesWithContext() const { return m_carriesContext && !WriteContext::user().isEmpty(); }
+
+private:
+    bool m_carriesContext = true;
 };
 
 } // namespace kartella

@@ -85,4 +85,12 @@ void findKeyColumn(QueryResult& result, const TableSchema& schema)
     }
 }
 
+bool writesRows(const QString& sql)
+{
+    const QStringView head = QStringView(sql).trimmed().left(7);
+    return head.startsWith(u"INSERT", Qt::CaseInsensitive) || head.startsWith(u"UPDATE", Qt::CaseInsensitive)
+        || head.startsWith(u"DELETE", Qt::CaseInsensitive)
+        || head.startsWith(u"REPLACE", Qt::CaseInsensitive);
+}
+
 } // namespace kartella::engine

@@ -42,4 +42,7 @@ QString waitText(int milliseconds);
 // Sets the result's key column and name when the table's key is among its visible columns.
 void findKeyColumn(QueryResult& result, const TableSchema& schema);
 
+// Whether a statement inserts, updates or deletes rows (and so is recorded in the history).
+bool writesRows(const QString& sql);
+
 } // namespace kartella::engine

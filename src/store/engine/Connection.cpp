@@ -87,6 +87,14 @@ void Connection::open(const QString& connectionString)
     if (!connectionString.isEmpty())
         m_connectionString = connectionString;
     m_backend = openBackend(m_connectionString);
+    m_backend->setCarriesContext(m_carriesContext);
+}
+
+void Connection::setCarriesContext(bool carries)
+{
+    m_carriesContext = carries;
+    if (m_backend)
+        m_backend->setCarriesContext(carries);
 }
 
 void Connection::close()

@@ -68,6 +68,11 @@ public:
     // (see Backend::lockForWriting).
     void lockForWriting(const QString& name);
 
+    // Whether the writes of this connection carry the program's user and command into the
+    // register's history (see WriteContext.h); true unless set. One that does not stands for
+    // another program.
+    void setCarriesContext(bool carries);
+
     // The dialect of the open back end; throws when the connection is closed.
     SqlDialect dialect();
 
@@ -84,6 +89,7 @@ private:
     QString m_connectionString;
     int m_mode = ConnectModeEnum::Unknown;
     int m_cursorLocation = CursorLocationEnum::UseServer;
+    bool m_carriesContext = true;
     std::unique_ptr<Backend> m_backend;
 };
 

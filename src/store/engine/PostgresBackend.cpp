@@ -234,6 +234,18 @@ PostgresBackend::Result PostgresBackend::runText(const QString& sql, const QStri
 
 void PostgresBackend::execute(const QString& sql)
 {
+    // A write carries the program's context, which lives in a transaction.
+    if (m_depth == 0 && writesWithContext() && writesRows(sql)) {
+        beginTransaction();
+        try {
+            execute(sql);
+            commitTransaction();
+        } catch (...) {
+            rollbackTransaction();
+            throw;
+        }
+        return;
+    }
     const StatementGuard guard(*this);
     const QString translated = translate(sql);
     const QStringView head = QStringView(translated).trimmed();

@@ -72,6 +72,17 @@ void PostgresBackend::beginTransaction()
     m_guardOpen = false;
     runText(sql, sql);
     ++m_depth;
+    if (m_depth == 1 && writesWithContext()) {
+        // Read by the history's triggers; gone with the transaction.
+        const QString context = QStringLiteral(
+            "SELECT set_config('kartella.who', $1, true), set_config('kartella.command', $2, true)");
+        try {
+            run(context.toUtf8(), {WriteContext::user().toUtf8(), WriteContext::command().toUtf8()}, context);
+        } catch (...) {
+            endTransaction();
+            throw;
+        }
+    }
 }
 
 void PostgresBackend::commitTransaction()

@@ -227,21 +227,30 @@ void SqliteBackend::execute(const QString& sql)
 {
     const QString translated = translateJetToSqlite(sql);
     const QStringView head = QStringView(translated).trimmed().left(6);
-    if (head.compare(u"CREATE", Qt::CaseInsensitive) == 0 || head.startsWith(u"ALTER", Qt::CaseInsensitive)
-        || head.startsWith(u"DROP", Qt::CaseInsensitive))
+    const bool changesSchema = head.compare(u"CREATE", Qt::CaseInsensitive) == 0
+        || head.startsWith(u"ALTER", Qt::CaseInsensitive) || head.startsWith(u"DROP", Qt::CaseInsensitive);
+    if (changesSchema) {
         m_schemas.clear();
-    const QByteArray text = translated.toUtf8();
-    const char* start = text.constData();
-    const char* end = start + text.size();
-    while (start < end) {
-        const char* tail = nullptr;
-        Statement statement = prepare(QByteArray::fromRawData(start, end - start), sql, &tail);
-        if (statement)
-            run(statement.get(), sql);
-        if (tail == nullptr || tail <= start)
-            break;
-        start = tail;
+        m_hasContextTable.reset();
     }
+    const auto runAll = [&] {
+        const QByteArray text = translated.toUtf8();
+        const char* start = text.constData();
+        const char* end = start + text.size();
+        while (start < end) {
+            const char* tail = nullptr;
+            Statement statement = prepare(QByteArray::fromRawData(start, end - start), sql, &tail);
+            if (statement)
+                run(statement.get(), sql);
+            if (tail == nullptr || tail <= start)
+                break;
+            start = tail;
+        }
+    };
+    if (writesRows(translated))
+        withContext(runAll);
+    else
+        runAll();
 }
 
 QueryResult SqliteBackend::query(const QString& sql)
@@ -470,17 +479,21 @@ QVariant SqliteBackend::insertRow(
         sql += QStringLiteral(" (") + names.join(u',') + QStringLiteral(") VALUES (")
             + QString(QStringLiteral("?,")).repeated(columns.size()).chopped(1) + u')';
     }
-    sqlite3_stmt* statement = cachedStatement(sql);
-    for (int i = 0; i < values.size(); ++i)
-        bind(statement, i + 1, values[i], sql);
-    run(statement, sql);
+    qint64 generated = 0;
+    withContext([&] {
+        sqlite3_stmt* statement = cachedStatement(sql);
+        for (int i = 0; i < values.size(); ++i)
+            bind(statement, i + 1, values[i], sql);
+        run(statement, sql);
+        generated = sqlite3_last_insert_rowid(m_db);
+    });
     if (!table.keyGenerated) {
         for (qsizetype i = 0; i < columns.size(); ++i) {
             if (columns[i].compare(table.key, Qt::CaseInsensitive) == 0)
                 return values[i];
         }
     }
-    return QVariant(qint64(sqlite3_last_insert_rowid(m_db)));
+    return QVariant(generated);
 }
 
 void SqliteBackend::updateRow(const TableSchema& table, const QString& keyName, const QVariant& key,
@@ -512,10 +525,14 @@ void SqliteBackend::updateRow(const TableSchema& table, const QString& keyName, 
             parameters << original;
         }
     }
-    sqlite3_stmt* statement = cachedStatement(sql);
-    for (int i = 0; i < parameters.size(); ++i)
-        bind(statement, i + 1, parameters[i], sql);
-    if (run(statement, sql) > 0)
+    int changed = 0;
+    withContext([&] {
+        sqlite3_stmt* statement = cachedStatement(sql);
+        for (int i = 0; i < parameters.size(); ++i)
+            bind(statement, i + 1, parameters[i], sql);
+        changed = run(statement, sql);
+    });
+    if (changed > 0)
         return;
     if (readRow(table, keyName, key, {keyName}).rows.rowCount() == 0)
         failRowGone(table, keyName, key);
@@ -554,9 +571,11 @@ void SqliteBackend::deleteRow(const TableSchema& table, const QString& keyName, 
 {
     const QString sql = QStringLiteral("DELETE FROM ") + quotedName(table.name) + QStringLiteral(" WHERE ")
         + quotedName(keyName) + QStringLiteral("=?");
-    sqlite3_stmt* statement = cachedStatement(sql);
-    bind(statement, 1, key, sql);
-    run(statement, sql);
+    withContext([&] {
+        sqlite3_stmt* statement = cachedStatement(sql);
+        bind(statement, 1, key, sql);
+        run(statement, sql);
+    });
 }
 
 } // namespace kartella::engine

@@ -4,8 +4,10 @@
 
 #include <QHash>
 
+#include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -77,6 +79,12 @@ private:
     [[noreturn]] void fail(int code, const QString& shownSql) const;
     // Whether the register has SQLite's table of key counters.
     bool hasCounterTable();
+    // The one-row table that hands the writer's user and command to the history's triggers
+    // (see WriteContext.h): false on a register older than the history.
+    bool hasContextTable();
+    void writeContext();
+    // Runs a write in a transaction of its own when it carries a context and none is open.
+    void withContext(const std::function<void()>& write);
     void readRows(
         sqlite3_stmt* statement, QueryResult& result, const std::vector<int>& order, const QString& shownSql);
 
@@ -85,6 +93,8 @@ private:
     int m_depth = 0;
     std::map<QString, TableSchema> m_schemas; // by lower-case name
     QHash<QString, sqlite3_stmt*> m_writeStatements;
+    std::optional<bool> m_hasContextTable;
+    bool m_contextWritten = false;
 };
 
 // Registers NAMEFOLD and like() on a connection; false when SQLite refused.

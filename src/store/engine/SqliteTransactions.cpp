@@ -22,6 +22,57 @@ void SqliteBackend::beginTransaction()
                                      : QStringLiteral("SAVEPOINT level") + QString::number(m_depth);
     execute(sql);
     ++m_depth;
+    if (m_depth == 1 && writesWithContext() && hasContextTable()) {
+        try {
+            writeContext();
+        } catch (...) {
+            rollbackTransaction();
+            throw;
+        }
+    }
+}
+
+bool SqliteBackend::hasContextTable()
+{
+    if (!m_hasContextTable) {
+        const QString sql = QStringLiteral(
+            "SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = 'tbl_Write_Context'");
+        const Statement statement = prepare(sql.toUtf8(), sql);
+        const int code = sqlite3_step(statement.get());
+        if (code != SQLITE_ROW && code != SQLITE_DONE)
+            fail(code, sql);
+        m_hasContextTable = code == SQLITE_ROW;
+    }
+    return *m_hasContextTable;
+}
+
+void SqliteBackend::writeContext()
+{
+    const QString sql = QStringLiteral(
+        "INSERT OR REPLACE INTO tbl_Write_Context (ContextID, Who, Command) VALUES (1, ?1, ?2)");
+    sqlite3_stmt* statement = cachedStatement(sql);
+    bind(statement, 1, WriteContext::user(), sql);
+    // An empty command is the program's all the same: only another program's is Null.
+    const QString command = WriteContext::command();
+    bind(statement, 2, command.isEmpty() ? QVariant(QStringLiteral("")) : QVariant(command), sql);
+    run(statement, sql);
+    m_contextWritten = true;
+}
+
+void SqliteBackend::withContext(const std::function<void()>& write)
+{
+    if (m_depth > 0 || !writesWithContext() || !hasContextTable()) {
+        write();
+        return;
+    }
+    beginTransaction();
+    try {
+        write();
+        commitTransaction();
+    } catch (...) {
+        rollbackTransaction();
+        throw;
+    }
 }
 
 void SqliteBackend::commitTransaction()
@@ -33,6 +84,7 @@ void SqliteBackend::commitTransaction()
     // I/O error); a COMMIT then would commit nothing.
     if (sqlite3_get_autocommit(m_db) != 0) {
         m_depth = 0;
+        m_contextWritten = false;
         throwError(ErrorNumber::CommandFailed, NotCommitted, ConnectionSource);
     }
     if (m_depth > 1) {
@@ -40,10 +92,18 @@ void SqliteBackend::commitTransaction()
         --m_depth;
         return;
     }
-    m_depth = 0;
     try {
+        // The context is the writer's while it writes: another program writing after this
+        // commit finds none.
+        if (m_contextWritten) {
+            m_contextWritten = false;
+            const QString clear = QStringLiteral("DELETE FROM tbl_Write_Context");
+            run(cachedStatement(clear), clear);
+        }
+        m_depth = 0;
         execute(QStringLiteral("COMMIT"));
     } catch (const Error&) {
+        m_depth = 0;
         // A COMMIT that failed may leave the transaction open (a lock it could not get):
         // end it, so that the failure means the same whatever its cause.
         if (sqlite3_get_autocommit(m_db) == 0)
@@ -64,6 +124,9 @@ void SqliteBackend::rollbackTransaction()
         return;
     }
     if (m_depth == 1) {
+        m_contextWritten = false;
+        // A table the transaction made may be gone again.
+        m_hasContextTable.reset();
         execute(QStringLiteral("ROLLBACK"));
     } else {
         const QString name = QStringLiteral("level") + QString::number(m_depth - 1);
