@@ -6,7 +6,10 @@
 //   import_without_history_cpu_s: <s>   history
 //   history_open_ms: <n>      a document's History tab filled, with 1 000 000 history rows in
 //                             the register (made once, kept in the build's bench-data folder)
+//   delete_ms, restore_ms     a document with 20 related documents and their files deleted into
+//                             the trash and restored (TrashBench.h)
 // Options: --saves <n> (300), --contacts <n> (10000).
+#include "TrashBench.h"
 #include "addressbook/import/ContactFile.h"
 #include "addressbook/import/ContactImporter.h"
 #include "base/Error.h"
@@ -23,6 +26,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTextStream>
 
 #include <algorithm>
 #include <cstdio>
@@ -229,6 +233,9 @@ int main(int argc, char** argv)
         std::printf("import_without_history_cpu_s: %.2f\n", without.cpuSeconds);
         std::fflush(stdout);
         std::printf("history_open_ms: %.1f\n", historyOpenMs(1000000));
+        std::fflush(stdout);
+        QTextStream out(stdout);
+        kartella::bench::measureTrash(dir.path(), out);
     } catch (const Error& error) {
         std::fprintf(stderr, "kartella-bench-history: %s\n", qPrintable(error.description()));
         return 1;

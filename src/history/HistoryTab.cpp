@@ -3,6 +3,7 @@
 #include "base/Error.h"
 #include "history/HistoryLog.h"
 #include "history/HistoryText.h"
+#include "history/VersionList.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 
@@ -40,6 +41,19 @@ void HistoryTab::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
     refresh();
+}
+
+void HistoryTab::showFileVersions(qint64 documentId, const QString& currentPath)
+{
+    if (m_versions || documentId <= 0)
+        return;
+    auto* caption = new QLabel(QStringLiteral("Earlier &versions of the file:"), this);
+    m_versions = new VersionList(documentId, currentPath, this);
+    caption->setBuddy(m_versions->list());
+    m_layout->addWidget(caption);
+    m_layout->addWidget(m_versions);
+    // A version made current is a change of the document too.
+    connect(m_versions, &VersionList::restored, this, &HistoryTab::refresh);
 }
 
 void HistoryTab::refresh()

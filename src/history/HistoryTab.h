@@ -10,6 +10,8 @@ class QVBoxLayout;
 
 namespace kartella {
 
+class VersionList;
+
 // The History tab of the details dialog and the contact editor: the changes of one
 // document (with its related documents and reminders) or of one contact (with its phones
 // and web pages), newest first, in the words of HistoryText.h. Read-only; it reads the
@@ -29,6 +31,9 @@ public:
     // The tab's layout, for the lists that go under the changes.
     QVBoxLayout* pageLayout() const { return m_layout; }
 
+    // Shows the earlier versions of a document's file, at currentPath now, under the changes.
+    void showFileVersions(qint64 documentId, const QString& currentPath);
+
     // The register to read, as a connection string; the one the options name unless set.
     void setConnectionString(const QString& connectionString) { m_connectionString = connectionString; }
 
@@ -44,6 +49,7 @@ private:
     QString m_connectionString;
     QTableWidget* m_table = nullptr;
     QVBoxLayout* m_layout = nullptr;
+    VersionList* m_versions = nullptr;
 };
 
 } // namespace kartella

@@ -3,6 +3,7 @@
 #include "history/TrashParts.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
+#include "store/engine/WriteContext.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -99,6 +100,8 @@ bool Trash::rowExists(const QString& table, const QString& key, qint64 value)
 
 RestoreOutcome Trash::restore(qint64 itemId)
 {
+    // The history records what comes back as the restore's, whoever asked for it.
+    const CommandScope command(QStringLiteral("Restore"));
     RestoreOutcome outcome;
     QList<QPair<QString, QString>> moved;
     QStringList emptied;

@@ -351,6 +351,8 @@ void DocumentDetailsDialog::load()
 
     setWindowTitle(m_description->text() + QStringLiteral(" Description"));
     showIcon();
+    if (auto* history = findChild<HistoryTab*>(); history && !m_gone)
+        history->showFileVersions(id, m_location->text());
 
     showDirection();
     setClean();

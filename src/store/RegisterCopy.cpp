@@ -1,6 +1,7 @@
 #include "store/RegisterCopy.h"
 
 #include "base/Error.h"
+#include "history/HistorySchema.h"
 #include "store/InsertBatch.h"
 #include "store/Schema.h"
 #include "store/SchemaSteps.h"
@@ -70,6 +71,17 @@ QStringList columnsOf(Connection& connection, const QString& table)
     const QStringList names = none.fieldNames();
     none.close();
     return names;
+}
+
+// The register's records of its own past, copied after its tables: the history of changes
+// and the trash (both of the newest schema, which a copy's source has).
+const QList<migration::TableMapping>& keptRecordTables()
+{
+    static const QList<migration::TableMapping> tables = {
+        {QStringLiteral("tbl_History"), {{QStringLiteral("HistoryID"), migration::FieldKind::Integer}}},
+        {QStringLiteral("tbl_Trash"), {{QStringLiteral("TrashID"), migration::FieldKind::Integer}}},
+    };
+    return tables;
 }
 
 // The rows of one table, in the order of their keys, written with their keys.
@@ -224,9 +236,15 @@ RegisterCopyReport copyRegister(const QString& from, const QString& to, const Re
         connection.open(plainConnectionString(JetProvider, target));
         connection.beginTrans();
         try {
+            // The copied rows are no one's change: the source's history comes along as rows
+            // of its own, with its trash.
+            pauseHistory(connection);
             // Parents before their children: a new document's search text takes its contact's name.
             for (const migration::TableMapping& mapping : migration::registerTables())
                 report.tables << copyTable(source, connection, mapping, progress);
+            for (const migration::TableMapping& mapping : keptRecordTables())
+                report.tables << copyTable(source, connection, mapping, progress);
+            resumeHistory(connection);
             counted = true;
             // The engine moves a server's key generators past the copied keys as it commits.
             if (report.complete())

@@ -1,6 +1,7 @@
 #include "store/SampleRegister.h"
 
 #include "base/Error.h"
+#include "history/HistorySchema.h"
 #include "store/InsertBatch.h"
 #include "store/SampleData.h"
 #include "store/SampleFiles.h"
@@ -450,7 +451,10 @@ void fillSampleRegister(const QString& registerPath, const SampleOptions& option
     SampleWriter writer(connection, options, sampleFilesFolder(path));
     connection.beginTrans();
     try {
+        // A sample is no one's change: its rows come without history.
+        pauseHistory(connection);
         writer.writeRows();
+        resumeHistory(connection);
         connection.commitTrans();
     } catch (...) {
         connection.rollbackTrans();

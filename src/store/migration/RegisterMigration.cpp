@@ -1,5 +1,6 @@
 #include "store/migration/RegisterMigration.h"
 
+#include "history/HistorySchema.h"
 #include "store/InsertBatch.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
@@ -100,8 +101,11 @@ MigrationReport migrateRegister(SourceDatabase& source, const QString& registerP
         isServerLocation(registerPath) ? registerPath : QFileInfo(registerPath).absoluteFilePath()));
     connection.beginTrans();
     try {
+        // The old register's rows are no one's change in this one.
+        pauseHistory(connection);
         for (const TableMapping& mapping : mappings)
             report.tables << copyTable(source, connection, mapping);
+        resumeHistory(connection);
         connection.commitTrans();
     } catch (...) {
         connection.rollbackTrans();
