@@ -106,8 +106,10 @@ SectionFile::Status SectionFile::load(const QString& path)
     if (file.error() != QFileDevice::NoError)
         return Status::Unreadable;
     m_lines = text.split(u'\n');
+    // Every carriage return before the line's end goes with it: a file that went through a
+    // conversion twice ends its lines "\r\r\n", and a value never ends with one.
     for (QString& line : m_lines) {
-        if (line.endsWith(u'\r'))
+        while (line.endsWith(u'\r'))
             line.chop(1);
     }
     while (!m_lines.isEmpty() && m_lines.last().isEmpty())

@@ -102,6 +102,26 @@ private Q_SLOTS:
         QCOMPARE(file.value(QStringLiteral("Options"), QStringLiteral("Company")), std::nullopt);
     }
 
+    // Lines that end "\r\r\n" (a file converted twice) read without their carriage returns,
+    // and read the same once saved.
+    void doubledLineEndsReadTheSameAfterASave()
+    {
+        const QString path = m_config->filePath(QStringLiteral("doubled.ini"));
+        writeFile(path, "[Options]\r\r\nDbLocation=/a.mdb\r\r\nNote= comment\r\r\n");
+        SectionFile file;
+        QCOMPARE(file.load(path), SectionFile::Status::Ok);
+        QCOMPARE(
+            file.value(QStringLiteral("Options"), QStringLiteral("DbLocation")), QStringLiteral("/a.mdb"));
+        QCOMPARE(file.value(QStringLiteral("Options"), QStringLiteral("Note")), QStringLiteral(" comment"));
+        file.setValue(QStringLiteral("Options"), QStringLiteral("Company"), QStringLiteral("Mėta"));
+        QVERIFY(file.save(path));
+        SectionFile again;
+        QCOMPARE(again.load(path), SectionFile::Status::Ok);
+        QCOMPARE(again.value(QStringLiteral("Options"), QStringLiteral("Note")), QStringLiteral(" comment"));
+        QCOMPARE(
+            again.value(QStringLiteral("Options"), QStringLiteral("DbLocation")), QStringLiteral("/a.mdb"));
+    }
+
     void iniSectionInAnotherCase()
     {
         writeFile(iniFilePath(), "[doccontr]\nALLDOCS=/docs\n[DOCCONTR2]\nCompany=Other\n");
