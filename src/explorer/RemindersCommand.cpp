@@ -13,6 +13,9 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
+#include <QThread>
+
+#include <memory>
 
 namespace kartella {
 
@@ -50,13 +53,28 @@ RemindersCommand::RemindersCommand(QMainWindow* window)
     window->statusBar()->addPermanentWidget(m_panel);
 }
 
+RemindersCommand::~RemindersCommand()
+{
+    waitForCounting();
+}
+
+void RemindersCommand::waitForCounting()
+{
+    if (!m_counting)
+        return;
+    m_counting->wait();
+    delete m_counting;
+    m_counting = nullptr;
+}
+
 int RemindersCommand::recount()
 {
+    ++m_generation;
     try {
         const BusyCursor busy;
         Connection connection;
         connection.open(plainConnectionString());
-        m_count = int(dueReminders(connection, today()).size());
+        m_count = countDueReminders(connection, today());
     } catch (const Error&) {
         // The register's own failure is told by the fills; the panel just stays empty.
         m_count = -1;
@@ -67,15 +85,50 @@ int RemindersCommand::recount()
 
 void RemindersCommand::forget()
 {
+    ++m_generation;
     m_count = -1;
     m_panel->setText(panelText(m_count));
 }
 
 void RemindersCommand::showAtStart()
 {
-    // Shown once the start has finished, over the filled main window.
-    if (recount() > 0 && showDueRemindersAtStart())
-        QMetaObject::invokeMethod(this, &RemindersCommand::showWindow, Qt::QueuedConnection);
+    // A count of an earlier start still running is waited for and dropped.
+    waitForCounting();
+    const int generation = ++m_generation;
+    const QString connectionString = plainConnectionString();
+    const QDate day = today();
+    auto counted = std::make_shared<int>(-1);
+    m_counting = QThread::create([connectionString, day, counted] {
+        try {
+            Connection connection;
+            connection.open(connectionString);
+            *counted = countDueReminders(connection, day);
+        } catch (const Error&) {
+            // The register's own failure is told by the fills; the panel just stays empty.
+        }
+    });
+    m_counting->setObjectName(QStringLiteral("CountingReminders"));
+    const int start = ++m_starts;
+    connect(m_counting, &QThread::finished, this, [this, start, counted, generation] {
+        // A count waited for by a later start is over already.
+        if (start != m_starts || !m_counting)
+            return;
+        waitForCounting();
+        startCounted(*counted, generation);
+    });
+    m_counting->start(QThread::LowPriority);
+}
+
+void RemindersCommand::startCounted(int count, int generation)
+{
+    if (generation == m_generation) {
+        m_count = count;
+        m_panel->setText(panelText(m_count));
+        // Shown over the filled main window.
+        if (m_count > 0 && showDueRemindersAtStart())
+            showWindow();
+    }
+    Q_EMIT countedAtStart();
 }
 
 void RemindersCommand::showWindow()

@@ -1,16 +1,15 @@
 #pragma once
 
-#include "store/DueReminders.h"
+#include "explorer/RemindersModel.h"
 
 #include <QDate>
 #include <QDialog>
 
 #include <functional>
-#include <vector>
 
 class QLabel;
 class QPushButton;
-class QTreeWidget;
+class QTreeView;
 
 namespace kartella {
 
@@ -31,7 +30,7 @@ public:
 
     // Reads the due reminders again from the register.
     void reload();
-    const std::vector<DueReminder>& reminders() const { return m_reminders; }
+    RemindersModel* model() const { return m_model; }
 
 Q_SIGNALS:
     // Done took reminders off the list: the count of due reminders changed.
@@ -42,14 +41,14 @@ public Q_SLOTS:
     void openCurrentDetails();
 
 private:
-    void fill();
+    void showLines(int current);
     int currentRow() const;
     // On a register without the done column: asks to upgrade it; true once it has it.
     bool offerUpgrade();
 
     QDate m_today;
-    std::vector<DueReminder> m_reminders;
-    QTreeWidget* m_list = nullptr;
+    RemindersModel* m_model = nullptr;
+    QTreeView* m_list = nullptr;
     QLabel* m_nothingDue = nullptr;
     QPushButton* m_done = nullptr;
 };
