@@ -15,6 +15,7 @@
 #include "store/InsertBatch.h"
 #include "store/SampleRegister.h"
 #include "store/Schema.h"
+#include "store/SchemaSteps.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 
@@ -142,6 +143,11 @@ int main(int argc, char* argv[])
     if (at > 0 && at + 1 < arguments.size())
         documents = arguments.at(at + 1).toInt();
     const QString path = sampleRegister(documents);
+    // A sample kept from an earlier build gets the schema steps added since.
+    if (registerNeedsUpgrade(path)) {
+        QTextStream(stderr) << "upgrading the sample\n";
+        upgradeRegister(path);
+    }
     // --no-reminders: without the window of due reminders at the start, to tell its share.
     const bool reminders = !arguments.contains(QStringLiteral("--no-reminders"));
 

@@ -55,6 +55,8 @@ void addDirectionIndex(Connection& connection);
 void addServerDirectionIndex(Connection& connection);
 void addDocumentTextStore(Connection& connection);
 void addServerDocumentTextStore(Connection& connection);
+void addNodeListIndexes(Connection& connection);
+void addServerNodeListIndexes(Connection& connection);
 
 const std::vector<SchemaStep>& schemaSteps()
 {
@@ -75,6 +77,8 @@ const std::vector<SchemaStep>& schemaSteps()
             addServerDocumentTextStore},
         {8, QStringLiteral("search index of the words of the documents' files"), createContentIndex,
             createServerContentIndex},
+        {9, QStringLiteral("indexes for the lists of a category's directions and subcategories"),
+            addNodeListIndexes, addServerNodeListIndexes},
     };
     return steps;
 }

@@ -194,6 +194,40 @@ private Q_SLOTS:
         checkAll(location);
     }
 
+    // A node's count reads an index alone, and its first and last pages come in the index's
+    // order: neither reads every document of the category to check its subcategory or
+    // direction.
+    void nodeListsReadAnIndexAlone_data()
+    {
+        QTest::addColumn<QString>("sql");
+        QTest::newRow("category") << categoryListSql(7, 0, false, rangeStart, rangeEnd);
+        QTest::newRow("category and direction") << categoryListSql(7, 3, false, rangeStart, rangeEnd);
+        QTest::newRow("category, direction, dates") << categoryListSql(7, 3, true, rangeStart, rangeEnd);
+        QTest::newRow("subcategory") << subCategoryListSql(7, 12, 0, false, rangeStart, rangeEnd);
+        QTest::newRow("subcategory and direction")
+            << subCategoryListSql(7, 12, 3, false, rangeStart, rangeEnd);
+        QTest::newRow("subcategory within dates") << subCategoryDatedListSql(7, 12, 0, rangeStart, rangeEnd);
+        QTest::newRow("subcategory, direction, dates")
+            << subCategoryDatedListSql(7, 12, 3, rangeStart, rangeEnd);
+    }
+
+    void nodeListsReadAnIndexAlone()
+    {
+        QFETCH(QString, sql);
+        const QString location = m_dir.filePath(QStringLiteral("Nodes.mdb"));
+        if (!QFile::exists(location))
+            createRegister(location);
+        Connection connection(plainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"), location));
+        connection.open();
+        DocumentPaging paging(sql, DocumentPaging::Mode::Category);
+        const QString count = plan(connection, paging.countSql()).join(QStringLiteral(" | "));
+        QVERIFY2(count.contains(QStringLiteral("COVERING INDEX")), qPrintable(count));
+        for (const QString& page : {paging.pageSql(nullptr, 100), paging.reversePageSql(nullptr, 100)}) {
+            const QString steps = plan(connection, page).join(QStringLiteral(" | "));
+            QVERIFY2(!steps.contains(QStringLiteral("B-TREE")), qPrintable(steps));
+        }
+    }
+
     // A search keeps its documents' ids once, from its indexes alone; the count reads them,
     // not the documents. Many of them are paged in date order through the index of the
     // dates, a few by their ids and then sorted.
