@@ -32,6 +32,14 @@ QString panelText(int count)
 
 } // namespace
 
+// What the thread of the start's count hands back: the count (-1 when the register couldn't
+// be read) and, when the window is to show, the keys of its lines.
+struct RemindersCommand::StartCount
+{
+    int count = -1;
+    std::optional<std::vector<DueReminderKey>> keys;
+};
+
 RemindersCommand::RemindersCommand(QMainWindow* window)
     : QObject(window)
     , today(reminderToday)
@@ -97,12 +105,16 @@ void RemindersCommand::showAtStart()
     const int generation = ++m_generation;
     const QString connectionString = plainConnectionString();
     const QDate day = today();
-    auto counted = std::make_shared<int>(-1);
-    m_counting = QThread::create([connectionString, day, counted] {
+    const bool showing = showDueRemindersAtStart();
+    auto counted = std::make_shared<StartCount>();
+    m_counting = QThread::create([connectionString, day, showing, counted] {
         try {
             Connection connection;
             connection.open(connectionString);
-            *counted = countDueReminders(connection, day);
+            counted->count = countDueReminders(connection, day);
+            // The window's lines too, so that it opens without reading them on the window's thread.
+            if (counted->count > 0 && showing)
+                counted->keys = dueReminderKeys(connection, day);
         } catch (const Error&) {
             // The register's own failure is told by the fills; the panel just stays empty.
         }
@@ -119,22 +131,27 @@ void RemindersCommand::showAtStart()
     m_counting->start(QThread::LowPriority);
 }
 
-void RemindersCommand::startCounted(int count, int generation)
+void RemindersCommand::startCounted(const StartCount& counted, int generation)
 {
     if (generation == m_generation) {
-        m_count = count;
+        m_count = counted.count;
         m_panel->setText(panelText(m_count));
         // Shown over the filled main window.
-        if (m_count > 0 && showDueRemindersAtStart())
-            showWindow();
+        if (counted.keys)
+            openWindow(counted.keys);
     }
     Q_EMIT countedAtStart();
 }
 
 void RemindersCommand::showWindow()
 {
+    openWindow(std::nullopt);
+}
+
+void RemindersCommand::openWindow(std::optional<std::vector<DueReminderKey>> keys)
+{
     if (!m_window) {
-        m_window = new RemindersWindow(today(), m_mainWindow);
+        m_window = new RemindersWindow(today(), m_mainWindow, std::move(keys));
         m_window->setAttribute(Qt::WA_DeleteOnClose);
         m_window->openDetails = [this](qint32 documentId) {
             if (openDetails)

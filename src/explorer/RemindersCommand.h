@@ -7,6 +7,8 @@
 #include <QPointer>
 
 #include <functional>
+#include <optional>
+#include <vector>
 
 class QAction;
 class QLabel;
@@ -54,7 +56,9 @@ Q_SIGNALS:
     void countedAtStart();
 
 private:
-    void startCounted(int count, int generation);
+    struct StartCount;
+    void startCounted(const StartCount& counted, int generation);
+    void openWindow(std::optional<std::vector<DueReminderKey>> keys);
     void waitForCounting();
 
     QMainWindow* m_mainWindow;

@@ -47,6 +47,15 @@ void RemindersModel::reload(const QDate& today)
     endResetModel();
 }
 
+void RemindersModel::setKeys(const QDate& today, std::vector<DueReminderKey> keys)
+{
+    beginResetModel();
+    m_today = today;
+    m_keys = std::move(keys);
+    m_read.clear();
+    endResetModel();
+}
+
 void RemindersModel::removeLine(int row)
 {
     if (row < 0 || row >= rowCount())

@@ -25,6 +25,8 @@ public:
     // Reads the due reminders of the register the options name. Throws kartella::Error,
     // leaving the model empty.
     void reload(const QDate& today);
+    // The same with the due reminders' keys read already, in their order.
+    void setKeys(const QDate& today, std::vector<DueReminderKey> keys);
     // Takes a line off, as when its reminder was marked done.
     void removeLine(int row);
 

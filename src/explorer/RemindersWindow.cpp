@@ -53,7 +53,8 @@ private:
 
 } // namespace
 
-RemindersWindow::RemindersWindow(const QDate& today, QWidget* parent)
+RemindersWindow::RemindersWindow(
+    const QDate& today, QWidget* parent, std::optional<std::vector<DueReminderKey>> keys)
     : QDialog(parent)
     , m_today(today)
 {
@@ -102,7 +103,12 @@ RemindersWindow::RemindersWindow(const QDate& today, QWidget* parent)
     connect(m_list, &QTreeView::doubleClicked, this, &RemindersWindow::openCurrentDetails);
     new ActivateOnEnter(m_list, [this] { openCurrentDetails(); });
 
-    reload();
+    if (keys) {
+        m_model->setKeys(m_today, std::move(*keys));
+        showLines(0);
+    } else {
+        reload();
+    }
 }
 
 RemindersWindow::~RemindersWindow() = default;

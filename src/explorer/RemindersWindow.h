@@ -6,6 +6,8 @@
 #include <QDialog>
 
 #include <functional>
+#include <optional>
+#include <vector>
 
 class QLabel;
 class QPushButton;
@@ -22,7 +24,9 @@ class RemindersWindow : public QDialog
     Q_OBJECT
 
 public:
-    explicit RemindersWindow(const QDate& today, QWidget* parent = nullptr);
+    // Reads the due reminders, unless their keys come read already (off the window's thread).
+    explicit RemindersWindow(const QDate& today, QWidget* parent = nullptr,
+        std::optional<std::vector<DueReminderKey>> keys = std::nullopt);
     ~RemindersWindow() override;
 
     // Opens the details of a document, by its id.
