@@ -43,6 +43,7 @@ DocumentPages::DocumentPages(
     Recordset rs;
     rs.open(m_paging.countSql(), *m_connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
     m_count = rs.eof() ? 0 : rs.fields(0).value().toInt();
+    m_paging.setKeptRowCount(m_count);
 }
 
 DocumentPages::~DocumentPages() = default;

@@ -87,8 +87,37 @@ bool DocumentPaging::searchesIndexes() const
         || m_condition.contains(QStringLiteral("BodyWords"));
 }
 
+namespace {
+
+// The query of ids q when condition is "tbl_Documents.RastasID IN (q)" alone; empty when it
+// is any other. Quoted text in q may hold brackets of its own.
+QString idsQueryAlone(const QString& condition)
+{
+    const QString opening = Id + QStringLiteral(" IN (");
+    if (!condition.startsWith(opening))
+        return {};
+    int depth = 1;
+    bool quoted = false;
+    for (qsizetype i = opening.size(); i < condition.size(); ++i) {
+        const QChar c = condition[i];
+        if (c == u'\'')
+            quoted = !quoted;
+        else if (!quoted && c == u'(')
+            ++depth;
+        else if (!quoted && c == u')' && --depth == 0)
+            return i == condition.size() - 1 ? condition.mid(opening.size(), i - opening.size()) : QString();
+    }
+    return {};
+}
+
+} // namespace
+
 QString DocumentPaging::keepRowsSql(const QString& table) const
 {
+    // The indexes hold no document that the register doesn't: their ids need no reading of
+    // the documents.
+    if (const QString ids = idsQueryAlone(m_condition); !ids.isEmpty())
+        return QStringLiteral("INSERT OR IGNORE INTO temp.") + table + QStringLiteral(" (RastasID) ") + ids;
     const bool contacts = m_condition.contains(QStringLiteral("tbl_Contacts."), Qt::CaseInsensitive);
     QString sql = QStringLiteral("INSERT INTO temp.") + table + QStringLiteral(" (RastasID) SELECT ") + Id
         + from(contacts);
@@ -99,7 +128,16 @@ QString DocumentPaging::keepRowsSql(const QString& table) const
 
 void DocumentPaging::readKeptRows(const QString& table)
 {
+    m_keptTable = table;
     m_condition = Id + QStringLiteral(" IN (SELECT RastasID FROM temp.") + table + u')';
+}
+
+void DocumentPaging::setKeptRowCount(int count)
+{
+    // Past this share of a register of a million, the first page in date order is found
+    // sooner by walking the dates than by sorting the kept rows.
+    constexpr int Many = 5000;
+    m_keptMany = !m_keptTable.isEmpty() && count >= Many;
 }
 
 QString DocumentPaging::sortField() const
@@ -167,7 +205,10 @@ QString DocumentPaging::from(bool withContacts, bool withRanks) const
 QString DocumentPaging::where(const QStringList& more) const
 {
     QStringList terms;
-    if (!m_condition.isEmpty())
+    // The unary plus keeps the database from reading the kept rows by their ids first.
+    if (m_keptMany && sortsByDate() && !ranked())
+        terms << QStringLiteral("(+") + m_condition + u')';
+    else if (!m_condition.isEmpty())
         terms << u'(' + m_condition + u')';
     if (!m_modeCondition.isEmpty())
         terms << m_modeCondition;
@@ -211,6 +252,9 @@ QString DocumentPaging::seek(const PageKey& key, bool greater) const
 
 QString DocumentPaging::countSql() const
 {
+    // Every row kept is one of the list's.
+    if (!m_keptTable.isEmpty() && m_modeCondition.isEmpty())
+        return QStringLiteral("SELECT COUNT(*) AS RowCount FROM temp.") + m_keptTable;
     const bool contacts = m_condition.contains(QStringLiteral("tbl_Contacts."), Qt::CaseInsensitive);
     return QStringLiteral("SELECT COUNT(*) AS RowCount") + from(contacts) + where({});
 }

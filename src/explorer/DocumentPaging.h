@@ -47,6 +47,9 @@ public:
     // From now on the list's documents are those of that table: a search's indexes are
     // searched once, not again for the count and every page.
     void readKeptRows(const QString& table);
+    // How many rows the table kept: many of them are read in date order through the index
+    // of the dates, a few by their ids.
+    void setKeptRowCount(int count);
     // The field that holds the sort value in a page's rows.
     QString sortField() const;
     // Whether the sort column is a date.
@@ -88,6 +91,8 @@ private:
 
     QString m_condition;
     QString m_modeCondition;
+    QString m_keptTable;
+    bool m_keptMany = false;
     QString m_rankJoin;
     QString m_rankKey;
     Mode m_mode;

@@ -53,6 +53,12 @@ QString themeName(const QString& key)
 
 QIcon nodeIcon(const QString& image, const QString& selectedImage)
 {
+    // One icon for each pair, shared by every node that shows it: a tree of tens of
+    // thousands of contacts draws its two pictures once.
+    static QHash<QString, QIcon> icons;
+    const QString pair = image + u'|' + selectedImage;
+    if (const auto found = icons.constFind(pair); found != icons.cend())
+        return *found;
     QIcon icon;
     if (!image.isEmpty()) {
         const QIcon normal = NavigationTree::nodeImage(image);
@@ -64,6 +70,7 @@ QIcon nodeIcon(const QString& image, const QString& selectedImage)
         for (int size : {16, 22, 32})
             icon.addPixmap(selected.pixmap(size), QIcon::Selected);
     }
+    icons.insert(pair, icon);
     return icon;
 }
 } // namespace
@@ -103,11 +110,10 @@ void NavigationTree::clearNodes()
     m_byKey.clear();
 }
 
-QTreeWidgetItem* NavigationTree::addNode(const QString& parentKey, const QString& key, const QString& text,
-    const QString& image, const QString& selectedImage)
+QTreeWidgetItem* NavigationTree::makeNode(
+    const QString& key, const QString& text, const QString& image, const QString& selectedImage)
 {
-    QTreeWidgetItem* parent = parentKey.isEmpty() ? nullptr : nodeByKey(parentKey);
-    auto* node = parent ? new QTreeWidgetItem(parent) : new QTreeWidgetItem(this);
+    auto* node = new QTreeWidgetItem;
     node->setText(0, text);
     node->setData(0, KeyRole, key);
     node->setData(0, IndexRole, int(m_nodes.size()) + 1);
@@ -118,6 +124,32 @@ QTreeWidgetItem* NavigationTree::addNode(const QString& parentKey, const QString
     m_nodes.append(node);
     m_byKey.insert(key.toLower(), node);
     return node;
+}
+
+QTreeWidgetItem* NavigationTree::addNode(const QString& parentKey, const QString& key, const QString& text,
+    const QString& image, const QString& selectedImage)
+{
+    QTreeWidgetItem* parent = parentKey.isEmpty() ? nullptr : nodeByKey(parentKey);
+    QTreeWidgetItem* node = makeNode(key, text, image, selectedImage);
+    if (parent)
+        parent->addChild(node);
+    else
+        addTopLevelItem(node);
+    return node;
+}
+
+void NavigationTree::addNodes(const QString& parentKey, const QList<std::pair<QString, QString>>& nodes,
+    const QString& image, const QString& selectedImage)
+{
+    QTreeWidgetItem* parent = parentKey.isEmpty() ? nullptr : nodeByKey(parentKey);
+    QList<QTreeWidgetItem*> made;
+    made.reserve(nodes.size());
+    for (const auto& [key, text] : nodes)
+        made << makeNode(key, text, image, selectedImage);
+    if (parent)
+        parent->addChildren(made);
+    else
+        addTopLevelItems(made);
 }
 
 void NavigationTree::setExpandedImage(QTreeWidgetItem* node, const QString& image)

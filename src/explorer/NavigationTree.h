@@ -19,6 +19,11 @@ public:
     // Adds a node as the last child of the node with parentKey (none: a root). Returns it.
     QTreeWidgetItem* addNode(const QString& parentKey, const QString& key, const QString& text,
         const QString& image = {}, const QString& selectedImage = {});
+    // Adds nodes (key and text each) as the last children of the node with parentKey, all
+    // with the same images, in one insertion: thousands of them take no longer to add than
+    // to read.
+    void addNodes(const QString& parentKey, const QList<std::pair<QString, QString>>& nodes,
+        const QString& image, const QString& selectedImage);
     void setExpandedImage(QTreeWidgetItem* node, const QString& image);
     QTreeWidgetItem* nodeByKey(const QString& key) const;
     QTreeWidgetItem* nodeByIndex(int index) const;
@@ -43,6 +48,9 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+    // A node not yet in the tree, with its index and key taken.
+    QTreeWidgetItem* makeNode(
+        const QString& key, const QString& text, const QString& image, const QString& selectedImage);
     void onItemClicked(QTreeWidgetItem* item);
     void onCurrentItemChanged(QTreeWidgetItem* current);
     void onExpansionChanged(QTreeWidgetItem* item);

@@ -11,7 +11,4 @@ struct SelectionState;
 // document list in its empty state. Throws kartella::Error when the query fails.
 bool fillRelatedRows(ListModel& model, const SelectionState& selection);
 
-// The query of the related documents of a document.
-QString relatedDocumentsSql(qint32 documentId);
-
 } // namespace kartella

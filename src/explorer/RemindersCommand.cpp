@@ -13,6 +13,9 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
+#include <QThread>
+
+#include <memory>
 
 namespace kartella {
 
@@ -28,6 +31,14 @@ QString panelText(int count)
 }
 
 } // namespace
+
+// What the thread of the start's count hands back: the count (-1 when the register couldn't
+// be read) and, when the window is to show, the keys of its lines.
+struct RemindersCommand::StartCount
+{
+    int count = -1;
+    std::optional<std::vector<DueReminderKey>> keys;
+};
 
 RemindersCommand::RemindersCommand(QMainWindow* window)
     : QObject(window)
@@ -50,13 +61,28 @@ RemindersCommand::RemindersCommand(QMainWindow* window)
     window->statusBar()->addPermanentWidget(m_panel);
 }
 
+RemindersCommand::~RemindersCommand()
+{
+    waitForCounting();
+}
+
+void RemindersCommand::waitForCounting()
+{
+    if (!m_counting)
+        return;
+    m_counting->wait();
+    delete m_counting;
+    m_counting = nullptr;
+}
+
 int RemindersCommand::recount()
 {
+    ++m_generation;
     try {
         const BusyCursor busy;
         Connection connection;
         connection.open(plainConnectionString());
-        m_count = int(dueReminders(connection, today()).size());
+        m_count = countDueReminders(connection, today());
     } catch (const Error&) {
         // The register's own failure is told by the fills; the panel just stays empty.
         m_count = -1;
@@ -67,21 +93,65 @@ int RemindersCommand::recount()
 
 void RemindersCommand::forget()
 {
+    ++m_generation;
     m_count = -1;
     m_panel->setText(panelText(m_count));
 }
 
 void RemindersCommand::showAtStart()
 {
-    // Shown once the start has finished, over the filled main window.
-    if (recount() > 0 && showDueRemindersAtStart())
-        QMetaObject::invokeMethod(this, &RemindersCommand::showWindow, Qt::QueuedConnection);
+    // A count of an earlier start still running is waited for and dropped.
+    waitForCounting();
+    const int generation = ++m_generation;
+    const QString connectionString = plainConnectionString();
+    const QDate day = today();
+    const bool showing = showDueRemindersAtStart();
+    auto counted = std::make_shared<StartCount>();
+    m_counting = QThread::create([connectionString, day, showing, counted] {
+        try {
+            Connection connection;
+            connection.open(connectionString);
+            counted->count = countDueReminders(connection, day);
+            // The window's lines too, so that it opens without reading them on the window's thread.
+            if (counted->count > 0 && showing)
+                counted->keys = dueReminderKeys(connection, day);
+        } catch (const Error&) {
+            // The register's own failure is told by the fills; the panel just stays empty.
+        }
+    });
+    m_counting->setObjectName(QStringLiteral("CountingReminders"));
+    const int start = ++m_starts;
+    connect(m_counting, &QThread::finished, this, [this, start, counted, generation] {
+        // A count waited for by a later start is over already.
+        if (start != m_starts || !m_counting)
+            return;
+        waitForCounting();
+        startCounted(*counted, generation);
+    });
+    m_counting->start(QThread::LowPriority);
+}
+
+void RemindersCommand::startCounted(const StartCount& counted, int generation)
+{
+    if (generation == m_generation) {
+        m_count = counted.count;
+        m_panel->setText(panelText(m_count));
+        // Shown over the filled main window.
+        if (counted.keys)
+            openWindow(counted.keys);
+    }
+    Q_EMIT countedAtStart();
 }
 
 void RemindersCommand::showWindow()
 {
+    openWindow(std::nullopt);
+}
+
+void RemindersCommand::openWindow(std::optional<std::vector<DueReminderKey>> keys)
+{
     if (!m_window) {
-        m_window = new RemindersWindow(today(), m_mainWindow);
+        m_window = new RemindersWindow(today(), m_mainWindow, std::move(keys));
         m_window->setAttribute(Qt::WA_DeleteOnClose);
         m_window->openDetails = [this](qint32 documentId) {
             if (openDetails)

@@ -7,10 +7,13 @@
 #include <QPointer>
 
 #include <functional>
+#include <optional>
+#include <vector>
 
 class QAction;
 class QLabel;
 class QMainWindow;
+class QThread;
 
 namespace kartella {
 
@@ -24,6 +27,7 @@ class RemindersCommand : public QObject
 public:
     // Adds the command to the window's menu named "mnuGo" and the panel to its status bar.
     explicit RemindersCommand(QMainWindow* window);
+    ~RemindersCommand() override;
 
     // Today's date for the reminders (tests set a day of their own).
     std::function<QDate()> today;
@@ -35,9 +39,12 @@ public:
     int recount();
     // Empties the panel, as when the register couldn't be read: another register is coming.
     void forget();
-    // At the end of the main window's load: counts, and once the load is over shows the
-    // window if something is due and the option asks for it.
+    // At the end of the main window's load: counts on a thread of its own, so that the
+    // window paints meanwhile, and then shows the Reminders window if something is due and
+    // the option asks for it. countedAtStart tells when the count is in the panel.
     void showAtStart();
+    // Whether the count of the start is still being taken.
+    bool counting() const { return m_counting != nullptr; }
     // The Reminders window, also when nothing is due.
     void showWindow();
 
@@ -45,12 +52,25 @@ public:
     QAction* action() const { return m_action; }
     RemindersWindow* window() const { return m_window; }
 
+Q_SIGNALS:
+    void countedAtStart();
+
 private:
+    struct StartCount;
+    void startCounted(const StartCount& counted, int generation);
+    void openWindow(std::optional<std::vector<DueReminderKey>> keys);
+    void waitForCounting();
+
     QMainWindow* m_mainWindow;
     QAction* m_action = nullptr;
     QLabel* m_panel = nullptr;
     QPointer<RemindersWindow> m_window;
     int m_count = -1;
+    QThread* m_counting = nullptr;
+    // Taken up by each count and forget: a count of the start that comes back after
+    // another is dropped.
+    int m_generation = 0;
+    int m_starts = 0;
 };
 
 } // namespace kartella

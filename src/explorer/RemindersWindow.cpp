@@ -14,7 +14,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QTreeWidget>
+#include <QTreeView>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -25,20 +25,11 @@ namespace {
 
 const QString Title = QStringLiteral("Reminders");
 
-enum Column { DateColumn, DueColumn, IndexColumn, DescriptionColumn, TextColumn };
-
-QString dueText(const DueReminder& reminder)
-{
-    if (!reminder.date.isValid())
-        return QStringLiteral("Date unreadable");
-    return reminder.overdue ? QStringLiteral("Overdue") : QStringLiteral("Today");
-}
-
 // Enter on a line acts as a double click, whatever the style makes of it.
 class ActivateOnEnter : public QObject
 {
 public:
-    ActivateOnEnter(QTreeWidget* list, std::function<void()> activate)
+    ActivateOnEnter(QTreeView* list, std::function<void()> activate)
         : QObject(list)
         , m_activate(std::move(activate))
     {
@@ -63,22 +54,28 @@ private:
 
 } // namespace
 
-RemindersWindow::RemindersWindow(const QDate& today, QWidget* parent)
+RemindersWindow::RemindersWindow(
+    const QDate& today, QWidget* parent, std::optional<std::vector<DueReminderKey>> keys)
     : QDialog(parent)
     , m_today(today)
 {
     setObjectName(QStringLiteral("frmReminders"));
     setWindowTitle(Title);
 
-    m_list = new QTreeWidget(this);
+    m_model = new RemindersModel(this);
+    m_list = new QTreeView(this);
     m_list->setObjectName(QStringLiteral("lstReminders"));
     m_list->setAccessibleName(QStringLiteral("Due reminders"));
     m_list->setRootIsDecorated(false);
+    m_list->setItemsExpandable(false);
+    m_list->setUniformRowHeights(true);
     m_list->setAllColumnsShowFocus(true);
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_list->setHeaderLabels({QStringLiteral("Date"), QStringLiteral("Due"),
-        QStringLiteral("Registration Index"), QStringLiteral("Description"), QStringLiteral("Text")});
+    m_list->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_list->setModel(m_model);
     m_list->header()->setStretchLastSection(true);
+    // Columns are sized to the lines in view: they are the only ones read.
+    m_list->header()->setResizeContentsPrecision(0);
 
     m_nothingDue = new QLabel(QStringLiteral("No reminders are due."), this);
     m_nothingDue->setObjectName(QStringLiteral("lblNothingDue"));
@@ -104,10 +101,15 @@ RemindersWindow::RemindersWindow(const QDate& today, QWidget* parent)
 
     connect(m_done, &QPushButton::clicked, this, &RemindersWindow::markDone);
     connect(later, &QPushButton::clicked, this, &QDialog::reject);
-    connect(m_list, &QTreeWidget::itemDoubleClicked, this, &RemindersWindow::openCurrentDetails);
+    connect(m_list, &QTreeView::doubleClicked, this, &RemindersWindow::openCurrentDetails);
     new ActivateOnEnter(m_list, [this] { openCurrentDetails(); });
 
-    reload();
+    if (keys) {
+        m_model->setKeys(m_today, std::move(*keys));
+        showLines(0);
+    } else {
+        reload();
+    }
 }
 
 RemindersWindow::~RemindersWindow() = default;
@@ -117,60 +119,42 @@ void RemindersWindow::reload()
     const int row = currentRow();
     try {
         const BusyCursor busy;
-        Connection connection;
-        connection.open(plainConnectionString());
-        m_reminders = dueReminders(connection, m_today);
+        m_model->reload(m_today);
     } catch (const Error& error) {
-        m_reminders.clear();
         msgBox(error.description(), MsgBoxStyle::OkOnly + MsgBoxStyle::Critical, Title);
     }
-    fill();
-    if (row > 0)
-        m_list->setCurrentItem(m_list->topLevelItem(qMin(row, m_list->topLevelItemCount() - 1)));
+    showLines(std::max(row, 0));
 }
 
-void RemindersWindow::fill()
+void RemindersWindow::showLines(int current)
 {
-    m_list->clear();
-    for (const DueReminder& reminder : m_reminders) {
-        auto* line = new QTreeWidgetItem(m_list);
-        line->setText(DateColumn,
-            reminder.date.isValid() ? reminder.date.toString(QStringLiteral("yyyy.MM.dd"))
-                                    : reminder.dateText);
-        line->setText(DueColumn, dueText(reminder));
-        line->setText(IndexColumn, reminder.regIndex);
-        line->setText(DescriptionColumn, reminder.description);
-        line->setText(TextColumn, reminder.text);
-        if (reminder.overdue) {
-            QFont bold = line->font(DueColumn);
-            bold.setBold(true);
-            line->setFont(DueColumn, bold);
-        }
-    }
-    for (int column = DateColumn; column < TextColumn; ++column)
-        m_list->resizeColumnToContents(column);
-    const bool any = !m_reminders.empty();
+    const int count = m_model->rowCount();
+    const bool any = count > 0;
     m_list->setVisible(any);
     m_nothingDue->setVisible(!any);
     m_done->setEnabled(any);
-    if (any) {
-        m_list->setCurrentItem(m_list->topLevelItem(0));
-        m_list->setFocus();
-    }
+    if (!any)
+        return;
+    for (int column = RemindersModel::DateColumn; column < RemindersModel::TextColumn; ++column)
+        m_list->resizeColumnToContents(column);
+    m_list->setCurrentIndex(m_model->index(std::min(current, count - 1), 0));
+    m_list->setFocus();
 }
 
 int RemindersWindow::currentRow() const
 {
-    QTreeWidgetItem* line = m_list->currentItem();
-    return line ? m_list->indexOfTopLevelItem(line) : -1;
+    const QModelIndex current = m_list->currentIndex();
+    return current.isValid() ? current.row() : -1;
 }
 
 void RemindersWindow::openCurrentDetails()
 {
     const int row = currentRow();
-    if (row < 0 || row >= int(m_reminders.size()) || !openDetails)
+    if (row < 0 || row >= m_model->rowCount() || !openDetails)
         return;
-    openDetails(m_reminders[std::size_t(row)].documentId);
+    const qint32 documentId = m_model->reminder(row).documentId;
+    if (documentId != 0)
+        openDetails(documentId);
 }
 
 bool RemindersWindow::offerUpgrade()
@@ -191,11 +175,11 @@ void RemindersWindow::markDone()
     const CommandScope command(QStringLiteral("Reminders Done"));
     // Every selected line, or the current one when none is selected.
     std::vector<int> rows;
-    for (QTreeWidgetItem* line : m_list->selectedItems())
-        rows.push_back(m_list->indexOfTopLevelItem(line));
+    for (const QModelIndex& line : m_list->selectionModel()->selectedRows())
+        rows.push_back(line.row());
     if (rows.empty())
         rows.push_back(currentRow());
-    std::erase_if(rows, [this](int row) { return row < 0 || row >= int(m_reminders.size()); });
+    std::erase_if(rows, [this](int row) { return row < 0 || row >= m_model->rowCount(); });
     if (rows.empty())
         return;
     std::sort(rows.begin(), rows.end());
@@ -211,18 +195,17 @@ void RemindersWindow::markDone()
         }
         // From the last line up, so that a failure leaves the lines done so far off the list.
         for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
-            markReminderDone(connection, m_reminders[std::size_t(*row)].reminderId);
-            m_reminders.erase(m_reminders.begin() + *row);
+            markReminderDone(connection, m_model->reminderId(*row));
+            m_model->removeLine(*row);
         }
     } catch (const Error& error) {
-        fill();
+        showLines(first);
         Q_EMIT remindersDone();
         msgBox(error.description(), MsgBoxStyle::OkOnly + MsgBoxStyle::Critical, Title);
         return;
     }
-    fill();
-    if (first < m_list->topLevelItemCount())
-        m_list->setCurrentItem(m_list->topLevelItem(first));
+    m_list->selectionModel()->clearSelection();
+    showLines(first);
     Q_EMIT remindersDone();
 }
 

@@ -1,16 +1,17 @@
 #pragma once
 
-#include "store/DueReminders.h"
+#include "explorer/RemindersModel.h"
 
 #include <QDate>
 #include <QDialog>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 class QLabel;
 class QPushButton;
-class QTreeWidget;
+class QTreeView;
 
 namespace kartella {
 
@@ -23,7 +24,9 @@ class RemindersWindow : public QDialog
     Q_OBJECT
 
 public:
-    explicit RemindersWindow(const QDate& today, QWidget* parent = nullptr);
+    // Reads the due reminders, unless their keys come read already (off the window's thread).
+    explicit RemindersWindow(const QDate& today, QWidget* parent = nullptr,
+        std::optional<std::vector<DueReminderKey>> keys = std::nullopt);
     ~RemindersWindow() override;
 
     // Opens the details of a document, by its id.
@@ -31,7 +34,7 @@ public:
 
     // Reads the due reminders again from the register.
     void reload();
-    const std::vector<DueReminder>& reminders() const { return m_reminders; }
+    RemindersModel* model() const { return m_model; }
 
 Q_SIGNALS:
     // Done took reminders off the list: the count of due reminders changed.
@@ -42,14 +45,14 @@ public Q_SLOTS:
     void openCurrentDetails();
 
 private:
-    void fill();
+    void showLines(int current);
     int currentRow() const;
     // On a register without the done column: asks to upgrade it; true once it has it.
     bool offerUpgrade();
 
     QDate m_today;
-    std::vector<DueReminder> m_reminders;
-    QTreeWidget* m_list = nullptr;
+    RemindersModel* m_model = nullptr;
+    QTreeView* m_list = nullptr;
     QLabel* m_nothingDue = nullptr;
     QPushButton* m_done = nullptr;
 };

@@ -102,18 +102,18 @@ void buildContactTree(NavigationTree& tree)
     for (int letterIndex = 0; letterIndex < 26; ++letterIndex) {
         const QString letter(QChar(u'A' + letterIndex));
         tree.addNode(RootKey, letter, letter, QStringLiteral("Closed"), QStringLiteral("Twist"));
+        QList<std::pair<QString, QString>> letterContacts;
         while (!contacts.eof()) {
             const QString name = contacts.collect(QStringLiteral("FN")).toString();
             const int belongs = name.isEmpty() ? -1 : contactLetterIndex(name.at(0));
             if (belongs > letterIndex)
                 break; // stays current for the letters to come
-            if (belongs == letterIndex) {
-                tree.addNode(letter,
-                    QStringLiteral("ID") + contacts.collect(QStringLiteral("ContactID")).toString(), name,
-                    QStringLiteral("Open"), QStringLiteral("Point"));
-            }
+            if (belongs == letterIndex)
+                letterContacts.append(
+                    {QStringLiteral("ID") + contacts.collect(QStringLiteral("ContactID")).toString(), name});
             contacts.moveNext();
         }
+        tree.addNodes(letter, letterContacts, QStringLiteral("Open"), QStringLiteral("Point"));
     }
     contacts.close();
     connection.close();

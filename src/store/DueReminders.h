@@ -37,11 +37,32 @@ void addReminderDoneColumn(Connection& connection);
 // Whether the open register has the done column.
 bool hasReminderDoneColumn(Connection& connection);
 
+// A due reminder's place in the list of them: what its order and its Due column need.
+struct DueReminderKey
+{
+    qint32 reminderId = 0;
+    QDate date; // invalid when the stored date can't be read as one
+    bool overdue = false;
+};
+
 // The due reminders on the open register, given today's date: overdue ones first (oldest
 // first), then today's, then those whose date can't be read (a date typed as text that
 // isn't one is better seen than lost), each group in the order of TicklerID. A reminder
 // of a document that is no longer there is left out.
 std::vector<DueReminder> dueReminders(Connection& connection, const QDate& today);
+
+// How many reminders dueReminders would give, counted by the database: only the rows
+// whose stored date is no date the register's own form reads are read here.
+int countDueReminders(Connection& connection, const QDate& today);
+
+// The keys of dueReminders, in its order, without the texts: a list reads those with
+// remindersById for the rows it shows.
+std::vector<DueReminderKey> dueReminderKeys(Connection& connection, const QDate& today);
+
+// The reminders of the given ids that are still there with their documents, in the order
+// of ids; an id no longer there is left out.
+std::vector<DueReminder> remindersById(
+    Connection& connection, const std::vector<qint32>& ids, const QDate& today);
 
 // Marks one reminder done. Throws kartella::Error when the register has no done column.
 void markReminderDone(Connection& connection, qint32 reminderId);

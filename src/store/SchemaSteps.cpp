@@ -58,6 +58,8 @@ void addDocumentTextStore(Connection& connection);
 void addServerDocumentTextStore(Connection& connection);
 void addTrash(Connection& connection);
 void addServerTrash(Connection& connection);
+void addNodeListIndexes(Connection& connection);
+void addServerNodeListIndexes(Connection& connection);
 
 const std::vector<SchemaStep>& schemaSteps()
 {
@@ -80,6 +82,8 @@ const std::vector<SchemaStep>& schemaSteps()
             createServerContentIndex},
         {9, QStringLiteral("the history of every change"), addHistory, addServerHistory},
         {10, QStringLiteral("the trash of deleted items"), addTrash, addServerTrash},
+        {11, QStringLiteral("indexes for the lists of a category's directions and subcategories"),
+            addNodeListIndexes, addServerNodeListIndexes},
     };
     return steps;
 }

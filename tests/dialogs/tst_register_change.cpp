@@ -135,7 +135,7 @@ private Q_SLOTS:
             documents->visualRect(window.documentModel()->index(0, 0)).center());
         QCOMPARE(selection().selectedDocumentId, document);
         QVERIFY(window.relatedList()->isVisible());
-        QCOMPARE(window.findChild<QLabel*>("pnReminders")->text(), "No reminders due");
+        QTRY_COMPARE(window.findChild<QLabel*>("pnReminders")->text(), "No reminders due");
 
         window.action("mnuOptions")->trigger();
         auto* dialog = window.findChild<SettingsDialog*>("frmSettings");
@@ -160,7 +160,7 @@ private Q_SLOTS:
         QCOMPARE(window.windowTitle(), "Kartella");
         QCOMPARE(window.findChild<QLabel*>("pnCount")->text(), QString());
         QCOMPARE(window.findChild<QLabel*>("pnSource")->text(), "Source : " + other + "   ");
-        QCOMPARE(window.findChild<QLabel*>("pnReminders")->text(), "1 reminder due");
+        QTRY_COMPARE(window.findChild<QLabel*>("pnReminders")->text(), "1 reminder due");
 
         // Del deletes nothing of the new register.
         QTest::keyClick(documents, Qt::Key_Delete);

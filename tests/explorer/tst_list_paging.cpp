@@ -8,8 +8,10 @@
 #include "explorer/ListModel.h"
 #include "explorer/MainWindow.h"
 #include "explorer/NavigationTree.h"
+#include "explorer/RelatedPages.h"
 #include "harness/ScriptedPrompter.h"
 #include "harness/TestRegister.h"
+#include "store/Store.h"
 #include "store/engine/TextFold.h"
 #include "support/SelectionState.h"
 
@@ -110,6 +112,7 @@ private Q_SLOTS:
     {
         QStandardPaths::setTestModeEnabled(true);
         DocumentPages::setPageSize(PageRows);
+        RelatedPages::setPageSize(PageRows);
     }
 
     void init()
@@ -207,6 +210,53 @@ private Q_SLOTS:
         QTest::keyClick(view(), Qt::Key_End, Qt::ControlModifier);
         QCOMPARE(model().item(Documents - 1).text, expected.back().text);
         QCOMPARE(shownTexts(), textsOf(expected));
+    }
+
+    // The related list reads its rows as they come into view too, the last without the
+    // pages between, and sorts them in the database as the list would, a Null description
+    // shown and sorted as the null mark.
+    void relatedRowsAsTheyComeIntoView()
+    {
+        const qint32 document = m_documents[1].id;
+        QStringList texts;
+        for (int i = 0; i < 25; ++i) {
+            const QVariant text = i == 20 ? QVariant() : QVariant(QStringLiteral("Annex %1").arg(24 - i));
+            m_reg->insert("tbl_Sub_Documents",
+                {{"RastasID", document}, {"SubDocDescript", text},
+                    {"SubRastGavimoData", QDate(2024, 2, 1).addDays(i % 4)}});
+            texts << (text.isNull() ? NullMark : text.toString());
+        }
+        m_window->documentList()->selectRow(1);
+        QTRY_VERIFY(m_window->relatedList()->isVisible());
+        ListModel& related = *m_window->relatedModel();
+        QCOMPARE(related.itemCount(), 25);
+        const auto* pages = static_cast<RelatedPages*>(related.source());
+        QVERIFY2(pages->pagesRead() < 3, qPrintable(QString::number(pages->pagesRead())));
+        QTreeView* list = m_window->relatedList()->detailsView();
+        list->setFocus();
+        QTest::keyClick(list, Qt::Key_End, Qt::ControlModifier);
+        QCOMPARE(m_window->relatedList()->selectedRow(), 24);
+        QCOMPARE(related.item(24).text, texts.back());
+        QCOMPARE(related.item(24).subItems[0], NullMark);
+
+        QHeaderView* header = list->header();
+        auto clickHeader = [&](int section) {
+            QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
+                QPoint(header->sectionViewportPosition(section) + 5, header->height() / 2));
+        };
+        auto shown = [&] {
+            QStringList rows;
+            for (int row = 0; row < related.itemCount(); ++row)
+                rows << related.item(row).text;
+            return rows;
+        };
+        clickHeader(2);
+        clickHeader(0);
+        std::stable_sort(texts.begin(), texts.end(), nameLess);
+        QCOMPARE(shown(), texts);
+        clickHeader(0);
+        std::reverse(texts.begin(), texts.end());
+        QCOMPARE(shown(), texts);
     }
 
     // A first letter jumps to the next row that starts with it, though never read.

@@ -166,6 +166,13 @@ private Q_SLOTS:
         QCOMPARE(childrenOf("U"), QStringList());
         QCOMPARE(childrenOf("Y"), QStringList({"Yla Rimkutė"}));
         QCOMPARE(childrenOf("Z"), QStringList({"Zita Zabielienė"}));
+        // Numbered in the order of the walk: each letter, then its contacts.
+        QCOMPARE(NavigationTree::nodeKey(tree->nodeByIndex(2)), QString("A"));
+        QCOMPARE(tree->nodeByIndex(4)->text(0), QString("Ąžuolas Kairys"));
+        QCOMPARE(tree->nodeByIndex(4)->parent(), tree->nodeByKey("A"));
+        QCOMPARE(NavigationTree::nodeKey(tree->nodeByIndex(5)), QString("B"));
+        QCOMPARE(NavigationTree::nodeIndex(tree->nodeByKey("Y")->child(0)),
+            NavigationTree::nodeIndex(tree->nodeByKey("Y")) + 1);
         QVERIFY(!tree->nodeByKey("ID" + QString::number(fx.id["5"])));
         // A contact with no name has no node; the letters stay closed.
         QVERIFY(!tree->nodeByKey("ID" + QString::number(fx.id["company"])));

@@ -13,6 +13,7 @@
 #include "store/engine/Connection.h"
 #include "store/engine/JetDialect.h"
 
+#include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
@@ -191,6 +192,88 @@ private Q_SLOTS:
         }
         createRegister(location);
         checkAll(location);
+    }
+
+    // A node's count reads an index alone, and its first and last pages come in the index's
+    // order: neither reads every document of the category to check its subcategory or
+    // direction.
+    void nodeListsReadAnIndexAlone_data()
+    {
+        QTest::addColumn<QString>("sql");
+        QTest::newRow("category") << categoryListSql(7, 0, false, rangeStart, rangeEnd);
+        QTest::newRow("category and direction") << categoryListSql(7, 3, false, rangeStart, rangeEnd);
+        QTest::newRow("category, direction, dates") << categoryListSql(7, 3, true, rangeStart, rangeEnd);
+        QTest::newRow("subcategory") << subCategoryListSql(7, 12, 0, false, rangeStart, rangeEnd);
+        QTest::newRow("subcategory and direction")
+            << subCategoryListSql(7, 12, 3, false, rangeStart, rangeEnd);
+        QTest::newRow("subcategory within dates") << subCategoryDatedListSql(7, 12, 0, rangeStart, rangeEnd);
+        QTest::newRow("subcategory, direction, dates")
+            << subCategoryDatedListSql(7, 12, 3, rangeStart, rangeEnd);
+    }
+
+    void nodeListsReadAnIndexAlone()
+    {
+        QFETCH(QString, sql);
+        const QString location = m_dir.filePath(QStringLiteral("Nodes.mdb"));
+        if (!QFile::exists(location))
+            createRegister(location);
+        Connection connection(plainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"), location));
+        connection.open();
+        DocumentPaging paging(sql, DocumentPaging::Mode::Category);
+        const QString count = plan(connection, paging.countSql()).join(QStringLiteral(" | "));
+        QVERIFY2(count.contains(QStringLiteral("COVERING INDEX")), qPrintable(count));
+        for (const QString& page : {paging.pageSql(nullptr, 100), paging.reversePageSql(nullptr, 100)}) {
+            const QString steps = plan(connection, page).join(QStringLiteral(" | "));
+            QVERIFY2(!steps.contains(QStringLiteral("B-TREE")), qPrintable(steps));
+        }
+    }
+
+    // A search keeps its documents' ids once, from its indexes alone; the count reads them,
+    // not the documents. Many of them are paged in date order through the index of the
+    // dates, a few by their ids and then sorted.
+    void aSearchsKeptRowsAreReadByTheirNumber_data()
+    {
+        QTest::addColumn<int>("kept");
+        QTest::addColumn<bool>("byDates");
+        QTest::newRow("a few") << 40 << false;
+        QTest::newRow("one short of many") << 4999 << false;
+        QTest::newRow("many") << 5000 << true;
+        QTest::newRow("most of a register") << 800000 << true;
+    }
+
+    void aSearchsKeptRowsAreReadByTheirNumber()
+    {
+        QFETCH(int, kept);
+        QFETCH(bool, byDates);
+        const QString location = m_dir.filePath(QStringLiteral("Kept.mdb"));
+        QFile::remove(location);
+        createRegister(location);
+        Connection connection(plainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"), location));
+        connection.open();
+        const QString sql = searchListSql(
+            searchTerms(QStringLiteral("sutart")), searchIndexes(connection), 0, false, rangeStart, rangeEnd);
+        DocumentPaging paging(sql, DocumentPaging::Mode::Category);
+        const QString keep = paging.keepRowsSql(QStringLiteral("found"));
+        QVERIFY2(!keep.contains(QStringLiteral("tbl_Documents ")), qPrintable(keep));
+        connection.execute(QStringLiteral("CREATE TEMP TABLE found (RastasID INTEGER PRIMARY KEY)"));
+        connection.execute(keep);
+        paging.readKeptRows(QStringLiteral("found"));
+        paging.setKeptRowCount(kept);
+        QVERIFY(!paging.countSql().contains(QStringLiteral("tbl_Documents")));
+
+        const PageKey dated {QVariant(QDate(2024, 3, 5)), 40};
+        const QStringList pages = {paging.pageSql(nullptr, 100), paging.pageSql(&dated, 100),
+            paging.reversePageSql(nullptr, 100), paging.reversePageSql(&dated, 100)};
+        for (const QString& page : pages) {
+            const QString steps = plan(connection, page).join(QStringLiteral(" | "));
+            QVERIFY2(
+                steps.contains(QStringLiteral("idx_Documents_RegistracData")) == byDates, qPrintable(steps));
+            QVERIFY2(steps.contains(QStringLiteral("B-TREE FOR ORDER BY")) != byDates, qPrintable(steps));
+        }
+        // Sorted by a text column or ranked, the kept rows are read by their ids whatever their number.
+        paging.setSort(0, false);
+        const QString steps = plan(connection, paging.pageSql(nullptr, 100)).join(QStringLiteral(" | "));
+        QVERIFY2(fullScans(plan(connection, paging.pageSql(nullptr, 100))).isEmpty(), qPrintable(steps));
     }
 
     // The check itself: a statement that reads the documents through is caught.
