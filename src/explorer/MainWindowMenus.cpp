@@ -1,11 +1,13 @@
 // MainWindow: the menu bar, the toolbar, the two context menus and the enabling of commands.
 #include "explorer/MainWindow.h"
+#include "registration/NewDocumentDialog.h"
 #include "support/SelectionState.h"
 
 #include <QAction>
 #include <QActionGroup>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -127,6 +129,17 @@ void MainWindow::buildMenus()
     file->setObjectName(QStringLiteral("mnuFile"));
     addCommand(file, QStringLiteral("mnuNew"), QStringLiteral("&New Document"), &MainWindow::newDocument,
         QKeySequence(Qt::CTRL | Qt::Key_N), QStringLiteral("frmNewDocument"));
+    // A new document whose file is scanned: the New Document dialog with its scan window.
+    QAction* scanNew = addCommand(file, QStringLiteral("mnuScanNew"), QStringLiteral("&Scan New Document..."),
+        nullptr, {}, QStringLiteral("frmNewDocument"));
+    disconnect(scanNew, &QAction::triggered, this, nullptr);
+    connect(scanNew, &QAction::triggered, this, [this] {
+        QTimer::singleShot(0, this, [this] {
+            if (auto* dialog = findChild<NewDocumentDialog*>(); dialog && dialog->isVisible())
+                dialog->scanDocument();
+        });
+        openDialog(QStringLiteral("frmNewDocument"));
+    });
     addCommand(file, QStringLiteral("mnuOpen"), QStringLiteral("&Open Document"), &MainWindow::openDocument,
         QKeySequence(Qt::CTRL | Qt::Key_O));
     file->addSeparator()->setObjectName(QStringLiteral("mnuHyper3"));

@@ -9,6 +9,7 @@
 #include "harness/ScriptedPrompter.h"
 #include "options/CaptureOptions.h"
 #include "platform/Prompter.h"
+#include "registration/NewDocumentFixture.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -20,6 +21,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 using namespace kartella;
 using namespace kartella::test;
@@ -75,6 +77,7 @@ private Q_SLOTS:
     void cancelStopsTheScannerInTheMiddleOfAPage();
     void scannerFailingMidPageKeepsEarlierPages();
     void searchablePdfHoldsThePagesAndTheirWords();
+    void scanButtonAttachesThePdfNamedAsTheCategoryNames();
 
 private:
     void writeBackends(const QByteArray& backends);
@@ -282,6 +285,48 @@ void ScanTest::searchablePdfHoldsThePagesAndTheirWords()
     QVERIFY(after.open(QIODevice::ReadOnly));
     QCOMPARE(after.readAll(), before);
     QVERIFY(!QFile::exists(path + QStringLiteral(".partial")));
+}
+
+// Scan in the New Document dialog: the scan window opens over it; the pages scanned and
+// Done give the document a PDF named and placed as a file made from a template, and Cancel
+// in the scan window gives it nothing and uses no number. Cancel of the document takes the
+// PDF back.
+void ScanTest::scanButtonAttachesThePdfNamedAsTheCategoryNames()
+{
+    writeBackends("test\n");
+    Fixture fx;
+    Dialog d;
+    d.type(4, QStringLiteral("Scanned letter"));
+    const QString path = QDir(fx.files.path()).filePath(QStringLiteral("AGR00001.pdf"));
+
+    // What the user does in the scan window, once it is up over the dialog.
+    const auto inScanWindow = [&d](bool done) {
+        QTimer::singleShot(0, &d.dialog, [&d, done] {
+            ScanDialog* scan = nullptr;
+            QTRY_VERIFY((scan = d.dialog.findChild<ScanDialog*>()) && scan->isVisible());
+            waitForScanner(*scan);
+            click(*scan, "cmdScanPage");
+            QTRY_COMPARE_WITH_TIMEOUT(pageCountOf(*scan), 1, 10000);
+            QTRY_VERIFY(child<QPushButton>(*scan, "cmdDone")->isEnabled());
+            click(*scan, done ? "cmdDone" : "cmdCancel");
+        });
+    };
+
+    inScanWindow(false);
+    d.click("cmdScan");
+    QVERIFY(d.box(5)->text().isEmpty());
+    QVERIFY(!QFile::exists(path));
+
+    inScanWindow(true);
+    d.click("cmdScan");
+    QTRY_COMPARE_WITH_TIMEOUT(d.box(5)->text(), path, 20000);
+    QCOMPARE(pageCount(path), 1);
+    QVERIFY(fx.prompter.prompts().isEmpty());
+
+    fx.prompter.answer(MsgBoxResult::Yes);
+    d.click("cmdCancel");
+    QVERIFY(!QFile::exists(path));
+    QCOMPARE(fx.documents(), 0);
 }
 
 int main(int argc, char** argv)
