@@ -10,7 +10,9 @@
 
 #include <clocale>
 #include <cstring>
+#include <dlfcn.h>
 #include <leptonica/allheaders.h>
+#include <mutex>
 #include <tesseract/baseapi.h>
 #include <tesseract/ocrclass.h>
 #include <tesseract/renderer.h>
@@ -66,6 +68,20 @@ QString missingLanguageMessage(const QString& languages)
 
 namespace {
 
+// Debian's Tesseract runs parts of a page on OpenMP threads (four of them), which spin while
+// they wait: on a machine busy with other work, and under a pool that already gives each core
+// a page, that costs time rather than saving it. With no parallel level active, each page is
+// read on the thread that asks. Looked up at run time: a Tesseract without OpenMP has none.
+void readPagesOnOneThread()
+{
+    static std::once_flag once;
+    std::call_once(once, [] {
+        using SetLevels = void (*)(int);
+        if (auto set = reinterpret_cast<SetLevels>(dlsym(RTLD_DEFAULT, "omp_set_max_active_levels")))
+            set(0);
+    });
+}
+
 struct CancelCheck
 {
     const std::function<bool()>* cancelled;
@@ -89,6 +105,7 @@ TextRecognizer::TextRecognizer(const QString& languages)
     if (!numericLocaleIsC())
         throw Error(RecognitionError::EngineFailed,
             QStringLiteral("Text recognition needs the C numeric locale (LC_NUMERIC)."));
+    readPagesOnOneThread();
     const QByteArray folder = QFile::encodeName(tessdataFolder());
     const QByteArray names = languages.toUtf8();
     if (m_api->Init(folder.constData(), names.constData(), tesseract::OEM_LSTM_ONLY) != 0)
