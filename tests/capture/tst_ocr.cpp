@@ -2,6 +2,7 @@
 #include "TestPages.h"
 #include "base/Error.h"
 #include "capture/TextRecognition.h"
+#include "content/ReadingQueue.h"
 #include "content/TextIndexer.h"
 #include "content/TextRecognitionPass.h"
 #include "content/TextStore.h"
@@ -13,6 +14,7 @@
 #include <QDate>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -127,6 +129,7 @@ private Q_SLOTS:
     void recognisedWordsAreFoundThroughTheSearch();
     void missingLanguageNamesItsPackageUntilInstalled();
     void cancelledRecognitionWritesNothing();
+    void backgroundReadingRecognisesScansAfterItsWalk();
 };
 
 void OcrTest::initTestCase()
@@ -239,6 +242,42 @@ void OcrTest::cancelledRecognitionWritesNothing()
     QCOMPARE(after->state, TextState::NeedsOcr);
     QCOMPARE(after->readAt, before->readAt);
     QVERIFY(after->body.isEmpty());
+}
+
+// The background reading of the program: after its walk over the files, the scans are
+// recognised, with their own progress, and their words reach the search.
+void OcrTest::backgroundReadingRecognisesScansAfterItsWalk()
+{
+    Register reg;
+    const QString text = reg.files.filePath(QStringLiteral("note.txt"));
+    QFile note(text);
+    QVERIFY(note.open(QIODevice::WriteOnly));
+    note.write("Pastaba");
+    note.close();
+    reg.addDocument(text);
+    const QString scan = reg.files.filePath(QStringLiteral("scan.pdf"));
+    writeImagePdf(scan, {smallPage(PageText)});
+    const qint32 scanned = reg.addDocument(scan);
+
+    ReadingQueue queue;
+    QSignalSpy walked(&queue, &ReadingQueue::finished);
+    QSignalSpy progress(&queue, &ReadingQueue::recognitionProgress);
+    QSignalSpy recognised(&queue, &ReadingQueue::recognitionFinished);
+    queue.start(reg.reg.connectionString(), Limit, 60 * 1000);
+    QVERIFY(recognised.wait(30000));
+    QCOMPARE(walked.size(), 1);
+    QCOMPARE(progress.first(), (QVariantList {0, 1}));
+    QCOMPARE(progress.last(), (QVariantList {1, 1}));
+    QCOMPARE(reg.row(scanned)->state, TextState::Read);
+    QCOMPARE(reg.found(QStringLiteral("žemės")), QList<qint32> {scanned});
+    QCOMPARE(recognitionProgressText(1200, 3400), QStringLiteral("Recognising text: 1 200 of 3 400"));
+
+    // A walk with nothing to recognise says nothing of it.
+    queue.rescan();
+    QVERIFY(walked.wait(10000));
+    QTest::qWait(100);
+    QCOMPARE(recognised.size(), 1);
+    queue.stop();
 }
 
 QTEST_MAIN(OcrTest)
