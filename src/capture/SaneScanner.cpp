@@ -3,8 +3,10 @@
 #include <QMutex>
 
 #include <cmath>
+#include <csignal>
 #include <cstring>
 #include <dlfcn.h>
+#include <pthread.h>
 #include <sane/sane.h>
 #include <sane/saneopts.h>
 #include <vector>
@@ -139,6 +141,13 @@ bool SaneScanner::initialise(QString* message)
 {
     if (m_initialised)
         return true;
+    // Backends read the scanner on a thread of their own that writes into a pipe; a cancel
+    // closes the pipe under it, and the write's SIGPIPE would end the program. The thread
+    // is started from this one and takes its blocked signals: the write just fails.
+    sigset_t pipe;
+    sigemptyset(&pipe);
+    sigaddset(&pipe, SIGPIPE);
+    pthread_sigmask(SIG_BLOCK, &pipe, nullptr);
     if (!loadSane()) {
         *message = missingSaneMessage();
         return false;
