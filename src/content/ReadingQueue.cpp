@@ -55,6 +55,7 @@ void ReadingWorker::recognise()
         return;
     TextRecognitionPass pass(*m_connection, ocrLanguages());
     pass.setCancelCheck([this] { return bool(*m_cancelled); });
+    pass.setLimitBytes(m_limitBytes);
     bool started = false;
     pass.run([this, &started](int done, int total) {
         started = true;

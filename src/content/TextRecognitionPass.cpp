@@ -3,6 +3,7 @@
 #include "base/Error.h"
 #include "capture/PageImages.h"
 #include "capture/TextRecognition.h"
+#include "content/FileText.h"
 #include "content/TextIndexer.h"
 #include "store/engine/Backend.h"
 #include "store/engine/Connection.h"
@@ -100,6 +101,11 @@ RecognitionSummary TextRecognitionPass::run(const Progress& progress)
             text->state = TextState::Failed;
             text->reason = missing;
             text->body.clear();
+            text->readAt = stampTime(QDateTime::currentDateTimeUtc());
+        } else if (stored.file.size > m_limitBytes) {
+            text = stored;
+            text->state = TextState::Failed;
+            text->reason = TextReason::tooLarge(m_limitBytes);
             text->readAt = stampTime(QDateTime::currentDateTimeUtc());
         } else {
             text = recognise(stored);

@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <functional>
+#include <limits>
 #include <memory>
 #include <optional>
 
@@ -45,6 +46,8 @@ public:
     // Asked before each page and while Tesseract reads one.
     void setCancelCheck(std::function<bool()> cancelled) { m_cancelled = std::move(cancelled); }
     void setDotsPerInch(int dotsPerInch) { m_dotsPerInch = dotsPerInch; }
+    // Files larger than this are recorded as too large, as the reading pass records them.
+    void setLimitBytes(qint64 limitBytes) { m_limitBytes = limitBytes; }
 
     RecognitionSummary run(const Progress& progress = {});
 
@@ -59,6 +62,7 @@ private:
     Connection& m_connection;
     QString m_languages;
     int m_dotsPerInch;
+    qint64 m_limitBytes = std::numeric_limits<qint64>::max();
     std::function<bool()> m_cancelled;
     // Made by run(): its threads keep their engines from one document to the next.
     std::unique_ptr<QThreadPool> m_pool;

@@ -2,6 +2,7 @@
 #include "TestPages.h"
 #include "base/Error.h"
 #include "capture/TextRecognition.h"
+#include "content/FileText.h"
 #include "content/ReadingQueue.h"
 #include "content/TextIndexer.h"
 #include "content/TextRecognitionPass.h"
@@ -12,6 +13,7 @@
 #include "store/engine/Recordset.h"
 
 #include <QDate>
+#include <QFileInfo>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSignalSpy>
@@ -95,12 +97,14 @@ struct Register
         return TextIndexer(connection, Limit).run();
     }
 
-    RecognitionSummary recognise(const QString& languages, std::function<bool()> cancelled = {}) const
+    RecognitionSummary recognise(
+        const QString& languages, std::function<bool()> cancelled = {}, qint64 limit = Limit) const
     {
         Connection connection(reg.connectionString());
         connection.open();
         TextRecognitionPass pass(connection, languages);
         pass.setCancelCheck(std::move(cancelled));
+        pass.setLimitBytes(limit);
         return pass.run();
     }
 
@@ -127,6 +131,7 @@ private Q_SLOTS:
     void initTestCase();
     void recognisedWordsAreFoundThroughTheSearch_data();
     void recognisedWordsAreFoundThroughTheSearch();
+    void largerThanTheLimitIsNotRecognised();
     void missingLanguageNamesItsPackageUntilInstalled();
     void cancelledRecognitionWritesNothing();
     void backgroundReadingRecognisesScansAfterItsWalk();
@@ -189,6 +194,20 @@ void OcrTest::recognisedWordsAreFoundThroughTheSearch()
 
     // Read once: a second pass finds nothing to do.
     QCOMPARE(reg.recognise(QStringLiteral("lit+eng")).read, 0);
+}
+
+void OcrTest::largerThanTheLimitIsNotRecognised()
+{
+    Register reg;
+    const QString path = reg.files.filePath(QStringLiteral("poster.png"));
+    QVERIFY(smallPage(PageText).save(path));
+    const qint32 id = reg.addDocument(path);
+    reg.read();
+    const qint64 size = QFileInfo(path).size();
+    QCOMPARE(reg.recognise(QStringLiteral("lit+eng"), {}, size - 1).failed, 1);
+    QCOMPARE(reg.row(id)->state, TextState::Failed);
+    QCOMPARE(reg.row(id)->reason, TextReason::tooLarge(size - 1));
+    QVERIFY(reg.found(QStringLiteral("Šiaulių")).isEmpty());
 }
 
 void OcrTest::missingLanguageNamesItsPackageUntilInstalled()
