@@ -419,7 +419,9 @@ void NewDocumentDialog::scanDocument()
         msgBox(QStringLiteral("Select any Category, please!"), warning, title);
         return;
     }
-    if (m_description->text().isEmpty()) {
+    // The description names the file only under the naming system "1"; else it may be typed
+    // after the scan (File > Scan New Document... opens the scan window at once).
+    if (m_description->text().isEmpty() && getRegValue(QStringLiteral("FileName")).trimmed() == u'1') {
         msgBox(QStringLiteral("Document Description Required!"), warning, title);
         return;
     }

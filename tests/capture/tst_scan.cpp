@@ -8,6 +8,7 @@
 #include "content/FileText.h"
 #include "harness/ScriptedPrompter.h"
 #include "options/CaptureOptions.h"
+#include "options/OptionStore.h"
 #include "platform/Prompter.h"
 #include "registration/NewDocumentFixture.h"
 
@@ -289,44 +290,58 @@ void ScanTest::searchablePdfHoldsThePagesAndTheirWords()
 
 // Scan in the New Document dialog: the scan window opens over it; the pages scanned and
 // Done give the document a PDF named and placed as a file made from a template, and Cancel
-// in the scan window gives it nothing and uses no number. Cancel of the document takes the
-// PDF back.
+// in the scan window gives it nothing and uses no number. The description may follow the
+// scan, unless the files are named by it. Cancel of the document takes the PDF back.
 void ScanTest::scanButtonAttachesThePdfNamedAsTheCategoryNames()
 {
     writeBackends("test\n");
     Fixture fx;
-    Dialog d;
-    d.type(4, QStringLiteral("Scanned letter"));
     const QString path = QDir(fx.files.path()).filePath(QStringLiteral("AGR00001.pdf"));
+    {
+        Dialog d;
+        // What the user does in the scan window, once it is up over the dialog.
+        const auto inScanWindow = [&d](bool done) {
+            QTimer::singleShot(0, &d.dialog, [&d, done] {
+                ScanDialog* scan = nullptr;
+                QTRY_VERIFY((scan = d.dialog.findChild<ScanDialog*>()) && scan->isVisible());
+                waitForScanner(*scan);
+                click(*scan, "cmdScanPage");
+                QTRY_COMPARE_WITH_TIMEOUT(pageCountOf(*scan), 1, 10000);
+                QTRY_VERIFY(child<QPushButton>(*scan, "cmdDone")->isEnabled());
+                click(*scan, done ? "cmdDone" : "cmdCancel");
+            });
+        };
 
-    // What the user does in the scan window, once it is up over the dialog.
-    const auto inScanWindow = [&d](bool done) {
-        QTimer::singleShot(0, &d.dialog, [&d, done] {
-            ScanDialog* scan = nullptr;
-            QTRY_VERIFY((scan = d.dialog.findChild<ScanDialog*>()) && scan->isVisible());
-            waitForScanner(*scan);
-            click(*scan, "cmdScanPage");
-            QTRY_COMPARE_WITH_TIMEOUT(pageCountOf(*scan), 1, 10000);
-            QTRY_VERIFY(child<QPushButton>(*scan, "cmdDone")->isEnabled());
-            click(*scan, done ? "cmdDone" : "cmdCancel");
-        });
-    };
+        inScanWindow(false);
+        d.click("cmdScan");
+        QVERIFY(d.box(5)->text().isEmpty());
+        QVERIFY(!QFile::exists(path));
 
-    inScanWindow(false);
+        inScanWindow(true);
+        d.click("cmdScan");
+        QTRY_COMPARE_WITH_TIMEOUT(d.box(5)->text(), path, 20000);
+        QCOMPARE(pageCount(path), 1);
+        QVERIFY(fx.prompter.prompts().isEmpty());
+
+        fx.prompter.answer(MsgBoxResult::Ok);
+        d.click("cmdScan");
+        QVERIFY(
+            fx.prompter.take().value(0).text.startsWith(QStringLiteral("The document has its file already")));
+
+        fx.prompter.answer(MsgBoxResult::Yes);
+        d.click("cmdCancel");
+        QVERIFY(fx.prompter.take().value(0).text.startsWith(QStringLiteral("Discard the new document")));
+        QVERIFY(!QFile::exists(path));
+        QCOMPARE(fx.documents(), 0);
+    }
+
+    setRegValue(QStringLiteral("FileName"), QStringLiteral("1"));
+    Dialog d;
+    fx.prompter.answer(MsgBoxResult::Ok);
     d.click("cmdScan");
-    QVERIFY(d.box(5)->text().isEmpty());
-    QVERIFY(!QFile::exists(path));
-
-    inScanWindow(true);
-    d.click("cmdScan");
-    QTRY_COMPARE_WITH_TIMEOUT(d.box(5)->text(), path, 20000);
-    QCOMPARE(pageCount(path), 1);
-    QVERIFY(fx.prompter.prompts().isEmpty());
-
-    fx.prompter.answer(MsgBoxResult::Yes);
+    QCOMPARE(fx.prompter.take().value(0).text, QStringLiteral("Document Description Required!"));
+    QVERIFY(!d.dialog.findChild<ScanDialog*>());
     d.click("cmdCancel");
-    QVERIFY(!QFile::exists(path));
-    QCOMPARE(fx.documents(), 0);
 }
 
 int main(int argc, char** argv)
