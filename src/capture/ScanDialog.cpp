@@ -7,6 +7,7 @@
 #include "platform/Prompter.h"
 #include "support/DialogParts.h"
 
+#include <QAction>
 #include <QComboBox>
 #include <QFile>
 #include <QGridLayout>
@@ -91,6 +92,12 @@ void ScanDialog::buildWidgets()
     m_cancel = makeDialogButton(QStringLiteral("cmdCancel"), QStringLiteral("Cancel"), this);
     m_done->setDefault(true);
 
+    // Del on the list deletes the selected page, as the button does.
+    auto* deleteKey = new QAction(m_pageList);
+    deleteKey->setShortcut(QKeySequence::Delete);
+    deleteKey->setShortcutContext(Qt::WidgetShortcut);
+    m_pageList->addAction(deleteKey);
+    connect(deleteKey, &QAction::triggered, this, &ScanDialog::deletePage);
     connect(m_scanner, &QComboBox::activated, this, &ScanDialog::onScannerChosen);
     connect(m_scanPage, &QPushButton::clicked, this, &ScanDialog::scanPage);
     connect(m_scanFeeder, &QPushButton::clicked, this, &ScanDialog::scanFeeder);
