@@ -129,15 +129,21 @@ void MainWindow::buildMenus()
     file->setObjectName(QStringLiteral("mnuFile"));
     addCommand(file, QStringLiteral("mnuNew"), QStringLiteral("&New Document"), &MainWindow::newDocument,
         QKeySequence(Qt::CTRL | Qt::Key_N), QStringLiteral("frmNewDocument"));
-    // A new document whose file is scanned: the New Document dialog with its scan window.
+    // A new document whose file is scanned: the New Document dialog, its Scan pressed once it
+    // shows (its loading may run events of its own before).
     QAction* scanNew = addCommand(file, QStringLiteral("mnuScanNew"), QStringLiteral("&Scan New Document..."),
         nullptr, {}, QStringLiteral("frmNewDocument"));
     disconnect(scanNew, &QAction::triggered, this, nullptr);
     connect(scanNew, &QAction::triggered, this, [this] {
-        QTimer::singleShot(0, this, [this] {
-            if (auto* dialog = findChild<NewDocumentDialog*>(); dialog && dialog->isVisible())
+        QTimer pressScan;
+        pressScan.setInterval(10);
+        connect(&pressScan, &QTimer::timeout, this, [this, &pressScan] {
+            if (auto* dialog = findChild<NewDocumentDialog*>(); dialog && dialog->isVisible()) {
+                pressScan.stop();
                 dialog->scanDocument();
+            }
         });
+        pressScan.start();
         openDialog(QStringLiteral("frmNewDocument"));
     });
     addCommand(file, QStringLiteral("mnuOpen"), QStringLiteral("&Open Document"), &MainWindow::openDocument,

@@ -6,12 +6,15 @@
 #include "capture/ScanDialog.h"
 #include "capture/TextRecognition.h"
 #include "content/FileText.h"
+#include "explorer/ExplorerFixture.h"
+#include "explorer/MainWindow.h"
 #include "harness/ScriptedPrompter.h"
 #include "options/CaptureOptions.h"
 #include "options/OptionStore.h"
 #include "platform/Prompter.h"
 #include "registration/NewDocumentFixture.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QElapsedTimer>
@@ -79,6 +82,7 @@ private Q_SLOTS:
     void scannerFailingMidPageKeepsEarlierPages();
     void searchablePdfHoldsThePagesAndTheirWords();
     void scanButtonAttachesThePdfNamedAsTheCategoryNames();
+    void scanNewDocumentOpensTheScanOverNewDocument();
 
 private:
     void writeBackends(const QByteArray& backends);
@@ -344,6 +348,51 @@ void ScanTest::scanButtonAttachesThePdfNamedAsTheCategoryNames()
     QCOMPARE(fx.prompter.take().value(0).text, QStringLiteral("Document Description Required!"));
     QVERIFY(!d.dialog.findChild<ScanDialog*>());
     d.click("cmdCancel");
+}
+
+// File > Scan New Document...: the New Document dialog of the category chosen in the tree,
+// with its scan window open at once.
+void ScanTest::scanNewDocumentOpensTheScanOverNewDocument()
+{
+    writeBackends("test\n");
+    ScriptedPrompter prompter;
+    ExplorerFixture fx;
+    MainWindow& window = fx.window();
+    fx.clickNode("a" + QString::number(fx.id["Sutartys"]));
+    QAction* scanNew = window.action(QStringLiteral("mnuScanNew"));
+    QVERIFY(scanNew);
+    QCOMPARE(scanNew->text(), QStringLiteral("&Scan New Document..."));
+    QVERIFY(scanNew->isEnabled());
+
+    bool scanOverNewDocument = false;
+    QString category;
+    // Watches for the scan window without holding the events up: the New Document dialog
+    // loads (and runs events) before it shows.
+    QTimer watch;
+    watch.setInterval(10);
+    connect(&watch, &QTimer::timeout, &window, [&] {
+        ScanDialog* scan = window.findChild<ScanDialog*>();
+        if (!scan || !scan->isVisible())
+            return;
+        watch.stop();
+        auto* newDocument = qobject_cast<QDialog*>(scan->parentWidget());
+        scanOverNewDocument = newDocument && newDocument->objectName() == QLatin1String("frmNewDocument")
+            && newDocument->isVisible();
+        if (newDocument) {
+            const QList<QComboBox*> boxes = newDocument->findChildren<QComboBox*>();
+            for (QComboBox* box : boxes) {
+                if (box->currentText() == QLatin1String("Sutartys"))
+                    category = box->currentText();
+            }
+            QTimer::singleShot(0, newDocument, &QDialog::reject);
+        }
+        click(*scan, "cmdCancel");
+    });
+    watch.start();
+    scanNew->trigger();
+    QVERIFY(scanOverNewDocument);
+    QCOMPARE(category, QStringLiteral("Sutartys"));
+    QVERIFY(!window.findChild<ScanDialog*>());
 }
 
 int main(int argc, char** argv)
