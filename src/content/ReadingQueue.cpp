@@ -1,6 +1,9 @@
 #include "content/ReadingQueue.h"
 
 #include "base/Error.h"
+#include "capture/TextRecognition.h"
+#include "content/TextRecognitionPass.h"
+#include "options/CaptureOptions.h"
 #include "store/engine/Connection.h"
 
 #include <QThread>
@@ -35,8 +38,9 @@ void ReadingWorker::scan()
             Q_EMIT progress(done, total);
             return !*m_cancelled;
         });
-        m_scanning = false;
         Q_EMIT finished(summary);
+        recognise();
+        m_scanning = false;
     } catch (const Error& error) {
         // Opened again at the next walk: a server may be back by then.
         m_connection.reset();
@@ -45,9 +49,28 @@ void ReadingWorker::scan()
     }
 }
 
+void ReadingWorker::recognise()
+{
+    if (*m_cancelled)
+        return;
+    TextRecognitionPass pass(*m_connection, ocrLanguages());
+    pass.setCancelCheck([this] { return bool(*m_cancelled); });
+    pass.setLimitBytes(m_limitBytes);
+    bool started = false;
+    pass.run([this, &started](int done, int total) {
+        started = true;
+        Q_EMIT recognitionProgress(done, total);
+        return !*m_cancelled;
+    });
+    if (started)
+        Q_EMIT recognitionFinished();
+}
+
 ReadingQueue::ReadingQueue(QObject* parent)
     : QObject(parent)
 {
+    // Tesseract needs the C numeric locale; set here, on the thread that made the queue.
+    useCNumericLocale();
     qRegisterMetaType<kartella::IndexSummary>();
     m_timer = new QTimer(this);
     connect(m_timer, &QTimer::timeout, this, &ReadingQueue::rescan);
@@ -72,6 +95,8 @@ void ReadingQueue::start(const QString& connectionString, qint64 limitBytes, int
     connect(m_worker, &ReadingWorker::progress, this, &ReadingQueue::progress);
     connect(m_worker, &ReadingWorker::finished, this, &ReadingQueue::finished);
     connect(m_worker, &ReadingWorker::failed, this, &ReadingQueue::failed);
+    connect(m_worker, &ReadingWorker::recognitionProgress, this, &ReadingQueue::recognitionProgress);
+    connect(m_worker, &ReadingWorker::recognitionFinished, this, &ReadingQueue::recognitionFinished);
     m_thread->start(QThread::LowPriority);
     m_timer->start(rescanMs);
     rescan();

@@ -16,7 +16,8 @@ namespace kartella {
 class Connection;
 
 // Works on the reading thread: a connection of its own (connections are per thread) and
-// one TextIndexer pass per scan.
+// one TextIndexer pass per scan, followed by a TextRecognitionPass for the pages that
+// have to be read as images.
 class ReadingWorker : public QObject
 {
     Q_OBJECT
@@ -34,8 +35,12 @@ Q_SIGNALS:
     void progress(int done, int total);
     void finished(const kartella::IndexSummary& summary);
     void failed(const QString& message);
+    void recognitionProgress(int done, int total);
+    void recognitionFinished();
 
 private:
+    void recognise();
+
     QString m_connectionString;
     qint64 m_limitBytes;
     std::shared_ptr<std::atomic_bool> m_cancelled;
@@ -73,6 +78,11 @@ Q_SIGNALS:
     void finished(const kartella::IndexSummary& summary);
     // A walk could not list the documents (the register can't be opened, say).
     void failed(const QString& message);
+    // After a walk, the words of scanned pages and images are recognised (languages from
+    // the option OcrLanguages): documents done of total, then recognitionFinished. A walk
+    // with nothing to recognise sends neither.
+    void recognitionProgress(int done, int total);
+    void recognitionFinished();
     // Internal: carried to the worker's thread.
     void scanRequested();
 

@@ -2,12 +2,14 @@
 #include "content/ReadingQueue.h"
 #include "explorer/ContentProgress.h"
 #include "explorer/MainWindow.h"
+#include "registration/NewDocumentDialog.h"
 #include "support/SelectionState.h"
 
 #include <QAction>
 #include <QActionGroup>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -132,6 +134,23 @@ void MainWindow::buildMenus()
     file->setObjectName(QStringLiteral("mnuFile"));
     addCommand(file, QStringLiteral("mnuNew"), QStringLiteral("&New Document"), &MainWindow::newDocument,
         QKeySequence(Qt::CTRL | Qt::Key_N), QStringLiteral("frmNewDocument"));
+    // A new document whose file is scanned: the New Document dialog, its Scan pressed once it
+    // shows (its loading may run events of its own before).
+    QAction* scanNew = addCommand(file, QStringLiteral("mnuScanNew"), QStringLiteral("&Scan New Document..."),
+        nullptr, {}, QStringLiteral("frmNewDocument"));
+    disconnect(scanNew, &QAction::triggered, this, nullptr);
+    connect(scanNew, &QAction::triggered, this, [this] {
+        QTimer pressScan;
+        pressScan.setInterval(10);
+        connect(&pressScan, &QTimer::timeout, this, [this, &pressScan] {
+            if (auto* dialog = findChild<NewDocumentDialog*>(); dialog && dialog->isVisible()) {
+                pressScan.stop();
+                dialog->scanDocument();
+            }
+        });
+        pressScan.start();
+        openDialog(QStringLiteral("frmNewDocument"));
+    });
     addCommand(file, QStringLiteral("mnuOpen"), QStringLiteral("&Open Document"), &MainWindow::openDocument,
         QKeySequence(Qt::CTRL | Qt::Key_O));
     file->addSeparator()->setObjectName(QStringLiteral("mnuHyper3"));

@@ -40,6 +40,27 @@ void setOcrLanguages(const QString& languages)
     writeRegValue(Hive::CurrentUser, optionsKeyPath(), OcrOption, languages.trimmed());
 }
 
+ScanSettings scanSettings()
+{
+    ScanSettings settings;
+    settings.device = readOption(QStringLiteral("ScanDevice"));
+    settings.source = readOption(QStringLiteral("ScanSource"));
+    settings.mode = readOption(QStringLiteral("ScanMode"));
+    bool ok = false;
+    const int resolution = readOption(QStringLiteral("ScanResolution")).toInt(&ok);
+    settings.resolution = ok && resolution >= 25 && resolution <= 4800 ? resolution : DefaultScanResolution;
+    return settings;
+}
+
+void saveScanSettings(const ScanSettings& settings)
+{
+    writeRegValues(Hive::CurrentUser, optionsKeyPath(),
+        {{QStringLiteral("ScanDevice"), settings.device}, {QStringLiteral("ScanSource"), settings.source},
+            {QStringLiteral("ScanMode"), settings.mode},
+            {QStringLiteral("ScanResolution"), QString::number(settings.resolution)}},
+        false);
+}
+
 CaptureOptionsNotifier& captureOptions()
 {
     static CaptureOptionsNotifier notifier;

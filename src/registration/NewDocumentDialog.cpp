@@ -1,6 +1,7 @@
 #include "registration/NewDocumentDialog.h"
 
 #include "base/Error.h"
+#include "capture/ScanDialog.h"
 #include "options/OptionStore.h"
 #include "platform/Clock.h"
 #include "platform/OfficeSuite.h"
@@ -208,9 +209,13 @@ QWidget* NewDocumentDialog::buildGeneralTab()
 
 QGroupBox* NewDocumentDialog::buildCreateWith()
 {
-    return makeCreateWithFrame(this,
+    QGroupBox* frame = makeCreateWithFrame(this,
         {[this] { createWithWord(); }, [this] { createWithExcel(); }, [this] { createWithPowerPoint(); },
             [this] { addExistingFile(); }});
+    QPushButton* scan = makeDialogButton(QStringLiteral("cmdScan"), QStringLiteral("&Scan"), frame);
+    connect(scan, &QPushButton::clicked, this, &NewDocumentDialog::scanDocument);
+    frame->layout()->addWidget(scan);
+    return frame;
 }
 
 void NewDocumentDialog::bindControls()
@@ -442,6 +447,53 @@ void NewDocumentDialog::createDocument(const CreatingButton& button)
         if (error.number() != OfficeErrorNumber::NotInstalled
             && error.number() != OfficeErrorNumber::TimedOut)
             msgBox(error.description(), warning, button.title);
+    }
+}
+
+void NewDocumentDialog::scanDocument()
+{
+    const QString title = QStringLiteral("Unable to scan a New Document");
+    const int warning = MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation;
+    if (m_category->value().isEmpty()) {
+        msgBox(QStringLiteral("Select any Category, please!"), warning, title);
+        return;
+    }
+    // The description names the file only under the naming system "1"; else it may be typed
+    // after the scan (File > Scan New Document... opens the scan window at once).
+    if (m_description->text().isEmpty() && getRegValue(QStringLiteral("FileName")).trimmed() == u'1') {
+        msgBox(QStringLiteral("Document Description Required!"), warning, title);
+        return;
+    }
+    if (!m_location->text().isEmpty()) {
+        msgBox(QStringLiteral("The document has its file already: ") + m_location->text(), warning, title);
+        return;
+    }
+    // The name is taken (and the running number counted) only when Done saves the pages.
+    ScanDialog scan([this] { return scannedFilePath(); }, this);
+    if (scan.exec() != QDialog::Accepted || scan.savedPath().isEmpty())
+        return;
+    m_madeFile = scan.savedPath();
+    setLocation(m_madeFile);
+}
+
+QString NewDocumentDialog::scannedFilePath()
+{
+    const QString title = QStringLiteral("Unable to scan a New Document");
+    try {
+        const QString category = m_category->value();
+        const QVariant folder = getDocumentFolder(category, m_subCategory->value());
+        const QString path = makeNewFileName(
+            m_description->text(), QStringLiteral(".pdf"), folder, category, m_regIndex->text());
+        if (path.isEmpty())
+            return {};
+        if (QFileInfo::exists(path)) {
+            msgBox(fileExistsMessage(path), MsgBoxStyle::OkOnly | MsgBoxStyle::Critical, title);
+            return {};
+        }
+        return path;
+    } catch (const Error& error) {
+        msgBox(error.description(), MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, title);
+        return {};
     }
 }
 

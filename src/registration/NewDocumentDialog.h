@@ -57,6 +57,8 @@ public Q_SLOTS:
     void createWithExcel();
     void createWithPowerPoint();
     void addExistingFile();
+    // Scan: the pages scanned become the document's PDF, named as a made file is.
+    void scanDocument();
     void save();
     void cancel();
     // Closing without OK: asks before deleting a file made here, and stays open on No.
@@ -82,6 +84,8 @@ private:
     // Proposes the index for the chosen category; a failed proposal empties the box.
     void proposeRegIndex();
     void createDocument(const CreatingButton& button);
+    // The path of the scanned document's PDF; empty after telling the user why not.
+    QString scannedFilePath();
     // A register of an older version counts the day's numbers in the user's options.
     void countInOptions();
     void onReminderGridEnter();
