@@ -1,6 +1,7 @@
 #include "explorer/ContentProgress.h"
 
 #include "content/ReadingQueue.h"
+#include "content/TextRecognitionPass.h"
 #include "options/OptionStore.h"
 #include "options/TextOptions.h"
 #include "store/Store.h"
@@ -23,6 +24,16 @@ ContentProgress::ContentProgress(QMainWindow* window)
     connect(m_queue, &ReadingQueue::progress, this, &ContentProgress::showProgress);
     connect(m_queue, &ReadingQueue::finished, m_panel, &QLabel::hide);
     connect(m_queue, &ReadingQueue::failed, m_panel, &QLabel::hide);
+    // Text recognition follows the reading, in the same place: "Recognising text: 2 of 15".
+    connect(m_queue, &ReadingQueue::recognitionProgress, this, [this](int done, int total) {
+        if (total == 0 || done >= total) {
+            m_panel->hide();
+            return;
+        }
+        m_panel->setText(recognitionProgressText(done, total));
+        m_panel->show();
+    });
+    connect(m_queue, &ReadingQueue::recognitionFinished, m_panel, &QLabel::hide);
 }
 
 ContentProgress::~ContentProgress() = default;

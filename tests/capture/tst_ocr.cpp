@@ -7,6 +7,7 @@
 #include "content/TextIndexer.h"
 #include "content/TextRecognitionPass.h"
 #include "content/TextStore.h"
+#include "explorer/ContentProgress.h"
 #include "explorer/DocumentSearch.h"
 #include "harness/TestRegister.h"
 #include "store/engine/Connection.h"
@@ -14,9 +15,12 @@
 
 #include <QDate>
 #include <QFileInfo>
+#include <QLabel>
+#include <QMainWindow>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSignalSpy>
+#include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -278,7 +282,15 @@ void OcrTest::backgroundReadingRecognisesScansAfterItsWalk()
     writeImagePdf(scan, {smallPage(PageText)});
     const qint32 scanned = reg.addDocument(scan);
 
-    ReadingQueue queue;
+    // The main window's status bar shows the recognition where it showed the reading.
+    QMainWindow window;
+    ContentProgress shown(&window);
+    ReadingQueue& queue = shown.queue();
+    auto* panel = window.statusBar()->findChild<QLabel*>(QStringLiteral("pnReadingFiles"));
+    QVERIFY(panel);
+    QStringList texts;
+    connect(&queue, &ReadingQueue::recognitionProgress, this,
+        [&] { texts << (panel->isVisibleTo(&window) ? panel->text() : QString()); });
     QSignalSpy walked(&queue, &ReadingQueue::finished);
     QSignalSpy progress(&queue, &ReadingQueue::recognitionProgress);
     QSignalSpy recognised(&queue, &ReadingQueue::recognitionFinished);
@@ -287,6 +299,8 @@ void OcrTest::backgroundReadingRecognisesScansAfterItsWalk()
     QCOMPARE(walked.size(), 1);
     QCOMPARE(progress.first(), (QVariantList {0, 1}));
     QCOMPARE(progress.last(), (QVariantList {1, 1}));
+    QCOMPARE(texts, (QStringList {QStringLiteral("Recognising text: 0 of 1"), QString()}));
+    QVERIFY(!panel->isVisibleTo(&window));
     QCOMPARE(reg.row(scanned)->state, TextState::Read);
     QCOMPARE(reg.found(QStringLiteral("žemės")), QList<qint32> {scanned});
     QCOMPARE(recognitionProgressText(1200, 3400), QStringLiteral("Recognising text: 1 200 of 3 400"));

@@ -26,6 +26,8 @@ public:
             QTest::qFail(qPrintable(QStringLiteral("can't open ") + path), __FILE__, __LINE__);
         // Registers of the first schema name the engine's collation.
         engine::registerTextFunctions(m_db);
+        // The program's background reading may be committing the files' text just then.
+        sqlite3_busy_timeout(m_db, 10000);
     }
     ~ReadOnlyDatabase() { sqlite3_close_v2(m_db); }
     ReadOnlyDatabase(const ReadOnlyDatabase&) = delete;

@@ -188,8 +188,13 @@ private Q_SLOTS:
         fx.reg.insert("tbl_Tickler",
             {{"RastasID", old}, {"TicklerDate", QDate(2029, 1, 1)}, {"TicklerText", "Atsakyta"},
                 {"TicklerDone", 1}});
-        if (olderRegister)
+        if (olderRegister) {
+            // The history's triggers, which came later, name the column.
+            for (const char* change : {"Insert", "Update", "Delete"})
+                fx.reg.exec(
+                    QStringLiteral("DROP TRIGGER IF EXISTS trg_History_Tickler_") + QLatin1String(change));
             fx.reg.exec("ALTER TABLE tbl_Tickler DROP COLUMN TicklerDone");
+        }
         ReportCommands commands;
         commands.setConnectionString(fx.reg.connectionString());
         const QStringList lines = run(commands, "reminder");

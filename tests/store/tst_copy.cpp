@@ -276,7 +276,12 @@ private Q_SLOTS:
             if (fileToServer && table == "tbl_Documents")
                 expected << "  dates that lost their time of day (a register on a server keeps the day): 1";
         }
+        // The register's history and trash come along, the history's rows as they were.
+        for (const char* record : {"tbl_History", "tbl_Trash"})
+            expected << QString(record) + ": " + QString::number(rowCount(where.from, record)) + " copied";
         QCOMPARE(report.lines(), expected);
+        QVERIFY(rowCount(where.from, "tbl_History") > 0);
+        QCOMPARE(rowCount(where.to, "tbl_History"), rowCount(where.from, "tbl_History"));
 
         for (const auto& [table, key] : Tables) {
             QStringList rows = engineRows(where.from, table, key);
