@@ -26,9 +26,12 @@ bool isQuoted(QStringView text)
 
 QString encode(const QString& value)
 {
-    if (isQuoted(value))
+    // A line break goes into the line form first, in quotes or not: a raw one would end the
+    // line and start another.
+    const bool lines = value.contains(u'\n') || value.contains(u'\r') || value.startsWith(LinesPrefix);
+    if (!lines && isQuoted(value))
         return u'"' + value + u'"';
-    if (!value.contains(u'\n') && !value.contains(u'\r') && !value.startsWith(LinesPrefix))
+    if (!lines)
         return value;
     QString out = LinesPrefix;
     for (QChar c : value) {

@@ -106,6 +106,8 @@ private Q_SLOTS:
                                                   << " \" 1\" ";
         QTest::newRow("one quote") << "\""
                                    << "\"";
+        QTest::newRow("lines in quotes") << "\"one\nDbLocation=/other.mdb\r\n\""
+                                         << "\"one\nDbLocation=/other.mdb\r\n\"";
         QTest::newRow("254 characters") << QString(254, 'x') << QString(254, 'x');
         QTest::newRow("255 characters") << QString(255, 'x') << "Not Found";
     }

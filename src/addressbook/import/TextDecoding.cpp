@@ -31,7 +31,9 @@ QString guessCodePage(const QByteArray& text)
 
 bool isKnownCodePage(const QString& name)
 {
-    return !name.isEmpty() && QStringDecoder(name.toLatin1().constData()).isValid();
+    // As decodeText reads it: blanks around the name are no part of it.
+    const QString trimmed = name.trimmed();
+    return !trimmed.isEmpty() && QStringDecoder(trimmed.toLatin1().constData()).isValid();
 }
 
 QString decodeText(const QByteArray& text, const QString& charset)
