@@ -194,9 +194,23 @@ void RemindersWindow::markDone()
             connection.open(plainConnectionString());
         }
         // From the last line up, so that a failure leaves the lines done so far off the list.
+        // A reminder another user changed since it was shown is left as it is, and the list
+        // shows it as it is now.
+        bool changed = false;
         for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
-            markReminderDone(connection, m_model->reminderId(*row));
-            m_model->removeLine(*row);
+            const ReminderMark mark = markReminderDoneAsShown(connection, m_model->reminder(*row));
+            if (mark == ReminderMark::Changed)
+                changed = true;
+            else
+                m_model->removeLine(*row);
+        }
+        if (changed) {
+            reload();
+            Q_EMIT remindersDone();
+            msgBox(QStringLiteral("A reminder was changed by another user since the list was shown; it is "
+                                  "not marked done. The list shows it as it is now."),
+                MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation, Title);
+            return;
         }
     } catch (const Error& error) {
         showLines(first);

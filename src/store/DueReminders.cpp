@@ -247,6 +247,39 @@ void markReminderDone(Connection& connection, qint32 reminderId)
         + QStringLiteral(" = 1 WHERE TicklerID = ") + QString::number(reminderId));
 }
 
+ReminderMark markReminderDoneAsShown(Connection& connection, const DueReminder& shown)
+{
+    if (!hasReminderDoneColumn(connection))
+        markReminderDone(connection, shown.reminderId); // tells why it can't
+    connection.beginTrans();
+    try {
+        connection.lockForWriting(QStringLiteral("reminders"));
+        Recordset row;
+        row.open(QStringLiteral("SELECT TicklerDate, TicklerText FROM tbl_Tickler WHERE TicklerID = ")
+                + QString::number(shown.reminderId),
+            connection);
+        ReminderMark mark = ReminderMark::Done;
+        if (row.eof()) {
+            mark = ReminderMark::Gone;
+        } else {
+            const QVariant stored = row.fields(QStringLiteral("TicklerDate")).value();
+            const bool sameDate = shown.date.isValid()
+                ? readableDate(stored) == shown.date
+                : (stored.isNull() ? QString() : stored.toString()) == shown.dateText;
+            if (!sameDate || row.fields(QStringLiteral("TicklerText")).value().toString() != shown.text)
+                mark = ReminderMark::Changed;
+        }
+        row.close();
+        if (mark == ReminderMark::Done)
+            markReminderDone(connection, shown.reminderId);
+        connection.commitTrans();
+        return mark;
+    } catch (...) {
+        connection.rollbackTrans();
+        throw;
+    }
+}
+
 bool showDueRemindersAtStart()
 {
     return getRegValue(ShowAtStartOption).trimmed() != QLatin1String("0");

@@ -67,6 +67,17 @@ std::vector<DueReminder> remindersById(
 // Marks one reminder done. Throws kartella::Error when the register has no done column.
 void markReminderDone(Connection& connection, qint32 reminderId);
 
+// What marking a reminder done met.
+enum class ReminderMark {
+    Done, // it was as shown, and is done now
+    Changed, // another user changed its date or text since it was shown: left as it is
+    Gone, // another user deleted it
+};
+// Marks the reminder done only when it still holds the date and text shown (both read with
+// it by readDueReminders), in one write transaction. Throws kartella::Error as
+// markReminderDone does.
+ReminderMark markReminderDoneAsShown(Connection& connection, const DueReminder& shown);
+
 // The option "Show due reminders at start": on unless it is stored as off.
 bool showDueRemindersAtStart();
 void setShowDueRemindersAtStart(bool show);

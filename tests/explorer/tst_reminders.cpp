@@ -397,6 +397,38 @@ private Q_SLOTS:
         QVERIFY(prompter.prompts().isEmpty());
     }
 
+    // Done on a reminder another user changed since the list was shown leaves it as it is and
+    // shows it anew; one another user deleted just leaves the list.
+    void doneOnARemindersChangedMeanwhile()
+    {
+        TestRegister reg;
+        ScriptedPrompter prompter;
+        const QDate today(2024, 3, 1);
+        const qint32 doc = addDocument(reg, "A-1", "Aktas");
+        const qint32 moved = addReminder(reg, doc, QDate(2024, 2, 28), "call back");
+        const qint32 gone = addReminder(reg, doc, QDate(2024, 2, 29), "send the act");
+        RemindersWindow window(today);
+        activate(window);
+        QCOMPARE(column(window, 4), (QStringList {"call back", "send the act"}));
+        reg.exec(
+            QStringLiteral("UPDATE tbl_Tickler SET TicklerText = 'call back on Monday' WHERE TicklerID = %1")
+                .arg(moved));
+        reg.exec(QStringLiteral("DELETE FROM tbl_Tickler WHERE TicklerID = %1").arg(gone));
+        prompter.answer(MsgBoxResult::Ok);
+        QTest::keyClick(list(window), Qt::Key_Down, Qt::ShiftModifier);
+        auto* done = window.findChild<QPushButton*>("cmdDone");
+        QTest::mouseClick(done, Qt::LeftButton);
+        QCOMPARE(prompter.texts().size(), 1);
+        QVERIFY2(prompter.texts().first().startsWith("A reminder was changed by another user"),
+            qPrintable(prompter.texts().first()));
+        QCOMPARE(doneColumn(reg), QString("call back on Monday=0"));
+        QCOMPARE(column(window, 4), QStringList {"call back on Monday"});
+        // Done again, on what it shows now, marks it.
+        QTest::mouseClick(done, Qt::LeftButton);
+        QCOMPARE(prompter.texts().size(), 1);
+        QCOMPARE(doneColumn(reg), QString("call back on Monday=1"));
+    }
+
     // The count is taken again when the New Document dialog closes, its reminders in mind.
     void countAgainAfterTheNewDocumentDialog()
     {
