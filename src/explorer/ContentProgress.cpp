@@ -21,18 +21,13 @@ ContentProgress::ContentProgress(QMainWindow* window)
     m_panel->setToolTip(QStringLiteral("The text of the documents' files being read for the search"));
     m_panel->hide();
     window->statusBar()->addPermanentWidget(m_panel);
-    connect(m_queue, &ReadingQueue::progress, this, &ContentProgress::showProgress);
+    connect(m_queue, &ReadingQueue::progress, this,
+        [this](int done, int total) { showProgress(done, total, readingProgressText); });
     connect(m_queue, &ReadingQueue::finished, m_panel, &QLabel::hide);
     connect(m_queue, &ReadingQueue::failed, m_panel, &QLabel::hide);
     // Text recognition follows the reading, in the same place: "Recognising text: 2 of 15".
-    connect(m_queue, &ReadingQueue::recognitionProgress, this, [this](int done, int total) {
-        if (total == 0 || done >= total) {
-            m_panel->hide();
-            return;
-        }
-        m_panel->setText(recognitionProgressText(done, total));
-        m_panel->show();
-    });
+    connect(m_queue, &ReadingQueue::recognitionProgress, this,
+        [this](int done, int total) { showProgress(done, total, recognitionProgressText); });
     connect(m_queue, &ReadingQueue::recognitionFinished, m_panel, &QLabel::hide);
 }
 
@@ -54,13 +49,13 @@ void ContentProgress::stop()
     m_panel->hide();
 }
 
-void ContentProgress::showProgress(int done, int total)
+void ContentProgress::showProgress(int done, int total, QString (*text)(int, int))
 {
     if (total == 0 || done >= total) {
         m_panel->hide();
         return;
     }
-    m_panel->setText(readingProgressText(done, total));
+    m_panel->setText(text(done, total));
     m_panel->show();
 }
 

@@ -29,7 +29,8 @@ public:
     ReadingQueue& queue() const { return *m_queue; }
 
 private:
-    void showProgress(int done, int total);
+    // Shows text (readingProgressText or recognitionProgressText) while done < total.
+    void showProgress(int done, int total, QString (*text)(int, int));
 
     ReadingQueue* m_queue = nullptr;
     QLabel* m_panel = nullptr;
