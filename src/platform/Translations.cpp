@@ -1,6 +1,8 @@
 #include "platform/Translations.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
@@ -19,6 +21,16 @@ QString installTranslations(const QStringList& languages)
             continue;
         }
         QCoreApplication::installTranslator(ours);
+        // A language's texts may come in parts besides its main file (kartella_lt.reports.qm).
+        const QString mainFile = QFileInfo(ours->filePath()).completeBaseName();
+        for (const QString& part :
+            QDir(TranslationsFolder).entryList({mainFile + QStringLiteral(".*.qm")}, QDir::Files)) {
+            auto* more = new QTranslator(QCoreApplication::instance());
+            if (more->load(part, TranslationsFolder))
+                QCoreApplication::installTranslator(more);
+            else
+                delete more;
+        }
         // Qt's file, print and message box dialogs, where Debian's qt6-translations-l10n has them.
         const QString qtFolder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
         for (const QString& catalog : {QStringLiteral("qtbase"), QStringLiteral("qt")}) {
