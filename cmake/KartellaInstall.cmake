@@ -7,6 +7,7 @@ set(KARTELLA_APP_ID org.kartella.Kartella)
 set(share ${PROJECT_SOURCE_DIR}/share)
 
 install(TARGETS kartella kartella-db RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS kartella-scanner RUNTIME DESTINATION ${CMAKE_INSTALL_LIBEXECDIR}/kartella)
 install(FILES ${share}/snow.ico DESTINATION ${CMAKE_INSTALL_DATADIR}/kartella)
 install(FILES ${share}/icons/kartella-256.png DESTINATION ${CMAKE_INSTALL_DATADIR}/kartella RENAME kartella.png)
 foreach(size 16 22 24 32 48 64 128 256)

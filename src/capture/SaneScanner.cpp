@@ -1,6 +1,10 @@
 #include "capture/SaneScanner.h"
 
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
 #include <QMutex>
+#include <QThread>
 
 #include <cmath>
 #include <csignal>
@@ -10,6 +14,7 @@
 #include <pthread.h>
 #include <sane/sane.h>
 #include <sane/saneopts.h>
+#include <unistd.h>
 #include <vector>
 
 namespace kartella {
@@ -34,7 +39,8 @@ struct SaneApi
 };
 
 QMutex loading;
-QString libraryName = QStringLiteral("libsane.so.1");
+const QString DefaultLibrary = QStringLiteral("libsane.so.1");
+QString chosenLibrary = DefaultLibrary;
 void* libraryHandle = nullptr;
 SaneApi api;
 
@@ -50,7 +56,7 @@ bool loadSane()
     const QMutexLocker lock(&loading);
     if (libraryHandle)
         return true;
-    libraryHandle = dlopen(libraryName.toLocal8Bit().constData(), RTLD_NOW | RTLD_LOCAL);
+    libraryHandle = dlopen(chosenLibrary.toLocal8Bit().constData(), RTLD_NOW | RTLD_LOCAL);
     if (!libraryHandle)
         return false;
     const bool complete = resolve(api.init, "sane_init") && resolve(api.exit, "sane_exit")
@@ -83,6 +89,38 @@ void keepBackendsLoaded()
             return 0;
         },
         nullptr);
+}
+
+// SANE's backends read the scanner on a thread of their own (named like the thread that
+// started it), and sane_cancel stops that thread with an asynchronous pthread_cancel. One
+// that is just ending, inside the C library's freeing of its memory, dies holding the
+// allocator's lock and hangs the program. So a reader that is ending is let end first:
+// while this thread's name is on another thread of the process, and for a second at most.
+void waitForReaderThreads()
+{
+#ifdef Q_OS_LINUX
+    char name[32] = {};
+    if (pthread_getname_np(pthread_self(), name, sizeof name) != 0 || name[0] == '\0')
+        return;
+    const QByteArray own = QByteArray(name) + '\n';
+    const QByteArray self = QByteArray::number(qint64(gettid()));
+    auto readersAlive = [&] {
+        const QStringList tasks
+            = QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+        for (const QString& task : tasks) {
+            if (task.toLatin1() == self)
+                continue;
+            QFile comm(QStringLiteral("/proc/self/task/%1/comm").arg(task));
+            if (comm.open(QIODevice::ReadOnly) && comm.readAll() == own)
+                return true;
+        }
+        return false;
+    };
+    QElapsedTimer waited;
+    waited.start();
+    while (readersAlive() && waited.elapsed() < 1000)
+        QThread::msleep(5);
+#endif
 }
 
 QString saneText(SANE_String_Const text)
@@ -140,7 +178,13 @@ SaneScanner::~SaneScanner()
 void SaneScanner::setLibraryName(const QString& name)
 {
     const QMutexLocker lock(&loading);
-    libraryName = name;
+    chosenLibrary = name;
+}
+
+QString SaneScanner::libraryName()
+{
+    const QMutexLocker lock(&loading);
+    return chosenLibrary == DefaultLibrary ? QString() : chosenLibrary;
 }
 
 QString SaneScanner::missingSaneMessage()
@@ -154,6 +198,16 @@ QString SaneScanner::noScannerMessage()
     return QStringLiteral(
         "No scanner was found. Check that the scanner is connected and switched on; "
         "the command scanimage -L (Debian package sane-utils) lists the scanners SANE sees.");
+}
+
+QString SaneScanner::noScannerOpenMessage()
+{
+    return QStringLiteral("No scanner is open.");
+}
+
+QString SaneScanner::emptyFeederMessage()
+{
+    return QStringLiteral("There is no paper in the feeder.");
 }
 
 bool SaneScanner::initialise(QString* message)
@@ -327,7 +381,7 @@ SaneScanner::Outcome SaneScanner::scanPage(
     QImage* page, QString* message, const std::atomic_bool& cancel, bool moreToCome)
 {
     if (!m_handle) {
-        *message = QStringLiteral("No scanner is open.");
+        *message = noScannerOpenMessage();
         return Outcome::Failed;
     }
     SANE_Status status = api.start(m_handle);
@@ -359,7 +413,7 @@ SaneScanner::Outcome SaneScanner::scanPage(
     std::vector<SANE_Byte> buffer(64 * 1024);
     for (;;) {
         if (cancel) {
-            finishBatch();
+            stopPageInProgress();
             return Outcome::Cancelled;
         }
         SANE_Int length = 0;
@@ -400,10 +454,25 @@ SaneScanner::Outcome SaneScanner::scanPage(
     return Outcome::Page;
 }
 
+void SaneScanner::stopPageInProgress()
+{
+    // The rest of the page is read and dropped for a moment first, so that a fast scanner
+    // ends its reader thread on its own (see finishBatch); a slow one is stopped at once.
+    std::vector<SANE_Byte> buffer(64 * 1024);
+    QElapsedTimer draining;
+    draining.start();
+    SANE_Int length = 0;
+    while (draining.elapsed() < 1500
+        && api.read(m_handle, buffer.data(), SANE_Int(buffer.size()), &length) == SANE_STATUS_GOOD) { }
+    finishBatch();
+}
+
 void SaneScanner::finishBatch()
 {
-    if (m_handle && m_batchOpen)
+    if (m_handle && m_batchOpen) {
+        waitForReaderThreads();
         api.cancel(m_handle);
+    }
     m_batchOpen = false;
 }
 

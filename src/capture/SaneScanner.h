@@ -52,9 +52,13 @@ public:
 
     // The library to load instead of Debian's libsane.so.1 (a test names one that isn't there).
     static void setLibraryName(const QString& name);
+    // The library named instead of Debian's; empty for Debian's own.
+    static QString libraryName();
     // The messages a user reads.
     static QString missingSaneMessage(); // names libsane1
     static QString noScannerMessage(); // names sane-utils' scanimage -L
+    static QString noScannerOpenMessage();
+    static QString emptyFeederMessage();
 
     // Loads SANE and starts it; false with message when it can't.
     bool initialise(QString* message);
@@ -79,6 +83,7 @@ public:
     void finishBatch();
 
 private:
+    void stopPageInProgress();
     int findOption(const QString& name) const;
     QString statusText(int status) const;
 

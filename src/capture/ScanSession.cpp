@@ -1,114 +1,89 @@
 #include "capture/ScanSession.h"
 
-#include <QThread>
+#include "capture/ScanProtocol.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTimer>
 
 namespace kartella {
 
-ScanWorker::ScanWorker(std::shared_ptr<std::atomic_bool> cancel)
-    : m_cancel(std::move(cancel))
-{ }
+namespace {
 
-ScanWorker::~ScanWorker() = default;
-
-void ScanWorker::findScanners()
+QString& chosenProgram()
 {
-    if (!m_scanner)
-        m_scanner = std::make_unique<SaneScanner>();
-    QString message;
-    const QList<ScannerDevice> devices = m_scanner->devices(&message);
-    Q_EMIT scannersFound(devices, message);
+    static QString program;
+    return program;
 }
 
-void ScanWorker::openScanner(const QString& device)
+QString stoppedMessage()
 {
-    if (!m_scanner)
-        m_scanner = std::make_unique<SaneScanner>();
-    QString message;
-    if (!m_scanner->open(device, &message)) {
-        Q_EMIT scannerOpened({}, message);
-        return;
-    }
-    Q_EMIT scannerOpened(m_scanner->choices(), {});
+    return QStringLiteral("The scanning program %1 stopped or could not be started. "
+                          "Reinstalling Kartella puts it back.")
+        .arg(QFileInfo(ScanSession::scanningProgram()).fileName());
 }
 
-void ScanWorker::setOption(const QString& name, const QString& value)
-{
-    if (m_scanner)
-        m_scanner->setOption(name, value);
-}
-
-void ScanWorker::scan(const ScanSettings& settings, bool wholeFeeder)
-{
-    if (!m_scanner || !m_scanner->isOpen()) {
-        Q_EMIT scanEnded(false, QStringLiteral("No scanner is open."));
-        return;
-    }
-    m_scanner->apply(settings);
-    int pages = 0;
-    for (;;) {
-        QImage page;
-        QString message;
-        switch (m_scanner->scanPage(&page, &message, *m_cancel, wholeFeeder)) {
-        case SaneScanner::Outcome::Page:
-            ++pages;
-            Q_EMIT pageScanned(page);
-            if (wholeFeeder)
-                continue;
-            Q_EMIT scanEnded(false, {});
-            return;
-        case SaneScanner::Outcome::NoMorePages:
-            Q_EMIT scanEnded(
-                false, pages == 0 ? QStringLiteral("There is no paper in the feeder.") : QString());
-            return;
-        case SaneScanner::Outcome::Cancelled:
-            Q_EMIT scanEnded(true, {});
-            return;
-        case SaneScanner::Outcome::Failed:
-            Q_EMIT scanEnded(false, message);
-            return;
-        }
-    }
-}
+} // namespace
 
 ScanSession::ScanSession(QObject* parent)
     : QObject(parent)
-    , m_cancel(std::make_shared<std::atomic_bool>(false))
+    , m_process(new QProcess(this))
 {
-    qRegisterMetaType<kartella::ScanSettings>();
+    m_process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    connect(m_process, &QProcess::readyReadStandardOutput, this, &ScanSession::readAnswers);
+    connect(m_process, &QProcess::errorOccurred, this, &ScanSession::processEnded);
+    connect(m_process, &QProcess::finished, this, &ScanSession::processEnded);
     qRegisterMetaType<kartella::ScannerChoices>();
     qRegisterMetaType<QList<kartella::ScannerDevice>>();
-    m_thread = new QThread;
-    m_thread->setObjectName(QStringLiteral("Scanning"));
-    auto* worker = new ScanWorker(m_cancel);
-    worker->moveToThread(m_thread);
-    connect(m_thread, &QThread::finished, worker, &QObject::deleteLater);
-    connect(this, &ScanSession::findRequested, worker, &ScanWorker::findScanners);
-    connect(this, &ScanSession::openRequested, worker, &ScanWorker::openScanner);
-    connect(this, &ScanSession::scanRequested, worker, &ScanWorker::scan);
-    connect(this, &ScanSession::optionRequested, worker, &ScanWorker::setOption);
-    connect(worker, &ScanWorker::scannersFound, this, &ScanSession::scannersFound);
-    connect(worker, &ScanWorker::scannerOpened, this, &ScanSession::scannerOpened);
-    connect(worker, &ScanWorker::pageScanned, this, &ScanSession::pageScanned);
-    connect(worker, &ScanWorker::scanEnded, this, &ScanSession::onScanEnded);
-    m_thread->start();
+    // A library named in this process (a test's) is the one the scanning process loads.
+    QStringList arguments;
+    if (!SaneScanner::libraryName().isEmpty())
+        arguments << QStringLiteral("--sane-library") << SaneScanner::libraryName();
+    m_process->start(scanningProgram(), arguments);
 }
 
 ScanSession::~ScanSession()
 {
-    *m_cancel = true;
-    m_thread->quit();
-    m_thread->wait();
-    delete m_thread;
+    m_process->disconnect(this);
+    if (m_process->state() == QProcess::NotRunning)
+        return;
+    send(int(ScanMessage::Cancel));
+    send(int(ScanMessage::Quit));
+    m_process->closeWriteChannel();
+    if (!m_process->waitForFinished(2000)) {
+        m_process->kill();
+        m_process->waitForFinished(1000);
+    }
+}
+
+QString ScanSession::scanningProgram()
+{
+    if (!chosenProgram().isEmpty())
+        return chosenProgram();
+    const QString name = QStringLiteral("kartella-scanner");
+    const QDir programs(QCoreApplication::applicationDirPath());
+    if (QFileInfo::exists(programs.filePath(name)))
+        return programs.filePath(name);
+    return QDir::cleanPath(programs.filePath(QStringLiteral("../libexec/kartella/") + name));
+}
+
+void ScanSession::setScanningProgram(const QString& path)
+{
+    chosenProgram() = path;
 }
 
 void ScanSession::findScanners()
 {
-    Q_EMIT findRequested();
+    m_finding = true;
+    send(int(ScanMessage::Find));
 }
 
 void ScanSession::openScanner(const QString& device)
 {
-    Q_EMIT openRequested(device);
+    m_opening = true;
+    send(int(ScanMessage::Open), scanValues(device));
 }
 
 void ScanSession::scan(const ScanSettings& settings, bool wholeFeeder)
@@ -116,25 +91,101 @@ void ScanSession::scan(const ScanSettings& settings, bool wholeFeeder)
     if (m_scanning)
         return;
     m_scanning = true;
-    *m_cancel = false;
-    Q_EMIT scanRequested(settings, wholeFeeder);
+    send(int(ScanMessage::Scan), scanValues(settings, wholeFeeder));
 }
 
 void ScanSession::cancel()
 {
     if (m_scanning)
-        *m_cancel = true;
+        send(int(ScanMessage::Cancel));
 }
 
 void ScanSession::setOption(const QString& name, const QString& value)
 {
-    Q_EMIT optionRequested(name, value);
+    send(int(ScanMessage::SetOption), scanValues(name, value));
 }
 
-void ScanSession::onScanEnded(bool cancelled, const QString& message)
+void ScanSession::send(int message, const QByteArray& values)
 {
-    m_scanning = false;
-    Q_EMIT scanEnded(cancelled, message);
+    if (m_process->state() != QProcess::NotRunning)
+        m_process->write(scanFrame(ScanMessage(message), values));
+    else if (m_ended)
+        // Asked again after the process ended: told again, as an answer would come.
+        QTimer::singleShot(0, this, &ScanSession::reportStopped);
+}
+
+void ScanSession::readAnswers()
+{
+    m_received.append(m_process->readAllStandardOutput());
+    ScanMessage message {};
+    QByteArray values;
+    while (takeScanFrame(&m_received, &message, &values)) {
+        QDataStream stream(values);
+        switch (message) {
+        case ScanMessage::Found: {
+            QList<ScannerDevice> devices;
+            QString text;
+            stream >> devices >> text;
+            m_finding = false;
+            Q_EMIT scannersFound(devices, text);
+            break;
+        }
+        case ScanMessage::Opened: {
+            ScannerChoices choices;
+            QString text;
+            stream >> choices >> text;
+            m_opening = false;
+            Q_EMIT scannerOpened(choices, text);
+            break;
+        }
+        case ScanMessage::Page: {
+            const QImage page = readScanImage(stream);
+            if (!page.isNull())
+                Q_EMIT pageScanned(page);
+            break;
+        }
+        case ScanMessage::Ended: {
+            bool cancelled = false;
+            QString text;
+            stream >> cancelled >> text;
+            m_scanning = false;
+            Q_EMIT scanEnded(cancelled, text);
+            break;
+        }
+        case ScanMessage::Quit:
+            m_process->kill(); // a broken stream: what follows can't be read
+            return;
+        default:
+            break;
+        }
+    }
+}
+
+void ScanSession::processEnded()
+{
+    if (m_ended || m_process->state() == QProcess::Starting)
+        return;
+    if (m_process->state() == QProcess::Running && m_process->error() != QProcess::FailedToStart)
+        return; // a write or read error while it runs: its end follows
+    m_ended = true;
+    reportStopped();
+}
+
+void ScanSession::reportStopped()
+{
+    const QString message = stoppedMessage();
+    if (m_finding) {
+        m_finding = false;
+        Q_EMIT scannersFound({}, message);
+    }
+    if (m_opening) {
+        m_opening = false;
+        Q_EMIT scannerOpened({}, message);
+    }
+    if (m_scanning) {
+        m_scanning = false;
+        Q_EMIT scanEnded(false, message);
+    }
 }
 
 } // namespace kartella

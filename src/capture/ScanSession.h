@@ -2,46 +2,19 @@
 
 #include "capture/SaneScanner.h"
 
+#include <QByteArray>
 #include <QImage>
 #include <QObject>
 
-#include <atomic>
-#include <memory>
-
-class QThread;
+class QProcess;
 
 namespace kartella {
 
-// Works on the scanning thread: every SANE call is made here.
-class ScanWorker : public QObject
-{
-    Q_OBJECT
-
-public:
-    explicit ScanWorker(std::shared_ptr<std::atomic_bool> cancel);
-    ~ScanWorker() override;
-
-    void findScanners();
-    void openScanner(const QString& device);
-    void scan(const kartella::ScanSettings& settings, bool wholeFeeder);
-    void setOption(const QString& name, const QString& value);
-
-Q_SIGNALS:
-    void scannersFound(const QList<kartella::ScannerDevice>& devices, const QString& message);
-    void scannerOpened(const kartella::ScannerChoices& choices, const QString& message);
-    void pageScanned(const QImage& page);
-    // The scan ended: message is empty when it went as asked, else says why it stopped.
-    void scanEnded(bool cancelled, const QString& message);
-
-private:
-    std::shared_ptr<std::atomic_bool> m_cancel;
-    std::unique_ptr<SaneScanner> m_scanner;
-};
-
-// The scanner behind a scan window: requests go to a worker thread and the answers come
-// back as signals on the thread that made the session, so that the window keeps painting
-// while a page is read. cancel() stops the scanner within one read; destroying the
-// session cancels and waits for the thread.
+// The scanner behind a scan window. SANE runs in a process of its own (kartella-scanner):
+// requests go to it and its answers come back as signals, so that the window keeps painting
+// while a page is read, and a scanner backend that hangs or crashes never takes the program
+// with it. cancel() stops the scanner within one read; destroying the session cancels, lets
+// the process end, and ends it when it does not within two seconds.
 class ScanSession : public QObject
 {
     Q_OBJECT
@@ -49,6 +22,11 @@ class ScanSession : public QObject
 public:
     explicit ScanSession(QObject* parent = nullptr);
     ~ScanSession() override;
+
+    // The scanning program: beside the program (a build tree), else in
+    // <prefix>/libexec/kartella beside <prefix>/bin. A test names the one it built.
+    static QString scanningProgram();
+    static void setScanningProgram(const QString& path);
 
     void findScanners();
     void openScanner(const QString& device);
@@ -63,20 +41,21 @@ Q_SIGNALS:
     void scannersFound(const QList<kartella::ScannerDevice>& devices, const QString& message);
     void scannerOpened(const kartella::ScannerChoices& choices, const QString& message);
     void pageScanned(const QImage& page);
+    // The scan ended: message is empty when it went as asked, else says why it stopped.
     void scanEnded(bool cancelled, const QString& message);
 
-    // Internal: carried to the worker's thread.
-    void findRequested();
-    void openRequested(const QString& device);
-    void scanRequested(const kartella::ScanSettings& settings, bool wholeFeeder);
-    void optionRequested(const QString& name, const QString& value);
-
 private:
-    void onScanEnded(bool cancelled, const QString& message);
+    void send(int message, const QByteArray& values = {});
+    void readAnswers();
+    void processEnded();
+    void reportStopped();
 
-    QThread* m_thread = nullptr;
-    std::shared_ptr<std::atomic_bool> m_cancel;
+    QProcess* m_process = nullptr;
+    QByteArray m_received;
+    bool m_finding = false;
+    bool m_opening = false;
     bool m_scanning = false;
+    bool m_ended = false;
 };
 
 } // namespace kartella

@@ -4,6 +4,7 @@
 #include "capture/PageImages.h"
 #include "capture/SaneScanner.h"
 #include "capture/ScanDialog.h"
+#include "capture/ScanSession.h"
 #include "capture/TextRecognition.h"
 #include "content/FileText.h"
 #include "explorer/ExplorerFixture.h"
@@ -21,6 +22,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QListWidget>
+#include <QProcess>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -80,6 +82,7 @@ private Q_SLOTS:
     void feederScansEverySheetAndCancelKeepsNothing();
     void cancelStopsTheScannerInTheMiddleOfAPage();
     void scannerFailingMidPageKeepsEarlierPages();
+    void scanningProcessGoneIsToldAndPagesKept();
     void searchablePdfHoldsThePagesAndTheirWords();
     void scanButtonAttachesThePdfNamedAsTheCategoryNames();
     void scanNewDocumentOpensTheScanOverNewDocument();
@@ -103,6 +106,7 @@ void ScanTest::initTestCase()
     // SANE reads its configuration folder once, at the first start.
     writeBackends("");
     qputenv("SANE_CONFIG_DIR", QFile::encodeName(m_config.path()));
+    ScanSession::setScanningProgram(QStringLiteral(KARTELLA_SCANNER_PROGRAM));
 }
 
 void ScanTest::missingSaneOrScannerNamesThePackage_data()
@@ -240,6 +244,49 @@ void ScanTest::cancelStopsTheScannerInTheMiddleOfAPage()
     QVERIFY2(clock.elapsed() < 3000, "Cancel waited for the feeder");
     QCOMPARE(asked, 0);
     QVERIFY(prompter.prompts().isEmpty());
+}
+
+// SANE runs in a process of its own: when it is missing, or ends in the middle of a scan
+// (a backend that crashed or was stuck and ended), the window says so and keeps its pages.
+void ScanTest::scanningProcessGoneIsToldAndPagesKept()
+{
+    writeBackends("test\n");
+    {
+        ScanSession::setScanningProgram(m_files.filePath(QStringLiteral("no-such-scanner")));
+        ScriptedPrompter prompter;
+        prompter.answer(MsgBoxResult::Ok);
+        ScanDialog dialog([] { return QString(); });
+        dialog.show();
+        QTRY_COMPARE_WITH_TIMEOUT(prompter.prompts().size(), 1, 10000);
+        QVERIFY2(prompter.texts().value(0).contains(QStringLiteral("no-such-scanner")),
+            qPrintable(prompter.texts().value(0)));
+        QVERIFY(!child<QPushButton>(dialog, "cmdScanPage")->isEnabled());
+        ScanSession::setScanningProgram(QStringLiteral(KARTELLA_SCANNER_PROGRAM));
+    }
+
+    ScriptedPrompter prompter;
+    ScanDialog dialog([] { return QString(); });
+    dialog.show();
+    waitForScanner(dialog);
+    click(dialog, "cmdScanPage");
+    QTRY_COMPARE_WITH_TIMEOUT(pageCountOf(dialog), 1, 10000);
+    QTRY_VERIFY(child<QPushButton>(dialog, "cmdScanPage")->isEnabled());
+
+    // A slow page, and the process ends under it.
+    dialog.setScannerOption(QStringLiteral("read-delay"), QStringLiteral("true"));
+    dialog.setScannerOption(QStringLiteral("read-delay-duration"), QStringLiteral("200000"));
+    prompter.answer(MsgBoxResult::Ok);
+    click(dialog, "cmdScanPage");
+    auto* process = dialog.findChild<QProcess*>();
+    QVERIFY(process);
+    QTRY_COMPARE(process->state(), QProcess::Running);
+    process->kill();
+    QTRY_COMPARE_WITH_TIMEOUT(prompter.prompts().size(), 1, 10000);
+    QVERIFY2(prompter.texts().value(0).contains(QStringLiteral("kartella-scanner")),
+        qPrintable(prompter.texts().value(0)));
+    QCOMPARE(pageCountOf(dialog), 1);
+    QCOMPARE(dialog.pages().size(), 1);
+    QVERIFY(child<QPushButton>(dialog, "cmdDone")->isEnabled());
 }
 
 void ScanTest::scannerFailingMidPageKeepsEarlierPages()

@@ -15,9 +15,10 @@ fail() { echo "FAIL: $*"; failures=$((failures + 1)); }
 
 cmake --install "$build" --prefix "$prefix" >"$work/install.log" 2>&1 || { cat "$work/install.log"; fail "cmake --install"; }
 
-for file in bin/kartella bin/kartella-db share/kartella/snow.ico share/kartella/kartella.png \
+for file in bin/kartella bin/kartella-db libexec/kartella/kartella-scanner share/kartella/snow.ico share/kartella/kartella.png \
     share/applications/org.kartella.Kartella.desktop share/metainfo/org.kartella.Kartella.metainfo.xml \
-    share/man/man1/kartella-db.1 share/icons/hicolor/scalable/apps/kartella.svg; do
+    share/man/man1/kartella-db.1 share/icons/hicolor/scalable/apps/kartella.svg \
+    share/kartella/translations/kartella_lt.qm; do
     [[ -s $prefix/$file ]] || fail "missing $file"
 done
 for size in 16 22 24 32 48 64 128 256; do
@@ -28,6 +29,10 @@ if out=$(desktop-file-validate "$prefix/share/applications/org.kartella.Kartella
 else fail "desktop-file-validate: $out"; fi
 out=$(appstreamcli validate --no-net "$prefix/share/metainfo/org.kartella.Kartella.metainfo.xml" 2>&1)
 if [[ $? -ne 0 ]] || grep -qE '^(W|E):' <<<"$out"; then fail "appstreamcli validate: $out"; fi
+
+# A Lithuanian desktop reads the entry and the store's summary in Lithuanian.
+grep -q '^Comment\[lt\]=' "$prefix/share/applications/org.kartella.Kartella.desktop" || fail "no Lithuanian comment in the desktop entry"
+grep -q '<summary xml:lang="lt">' "$prefix/share/metainfo/org.kartella.Kartella.metainfo.xml" || fail "no Lithuanian summary in the AppStream data"
 
 # Every subcommand of the usage text has its place in the manual page.
 man=$prefix/share/man/man1/kartella-db.1
