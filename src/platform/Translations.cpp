@@ -1,5 +1,7 @@
 #include "platform/Translations.h"
 
+#include "support/DataFiles.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -9,28 +11,52 @@
 
 namespace kartella {
 
+namespace {
+
+// Loads the program's translation for locale from the first folder that has it, with the
+// parts that come beside its main file (kartella_lt.qtbase.qm); null when none has it.
+QTranslator* loadOwnTranslation(const QLocale& locale)
+{
+    for (const QString& folder : translationFolders()) {
+        auto* ours = new QTranslator(QCoreApplication::instance());
+        if (!ours->load(locale, QStringLiteral("kartella"), QStringLiteral("_"), folder)) {
+            delete ours;
+            continue;
+        }
+        QCoreApplication::installTranslator(ours);
+        const QString mainFile = QFileInfo(ours->filePath()).completeBaseName();
+        for (const QString& part : QDir(folder).entryList({mainFile + QStringLiteral(".*.qm")}, QDir::Files)) {
+            auto* more = new QTranslator(QCoreApplication::instance());
+            if (more->load(part, folder))
+                QCoreApplication::installTranslator(more);
+            else
+                delete more;
+        }
+        return ours;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+QStringList translationFolders()
+{
+    QStringList folders;
+    for (const QString& data : dataFolders())
+        folders << data + QStringLiteral("/translations");
+    folders << BuiltInTranslationsFolder;
+    return folders;
+}
+
 QString installTranslations(const QStringList& languages)
 {
     for (const QString& language : languages) {
         const QLocale locale(language);
         if (locale.language() == QLocale::English)
             return {};
-        auto* ours = new QTranslator(QCoreApplication::instance());
-        if (!ours->load(locale, QStringLiteral("kartella"), QStringLiteral("_"), TranslationsFolder)) {
-            delete ours;
+        QTranslator* ours = loadOwnTranslation(locale);
+        if (!ours)
             continue;
-        }
-        QCoreApplication::installTranslator(ours);
-        // A language's texts may come in parts besides its main file (kartella_lt.reports.qm).
-        const QString mainFile = QFileInfo(ours->filePath()).completeBaseName();
-        for (const QString& part :
-            QDir(TranslationsFolder).entryList({mainFile + QStringLiteral(".*.qm")}, QDir::Files)) {
-            auto* more = new QTranslator(QCoreApplication::instance());
-            if (more->load(part, TranslationsFolder))
-                QCoreApplication::installTranslator(more);
-            else
-                delete more;
-        }
         // Qt's file, print and message box dialogs, where Debian's qt6-translations-l10n has them.
         const QString qtFolder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
         for (const QString& catalog : {QStringLiteral("qtbase"), QStringLiteral("qt")}) {

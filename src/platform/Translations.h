@@ -12,7 +12,12 @@ namespace kartella {
 // empty text when the texts stay English.
 QString installTranslations(const QStringList& languages);
 
-// Where the program's translations are: compiled into the program.
-inline const QString TranslationsFolder = QStringLiteral(":/i18n");
+// The translations compiled into the program.
+inline const QString BuiltInTranslationsFolder = QStringLiteral(":/i18n");
+
+// Where the program looks for its translations, first hit wins: "translations" in each of
+// its data folders (<prefix>/share/kartella/translations when installed, where a new
+// language's .qm can be dropped in), then the ones compiled into the program.
+QStringList translationFolders();
 
 } // namespace kartella
