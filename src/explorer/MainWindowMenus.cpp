@@ -136,7 +136,7 @@ void MainWindow::buildMenus()
         QKeySequence(Qt::CTRL | Qt::Key_N), QStringLiteral("frmNewDocument"));
     // A new document whose file is scanned: the New Document dialog, its Scan pressed once it
     // shows (its loading may run events of its own before).
-    QAction* scanNew = addCommand(file, QStringLiteral("mnuScanNew"), QStringLiteral("&Scan New Document..."),
+    QAction* scanNew = addCommand(file, QStringLiteral("mnuScanNew"), QStringLiteral("Sc&an New Document..."),
         nullptr, {}, QStringLiteral("frmNewDocument"));
     disconnect(scanNew, &QAction::triggered, this, nullptr);
     connect(scanNew, &QAction::triggered, this, [this] {

@@ -408,7 +408,7 @@ void ScanTest::scanNewDocumentOpensTheScanOverNewDocument()
     fx.clickNode("a" + QString::number(fx.id["Sutartys"]));
     QAction* scanNew = window.action(QStringLiteral("mnuScanNew"));
     QVERIFY(scanNew);
-    QCOMPARE(scanNew->text(), QStringLiteral("&Scan New Document..."));
+    QCOMPARE(scanNew->text(), QStringLiteral("Sc&an New Document..."));
     QVERIFY(scanNew->isEnabled());
 
     bool scanOverNewDocument = false;
