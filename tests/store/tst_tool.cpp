@@ -86,16 +86,30 @@ private Q_SLOTS:
         const QString from = m_dir.filePath("Pavyzdys kopijai.mdb");
         const QString to = m_dir.filePath("Kopija.mdb");
         QCOMPARE(runTool({"sample", from, "--documents", "30", "--seed=5"}).exitCode, 0);
+        // A deleted document's file in the trash and an earlier version of another's go along.
+        const QStringList kept = {from + ".trash/17/Sutartis.doc", from + ".versions/4/1/Laiskas.odt"};
+        for (const QString& file : kept) {
+            QVERIFY(QDir().mkpath(QFileInfo(file).absolutePath()));
+            QFile write(file);
+            QVERIFY(write.open(QIODevice::WriteOnly));
+            write.write(file.toUtf8());
+        }
 
         Run run = runTool({"copy", from, to});
         QCOMPARE(run.exitCode, 0);
         QVERIFY2(run.err.isEmpty(), qPrintable(run.err));
         const QStringList lines = run.out.split('\n', Qt::SkipEmptyParts);
-        QCOMPARE(lines.size(), 11);
+        QCOMPARE(lines.size(), 12);
         QCOMPARE(lines.at(5), "tbl_Documents: 30 copied");
         // A sample is no one's change: it has no history to copy.
         QCOMPARE(lines.at(8), "tbl_History: 0 copied");
         QCOMPARE(lines.at(10), "Copied " + from + " to " + to);
+        QCOMPARE(lines.at(11), "Copied 2 files of deleted items and earlier versions");
+        for (const QString& file : kept) {
+            QFile copy(QString(file).replace(from, to));
+            QVERIFY2(copy.open(QIODevice::ReadOnly), qPrintable(copy.fileName()));
+            QCOMPARE(copy.readAll(), file.toUtf8());
+        }
         run = runTool({"info", to});
         QCOMPARE(run.exitCode, 0);
         QVERIFY(run.out.contains("tbl_Documents: 30\n"));

@@ -1,6 +1,7 @@
 #include "CopyCommand.h"
 
 #include "RegisterArgument.h"
+#include "history/KeptFilesCopy.h"
 #include "store/RegisterCopy.h"
 
 #include <QElapsedTimer>
@@ -12,6 +13,21 @@ namespace {
 // A copy quicker than this shows no progress; a longer one a line at most this often.
 constexpr qint64 QuietMilliseconds = 2000;
 constexpr qint64 ProgressMilliseconds = 1000;
+
+// The deleted items' files and the earlier versions go with the register.
+int copyKeptFilesOf(const QString& source, const QString& target, QTextStream& out, QTextStream& err)
+{
+    const KeptFilesCopy kept = copyKeptFiles(source, target);
+    if (kept.files > 0)
+        out << "Copied " << kept.files << " files of deleted items and earlier versions" << Qt::endl;
+    if (!kept.notice.isEmpty())
+        err << "kartella-db: " << kept.notice << Qt::endl;
+    if (kept.problem.isEmpty())
+        return 0;
+    err << "kartella-db: " << kept.problem << " The register was copied; the files of its deleted items "
+        << "and earlier versions are not all there." << Qt::endl;
+    return 1;
+}
 
 } // namespace
 
@@ -40,7 +56,7 @@ int copyCommand(const QString& from, const QString& to, QTextStream& out, QTextS
         return 1;
     }
     out << "Copied " << source << " to " << target << Qt::endl;
-    return 0;
+    return copyKeptFilesOf(source, target, out, err);
 }
 
 } // namespace kartella::tool
