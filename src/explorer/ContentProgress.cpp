@@ -18,7 +18,7 @@ ContentProgress::ContentProgress(QMainWindow* window)
 {
     m_panel = new QLabel(window->statusBar());
     m_panel->setObjectName(QStringLiteral("pnReadingFiles"));
-    m_panel->setToolTip(QStringLiteral("The text of the documents' files being read for the search"));
+    m_panel->setToolTip(tr("The text of the documents' files being read for the search"));
     m_panel->hide();
     window->statusBar()->addPermanentWidget(m_panel);
     connect(m_queue, &ReadingQueue::progress, this,

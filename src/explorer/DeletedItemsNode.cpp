@@ -9,6 +9,8 @@
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 
+#include <QCoreApplication>
+
 namespace kartella {
 
 void addDeletedItemsNode(NavigationTree& tree)
@@ -17,8 +19,9 @@ void addDeletedItemsNode(NavigationTree& tree)
         Connection connection(plainConnectionString());
         connection.open();
         if (Trash::inRegister(connection))
-            tree.addNode({}, DeletedItemsKey, QStringLiteral("Deleted items"), QStringLiteral("Closed"),
-                QStringLiteral("Open"));
+            tree.addNode({}, DeletedItemsKey,
+                QCoreApplication::translate("kartella::DeletedItemsNode", "Deleted items"),
+                QStringLiteral("Closed"), QStringLiteral("Open"));
     } catch (const Error&) { }
 }
 

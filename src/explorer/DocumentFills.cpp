@@ -6,9 +6,16 @@
 
 namespace kartella {
 
+namespace {
+
+const char EmptySource[] = QT_TRANSLATE_NOOP("kartella::DocumentFills", "There aren't any data to display!");
+const char PassageSource[] = QT_TRANSLATE_NOOP("kartella::DocumentFills", "Found in the file");
+
+} // namespace
+
 const QString DocumentFills::EmptyKey = QStringLiteral("Empty");
-const QString DocumentFills::EmptyText = QStringLiteral("There aren't any data to display!");
-const QString DocumentFills::PassageCaption = QStringLiteral("Found in the file");
+const QString DocumentFills::EmptyText = QString::fromUtf8(EmptySource);
+const QString DocumentFills::PassageCaption = QString::fromUtf8(PassageSource);
 
 DocumentFills::DocumentFills(ListModel& model, SelectionState& selection)
     : m_model(model)
@@ -27,30 +34,29 @@ qint32 DocumentFills::idOfKey(const QString& key)
 
 void DocumentFills::setDocumentColumns(bool withPassages)
 {
-    QList<ListColumn> columns {{QStringLiteral("Doc. description"), 2000},
-        {QStringLiteral("Reg.index"), 1300}, {QStringLiteral("Sender/Receiver"), 1800},
-        {QStringLiteral("Date"), 1500, true}, {QStringLiteral("Notes"), 2000}};
+    // The captions are only shown: the columns are known by their place.
+    QList<ListColumn> columns {{tr("Doc. description"), 2000}, {tr("Reg.index"), 1300},
+        {tr("Sender/Receiver"), 1800}, {tr("Date"), 1500, true}, {tr("Notes"), 2000}};
     if (withPassages)
-        columns.append({PassageCaption, 5000});
+        columns.append({tr(PassageSource), 5000});
     m_model.setColumns(columns);
 }
 
 void DocumentFills::setContactColumns()
 {
-    m_model.setColumns({{QStringLiteral("Doc. description"), 2000}, {QStringLiteral("Reg.index"), 1300},
-        {QStringLiteral("Category"), 1800}, {QStringLiteral("Date"), 1500, true},
-        {QStringLiteral("Notes"), 2000}});
+    m_model.setColumns({{tr("Doc. description"), 2000}, {tr("Reg.index"), 1300}, {tr("Category"), 1800},
+        {tr("Date"), 1500, true}, {tr("Notes"), 2000}});
 }
 
 void DocumentFills::showEmptyList()
 {
-    m_model.setColumns({{QStringLiteral("Documents"), 9000}});
+    m_model.setColumns({{tr("Documents"), 9000}});
     ListItem empty;
-    empty.text = EmptyText;
+    empty.text = tr(EmptySource);
     empty.key = EmptyKey;
     m_model.setItems({std::move(empty)});
     if (setCount)
-        setCount(QStringLiteral("0 object(s)"));
+        setCount(tr("%1 object(s)").arg(0));
     m_selection.selectedFilePath.clear();
     m_selection.selectedDocumentId = 0;
     if (disableDocumentCommands)
@@ -100,7 +106,7 @@ void DocumentFills::fill(const QString& sql, Mode mode, qint16 letterCode, const
     const int count = pages->count();
     m_model.setSource(std::move(pages));
     if (setCount)
-        setCount(QString::number(count) + QStringLiteral(" object(s)"));
+        setCount(tr("%1 object(s)").arg(count));
     m_selection.documentListFilled = true;
 }
 

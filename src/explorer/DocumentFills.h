@@ -3,6 +3,7 @@
 #include "explorer/DocumentSearch.h"
 #include "explorer/ListModel.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <functional>
@@ -18,6 +19,8 @@ struct SelectionState;
 // narrow the query in the database.
 class DocumentFills
 {
+    Q_DECLARE_TR_FUNCTIONS(kartella::DocumentFills)
+
 public:
     DocumentFills(ListModel& model, SelectionState& selection);
 
@@ -39,6 +42,8 @@ public:
     void setContactColumns();
 
     static const QString EmptyKey; // "Empty"
+    // The English of the empty state's row and of the passages' column; the list shows
+    // their translation.
     static const QString EmptyText; // "There aren't any data to display!"
     static const QString PassageCaption; // "Found in the file"
     // The key of a list item: "a" and the id with one leading blank.

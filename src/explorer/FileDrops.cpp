@@ -120,8 +120,8 @@ void FileDrops::registerFiles(const QStringList& paths, qint32 category, qint32 
     m_window->reminders()->recount();
     m_busy = false;
     if (!refused.isEmpty()) {
-        msgBox(QStringLiteral("Only files can be registered; these are not files:\n") + refused.join(u'\n'),
-            MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, QStringLiteral("New Document"));
+        msgBox(tr("Only files can be registered; these are not files:\n%1").arg(refused.join(u'\n')),
+            MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, tr("New Document"));
     }
     Q_EMIT filesRegistered(placed);
 }

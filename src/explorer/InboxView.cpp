@@ -13,6 +13,7 @@
 #include "registration/NewDocumentDialog.h"
 #include "support/SelectionState.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
@@ -26,7 +27,11 @@ const QString InboxView::NodeKey = QStringLiteral("INBOX");
 namespace {
 
 const QString ItemPrefix = QStringLiteral("inbox:");
-const QString Title = QStringLiteral("Inbox");
+// The node's caption, the window's title and the title of its messages.
+QString inboxTitle()
+{
+    return QCoreApplication::translate("kartella::InboxView", "Inbox");
+}
 
 ListItem fileItem(const QFileInfo& file)
 {
@@ -59,7 +64,7 @@ InboxView::~InboxView() = default;
 
 QString InboxView::nodeText() const
 {
-    return Title + QStringLiteral(" (") + QString::number(m_folder->count()) + u')';
+    return QStringLiteral("%1 (%2)").arg(inboxTitle(), QString::number(m_folder->count()));
 }
 
 void InboxView::addNode()
@@ -91,7 +96,7 @@ void InboxView::show()
     state.currentSubCategoryId = 0;
     state.currentNodeKind.clear();
     state.selectedDocumentId = 0;
-    m_window->setWindowTitle(Title);
+    m_window->setWindowTitle(inboxTitle());
     m_window->setCommandEnabled(QStringLiteral("mnuCategoryOptions"), false);
     m_window->setCommandEnabled(QStringLiteral("mnuDeleteCategory"), false);
     m_window->disableDocumentCommands();
@@ -111,15 +116,14 @@ void InboxView::fillList()
         m_window->m_fills->showEmptyList();
         return;
     }
-    model->setColumns({{QStringLiteral("Name"), 3500}, {QStringLiteral("Size"), 1200},
-        {QStringLiteral("Date"), 1800, true}});
+    model->setColumns({{tr("Name"), 3500}, {tr("Size"), 1200}, {tr("Date"), 1800, true}});
     std::vector<ListItem> items;
     items.reserve(files.size());
     for (const QFileInfo& file : files)
         items.push_back(fileItem(file));
     model->setItems(std::move(items));
     list->applyColumnWidths();
-    m_window->m_count->setText(QString::number(files.size()) + QStringLiteral(" object(s)"));
+    m_window->m_count->setText(tr("%1 object(s)").arg(files.size()));
     const int row = kept.isEmpty() ? -1 : model->rowOfKey(kept);
     if (row >= 0)
         list->selectRow(row);
@@ -151,8 +155,8 @@ void InboxView::registerSelectedFile()
     if (m_window->m_documents->selectedRow() < 0 || path.isEmpty())
         return;
     if (!QFileInfo(path).isFile()) {
-        msgBox(QStringLiteral("The file \"") + path + QStringLiteral("\" is no longer in the inbox."),
-            MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, Title);
+        msgBox(tr("The file \"%1\" is no longer in the inbox.").arg(path),
+            MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, inboxTitle());
         m_folder->rescan();
         return;
     }
@@ -171,15 +175,14 @@ void InboxView::trashSelectedFile()
     if (m_window->m_documents->selectedRow() < 0 || path.isEmpty())
         return;
     const QString name = QFileInfo(path).fileName();
-    if (msgBox(QStringLiteral("Move \"") + name + QStringLiteral("\" from the inbox to the trash?"),
-            MsgBoxStyle::YesNo | MsgBoxStyle::Question, Title)
+    if (msgBox(tr("Move \"%1\" from the inbox to the trash?").arg(name),
+            MsgBoxStyle::YesNo | MsgBoxStyle::Question, inboxTitle())
         != MsgBoxResult::Yes)
         return;
     QFile file(path);
     if (!file.moveToTrash()) {
-        msgBox(QStringLiteral("\"") + name + QStringLiteral("\" can't be moved to the trash: ")
-                + file.errorString(),
-            MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, Title);
+        msgBox(tr("\"%1\" can't be moved to the trash: %2").arg(name, file.errorString()),
+            MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, inboxTitle());
     }
     m_folder->rescan();
 }

@@ -62,25 +62,25 @@ MainWindow::~MainWindow() = default;
 
 void MainWindow::buildWindow()
 {
-    m_band = addToolBar(QStringLiteral("Band"));
+    m_band = addToolBar(tr("Band"));
     m_band->setObjectName(QStringLiteral("CoolBar1"));
     m_band->setMovable(false);
 
     m_direction = new QComboBox(m_band);
     m_direction->setObjectName(QStringLiteral("cboDirection"));
-    m_direction->setToolTip(QStringLiteral("Direction"));
-    m_direction->setAccessibleName(QStringLiteral("Direction"));
-    m_direction->addItems({QStringLiteral("All"), QStringLiteral("Inner"), QStringLiteral("Outgoing"),
-        QStringLiteral("Incoming"), QStringLiteral("Other")});
+    m_direction->setToolTip(tr("Direction"));
+    m_direction->setAccessibleName(tr("Direction"));
+    // The list's index is the direction code the queries take; the texts are only shown.
+    m_direction->addItems({tr("All"), tr("Inner"), tr("Outgoing"), tr("Incoming"), tr("Other")});
 
     m_startDate = new QDateEdit(m_band);
     m_startDate->setObjectName(QStringLiteral("txtStartDate"));
-    m_startDate->setToolTip(QStringLiteral("Set Start Date"));
-    m_startDate->setAccessibleName(QStringLiteral("Start date"));
+    m_startDate->setToolTip(tr("Set Start Date"));
+    m_startDate->setAccessibleName(tr("Start date"));
     m_endDate = new QDateEdit(m_band);
     m_endDate->setObjectName(QStringLiteral("txtEndDate"));
-    m_endDate->setToolTip(QStringLiteral("Set End Date"));
-    m_endDate->setAccessibleName(QStringLiteral("End date"));
+    m_endDate->setToolTip(tr("Set End Date"));
+    m_endDate->setAccessibleName(tr("End date"));
     for (QDateEdit* picker : {m_startDate, m_endDate}) {
         picker->setCalendarPopup(true);
         // Typing a date counts once it is complete (Enter or leaving the box), not per digit.
@@ -94,19 +94,18 @@ void MainWindow::buildWindow()
 
     m_tree = new NavigationTree(this);
     m_tree->setObjectName(QStringLiteral("acxTreeKategorijos"));
-    m_tree->setAccessibleName(QStringLiteral("Navigation tree"));
+    m_tree->setAccessibleName(tr("Navigation tree"));
 
     IconCache& icons = IconCache::shared();
     m_documentModel = new ListModel(&icons, this);
     m_relatedModel = new ListModel(&icons, this);
     m_documents = new ExplorerList(m_documentModel, this);
     m_documents->setObjectName(QStringLiteral("ListDokSarasas"));
-    m_documents->setAccessibleName(QStringLiteral("Documents"));
-    m_documents->setToolTip(
-        QStringLiteral("Click on column header to sort list entries in alternating sequence."));
+    m_documents->setAccessibleName(tr("Documents"));
+    m_documents->setToolTip(tr("Click on column header to sort list entries in alternating sequence."));
     m_related = new ExplorerList(m_relatedModel, this);
     m_related->setObjectName(QStringLiteral("ListSusieti"));
-    m_related->setAccessibleName(QStringLiteral("Related documents"));
+    m_related->setAccessibleName(tr("Related documents"));
     // The search results show in the document list, in its columns and widths.
     m_documents->rememberColumnWidths(QStringLiteral("DocumentListColumns"));
     m_related->rememberColumnWidths(QStringLiteral("RelatedListColumns"));
@@ -130,11 +129,11 @@ void MainWindow::buildWindow()
     status->setObjectName(QStringLiteral("StatusBar1"));
     m_count = new QLabel(status);
     m_count->setObjectName(QStringLiteral("pnCount"));
-    m_count->setToolTip(QStringLiteral("Object(s) count"));
+    m_count->setToolTip(tr("Object(s) count"));
     m_count->setMinimumWidth(120);
     m_source = new QLabel(status);
     m_source->setObjectName(QStringLiteral("pnSource"));
-    m_source->setToolTip(QStringLiteral("Location of Data Source "));
+    m_source->setToolTip(tr("Location of Data Source "));
     status->addWidget(m_count);
     status->addWidget(m_source, 1);
     m_shareNotice = new ShareNotice(status);
@@ -197,9 +196,9 @@ void MainWindow::offerDefaultRegister()
     const QString location = getRegValue(QStringLiteral("DbLocation"));
     if (!defaultRegisterInDataFolder() || location != defaultDbLocation() || fileFound(location))
         return;
-    const int answer = msgBox(QStringLiteral("There is no register at ") + location
-            + QStringLiteral(" yet.\n\nCreate an empty register there?"),
-        MsgBoxStyle::YesNo + MsgBoxStyle::Question, QStringLiteral("Kartella"));
+    const int answer
+        = msgBox(tr("There is no register at %1 yet.\n\nCreate an empty register there?").arg(location),
+            MsgBoxStyle::YesNo + MsgBoxStyle::Question, QStringLiteral("Kartella"));
     if (answer != MsgBoxResult::Yes)
         return;
     try {
@@ -301,18 +300,18 @@ void MainWindow::onDirectionChanged()
 
 void MainWindow::onStartDateChanged()
 {
-    dateChanged(QStringLiteral("Select Start Date LESS then End Date, please"));
+    dateChanged(tr("Select Start Date LESS then End Date, please"));
 }
 
 void MainWindow::onEndDateChanged()
 {
-    dateChanged(QStringLiteral("Select End Date GREATHER then Start Date, please."));
+    dateChanged(tr("Select End Date GREATHER then Start Date, please."));
 }
 
 void MainWindow::dateChanged(const QString& message)
 {
     if (m_endDate->date() < m_startDate->date()) {
-        msgBox(message, MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation, QStringLiteral("Date Set Error"));
+        msgBox(message, MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation, tr("Date Set Error"));
         return;
     }
     refillByDates();
@@ -352,9 +351,9 @@ void MainWindow::runFill(const std::function<void()>& fill)
 void MainWindow::reportConnectionError(long number, const QString& description)
 {
     // The location in the description may hold a password the user typed into it.
-    msgBox(QStringLiteral("Error: ") + QString::number(number) + u' ' + withoutPasswords(description)
-            + QStringLiteral("\rSelect correct database type and file, please!"),
-        MsgBoxStyle::OkOnly + MsgBoxStyle::Critical, QStringLiteral("Connection to database error:"));
+    msgBox(tr("Error: %1 %2\rSelect correct database type and file, please!")
+               .arg(QString::number(number), withoutPasswords(description)),
+        MsgBoxStyle::OkOnly + MsgBoxStyle::Critical, tr("Connection to database error:"));
 }
 
 void MainWindow::listCategory(qint32 category, int direction)

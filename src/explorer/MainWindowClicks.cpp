@@ -44,14 +44,12 @@ void MainWindow::fillCategoryTree()
         const QFileInfo location(written);
         if (!isServerLocation(written) && location.isFile() && location.size() == 0)
             throw Error(ErrorNumber::ConnectionFailed,
-                QStringLiteral("'") + location.filePath()
-                    + QStringLiteral("' is not a register: the file is empty."));
+                tr("'%1' is not a register: the file is empty.").arg(location.filePath()));
         // A database on a server opens whatever it holds; one without a register of ours
         // would show as a tree without even its root.
         if (isServerLocation(written) && !serverHoldsRegister())
             throw Error(ErrorNumber::ConnectionFailed,
-                QStringLiteral("The database '") + written.trimmed()
-                    + QStringLiteral("' holds no register."));
+                tr("The database '%1' holds no register.").arg(written.trimmed()));
         buildCategoryTree(*m_tree);
         m_inbox->addNode();
     } catch (const Error& error) {
@@ -122,16 +120,16 @@ void MainWindow::onNodeClicked(QTreeWidgetItem* node)
         }
         setCommandEnabled(QStringLiteral("mnuCategoryOptions"), true);
         setCommandEnabled(QStringLiteral("mnuDeleteCategory"), true);
-        setWindowTitle(QStringLiteral("Exploring Category — ") + node->text(0));
+        setWindowTitle(tr("Exploring Category — %1").arg(node->text(0)));
     } else if (key.size() == 1) {
         m_state.currentLetterCode = qint16(key.at(0).unicode());
         listByLetter(m_state.currentLetterCode, direction());
-        setWindowTitle(QStringLiteral("Exploring  — ") + node->text(0));
+        setWindowTitle(tr("Exploring  — %1").arg(node->text(0)));
     } else {
         m_state.currentLetterCode = 0;
         m_state.currentContactId = key.mid(2).toInt();
         listByContact(direction());
-        setWindowTitle(QStringLiteral("Exploring Contact  — ") + node->text(0));
+        setWindowTitle(tr("Exploring Contact  — %1").arg(node->text(0)));
     }
     m_state.selectedDocumentId = 0;
     disableDocumentCommands();

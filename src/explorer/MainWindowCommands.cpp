@@ -87,7 +87,7 @@ void MainWindow::printSetup()
 {
     // The page and printer of the shared printer; the reports read them when they print.
     QPageSetupDialog dialog(&sharedPrinter(), this);
-    dialog.setWindowTitle(QStringLiteral("Print Setup"));
+    dialog.setWindowTitle(tr("Print Setup"));
     dialog.exec();
 }
 
@@ -132,14 +132,14 @@ void MainWindow::editCategory()
 void MainWindow::openDocumentFile(const QString& path, const QString& verb)
 {
     if (path.isEmpty()) {
-        msgBox(QStringLiteral("Path to Location of this Document not included!"),
-            MsgBoxStyle::OkOnly + MsgBoxStyle::Information, QStringLiteral("File not found"));
+        msgBox(tr("Path to Location of this Document not included!"),
+            MsgBoxStyle::OkOnly + MsgBoxStyle::Information, tr("File not found"));
         return;
     }
     const QFileInfo file(path);
     if (!file.exists() || file.isDir()) {
-        msgBox(QStringLiteral("Path to file is invalid!"), MsgBoxStyle::OkOnly + MsgBoxStyle::Critical,
-            QStringLiteral("Unable to open Document"));
+        msgBox(tr("Path to file is invalid!"), MsgBoxStyle::OkOnly + MsgBoxStyle::Critical,
+            tr("Unable to open Document"));
         return;
     }
     // The result isn't looked at: the desktop reports its own failures.
@@ -247,8 +247,8 @@ void MainWindow::deleteDocument()
     const CommandScope command(QStringLiteral("Delete"));
     const QString active = m_state.activeListName;
     if (!sameName(active, DocumentListName) && !sameName(active, RelatedListName)) {
-        msgBox(QStringLiteral("Select document, please!"), MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation,
-            QStringLiteral("Unable to delete as requested"));
+        msgBox(tr("Select document, please!"), MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation,
+            tr("Unable to delete as requested"));
         return;
     }
     try {
@@ -272,13 +272,12 @@ void MainWindow::deleteRelatedDocument(Connection& connection)
         if (!path.isEmpty() && QFileInfo::exists(path))
             return true;
         const QString why = path.isEmpty()
-            ? QStringLiteral("This related document has no file. A related document is deleted "
-                             "together with its file.")
-            : QStringLiteral("The file of this related document was not found:\n%1\nA related document "
-                             "is deleted together with its file.")
+            ? tr("This related document has no file. A related document is deleted "
+                 "together with its file.")
+            : tr("The file of this related document was not found:\n%1\nA related document "
+                 "is deleted together with its file.")
                   .arg(QDir::toNativeSeparators(path));
-        msgBox(why, MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation,
-            QStringLiteral("Unable to delete as requested"));
+        msgBox(why, MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation, tr("Unable to delete as requested"));
         return false;
     };
     if (!fileIsThere())
@@ -292,7 +291,7 @@ void MainWindow::deleteRelatedDocument(Connection& connection)
     const QString description
         = row.eof() ? m_state.selectedItemText : displayText(row.collect(QStringLiteral("SubDocDescript")));
     row.close();
-    if (!confirmDeletion(QStringLiteral("Delete the related document \"%1\" and its file?").arg(description)))
+    if (!confirmDeletion(tr("Delete the related document \"%1\" and its file?").arg(description)))
         return;
     // The file may have gone while the question was open.
     if (!fileIsThere())
@@ -347,15 +346,15 @@ void MainWindow::deleteMainDocument(Connection& connection)
     children.close();
 
     const bool hasFile = !path.isEmpty() && QFileInfo::exists(path);
-    QString question = QStringLiteral("Delete the document \"%1\"").arg(description);
+    QString question = tr("Delete the document \"%1\"").arg(description);
     if (!index.isEmpty())
         question += QStringLiteral(" (%1)").arg(index);
     if (hasFile)
-        question += QStringLiteral(" and its file");
+        question += tr(" and its file");
     if (childIds.size() == 1)
-        question += QStringLiteral(", with its related document and its file");
+        question += tr(", with its related document and its file");
     else if (childIds.size() > 1)
-        question += QStringLiteral(", with its %1 related documents and their files").arg(childIds.size());
+        question += tr(", with its %1 related documents and their files").arg(childIds.size());
     if (!confirmDeletion(question + u'?'))
         return;
     if (Trash::inRegister(connection)) {
@@ -385,7 +384,7 @@ void MainWindow::deleteMainDocument(Connection& connection)
 bool MainWindow::confirmDeletion(const QString& question)
 {
     return msgBox(question, MsgBoxStyle::YesNo + MsgBoxStyle::Question + MsgBoxStyle::DefaultButton2,
-               QStringLiteral("Confirm Deletion"))
+               tr("Confirm Deletion"))
         == MsgBoxResult::Yes;
 }
 
@@ -417,9 +416,8 @@ bool MainWindow::trashFileOf(Connection& connection, const QString& path, const 
     QString error;
     if (moveFileToTrash(path, &error))
         return true;
-    msgBox(QStringLiteral("The file could not be moved to the trash:\n%1\n%2")
-               .arg(QDir::toNativeSeparators(path), error),
-        MsgBoxStyle::OkOnly + MsgBoxStyle::Critical, QStringLiteral("Unable to delete as requested"));
+    msgBox(tr("The file could not be moved to the trash:\n%1\n%2").arg(QDir::toNativeSeparators(path), error),
+        MsgBoxStyle::OkOnly + MsgBoxStyle::Critical, tr("Unable to delete as requested"));
     return false;
 }
 
@@ -430,19 +428,19 @@ void MainWindow::deleteCategory()
     QString sql;
     const bool category = m_state.currentNodeKind == QLatin1String("a");
     if (category) {
-        question = QStringLiteral("Do you wish to delete Category and SubCategories?");
+        question = tr("Do you wish to delete Category and SubCategories?");
         sql = QStringLiteral("DELETE tbl_Document_Categories.* FROM tbl_Document_Categories WHERE "
                              "tbl_Document_Categories.KategID=")
             + QString::number(m_state.currentCategoryId);
     } else if (m_state.currentNodeKind == QLatin1String("b")) {
-        question = QStringLiteral("Do you wish to delete SubCategory?");
+        question = tr("Do you wish to delete SubCategory?");
         sql = QStringLiteral(
                   "DELETE tbl_Sub_Categories.* FROM tbl_Sub_Categories WHERE tbl_Sub_Categories.SubKategID=")
             + QString::number(m_state.currentSubCategoryId);
     } else {
         return;
     }
-    if (msgBox(question, MsgBoxStyle::YesNo + MsgBoxStyle::Exclamation, QStringLiteral("Confirm Deletion"))
+    if (msgBox(question, MsgBoxStyle::YesNo + MsgBoxStyle::Exclamation, tr("Confirm Deletion"))
         != MsgBoxResult::Yes)
         return;
     try {

@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QActionGroup>
+#include <QCoreApplication>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTimer>
@@ -20,26 +21,29 @@ namespace {
 // What a user calls each dialog, for the tool tip of a command whose dialog is missing.
 QString dialogTitle(const QString& name)
 {
-    static const QHash<QString, QString> titles = {
-        {QStringLiteral("frmNewDocument"), QStringLiteral("New Document")},
-        {QStringLiteral("frmCopyFile"), QStringLiteral("Copy/Move File")},
-        {QStringLiteral("frmRelated"), QStringLiteral("New Related Document")},
-        {QStringLiteral("frmNew"), QStringLiteral("Document Details")},
-        {QStringLiteral("frmCategory"), QStringLiteral("Category Options")},
-        {QStringLiteral("frmCorr"), QStringLiteral("New Contact")},
-        {QStringLiteral("frmNewCategory"), QStringLiteral("New Category")},
-        {QStringLiteral("frmCoresp"), QStringLiteral("Address Book")},
-        {QStringLiteral("frmSettings"), QStringLiteral("Options")},
-        {QStringLiteral("frmAbout"), QStringLiteral("About Kartella")},
-        {QStringLiteral("reports"), QStringLiteral("report")},
-        {QStringLiteral("outlookImport"), QStringLiteral("contact import")},
+    static const QHash<QString, const char*> titles = {
+        {QStringLiteral("frmNewDocument"), QT_TRANSLATE_NOOP("kartella::MainWindow", "New Document")},
+        {QStringLiteral("frmCopyFile"), QT_TRANSLATE_NOOP("kartella::MainWindow", "Copy/Move File")},
+        {QStringLiteral("frmRelated"), QT_TRANSLATE_NOOP("kartella::MainWindow", "New Related Document")},
+        {QStringLiteral("frmNew"), QT_TRANSLATE_NOOP("kartella::MainWindow", "Document Details")},
+        {QStringLiteral("frmCategory"), QT_TRANSLATE_NOOP("kartella::MainWindow", "Category Options")},
+        {QStringLiteral("frmCorr"), QT_TRANSLATE_NOOP("kartella::MainWindow", "New Contact")},
+        {QStringLiteral("frmNewCategory"), QT_TRANSLATE_NOOP("kartella::MainWindow", "New Category")},
+        {QStringLiteral("frmCoresp"), QT_TRANSLATE_NOOP("kartella::MainWindow", "Address Book")},
+        {QStringLiteral("frmSettings"), QT_TRANSLATE_NOOP("kartella::MainWindow", "Options")},
+        {QStringLiteral("frmAbout"), QT_TRANSLATE_NOOP("kartella::MainWindow", "About Kartella")},
+        {QStringLiteral("reports"), QT_TRANSLATE_NOOP("kartella::MainWindow", "report")},
+        {QStringLiteral("outlookImport"), QT_TRANSLATE_NOOP("kartella::MainWindow", "contact import")},
     };
-    return titles.value(name, name);
+    const char* title = titles.value(name);
+    return title ? QCoreApplication::translate("kartella::MainWindow", title) : name;
 }
 
 QString unavailableText(const QString& dialog)
 {
-    return QStringLiteral("The %1 dialog is not available in this version.").arg(dialogTitle(dialog));
+    return QCoreApplication::translate(
+        "kartella::MainWindow", "The %1 dialog is not available in this version.")
+        .arg(dialogTitle(dialog));
 }
 
 QIcon themed(const char* name, const char* fallback = "")
@@ -130,14 +134,14 @@ void MainWindow::setToolbarEnabled(std::initializer_list<int> positions, bool en
 void MainWindow::buildMenus()
 {
     QMenuBar* bar = menuBar();
-    QMenu* file = bar->addMenu(QStringLiteral("&File"));
+    QMenu* file = bar->addMenu(tr("&File"));
     file->setObjectName(QStringLiteral("mnuFile"));
-    addCommand(file, QStringLiteral("mnuNew"), QStringLiteral("&New Document"), &MainWindow::newDocument,
+    addCommand(file, QStringLiteral("mnuNew"), tr("&New Document"), &MainWindow::newDocument,
         QKeySequence(Qt::CTRL | Qt::Key_N), QStringLiteral("frmNewDocument"));
     // A new document whose file is scanned: the New Document dialog, its Scan pressed once it
     // shows (its loading may run events of its own before).
-    QAction* scanNew = addCommand(file, QStringLiteral("mnuScanNew"), QStringLiteral("Sc&an New Document..."),
-        nullptr, {}, QStringLiteral("frmNewDocument"));
+    QAction* scanNew = addCommand(file, QStringLiteral("mnuScanNew"), tr("Sc&an New Document..."), nullptr,
+        {}, QStringLiteral("frmNewDocument"));
     disconnect(scanNew, &QAction::triggered, this, nullptr);
     connect(scanNew, &QAction::triggered, this, [this] {
         QTimer pressScan;
@@ -151,130 +155,122 @@ void MainWindow::buildMenus()
         pressScan.start();
         openDialog(QStringLiteral("frmNewDocument"));
     });
-    addCommand(file, QStringLiteral("mnuOpen"), QStringLiteral("&Open Document"), &MainWindow::openDocument,
+    addCommand(file, QStringLiteral("mnuOpen"), tr("&Open Document"), &MainWindow::openDocument,
         QKeySequence(Qt::CTRL | Qt::Key_O));
     file->addSeparator()->setObjectName(QStringLiteral("mnuHyper3"));
-    addCommand(file, QStringLiteral("mnuCopy"), QStringLiteral("&Copy Document"), &MainWindow::copyDocument,
+    addCommand(file, QStringLiteral("mnuCopy"), tr("&Copy Document"), &MainWindow::copyDocument,
         QKeySequence(Qt::CTRL | Qt::Key_C), QStringLiteral("frmCopyFile"));
-    addCommand(file, QStringLiteral("mnuMove"), QStringLiteral("&Move Document"), &MainWindow::copyDocument,
+    addCommand(file, QStringLiteral("mnuMove"), tr("&Move Document"), &MainWindow::copyDocument,
         QKeySequence(Qt::CTRL | Qt::Key_M), QStringLiteral("frmCopyFile"));
-    addCommand(
-        file, QStringLiteral("mnuNewVersion"), QStringLiteral("New &Version..."), &MainWindow::newVersion);
-    addCommand(file, QStringLiteral("mnuDelete"), QStringLiteral("&Delete Document"),
-        &MainWindow::deleteSelected, QKeySequence(Qt::Key_Delete));
+    addCommand(file, QStringLiteral("mnuNewVersion"), tr("New &Version..."), &MainWindow::newVersion);
+    addCommand(file, QStringLiteral("mnuDelete"), tr("&Delete Document"), &MainWindow::deleteSelected,
+        QKeySequence(Qt::Key_Delete));
     file->addSeparator()->setObjectName(QStringLiteral("mnuHyper4"));
-    addCommand(file, QStringLiteral("mnuDeleteCategory"), QStringLiteral("De&lete Category"),
+    addCommand(file, QStringLiteral("mnuDeleteCategory"), tr("De&lete Category"),
         &MainWindow::deleteSelectedCategory);
     file->addSeparator()->setObjectName(QStringLiteral("mnuhyper6"));
-    addCommand(
-        file, QStringLiteral("mnuPrintSetup"), QStringLiteral("Print Set&up"), &MainWindow::printSetup);
-    addCommand(file, QStringLiteral("mnuPrint"), QStringLiteral("&Print Document"),
-        &MainWindow::printDocument, QKeySequence(Qt::CTRL | Qt::Key_P));
+    addCommand(file, QStringLiteral("mnuPrintSetup"), tr("Print Set&up"), &MainWindow::printSetup);
+    addCommand(file, QStringLiteral("mnuPrint"), tr("&Print Document"), &MainWindow::printDocument,
+        QKeySequence(Qt::CTRL | Qt::Key_P));
     file->addSeparator()->setObjectName(QStringLiteral("mnuhypen1"));
-    addCommand(file, QStringLiteral("mnuRelated"), QStringLiteral("Ne&w Related Document"),
+    addCommand(file, QStringLiteral("mnuRelated"), tr("Ne&w Related Document"),
         &MainWindow::newRelatedDocument, {}, QStringLiteral("frmRelated"));
     file->addSeparator()->setObjectName(QStringLiteral("mnuHyper5"));
-    addCommand(file, QStringLiteral("mnuShowDetails"), QStringLiteral("&Show Details"),
-        &MainWindow::showDetails, QKeySequence(Qt::Key_F3), QStringLiteral("frmNew"));
-    addCommand(file, QStringLiteral("mnuProperties"), QStringLiteral("P&roperties"),
-        &MainWindow::showProperties, QKeySequence(Qt::Key_F4));
+    addCommand(file, QStringLiteral("mnuShowDetails"), tr("&Show Details"), &MainWindow::showDetails,
+        QKeySequence(Qt::Key_F3), QStringLiteral("frmNew"));
+    addCommand(file, QStringLiteral("mnuProperties"), tr("P&roperties"), &MainWindow::showProperties,
+        QKeySequence(Qt::Key_F4));
     file->addSeparator()->setObjectName(QStringLiteral("mnuhypen2"));
-    addCommand(file, QStringLiteral("mnuExit"), QStringLiteral("E&xit"), &MainWindow::exitProgram);
+    addCommand(file, QStringLiteral("mnuExit"), tr("E&xit"), &MainWindow::exitProgram);
     for (const char* name : {"mnuOpen", "mnuCopy", "mnuMove", "mnuDelete", "mnuDeleteCategory", "mnuPrint",
              "mnuRelated", "mnuShowDetails", "mnuProperties"})
         setCommandEnabled(QLatin1String(name), false);
 
-    QMenu* view = bar->addMenu(QStringLiteral("&View"));
+    QMenu* view = bar->addMenu(tr("&View"));
     view->setObjectName(QStringLiteral("mnuView"));
-    addCommand(
-        view, QStringLiteral("mnuByCategory"), QStringLiteral("By Category"), &MainWindow::viewByCategory)
+    addCommand(view, QStringLiteral("mnuByCategory"), tr("By Category"), &MainWindow::viewByCategory)
         ->setCheckable(true);
-    addCommand(
-        view, QStringLiteral("mnuByContacts"), QStringLiteral("By Contacts"), &MainWindow::viewByContacts)
+    addCommand(view, QStringLiteral("mnuByContacts"), tr("By Contacts"), &MainWindow::viewByContacts)
         ->setCheckable(true);
     action(QStringLiteral("mnuByCategory"))->setChecked(true);
     view->addSeparator()->setObjectName(QStringLiteral("mnuHypen9"));
-    addCommand(
-        view, QStringLiteral("mnuLargeIcons"), QStringLiteral("Lar&ge Icons"), &MainWindow::viewLargeIcons);
-    addCommand(
-        view, QStringLiteral("mnuSmallIcons"), QStringLiteral("S&mall Icons"), &MainWindow::viewSmallIcons);
-    addCommand(view, QStringLiteral("mnuList"), QStringLiteral("&List"), &MainWindow::viewList);
-    addCommand(view, QStringLiteral("mnuDetails"), QStringLiteral("&Details"), &MainWindow::viewDetails);
+    addCommand(view, QStringLiteral("mnuLargeIcons"), tr("Lar&ge Icons"), &MainWindow::viewLargeIcons);
+    addCommand(view, QStringLiteral("mnuSmallIcons"), tr("S&mall Icons"), &MainWindow::viewSmallIcons);
+    addCommand(view, QStringLiteral("mnuList"), tr("&List"), &MainWindow::viewList);
+    addCommand(view, QStringLiteral("mnuDetails"), tr("&Details"), &MainWindow::viewDetails);
     for (const char* name : {"mnuLargeIcons", "mnuSmallIcons", "mnuList", "mnuDetails"})
         action(QLatin1String(name))->setCheckable(true);
     action(QStringLiteral("mnuDetails"))->setChecked(true);
-    addCommand(
-        view, QStringLiteral("mnuPreviewPane"), QStringLiteral("Pre&view Pane"), &MainWindow::viewPreviewPane)
+    addCommand(view, QStringLiteral("mnuPreviewPane"), tr("Pre&view Pane"), &MainWindow::viewPreviewPane)
         ->setCheckable(true);
     view->addSeparator()->setObjectName(QStringLiteral("mnuHypen5"));
-    QMenu* arrange = view->addMenu(QStringLiteral("Arrange &Icons"));
+    QMenu* arrange = view->addMenu(tr("Arrange &Icons"));
     arrange->setObjectName(QStringLiteral("mnuArrangeIcons"));
-    addCommand(arrange, QStringLiteral("mnubyName"), QStringLiteral("by &Document description"),
-        &MainWindow::arrangeByName);
-    addCommand(arrange, QStringLiteral("mnubyRegIndex"), QStringLiteral("by &Registration Index"),
+    addCommand(
+        arrange, QStringLiteral("mnubyName"), tr("by &Document description"), &MainWindow::arrangeByName);
+    addCommand(arrange, QStringLiteral("mnubyRegIndex"), tr("by &Registration Index"),
         &MainWindow::arrangeByRegIndex);
-    addCommand(arrange, QStringLiteral("mnubyCorrespondent"), QStringLiteral("by &Correspondent"),
+    addCommand(arrange, QStringLiteral("mnubyCorrespondent"), tr("by &Correspondent"),
         &MainWindow::arrangeByCorrespondent);
-    addCommand(arrange, QStringLiteral("mnubyDate"), QStringLiteral("by D&ate"), &MainWindow::arrangeByDate);
+    addCommand(arrange, QStringLiteral("mnubyDate"), tr("by D&ate"), &MainWindow::arrangeByDate);
     view->addSeparator()->setObjectName(QStringLiteral("mnuhypen6"));
-    addCommand(view, QStringLiteral("mnuRefresh"), QStringLiteral("&Refresh"), &MainWindow::refresh,
-        QKeySequence(Qt::Key_F5));
-    addCommand(view, QStringLiteral("mnuCategoryOptions"), QStringLiteral("&Category Options"),
-        &MainWindow::editCategory, {}, QStringLiteral("frmCategory"));
+    addCommand(
+        view, QStringLiteral("mnuRefresh"), tr("&Refresh"), &MainWindow::refresh, QKeySequence(Qt::Key_F5));
+    addCommand(view, QStringLiteral("mnuCategoryOptions"), tr("&Category Options"), &MainWindow::editCategory,
+        {}, QStringLiteral("frmCategory"));
     setCommandEnabled(QStringLiteral("mnuCategoryOptions"), false);
 
-    QMenu* go = bar->addMenu(QStringLiteral("&Go"));
+    QMenu* go = bar->addMenu(tr("&Go"));
     go->setObjectName(QStringLiteral("mnuGo"));
-    addCommand(go, QStringLiteral("mnuNewContact"), QStringLiteral("&New Contact"), nullptr, {},
-        QStringLiteral("frmCorr"));
-    addCommand(go, QStringLiteral("mnuNewCategory"), QStringLiteral("Ne&w Category"), nullptr, {},
+    addCommand(
+        go, QStringLiteral("mnuNewContact"), tr("&New Contact"), nullptr, {}, QStringLiteral("frmCorr"));
+    addCommand(go, QStringLiteral("mnuNewCategory"), tr("Ne&w Category"), nullptr, {},
         QStringLiteral("frmNewCategory"));
     go->addSeparator()->setObjectName(QStringLiteral("mnuhypen10"));
-    addCommand(go, QStringLiteral("mnuAddressBook"), QStringLiteral("&Address Book"), nullptr, {},
-        QStringLiteral("frmCoresp"));
+    addCommand(
+        go, QStringLiteral("mnuAddressBook"), tr("&Address Book"), nullptr, {}, QStringLiteral("frmCoresp"));
 
-    QMenu* tools = bar->addMenu(QStringLiteral("&Tools"));
+    QMenu* tools = bar->addMenu(tr("&Tools"));
     tools->setObjectName(QStringLiteral("mnuTools"));
-    addCommand(tools, QStringLiteral("mnuOptions"), QStringLiteral("&Options"), nullptr, {},
-        QStringLiteral("frmSettings"));
+    addCommand(
+        tools, QStringLiteral("mnuOptions"), tr("&Options"), nullptr, {}, QStringLiteral("frmSettings"));
     tools->addSeparator()->setObjectName(QStringLiteral("sep45"));
-    addCommand(tools, QStringLiteral("mnuOutlookData"), QStringLiteral("&Import Address Book from Outlook"),
-        nullptr, {}, QStringLiteral("outlookImport"));
+    addCommand(tools, QStringLiteral("mnuOutlookData"), tr("&Import Address Book from Outlook"), nullptr, {},
+        QStringLiteral("outlookImport"));
 
-    QMenu* reports = bar->addMenu(QStringLiteral("&Reports"));
+    QMenu* reports = bar->addMenu(tr("&Reports"));
     reports->setObjectName(QStringLiteral("mnuReports"));
-    addCommand(reports, QStringLiteral("mnuCategoriesRep"), QStringLiteral("&Categories"), nullptr, {},
+    addCommand(reports, QStringLiteral("mnuCategoriesRep"), tr("&Categories"), nullptr, {},
         QStringLiteral("DataReport1"));
-    QMenu* lists = reports->addMenu(QStringLiteral("&Documents List's"));
+    QMenu* lists = reports->addMenu(tr("&Documents List's"));
     lists->setObjectName(QStringLiteral("mnuDocumentsLists"));
-    QMenu* byCategory = lists->addMenu(QStringLiteral("By Category"));
+    QMenu* byCategory = lists->addMenu(tr("By Category"));
     byCategory->setObjectName(QStringLiteral("mnuDocumByCategory"));
-    addCommand(byCategory, QStringLiteral("mnuThisMonth"), QStringLiteral("This Month"), nullptr, {},
+    addCommand(byCategory, QStringLiteral("mnuThisMonth"), tr("This Month"), nullptr, {},
         QStringLiteral("rptThisMonth"));
-    addCommand(byCategory, QStringLiteral("mnurptPrevMonth"), QStringLiteral("Previous Month"), nullptr, {},
+    addCommand(byCategory, QStringLiteral("mnurptPrevMonth"), tr("Previous Month"), nullptr, {},
         QStringLiteral("rptPreviousMonth"));
-    addCommand(byCategory, QStringLiteral("mnuAll"), QStringLiteral("All"), nullptr, {},
-        QStringLiteral("DataReport4"));
-    addCommand(lists, QStringLiteral("mnuDocByContacts"), QStringLiteral("By Contacts"), nullptr, {},
+    addCommand(byCategory, QStringLiteral("mnuAll"), tr("All"), nullptr, {}, QStringLiteral("DataReport4"));
+    addCommand(lists, QStringLiteral("mnuDocByContacts"), tr("By Contacts"), nullptr, {},
         QStringLiteral("DataReport2"));
-    QMenu* addressBook = reports->addMenu(QStringLiteral("&Address Book"));
+    QMenu* addressBook = reports->addMenu(tr("&Address Book"));
     addressBook->setObjectName(QStringLiteral("mnurptAddressBook"));
-    addCommand(addressBook, QStringLiteral("mnurptPhones"), QStringLiteral("P&hones"), nullptr, {},
+    addCommand(addressBook, QStringLiteral("mnurptPhones"), tr("P&hones"), nullptr, {},
         QStringLiteral("DataReport3"));
-    addCommand(addressBook, QStringLiteral("mnuContacts"), QStringLiteral("&Contacts"), nullptr, {},
+    addCommand(addressBook, QStringLiteral("mnuContacts"), tr("&Contacts"), nullptr, {},
         QStringLiteral("AddressBooks"));
-    addCommand(reports, QStringLiteral("mnuReminder"), QStringLiteral("&Reminder"), nullptr, {},
-        QStringLiteral("DataReport5"));
+    addCommand(
+        reports, QStringLiteral("mnuReminder"), tr("&Reminder"), nullptr, {}, QStringLiteral("DataReport5"));
 
-    QMenu* help = bar->addMenu(QStringLiteral("&Help"));
+    QMenu* help = bar->addMenu(tr("&Help"));
     help->setObjectName(QStringLiteral("mnuHelp"));
-    addCommand(help, QStringLiteral("mnuAboutKA"), QStringLiteral("&About Kartella"), nullptr, {},
-        QStringLiteral("frmAbout"));
+    addCommand(
+        help, QStringLiteral("mnuAboutKA"), tr("&About Kartella"), nullptr, {}, QStringLiteral("frmAbout"));
 }
 
 void MainWindow::buildToolbar()
 {
-    auto* toolbar = new QToolBar(QStringLiteral("Toolbar"), m_band);
+    auto* toolbar = new QToolBar(tr("Toolbar"), m_band);
     toolbar->setObjectName(QStringLiteral("Toolbar1"));
     toolbar->setIconSize(QSize(22, 22));
     auto button = [&](const QString& key, const QString& tip, const char* icon, void (MainWindow::*slot)(),
@@ -296,23 +292,22 @@ void MainWindow::buildToolbar()
         separator->setObjectName(key);
         m_toolbar << separator;
     };
-    button(QStringLiteral("btnNewDocument"), QStringLiteral("New Document (Ctrl+N)"), "document-new",
+    button(QStringLiteral("btnNewDocument"), tr("New Document (Ctrl+N)"), "document-new",
         &MainWindow::newDocument, QStringLiteral("frmNewDocument"));
-    button(QStringLiteral("btnOpen"), QStringLiteral("Open Document (Ctrl+O)"), "document-open",
-        &MainWindow::openDocument);
+    button(
+        QStringLiteral("btnOpen"), tr("Open Document (Ctrl+O)"), "document-open", &MainWindow::openDocument);
     separator(QStringLiteral("firstSep"));
-    button(QStringLiteral("btnCopy"), QStringLiteral("Copy Document (Ctrl+C)"), "edit-copy",
-        &MainWindow::copyDocument, QStringLiteral("frmCopyFile"));
-    button(QStringLiteral("btnMove"), QStringLiteral("Move Document (Ctrl+M)"), "go-jump",
-        &MainWindow::copyDocument, QStringLiteral("frmCopyFile"));
-    button(QStringLiteral("btnDelete"), QStringLiteral("Delete Document (Del)"), "edit-delete",
-        &MainWindow::deleteSelected);
-    button(QStringLiteral("btnPrint"), QStringLiteral("Print (Ctrl+P)"), "document-print",
-        &MainWindow::printDocument);
+    button(QStringLiteral("btnCopy"), tr("Copy Document (Ctrl+C)"), "edit-copy", &MainWindow::copyDocument,
+        QStringLiteral("frmCopyFile"));
+    button(QStringLiteral("btnMove"), tr("Move Document (Ctrl+M)"), "go-jump", &MainWindow::copyDocument,
+        QStringLiteral("frmCopyFile"));
+    button(
+        QStringLiteral("btnDelete"), tr("Delete Document (Del)"), "edit-delete", &MainWindow::deleteSelected);
+    button(QStringLiteral("btnPrint"), tr("Print (Ctrl+P)"), "document-print", &MainWindow::printDocument);
     separator({});
-    button(QStringLiteral("btnDetails"), QStringLiteral("Show Details (F3)"), "document-page-setup",
+    button(QStringLiteral("btnDetails"), tr("Show Details (F3)"), "document-page-setup",
         &MainWindow::showDetails, QStringLiteral("frmNew"));
-    button(QStringLiteral("btnProperties"), QStringLiteral("Properties (F4)"), "document-properties",
+    button(QStringLiteral("btnProperties"), tr("Properties (F4)"), "document-properties",
         &MainWindow::showProperties);
     separator({});
 
@@ -320,33 +315,32 @@ void MainWindow::buildToolbar()
     auto* viewMenu = new QMenu(toolbar);
     viewMenu->setObjectName(QStringLiteral("btnViewMenu"));
     const QList<std::tuple<QString, QString, void (MainWindow::*)()>> views = {
-        {QStringLiteral("btnLarge"), QStringLiteral("Lar&ge"), &MainWindow::viewLargeIcons},
-        {QStringLiteral("btnSmall"), QStringLiteral("&Small"), &MainWindow::viewSmallIcons},
-        {QStringLiteral("btnList"), QStringLiteral("&List"), &MainWindow::viewList},
-        {QStringLiteral("btnDetailsV"), QStringLiteral("&Details"), &MainWindow::viewDetails},
+        {QStringLiteral("btnLarge"), tr("Lar&ge"), &MainWindow::viewLargeIcons},
+        {QStringLiteral("btnSmall"), tr("&Small"), &MainWindow::viewSmallIcons},
+        {QStringLiteral("btnList"), tr("&List"), &MainWindow::viewList},
+        {QStringLiteral("btnDetailsV"), tr("&Details"), &MainWindow::viewDetails},
     };
     for (const auto& [key, caption, slot] : views)
         addCommand(viewMenu, key, caption, slot);
-    auto* viewButton
-        = new QAction(themed("view-list-icons", "view-list-symbolic"), QStringLiteral("View Type"), this);
+    auto* viewButton = new QAction(themed("view-list-icons", "view-list-symbolic"), tr("View Type"), this);
     viewButton->setObjectName(QStringLiteral("btnView"));
-    viewButton->setToolTip(QStringLiteral("View Type"));
+    viewButton->setToolTip(tr("View Type"));
     viewButton->setMenu(viewMenu);
     m_actions.insert(viewButton->objectName(), viewButton);
     toolbar->addAction(viewButton);
     if (auto* widget = qobject_cast<QToolButton*>(toolbar->widgetForAction(viewButton))) {
         widget->setObjectName(QStringLiteral("btnView"));
         widget->setPopupMode(QToolButton::MenuButtonPopup);
-        widget->setAccessibleName(QStringLiteral("View Type"));
+        widget->setAccessibleName(tr("View Type"));
     }
     m_toolbar << viewButton;
     separator(QStringLiteral("secsepar"));
-    button(QStringLiteral("btnNewCat"), QStringLiteral("New Category"), "folder-new", nullptr,
+    button(QStringLiteral("btnNewCat"), tr("New Category"), "folder-new", nullptr,
         QStringLiteral("frmNewCategory"));
-    button(QStringLiteral("btnNewContact"), QStringLiteral("New Contact"), "contact-new", nullptr,
+    button(QStringLiteral("btnNewContact"), tr("New Contact"), "contact-new", nullptr,
         QStringLiteral("frmCorr"));
     separator(QStringLiteral("sep12"));
-    button(QStringLiteral("btnContacts"), QStringLiteral("Address Book"), "x-office-address-book", nullptr,
+    button(QStringLiteral("btnContacts"), tr("Address Book"), "x-office-address-book", nullptr,
         QStringLiteral("frmCoresp"));
     separator(QStringLiteral("btnSepar3"));
     m_band->insertWidget(m_band->actions().value(0), toolbar);
@@ -356,37 +350,34 @@ void MainWindow::buildPopups()
 {
     m_documentMenu = new QMenu(QStringLiteral("PopDoc"), this);
     m_documentMenu->setObjectName(QStringLiteral("mnuPopUp"));
-    addCommand(m_documentMenu, QStringLiteral("mnuPopNew"), QStringLiteral("&New Document"),
-        &MainWindow::newDocument, {}, QStringLiteral("frmNewDocument"));
+    addCommand(m_documentMenu, QStringLiteral("mnuPopNew"), tr("&New Document"), &MainWindow::newDocument, {},
+        QStringLiteral("frmNewDocument"));
     m_documentMenu->addSeparator()->setObjectName(QStringLiteral("mnuhypen15"));
-    addCommand(
-        m_documentMenu, QStringLiteral("mnuPopOpen"), QStringLiteral("&Open"), &MainWindow::openDocument);
+    addCommand(m_documentMenu, QStringLiteral("mnuPopOpen"), tr("&Open"), &MainWindow::openDocument);
     m_documentMenu->addSeparator()->setObjectName(QStringLiteral("mnuhypen11"));
-    addCommand(m_documentMenu, QStringLiteral("mnuPopCopy"), QStringLiteral("&Copy/Move"),
-        &MainWindow::copyDocument, {}, QStringLiteral("frmCopyFile"));
-    addCommand(m_documentMenu, QStringLiteral("mnuPopDelete"), QStringLiteral("&Delete"),
-        &MainWindow::deleteSelected);
+    addCommand(m_documentMenu, QStringLiteral("mnuPopCopy"), tr("&Copy/Move"), &MainWindow::copyDocument, {},
+        QStringLiteral("frmCopyFile"));
+    addCommand(m_documentMenu, QStringLiteral("mnuPopDelete"), tr("&Delete"), &MainWindow::deleteSelected);
     m_documentMenu->addSeparator()->setObjectName(QStringLiteral("mnuhypen12"));
-    addCommand(
-        m_documentMenu, QStringLiteral("mnuPopPrint"), QStringLiteral("&Print"), &MainWindow::printDocument);
+    addCommand(m_documentMenu, QStringLiteral("mnuPopPrint"), tr("&Print"), &MainWindow::printDocument);
     m_documentMenu->addSeparator()->setObjectName(QStringLiteral("mnuhypen13"));
-    addCommand(m_documentMenu, QStringLiteral("mnuPopRelated"), QStringLiteral("Ne&w Related"),
+    addCommand(m_documentMenu, QStringLiteral("mnuPopRelated"), tr("Ne&w Related"),
         &MainWindow::newRelatedDocument, {}, QStringLiteral("frmRelated"));
     QAction* hyphen14 = m_documentMenu->addSeparator();
     hyphen14->setObjectName(QStringLiteral("mnuhypen14"));
     m_actions.insert(hyphen14->objectName(), hyphen14);
-    addCommand(m_documentMenu, QStringLiteral("mnuPopDetails"), QStringLiteral("&Show Details"),
-        &MainWindow::showDetails, {}, QStringLiteral("frmNew"));
-    addCommand(m_documentMenu, QStringLiteral("mnuPopProperties"), QStringLiteral("P&roperties"),
-        &MainWindow::showProperties);
+    addCommand(m_documentMenu, QStringLiteral("mnuPopDetails"), tr("&Show Details"), &MainWindow::showDetails,
+        {}, QStringLiteral("frmNew"));
+    addCommand(
+        m_documentMenu, QStringLiteral("mnuPopProperties"), tr("P&roperties"), &MainWindow::showProperties);
 
     m_categoryMenu = new QMenu(QStringLiteral("PopCat"), this);
     m_categoryMenu->setObjectName(QStringLiteral("mnuPopCat"));
-    addCommand(m_categoryMenu, QStringLiteral("mnuPopCatNewDoc"), QStringLiteral("&New Document"),
+    addCommand(m_categoryMenu, QStringLiteral("mnuPopCatNewDoc"), tr("&New Document"),
         &MainWindow::newDocument, {}, QStringLiteral("frmNewDocument"));
-    addCommand(m_categoryMenu, QStringLiteral("mnuPopCatDel"), QStringLiteral("&Delete"),
-        &MainWindow::deleteSelectedCategory);
-    addCommand(m_categoryMenu, QStringLiteral("mnuPopCatEdit"), QStringLiteral("&Edit Details"),
+    addCommand(
+        m_categoryMenu, QStringLiteral("mnuPopCatDel"), tr("&Delete"), &MainWindow::deleteSelectedCategory);
+    addCommand(m_categoryMenu, QStringLiteral("mnuPopCatEdit"), tr("&Edit Details"),
         &MainWindow::editCategory, {}, QStringLiteral("frmCategory"));
 }
 

@@ -45,11 +45,11 @@ void MainWindow::buildPreview()
     connect(m_related, &ExplorerList::itemClicked, this, &MainWindow::showPreviewOfSelection);
     connect(m_related, &ExplorerList::highlightCleared, this, &MainWindow::showPreviewOfSelection);
 
-    auto* next = new QAction(QStringLiteral("Next Pane"), this);
+    auto* next = new QAction(tr("Next Pane"), this);
     next->setObjectName(QStringLiteral("actNextPane"));
     next->setShortcut(QKeySequence(Qt::Key_F6));
     connect(next, &QAction::triggered, this, [this] { cycleFocus(true); });
-    auto* previous = new QAction(QStringLiteral("Previous Pane"), this);
+    auto* previous = new QAction(tr("Previous Pane"), this);
     previous->setObjectName(QStringLiteral("actPreviousPane"));
     previous->setShortcut(QKeySequence(Qt::SHIFT | Qt::Key_F6));
     connect(previous, &QAction::triggered, this, [this] { cycleFocus(false); });

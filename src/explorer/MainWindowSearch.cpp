@@ -31,7 +31,7 @@ void MainWindow::buildSearch()
     m_band->addWidget(m_search);
     connect(m_search, &SearchBox::searchRequested, this, &MainWindow::search);
 
-    auto* find = new QAction(QStringLiteral("Find Documents"), this);
+    auto* find = new QAction(tr("Find Documents"), this);
     find->setObjectName(QStringLiteral("actFindDocuments"));
     find->setShortcut(QKeySequence::Find);
     find->setShortcutContext(Qt::WindowShortcut);
@@ -57,7 +57,7 @@ void MainWindow::search(const QString& text)
         }
         m_searchText = shown;
         runSearch();
-        setWindowTitle(QStringLiteral("Search — ") + shown);
+        setWindowTitle(tr("Search — %1").arg(shown));
     }
     m_state.selectedDocumentId = 0;
     disableDocumentCommands();

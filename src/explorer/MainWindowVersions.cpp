@@ -12,8 +12,8 @@ void MainWindow::newVersion()
     // A related document's file is no document's own: its versions would mix with the
     // document's.
     if (m_state.activeListName.compare(QLatin1String("ListDokSarasas"), Qt::CaseInsensitive) != 0) {
-        msgBox(QStringLiteral("Select document, please!"), MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation,
-            QStringLiteral("New Version"));
+        msgBox(tr("Select document, please!"), MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation,
+            tr("New Version"));
         return;
     }
     if (replaceWithNewVersion(m_state.selectedDocumentId, m_state.selectedFilePath)) {

@@ -6,6 +6,8 @@
 #include "store/engine/Connection.h"
 #include "support/BusyCursor.h"
 
+#include <QCoreApplication>
+
 namespace kartella {
 
 std::optional<Error> offerRegisterUpgrade(const QString& path)
@@ -22,22 +24,26 @@ std::optional<Error> offerRegisterUpgrade(const QString& path)
             return error;
         return std::nullopt;
     }
-    const int answer = msgBox(QStringLiteral("The register \"") + shown
-            + QStringLiteral("\" was made by an earlier version of Kartella. Upgrade it to this version now?"
-                             "\r\rEvery document, category and contact is kept."),
-        MsgBoxStyle::YesNo + MsgBoxStyle::Question);
+    const int answer
+        = msgBox(QCoreApplication::translate("kartella::RegisterUpgradeOffer",
+                     "The register \"%1\" was made by an earlier version of Kartella. Upgrade it to this "
+                     "version now?\r\rEvery document, category and contact is kept.")
+                     .arg(shown),
+            MsgBoxStyle::YesNo + MsgBoxStyle::Question);
     if (answer != MsgBoxResult::Yes)
         return Error(ErrorNumber::ConnectionFailed,
-            QStringLiteral("The register \"") + shown
-                + QStringLiteral("\" was made by an earlier version of Kartella and was not upgraded. "
-                                 "Upgrade it, or choose another register."));
+            QCoreApplication::translate("kartella::RegisterUpgradeOffer",
+                "The register \"%1\" was made by an earlier version of Kartella and was not upgraded. "
+                "Upgrade it, or choose another register.")
+                .arg(shown));
     try {
         const BusyCursor busy;
         upgradeRegister(path);
     } catch (const Error& error) {
         return Error(ErrorNumber::ConnectionFailed,
-            QStringLiteral("The register \"") + shown
-                + QStringLiteral("\" could not be upgraded; it is left as it was. ") + error.description());
+            QCoreApplication::translate("kartella::RegisterUpgradeOffer",
+                "The register \"%1\" could not be upgraded; it is left as it was. %2")
+                .arg(shown, error.description()));
     }
     return std::nullopt;
 }

@@ -3,6 +3,8 @@
 #include "explorer/RelatedPages.h"
 #include "support/SelectionState.h"
 
+#include <QCoreApplication>
+
 namespace kartella {
 
 bool fillRelatedRows(ListModel& model, const SelectionState& selection)
@@ -12,8 +14,9 @@ bool fillRelatedRows(ListModel& model, const SelectionState& selection)
         model.clear();
         return false;
     }
-    model.setColumns({{QStringLiteral("Doc. Description"), 3000}, {QStringLiteral("Sender/Receiver"), 2000},
-        {QStringLiteral("Date"), 1500, true}});
+    model.setColumns({{QCoreApplication::translate("kartella::DocumentFills", "Doc. Description"), 3000},
+        {QCoreApplication::translate("kartella::DocumentFills", "Sender/Receiver"), 2000},
+        {QCoreApplication::translate("kartella::DocumentFills", "Date"), 1500, true}});
     model.setSource(std::move(rows));
     return true;
 }

@@ -8,6 +8,7 @@
 #include "support/BusyCursor.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
@@ -26,8 +27,10 @@ QString panelText(int count)
     if (count < 0)
         return {};
     if (count == 0)
-        return QStringLiteral("No reminders due");
-    return count == 1 ? QStringLiteral("1 reminder due") : QStringLiteral("%1 reminders due").arg(count);
+        return QCoreApplication::translate("kartella::RemindersCommand", "No reminders due");
+    return count == 1
+        ? QCoreApplication::translate("kartella::RemindersCommand", "1 reminder due")
+        : QCoreApplication::translate("kartella::RemindersCommand", "%1 reminders due").arg(count);
 }
 
 } // namespace
@@ -45,10 +48,10 @@ RemindersCommand::RemindersCommand(QMainWindow* window)
     , today(reminderToday)
     , m_mainWindow(window)
 {
-    m_action = new QAction(QStringLiteral("&Reminders"), window);
+    m_action = new QAction(tr("&Reminders"), window);
     m_action->setObjectName(QStringLiteral("mnuReminders"));
     m_action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_R));
-    m_action->setToolTip(QStringLiteral("The reminders due today and overdue"));
+    m_action->setToolTip(tr("The reminders due today and overdue"));
     if (auto* go = window->menuBar()->findChild<QMenu*>(QStringLiteral("mnuGo")))
         go->addAction(m_action);
     else
@@ -57,7 +60,7 @@ RemindersCommand::RemindersCommand(QMainWindow* window)
 
     m_panel = new QLabel(window->statusBar());
     m_panel->setObjectName(QStringLiteral("pnReminders"));
-    m_panel->setToolTip(QStringLiteral("Due reminders (Ctrl+R shows them)"));
+    m_panel->setToolTip(tr("Due reminders (Ctrl+R shows them)"));
     window->statusBar()->addPermanentWidget(m_panel);
 }
 

@@ -4,6 +4,7 @@
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 
+#include <QCoreApplication>
 #include <QFont>
 
 #include <algorithm>
@@ -20,8 +21,9 @@ constexpr int LinesKept = 20 * PageSize;
 QString dueText(const DueReminderKey& key)
 {
     if (!key.date.isValid())
-        return QStringLiteral("Date unreadable");
-    return key.overdue ? QStringLiteral("Overdue") : QStringLiteral("Today");
+        return QCoreApplication::translate("kartella::RemindersModel", "Date unreadable");
+    return key.overdue ? QCoreApplication::translate("kartella::RemindersModel", "Overdue")
+                       : QCoreApplication::translate("kartella::RemindersModel", "Today");
 }
 
 } // namespace
@@ -153,9 +155,11 @@ QVariant RemindersModel::headerData(int section, Qt::Orientation orientation, in
 {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return {};
-    static const QStringList titles = {QStringLiteral("Date"), QStringLiteral("Due"),
-        QStringLiteral("Registration Index"), QStringLiteral("Description"), QStringLiteral("Text")};
-    return titles.value(section);
+    static const char* const titles[] = {QT_TR_NOOP("Date"), QT_TR_NOOP("Due"),
+        QT_TR_NOOP("Registration Index"), QT_TR_NOOP("Description"), QT_TR_NOOP("Text")};
+    if (section < 0 || section >= int(std::size(titles)))
+        return {};
+    return tr(titles[section]);
 }
 
 } // namespace kartella

@@ -23,8 +23,6 @@ namespace kartella {
 
 namespace {
 
-const QString Title = QStringLiteral("Reminders");
-
 // Enter on a line acts as a double click, whatever the style makes of it.
 class ActivateOnEnter : public QObject
 {
@@ -60,12 +58,12 @@ RemindersWindow::RemindersWindow(
     , m_today(today)
 {
     setObjectName(QStringLiteral("frmReminders"));
-    setWindowTitle(Title);
+    setWindowTitle(tr("Reminders"));
 
     m_model = new RemindersModel(this);
     m_list = new QTreeView(this);
     m_list->setObjectName(QStringLiteral("lstReminders"));
-    m_list->setAccessibleName(QStringLiteral("Due reminders"));
+    m_list->setAccessibleName(tr("Due reminders"));
     m_list->setRootIsDecorated(false);
     m_list->setItemsExpandable(false);
     m_list->setUniformRowHeights(true);
@@ -77,16 +75,16 @@ RemindersWindow::RemindersWindow(
     // Columns are sized to the lines in view: they are the only ones read.
     m_list->header()->setResizeContentsPrecision(0);
 
-    m_nothingDue = new QLabel(QStringLiteral("No reminders are due."), this);
+    m_nothingDue = new QLabel(tr("No reminders are due."), this);
     m_nothingDue->setObjectName(QStringLiteral("lblNothingDue"));
 
-    m_done = new QPushButton(QStringLiteral("&Done"), this);
+    m_done = new QPushButton(tr("&Done"), this);
     m_done->setObjectName(QStringLiteral("cmdDone"));
-    m_done->setToolTip(QStringLiteral("Mark the selected reminders done: they are not shown again"));
+    m_done->setToolTip(tr("Mark the selected reminders done: they are not shown again"));
     m_done->setAutoDefault(false);
-    auto* later = new QPushButton(QStringLiteral("&Later"), this);
+    auto* later = new QPushButton(tr("&Later"), this);
     later->setObjectName(QStringLiteral("cmdLater"));
-    later->setToolTip(QStringLiteral("Close; the reminders show again at the next start"));
+    later->setToolTip(tr("Close; the reminders show again at the next start"));
     later->setAutoDefault(false);
 
     auto* buttons = new QHBoxLayout;
@@ -121,7 +119,7 @@ void RemindersWindow::reload()
         const BusyCursor busy;
         m_model->reload(m_today);
     } catch (const Error& error) {
-        msgBox(error.description(), MsgBoxStyle::OkOnly + MsgBoxStyle::Critical, Title);
+        msgBox(error.description(), MsgBoxStyle::OkOnly + MsgBoxStyle::Critical, tr("Reminders"));
     }
     showLines(std::max(row, 0));
 }
@@ -159,10 +157,9 @@ void RemindersWindow::openCurrentDetails()
 
 bool RemindersWindow::offerUpgrade()
 {
-    if (msgBox(
-            QStringLiteral("This register was made by an older Kartella and can't keep a reminder done "
-                           "until it is upgraded. Nothing in it is lost by the upgrade.\r\rUpgrade it now?"),
-            MsgBoxStyle::YesNo + MsgBoxStyle::Question, Title)
+    if (msgBox(tr("This register was made by an older Kartella and can't keep a reminder done "
+                  "until it is upgraded. Nothing in it is lost by the upgrade.\r\rUpgrade it now?"),
+            MsgBoxStyle::YesNo + MsgBoxStyle::Question, tr("Reminders"))
         != MsgBoxResult::Yes)
         return false;
     const BusyCursor busy;
@@ -207,15 +204,15 @@ void RemindersWindow::markDone()
         if (changed) {
             reload();
             Q_EMIT remindersDone();
-            msgBox(QStringLiteral("A reminder was changed by another user since the list was shown; it is "
-                                  "not marked done. The list shows it as it is now."),
-                MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation, Title);
+            msgBox(tr("A reminder was changed by another user since the list was shown; it is "
+                      "not marked done. The list shows it as it is now."),
+                MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation, tr("Reminders"));
             return;
         }
     } catch (const Error& error) {
         showLines(first);
         Q_EMIT remindersDone();
-        msgBox(error.description(), MsgBoxStyle::OkOnly + MsgBoxStyle::Critical, Title);
+        msgBox(error.description(), MsgBoxStyle::OkOnly + MsgBoxStyle::Critical, tr("Reminders"));
         return;
     }
     m_list->selectionModel()->clearSelection();

@@ -9,9 +9,9 @@ SearchBox::SearchBox(QWidget* parent)
     : QLineEdit(parent)
 {
     setObjectName(QStringLiteral("txtSearch"));
-    setPlaceholderText(QStringLiteral("Search documents"));
-    setAccessibleName(QStringLiteral("Search documents"));
-    setToolTip(QStringLiteral("Search documents (Ctrl+F); Esc clears"));
+    setPlaceholderText(tr("Search documents"));
+    setAccessibleName(tr("Search documents"));
+    setToolTip(tr("Search documents (Ctrl+F); Esc clears"));
     setClearButtonEnabled(true);
     setMinimumWidth(200);
     m_pause = new QTimer(this);

@@ -11,7 +11,7 @@ ShareNotice::ShareNotice(QStatusBar* status)
     : QLabel(status)
 {
     setObjectName(QStringLiteral("pnShare"));
-    setAccessibleName(QStringLiteral("Network share notice"));
+    setAccessibleName(tr("Network share notice"));
     setTextInteractionFlags(Qt::TextSelectableByMouse);
     status->addWidget(this);
     hide();

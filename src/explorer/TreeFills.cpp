@@ -6,6 +6,8 @@
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
 
+#include <QCoreApplication>
+
 namespace kartella {
 
 namespace {
@@ -56,7 +58,8 @@ void buildCategoryTree(NavigationTree& tree)
             + QStringLiteral("FROM tbl_Document_Categories ")
             + QStringLiteral("ORDER BY tbl_Document_Categories.DokKategorija;"),
         connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
-    QTreeWidgetItem* root = tree.addNode({}, RootKey, QStringLiteral("CATEGORIES"));
+    QTreeWidgetItem* root
+        = tree.addNode({}, RootKey, QCoreApplication::translate("kartella::TreeFills", "CATEGORIES"));
     tree.setExpandedImage(root, QStringLiteral("Open"));
     while (!categories.eof()) {
         const QString id = categories.collect(QStringLiteral("KategID")).toString();
@@ -97,7 +100,8 @@ void buildContactTree(NavigationTree& tree)
             + QStringLiteral("FROM tbl_Contacts ")
             + QStringLiteral("WHERE FullName <> '\"' ORDER BY FullName"),
         connection, CursorTypeEnum::Dynamic, LockTypeEnum::Unspecified);
-    QTreeWidgetItem* root = tree.addNode({}, RootKey, QStringLiteral("CONTACTS"));
+    QTreeWidgetItem* root
+        = tree.addNode({}, RootKey, QCoreApplication::translate("kartella::TreeFills", "CONTACTS"));
     tree.setExpandedImage(root, QStringLiteral("Open"));
     for (int letterIndex = 0; letterIndex < 26; ++letterIndex) {
         const QString letter(QChar(u'A' + letterIndex));

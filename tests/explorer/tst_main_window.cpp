@@ -3,6 +3,7 @@
 #include "explorer/ExplorerList.h"
 #include "explorer/IconCache.h"
 #include "explorer/ListModel.h"
+#include "explorer/LithuanianTexts.h"
 #include "explorer/MainWindow.h"
 #include "explorer/NavigationTree.h"
 #include "harness/ScriptedPrompter.h"
@@ -11,13 +12,27 @@
 
 #include <QComboBox>
 #include <QDateEdit>
+#include <QHeaderView>
 #include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
 #include <QTest>
+#include <QTreeView>
 
 using namespace kartella;
 using namespace kartella::test;
 
 namespace {
+
+// The captions the document list's header shows.
+QStringList shownHeaders(MainWindow& window)
+{
+    QStringList captions;
+    QAbstractItemModel* model = window.documentList()->detailsView()->model();
+    for (int column = 0; column < model->columnCount(); ++column)
+        captions << model->headerData(column, Qt::Horizontal).toString();
+    return captions;
+}
 
 QStringList names(std::initializer_list<const char*> list)
 {
@@ -384,6 +399,85 @@ private Q_SLOTS:
         QVERIFY(!w.relatedList()->isVisible());
         QCOMPARE(selection().selectedDocumentId, 0);
         QVERIFY(prompter.prompts().isEmpty());
+    }
+
+    // The main window in Lithuanian: menus with their access keys apart, the tree's fixed
+    // nodes, the list's header and count, a message; the direction, the arrangement and the
+    // empty state still work by what they mean, not by the words shown.
+    void mainWindowInLithuanian()
+    {
+        const LithuanianTexts lithuanian;
+        QVERIFY(lithuanian.language().startsWith("lt"));
+        {
+            TestRegister empty;
+            ScriptedPrompter prompter;
+            MainWindow w;
+            w.show();
+            w.load();
+            QCOMPARE(shownHeaders(w), QStringList {"Dokumentai"});
+            QCOMPARE(w.documentModel()->item(0).text, QString("Nėra duomenų, kuriuos būtų galima parodyti!"));
+            QCOMPARE(w.findChild<QLabel*>("pnCount")->text(), QString("Objektų: 0"));
+            selection().selectedDocumentId = 77;
+            w.onDocumentClicked(0);
+            QCOMPARE(selection().selectedDocumentId, 77);
+            QVERIFY(prompter.prompts().isEmpty());
+        }
+        selection() = SelectionState();
+        ExplorerFixture fx;
+        ScriptedPrompter prompter;
+        MainWindow& w = fx.window();
+
+        QStringList titles;
+        for (QAction* menu : w.menuBar()->actions())
+            titles << menu->text();
+        QCOMPARE(
+            titles, QStringList({"&Failas", "&Rodinys", "&Eiti", "&Priemonės", "&Ataskaitos", "&Žinynas"}));
+        QVERIFY(clashingAccessKeys(titles).isEmpty());
+        QList<QMenu*> menus = w.findChildren<QMenu*>();
+        QVERIFY(menus.size() >= 12);
+        for (const QMenu* menu : std::as_const(menus)) {
+            if (!menu->objectName().startsWith("mnu") && menu->objectName() != "btnViewMenu")
+                continue;
+            const QStringList texts = actionTexts(menu->actions());
+            QVERIFY2(clashingAccessKeys(texts).isEmpty(),
+                qPrintable(menu->objectName() + ": " + texts.join(", ")));
+        }
+        QCOMPARE(w.action("mnuDelete")->text(), QString("Ša&linti dokumentą"));
+        QCOMPARE(w.action("btnNewDocument")->toolTip(), QString("Naujas dokumentas (Ctrl+N)"));
+        QCOMPARE(w.action("btnNewDocument")->text(), QString("Naujas dokumentas"));
+
+        NavigationTree* tree = w.tree();
+        QCOMPARE(tree->nodeByIndex(1)->text(0), QString("KATEGORIJOS"));
+        QCOMPARE(tree->nodeByIndex(2)->text(0), QString("Raštai"));
+        QCOMPARE(shownHeaders(w),
+            QStringList({"Dok. aprašymas", "Reg. indeksas", "Siuntėjas / gavėjas", "Data", "Pastabos"}));
+        QCOMPARE(fx.countText(), QString("Objektų: 5"));
+        fx.clickNode("a" + QString::number(fx.id["Raštai"]));
+        QCOMPARE(w.windowTitle(), QString("Naršoma kategorija — Raštai"));
+        fx.clickNode("ALL");
+
+        // "Gaunami" picked by its first letter, as a user types it, narrows to the incoming.
+        auto* direction = w.findChild<QComboBox*>("cboDirection");
+        QCOMPARE(direction->itemText(3), QString("Gaunami"));
+        direction->setFocus();
+        QTest::keyClick(direction, Qt::Key_G);
+        QCOMPARE(direction->currentIndex(), 3);
+        QCOMPARE(fx.documentTexts(), names({"work", "letter"}));
+        // "pagal d&atą" sorts the column headed "Data".
+        w.action("mnubyDate")->trigger();
+        QHeaderView* header = w.documentList()->detailsView()->header();
+        QCOMPARE(header->sortIndicatorSection(), 3);
+        QCOMPARE(shownHeaders(w).at(header->sortIndicatorSection()), QString("Data"));
+
+        // A start date after the end date: the message and its title in Lithuanian.
+        auto* start = w.findChild<QDateEdit*>("txtStartDate");
+        const QDate end = w.findChild<QDateEdit*>("txtEndDate")->date();
+        prompter.answer(MsgBoxResult::Ok);
+        start->setDate(end.addDays(1));
+        const QList<ScriptedPrompter::Prompt> prompts = prompter.take();
+        QCOMPARE(prompts.size(), 1);
+        QCOMPARE(prompts.first().text, QString("Pasirinkite pradžios datą, ANKSTESNĘ už pabaigos datą"));
+        QCOMPARE(prompts.first().title, QString("Datos nustatymo klaida"));
     }
 };
 

@@ -2,6 +2,7 @@
 // register made before it could be), the Reminders window and its place in the main window.
 #include "dialogs/SettingsDialog.h"
 #include "explorer/ExplorerList.h"
+#include "explorer/LithuanianTexts.h"
 #include "explorer/MainWindow.h"
 #include "explorer/RemindersCommand.h"
 #include "explorer/RemindersWindow.h"
@@ -19,6 +20,8 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -503,6 +506,80 @@ private Q_SLOTS:
         QTest::keyClick(box, Qt::Key_Escape);
         QVERIFY(!dialog.isVisible());
         QVERIFY(prompter.prompts().isEmpty());
+    }
+
+    // The Reminders window in Lithuanian: its title, header, due words, buttons with their
+    // access keys apart, the status bar's count and a message; the lines and the count
+    // still follow the register.
+    void remindersWindowInLithuanian()
+    {
+        const LithuanianTexts lithuanian;
+        QVERIFY(lithuanian.language().startsWith("lt"));
+        const QDate today(2024, 3, 1);
+        {
+            TestRegister reg;
+            ScriptedPrompter prompter;
+            setRegValue("ShowDueReminders", 0);
+            const qint32 doc = addDocument(reg, "A-1", "Aktas");
+            addReminder(reg, doc, QDate(2024, 2, 29), "overdue");
+            addReminder(reg, doc, today, "today");
+            addReminder(reg, doc, "next Friday", "typed");
+            MainWindow window;
+            window.reminders()->today = [today] { return today; };
+            window.load();
+            auto* panel = window.findChild<QLabel*>("pnReminders");
+            QTRY_COMPARE(panel->text(), QString("Priminimų: 3"));
+            auto* go = window.menuBar()->findChild<QMenu*>("mnuGo");
+            QVERIFY(actionTexts(go->actions()).contains("&Priminimai"));
+            QVERIFY(clashingAccessKeys(actionTexts(go->actions())).isEmpty());
+
+            activate(window);
+            QTest::keyClick(&window, Qt::Key_R, Qt::ControlModifier);
+            RemindersWindow* open = window.reminders()->window();
+            QVERIFY(open);
+            QCOMPARE(open->windowTitle(), QString("Priminimai"));
+            QAbstractItemModel* lines = list(*open)->model();
+            QStringList headers;
+            for (int column = 0; column < lines->columnCount(); ++column)
+                headers << lines->headerData(column, Qt::Horizontal).toString();
+            QCOMPARE(
+                headers, QStringList({"Data", "Terminas", "Registracijos indeksas", "Aprašymas", "Tekstas"}));
+            QCOMPARE(column(*open, 1), QStringList({"Pavėluotas", "Šiandien", "Data neįskaitoma"}));
+            QCOMPARE(column(*open, 4), QStringList({"overdue", "today", "typed"}));
+            QStringList buttons;
+            for (const QPushButton* button : open->findChildren<QPushButton*>())
+                buttons << button->text();
+            QCOMPARE(buttons, QStringList({"&Atlikta", "&Vėliau"}));
+            QVERIFY(clashingAccessKeys(buttons).isEmpty());
+
+            // Done on the current line: the count says so in Lithuanian; the last ones leave none.
+            activate(*open);
+            QTest::mouseClick(open->findChild<QPushButton*>("cmdDone"), Qt::LeftButton);
+            QCOMPARE(doneColumn(reg), QString("overdue=1,today=0,typed=0"));
+            QCOMPARE(panel->text(), QString("Priminimų: 2"));
+            QTest::keyClick(list(*open), Qt::Key_Down, Qt::ShiftModifier);
+            QTest::mouseClick(open->findChild<QPushButton*>("cmdDone"), Qt::LeftButton);
+            QCOMPARE(panel->text(), QString("Priminimų nėra"));
+            QVERIFY(open->findChild<QLabel*>("lblNothingDue")->isVisible());
+            QCOMPARE(
+                open->findChild<QLabel*>("lblNothingDue")->text(), QString("Laukiančių priminimų nėra."));
+            QVERIFY(prompter.prompts().isEmpty());
+        }
+        // A register made before reminders could be done: the offer to upgrade, in Lithuanian.
+        TestRegister reg;
+        ScriptedPrompter prompter;
+        addReminder(reg, addDocument(reg, "A-1", "Aktas"), QDate(2024, 2, 1), "first");
+        makeOlder(reg);
+        RemindersWindow window(today);
+        prompter.answer(MsgBoxResult::No);
+        QTest::mouseClick(window.findChild<QPushButton*>("cmdDone"), Qt::LeftButton);
+        const QList<ScriptedPrompter::Prompt> prompts = prompter.take();
+        QCOMPARE(prompts.size(), 1);
+        QVERIFY2(prompts.first().text.startsWith("Šis registras sukurtas senesne Kartella"),
+            qPrintable(prompts.first().text));
+        QVERIFY(prompts.first().text.endsWith("\r\rAtnaujinti dabar?"));
+        QCOMPARE(prompts.first().title, QString("Priminimai"));
+        QCOMPARE(reg.scalar("PRAGMA user_version").toInt(), VersionBeforeDone);
     }
 };
 
