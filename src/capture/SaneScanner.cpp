@@ -1,5 +1,6 @@
 #include "capture/SaneScanner.h"
 
+#include <QCoreApplication>
 #include <QMutex>
 
 #include <cmath>
@@ -145,13 +146,13 @@ void SaneScanner::setLibraryName(const QString& name)
 
 QString SaneScanner::missingSaneMessage()
 {
-    return QStringLiteral(
+    return QCoreApplication::translate("kartella::SaneScanner",
         "Scanning needs SANE, which is not installed. Install the Debian package libsane1.");
 }
 
 QString SaneScanner::noScannerMessage()
 {
-    return QStringLiteral(
+    return QCoreApplication::translate("kartella::SaneScanner",
         "No scanner was found. Check that the scanner is connected and switched on; "
         "the command scanimage -L (Debian package sane-utils) lists the scanners SANE sees.");
 }
@@ -174,7 +175,8 @@ bool SaneScanner::initialise(QString* message)
     SANE_Int version = 0;
     const SANE_Status status = api.init(&version, nullptr);
     if (status != SANE_STATUS_GOOD) {
-        *message = QStringLiteral("SANE could not start: %1.").arg(statusText(status));
+        *message = QCoreApplication::translate("kartella::SaneScanner", "SANE could not start: %1.")
+                       .arg(statusText(status));
         return false;
     }
     m_initialised = true;
@@ -207,7 +209,8 @@ bool SaneScanner::open(const QString& device, QString* message)
     SANE_Handle handle = nullptr;
     const SANE_Status status = api.open(device.toUtf8().constData(), &handle);
     if (status != SANE_STATUS_GOOD) {
-        *message = QStringLiteral("The scanner %1 can't be opened: %2.").arg(device, statusText(status));
+        *message = QCoreApplication::translate("kartella::SaneScanner", "The scanner %1 can't be opened: %2.")
+                       .arg(device, statusText(status));
         return false;
     }
     m_handle = handle;
@@ -327,7 +330,7 @@ SaneScanner::Outcome SaneScanner::scanPage(
     QImage* page, QString* message, const std::atomic_bool& cancel, bool moreToCome)
 {
     if (!m_handle) {
-        *message = QStringLiteral("No scanner is open.");
+        *message = QCoreApplication::translate("kartella::SaneScanner", "No scanner is open.");
         return Outcome::Failed;
     }
     SANE_Status status = api.start(m_handle);
@@ -342,15 +345,17 @@ SaneScanner::Outcome SaneScanner::scanPage(
     }
     if (status != SANE_STATUS_GOOD) {
         finishBatch();
-        *message = QStringLiteral("The scanner can't start: %1.").arg(statusText(status));
+        *message = QCoreApplication::translate("kartella::SaneScanner", "The scanner can't start: %1.")
+                       .arg(statusText(status));
         return Outcome::Failed;
     }
     SANE_Parameters parameters {};
     if (api.getParameters(m_handle, &parameters) != SANE_STATUS_GOOD
         || (parameters.format != SANE_FRAME_GRAY && parameters.format != SANE_FRAME_RGB)) {
         finishBatch();
-        *message = QStringLiteral("The scanner sends its colours in three passes, which Kartella can't read. "
-                                  "Choose another colour mode.");
+        *message = QCoreApplication::translate("kartella::SaneScanner",
+            "The scanner sends its colours in three passes, which Kartella can't read. "
+            "Choose another colour mode.");
         return Outcome::Failed;
     }
     std::vector<SANE_Byte> data;
@@ -372,8 +377,9 @@ SaneScanner::Outcome SaneScanner::scanPage(
         }
         if (status != SANE_STATUS_GOOD) {
             finishBatch();
-            *message = QStringLiteral("The scanner stopped in the middle of a page: %1. "
-                                      "The pages scanned before it are kept.")
+            *message = QCoreApplication::translate("kartella::SaneScanner",
+                "The scanner stopped in the middle of a page: %1. "
+                "The pages scanned before it are kept.")
                            .arg(statusText(status));
             return Outcome::Failed;
         }
@@ -383,7 +389,7 @@ SaneScanner::Outcome SaneScanner::scanPage(
         finishBatch();
     *page = makeImage(parameters, data);
     if (page->isNull()) {
-        *message = QStringLiteral("The scanner sent an empty page.");
+        *message = QCoreApplication::translate("kartella::SaneScanner", "The scanner sent an empty page.");
         return Outcome::Failed;
     }
     SANE_Int resolution = 0;

@@ -40,7 +40,7 @@ void ScanWorker::setOption(const QString& name, const QString& value)
 void ScanWorker::scan(const ScanSettings& settings, bool wholeFeeder)
 {
     if (!m_scanner || !m_scanner->isOpen()) {
-        Q_EMIT scanEnded(false, QStringLiteral("No scanner is open."));
+        Q_EMIT scanEnded(false, tr("No scanner is open."));
         return;
     }
     m_scanner->apply(settings);
@@ -57,8 +57,7 @@ void ScanWorker::scan(const ScanSettings& settings, bool wholeFeeder)
             Q_EMIT scanEnded(false, {});
             return;
         case SaneScanner::Outcome::NoMorePages:
-            Q_EMIT scanEnded(
-                false, pages == 0 ? QStringLiteral("There is no paper in the feeder.") : QString());
+            Q_EMIT scanEnded(false, pages == 0 ? tr("There is no paper in the feeder.") : QString());
             return;
         case SaneScanner::Outcome::Cancelled:
             Q_EMIT scanEnded(true, {});
