@@ -135,6 +135,22 @@
         <source>Phones</source>
         <translation>Telefonai</translation>
     </message>
+    <message>
+        <source>PhoneName</source>
+        <translation>Pavadinimas</translation>
+    </message>
+    <message>
+        <source>PhoneNumber</source>
+        <translation>Numeris</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Aprašymas</translation>
+    </message>
+    <message>
+        <source>HomeWWW</source>
+        <translation>Adresas</translation>
+    </message>
 </context>
 <context>
     <name>kartella::ContactEditor</name>
@@ -293,6 +309,22 @@ Ar pritaikyti juos dabar?</translation>
     <message>
         <source>Warning</source>
         <translation>Įspėjimas</translation>
+    </message>
+    <message>
+        <source>PhoneName</source>
+        <translation>Pavadinimas</translation>
+    </message>
+    <message>
+        <source>PhoneNumber</source>
+        <translation>Numeris</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Aprašymas</translation>
+    </message>
+    <message>
+        <source>HomeWWW</source>
+        <translation>Adresas</translation>
     </message>
 </context>
 <context>

@@ -222,6 +222,11 @@ QWidget* AddressBookWindow::buildFields()
     m_homePageModel->setAllowAddNew(true);
     m_homePageModel->setRowName(tr("web page"));
     m_homePageModel->attachView(m_homePageGrid);
+    // The grids head their columns with the fields' names, in the interface's language.
+    m_phoneModel->setColumnCaption(2, tr("PhoneName"));
+    m_phoneModel->setColumnCaption(3, tr("PhoneNumber"));
+    m_homePageModel->setColumnCaption(2, tr("Description"));
+    m_homePageModel->setColumnCaption(3, tr("HomeWWW"));
     // The keys are hidden; the settings last across the contacts.
     const std::array<std::pair<RecordsetModel*, int>, 2> widths
         = {std::pair {m_phoneModel, 3000}, std::pair {m_homePageModel, 5000}};

@@ -128,6 +128,11 @@ void ContactEditor::buildWidgets()
     m_phoneModel->attachView(m_phoneGrid);
     m_homePageModel = new RecordsetModel(this);
     m_homePageModel->attachView(m_homePageGrid);
+    // The grids head their columns with the fields' names, in the interface's language.
+    m_phoneModel->setColumnCaption(2, tr("PhoneName"));
+    m_phoneModel->setColumnCaption(3, tr("PhoneNumber"));
+    m_homePageModel->setColumnCaption(2, tr("Description"));
+    m_homePageModel->setColumnCaption(3, tr("HomeWWW"));
     // A row reaches the register when the user leaves it.
     for (QTableView* grid : {m_phoneGrid, m_homePageGrid}) {
         connect(grid->selectionModel(), &QItemSelectionModel::currentRowChanged, this,

@@ -308,6 +308,8 @@ private Q_SLOTS:
         QVERIFY(companyLabel != labels.end());
         QCOMPARE((*companyLabel)->text(), "Įmonė:");
         QCOMPARE(w.status(), "Įrašų: 4");
+        QCOMPARE(w.grid("grdDataGrid")->model()->headerData(3, Qt::Horizontal).toString(), "Numeris");
+        QCOMPARE(w.grid("dgrHP")->model()->headerData(3, Qt::Horizontal).toString(), "Adresas");
         QCOMPARE(clashingAccessKeys(&window), QStringList());
 
         w.clickLine("Ona Petraitiene");
