@@ -54,9 +54,9 @@ void AddressBookWindow::buildWidgets()
 
     m_list = new QTreeWidget(this);
     m_list->setObjectName(QStringLiteral("lvwFullNames"));
-    m_list->setAccessibleName(QStringLiteral("Contacts"));
+    m_list->setAccessibleName(tr("Contacts"));
     m_list->setColumnCount(1);
-    m_list->setHeaderLabels({QStringLiteral("Contact")});
+    m_list->setHeaderLabels({tr("Contact")});
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);
     m_list->header()->setSectionsClickable(true);
@@ -65,7 +65,7 @@ void AddressBookWindow::buildWidgets()
         [this](QTreeWidgetItem* current) { onLineChosen(current); });
     connect(m_list->header(), &QHeaderView::sectionClicked, this, &AddressBookWindow::onHeaderClicked);
     // Ctrl+Delete deletes a contact only from the list; in a box it deletes a word.
-    m_deleteKey = new QAction(QStringLiteral("Delete Contact"), m_list);
+    m_deleteKey = new QAction(tr("Delete Contact"), m_list);
     m_deleteKey->setObjectName(QStringLiteral("deleteContactKey"));
     m_deleteKey->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Delete));
     m_deleteKey->setShortcutContext(Qt::WidgetWithChildrenShortcut);
@@ -125,28 +125,28 @@ QWidget* AddressBookWindow::buildToolbar()
         connect(action, &QAction::triggered, this, slot);
         return action;
     };
-    command("mnuNewContact", QStringLiteral("New Contact"), "contact-new", QKeySequence(Qt::CTRL | Qt::Key_N),
+    command("mnuNewContact", tr("New Contact"), "contact-new", QKeySequence(Qt::CTRL | Qt::Key_N),
         &AddressBookWindow::newContact);
-    QAction* remove = command("mnuDelete", QStringLiteral("Delete Contact"), "edit-delete",
+    QAction* remove = command("mnuDelete", tr("Delete Contact"), "edit-delete",
         QKeySequence(Qt::CTRL | Qt::Key_Delete), &AddressBookWindow::deleteContact);
     // The key belongs to the list (m_deleteKey); the tool tip still names it.
     remove->setShortcut(QKeySequence());
-    m_dial = command("mnuDial", QStringLiteral("Dial"), "call-start", QKeySequence(Qt::CTRL | Qt::Key_D),
-        &AddressBookWindow::dial);
+    m_dial = command(
+        "mnuDial", tr("Dial"), "call-start", QKeySequence(Qt::CTRL | Qt::Key_D), &AddressBookWindow::dial);
     m_dialNumber = new QLineEdit(toolbar);
     m_dialNumber->setObjectName(QStringLiteral("txtDial"));
-    m_dialNumber->setToolTip(QStringLiteral("Dialing Number"));
-    m_dialNumber->setAccessibleName(QStringLiteral("Dialing Number"));
+    m_dialNumber->setToolTip(tr("Dialing Number"));
+    m_dialNumber->setAccessibleName(tr("Dialing Number"));
     m_dialNumber->setFixedWidth(RecordsetModel::twipsToPixels(2000, this));
     toolbar->addWidget(m_dialNumber);
-    m_browse = command("mnuInternet", QStringLiteral("Browse URL"), "internet-web-browser",
+    m_browse = command("mnuInternet", tr("Browse URL"), "internet-web-browser",
         QKeySequence(Qt::CTRL | Qt::Key_B), &AddressBookWindow::browseUrl);
     m_url = new QLineEdit(toolbar);
     m_url->setObjectName(QStringLiteral("txtURL"));
-    m_url->setAccessibleName(QStringLiteral("Web address"));
+    m_url->setAccessibleName(tr("Web address"));
     m_url->setFixedWidth(RecordsetModel::twipsToPixels(5000, this));
     toolbar->addWidget(m_url);
-    command("mnuEMail", QStringLiteral("Mail to"), "mail-send", QKeySequence(Qt::CTRL | Qt::Key_M),
+    command("mnuEMail", tr("Mail to"), "mail-send", QKeySequence(Qt::CTRL | Qt::Key_M),
         &AddressBookWindow::mailTo);
     // A number or an address is offered only once a grid line gives one.
     m_dial->setEnabled(false);
@@ -156,7 +156,7 @@ QWidget* AddressBookWindow::buildToolbar()
 
 QWidget* AddressBookWindow::buildFilter()
 {
-    auto* frame = new QGroupBox(QStringLiteral("Filter"), this);
+    auto* frame = new QGroupBox(tr("Filter"), this);
     frame->setObjectName(QStringLiteral("Frame1"));
     auto* layout = new QGridLayout(frame);
     layout->setSpacing(2);
@@ -169,7 +169,7 @@ QWidget* AddressBookWindow::buildFilter()
     };
     // "All" comes first in the tab order and has the focus when the window opens, then A to
     // M and N to Z in two columns.
-    QPushButton* all = addButton(ContactQueries::AllContacts, QStringLiteral("All"));
+    QPushButton* all = addButton(ContactQueries::AllContacts, tr("All"));
     layout->addWidget(all, 0, 0, 1, 2);
     all->setFocus(Qt::OtherFocusReason);
     QWidget* previous = all;
@@ -211,17 +211,22 @@ QWidget* AddressBookWindow::buildFields()
 
     m_phoneGrid = new QTableView(frame);
     m_phoneGrid->setObjectName(QStringLiteral("grdDataGrid"));
-    m_phoneGrid->setAccessibleName(QStringLiteral("Phones"));
+    m_phoneGrid->setAccessibleName(tr("Phones"));
     m_homePageGrid = new QTableView(frame);
     m_homePageGrid->setObjectName(QStringLiteral("dgrHP"));
     m_phoneModel = new RecordsetModel(this);
     m_phoneModel->setAllowAddNew(true);
-    m_phoneModel->setRowName(QStringLiteral("phone"));
+    m_phoneModel->setRowName(tr("phone"));
     m_phoneModel->attachView(m_phoneGrid);
     m_homePageModel = new RecordsetModel(this);
     m_homePageModel->setAllowAddNew(true);
-    m_homePageModel->setRowName(QStringLiteral("web page"));
+    m_homePageModel->setRowName(tr("web page"));
     m_homePageModel->attachView(m_homePageGrid);
+    // The grids head their columns with the fields' names, in the interface's language.
+    m_phoneModel->setColumnCaption(2, tr("PhoneName"));
+    m_phoneModel->setColumnCaption(3, tr("PhoneNumber"));
+    m_homePageModel->setColumnCaption(2, tr("Description"));
+    m_homePageModel->setColumnCaption(3, tr("HomeWWW"));
     // The keys are hidden; the settings last across the contacts.
     const std::array<std::pair<RecordsetModel*, int>, 2> widths
         = {std::pair {m_phoneModel, 3000}, std::pair {m_homePageModel, 5000}};
@@ -251,16 +256,16 @@ QWidget* AddressBookWindow::buildFields()
 
     auto* layout = new QGridLayout(frame);
     const std::array<std::pair<QString, QWidget*>, 10> labelled = {
-        std::pair {QStringLiteral("Company Name:"), static_cast<QWidget*>(m_companyName)},
-        std::pair {QStringLiteral("Contact Title:"), static_cast<QWidget*>(m_title)},
-        std::pair {QStringLiteral("Dear:"), static_cast<QWidget*>(m_dear)},
-        std::pair {QStringLiteral("Contact Name:"), static_cast<QWidget*>(m_fullName)},
-        std::pair {QStringLiteral("Street:"), static_cast<QWidget*>(m_address)},
-        std::pair {QStringLiteral("City:"), static_cast<QWidget*>(m_city)},
-        std::pair {QStringLiteral("State/Province:"), static_cast<QWidget*>(m_state)},
-        std::pair {QStringLiteral("Postal/Zip code:"), static_cast<QWidget*>(m_postalCode)},
-        std::pair {QStringLiteral("Country:"), static_cast<QWidget*>(m_country)},
-        std::pair {QStringLiteral("EMail Address:"), static_cast<QWidget*>(m_email)},
+        std::pair {tr("Company Name:"), static_cast<QWidget*>(m_companyName)},
+        std::pair {tr("Contact Title:"), static_cast<QWidget*>(m_title)},
+        std::pair {tr("Dear:"), static_cast<QWidget*>(m_dear)},
+        std::pair {tr("Contact Name:"), static_cast<QWidget*>(m_fullName)},
+        std::pair {tr("Street:"), static_cast<QWidget*>(m_address)},
+        std::pair {tr("City:"), static_cast<QWidget*>(m_city)},
+        std::pair {tr("State/Province:"), static_cast<QWidget*>(m_state)},
+        std::pair {tr("Postal/Zip code:"), static_cast<QWidget*>(m_postalCode)},
+        std::pair {tr("Country:"), static_cast<QWidget*>(m_country)},
+        std::pair {tr("EMail Address:"), static_cast<QWidget*>(m_email)},
     };
     int line = 0;
     for (const auto& [caption, box] : labelled) {
@@ -271,12 +276,12 @@ QWidget* AddressBookWindow::buildFields()
     }
     // The notes have no label of their own; the box's accessible name says what it is.
     layout->addWidget(m_notes, line++, 0, 1, 2);
-    auto* phones = makeLabel(QStringLiteral("Phones:"), m_phoneGrid, frame);
+    auto* phones = makeLabel(tr("Phones:"), m_phoneGrid, frame);
     phones->setObjectName(QStringLiteral("Label1"));
     layout->addWidget(phones, line++, 0, 1, 2);
     layout->setRowStretch(line, 1);
     layout->addWidget(m_phoneGrid, line++, 0, 1, 2);
-    layout->addWidget(makeLabel(QStringLiteral("Web Pages URL's:"), m_homePageGrid, frame), line++, 0, 1, 2);
+    layout->addWidget(makeLabel(tr("Web Pages URL's:"), m_homePageGrid, frame), line++, 0, 1, 2);
     layout->setRowStretch(line, 1);
     layout->addWidget(m_homePageGrid, line++, 0, 1, 2);
 

@@ -72,7 +72,7 @@ AddressBookWindow::AddressBookWindow(QWidget* parent)
     : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmCoresp"));
-    setWindowTitle(QStringLiteral("Address Book"));
+    setWindowTitle(tr("Address Book"));
     setModal(true);
     m_contacts = new Recordset(this);
     m_contacts->setObjectName(QStringLiteral("Adodc1"));
@@ -174,7 +174,7 @@ void AddressBookWindow::clearFlags()
 
 void AddressBookWindow::showItemCount()
 {
-    m_status->showMessage(QString::number(m_list->topLevelItemCount()) + QStringLiteral(" item(s)"));
+    m_status->showMessage(tr("%1 item(s)").arg(m_list->topLevelItemCount()));
 }
 
 void AddressBookWindow::filterContacts(int index)
@@ -235,8 +235,8 @@ void AddressBookWindow::markShownLine()
 
 bool AddressBookWindow::askToSave()
 {
-    const int answer = msgBox(QStringLiteral("Do you want to save changes you made to Contact?"),
-        MsgBoxStyle::YesNoCancel | MsgBoxStyle::Question, QStringLiteral("Saving Contact Changes"));
+    const int answer = msgBox(tr("Do you want to save changes you made to Contact?"),
+        MsgBoxStyle::YesNoCancel | MsgBoxStyle::Question, tr("Saving Contact Changes"));
     if (answer == MsgBoxResult::Cancel)
         return false;
     if (answer == MsgBoxResult::Yes) {
@@ -263,7 +263,7 @@ bool AddressBookWindow::saveChanges()
             if (!changed)
                 return true;
             if (!storeResolvingChanges(
-                    rows, affect, QStringLiteral("contact"), ContactEditor::fieldCaptions(), windowTitle())) {
+                    rows, affect, tr("contact"), ContactEditor::fieldCaptions(), windowTitle())) {
                 // Reloaded, what is shown is what is stored; else the change still waits.
                 changed = rows.hasPendingChanges();
                 return false;
@@ -281,7 +281,7 @@ bool AddressBookWindow::saveChanges()
             msgBox(error.description());
             return true;
         }
-        reportDeletedRow(QStringLiteral("contact"), windowTitle());
+        reportDeletedRow(tr("contact"), windowTitle());
         // Nothing of the gone contact can be stored: its pending changes are dropped.
         try {
             m_contacts->cancelBatch();
@@ -334,10 +334,9 @@ void AddressBookWindow::deleteContact()
             return;
         const QString name = ContactQueries::lineText(m_contacts->collect(QStringLiteral("FullName")),
             m_contacts->collect(QStringLiteral("CompanyName")));
-        if (msgBox(QStringLiteral("Delete the contact ") + name
-                    + QStringLiteral(" with its phones and web pages?"),
+        if (msgBox(tr("Delete the contact %1 with its phones and web pages?").arg(name),
                 MsgBoxStyle::YesNo | MsgBoxStyle::Question | MsgBoxStyle::DefaultButton2,
-                QStringLiteral("Confirm Deletion"))
+                tr("Confirm Deletion"))
             != MsgBoxResult::Yes)
             return;
         Connection connection(plainConnectionString());
@@ -388,8 +387,8 @@ void AddressBookWindow::done(int result)
 {
     if (m_contactChanged) {
         // Cancel closes the window too, without saving.
-        const int answer = msgBox(QStringLiteral("Do you want to save changes you made to Contact?"),
-            MsgBoxStyle::YesNoCancel | MsgBoxStyle::Question, QStringLiteral("Saving Contact Changes"));
+        const int answer = msgBox(tr("Do you want to save changes you made to Contact?"),
+            MsgBoxStyle::YesNoCancel | MsgBoxStyle::Question, tr("Saving Contact Changes"));
         if (answer == MsgBoxResult::Yes && !saveChanges())
             return;
         clearFlags();

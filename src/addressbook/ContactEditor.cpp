@@ -52,7 +52,7 @@ ContactEditor::ContactEditor(QWidget* parent)
     : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmCorr"));
-    setWindowTitle(QStringLiteral("New Contact"));
+    setWindowTitle(tr("New Contact"));
     setModal(true);
     m_contact = new Recordset(this);
     m_contact->setObjectName(QStringLiteral("datPrimaryRS"));
@@ -69,7 +69,7 @@ void ContactEditor::buildWidgets()
 {
     m_tabs = new QTabWidget(this);
     m_tabs->setObjectName(QStringLiteral("SSTab1"));
-    m_tabs->addTab(buildContactTab(), QStringLiteral("Contact Info"));
+    m_tabs->addTab(buildContactTab(), tr("Contact Info"));
 
     const auto gridTab
         = [this](const char* buttonName, const QString& caption, const char* gridName,
@@ -85,33 +85,35 @@ void ContactEditor::buildWidgets()
               layout->addWidget(grid, 1);
               return page;
           };
-    m_tabs->addTab(gridTab("cmdAddPhone", QStringLiteral("Add &Phone"), "grdDataGrid",
-                       QStringLiteral("Phones"), m_phoneGrid, &ContactEditor::addPhone),
-        QStringLiteral("Phones"));
-    m_tabs->addTab(gridTab("cmdAddURL", QStringLiteral("Add &URL"), "grdHomePages",
-                       QStringLiteral("Home pages"), m_homePageGrid, &ContactEditor::addUrl),
-        QStringLiteral("Home pages"));
+    m_tabs->addTab(gridTab("cmdAddPhone", tr("Add &Phone"), "grdDataGrid", tr("Phones"), m_phoneGrid,
+                       &ContactEditor::addPhone),
+        tr("Phones"));
+    m_tabs->addTab(gridTab("cmdAddURL", tr("Add &URL"), "grdHomePages", tr("Home pages"), m_homePageGrid,
+                       &ContactEditor::addUrl),
+        tr("Home pages"));
     // The buttons' access keys work from every tab, not only while their button shows.
-    const auto accessKey = [this](const char* buttonName, Qt::Key key, void (ContactEditor::*slot)()) {
-        findChild<QPushButton*>(QLatin1String(buttonName))->setShortcut(QKeySequence());
+    // The key is the one the button's text marks, in the interface's language.
+    const auto accessKey = [this](const char* buttonName, void (ContactEditor::*slot)()) {
+        auto* button = findChild<QPushButton*>(QLatin1String(buttonName));
+        button->setShortcut(QKeySequence());
         auto* action = new QAction(this);
-        action->setShortcut(QKeySequence(Qt::ALT | key));
+        action->setShortcut(QKeySequence::mnemonic(button->text()));
         addAction(action);
         connect(action, &QAction::triggered, this, slot);
     };
-    accessKey("cmdAddPhone", Qt::Key_P, &ContactEditor::addPhone);
-    accessKey("cmdAddURL", Qt::Key_U, &ContactEditor::addUrl);
+    accessKey("cmdAddPhone", &ContactEditor::addPhone);
+    accessKey("cmdAddURL", &ContactEditor::addUrl);
     m_notes = new QPlainTextEdit(this);
     m_notes->setObjectName(QStringLiteral("txtFields_11"));
     m_notes->setAccessibleName(QStringLiteral("Notes"));
     m_notes->setTabChangesFocus(true);
-    m_tabs->addTab(m_notes, QStringLiteral("Notes"));
+    m_tabs->addTab(m_notes, tr("Notes"));
     m_tabs->addTab(new HistoryTab(
                        HistoryTab::Contact, [this] { return m_contactId->text().toLongLong(); }, this),
-        QStringLiteral("History"));
+        tr("History"));
 
-    m_ok = makeButton(QStringLiteral("cmdOk"), QStringLiteral("OK"), this);
-    m_cancel = makeButton(QStringLiteral("cmdClose"), QStringLiteral("Cancel"), this);
+    m_ok = makeButton(QStringLiteral("cmdOk"), tr("OK"), this);
+    m_cancel = makeButton(QStringLiteral("cmdClose"), tr("Cancel"), this);
     connect(m_ok, &QPushButton::clicked, this, &ContactEditor::save);
     connect(m_cancel, &QPushButton::clicked, this, &ContactEditor::cancel);
     auto* buttons = new QHBoxLayout;
@@ -126,6 +128,11 @@ void ContactEditor::buildWidgets()
     m_phoneModel->attachView(m_phoneGrid);
     m_homePageModel = new RecordsetModel(this);
     m_homePageModel->attachView(m_homePageGrid);
+    // The grids head their columns with the fields' names, in the interface's language.
+    m_phoneModel->setColumnCaption(2, tr("PhoneName"));
+    m_phoneModel->setColumnCaption(3, tr("PhoneNumber"));
+    m_homePageModel->setColumnCaption(2, tr("Description"));
+    m_homePageModel->setColumnCaption(3, tr("HomeWWW"));
     // A row reaches the register when the user leaves it.
     for (QTableView* grid : {m_phoneGrid, m_homePageGrid}) {
         connect(grid->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
@@ -162,16 +169,16 @@ QWidget* ContactEditor::buildContactTab()
     m_postalCode = makeFieldBox(9, this);
     m_email = makeFieldBox(10, this);
     const std::array<std::pair<QString, QLineEdit*>, 10> labelled = {
-        std::pair {QStringLiteral("Company Name:"), m_companyName},
-        std::pair {QStringLiteral("Title:"), m_title},
-        std::pair {QStringLiteral("Dear:"), m_dear},
-        std::pair {QStringLiteral("FullName:"), m_fullName},
-        std::pair {QStringLiteral("Address:"), m_address},
-        std::pair {QStringLiteral("City:"), m_city},
-        std::pair {QStringLiteral("Country:"), m_country},
-        std::pair {QStringLiteral("State/Province:"), m_state},
-        std::pair {QStringLiteral("Zip/Postal Code:"), m_postalCode},
-        std::pair {QStringLiteral("EmailName:"), m_email},
+        std::pair {tr("Company Name:"), m_companyName},
+        std::pair {tr("Title:"), m_title},
+        std::pair {tr("Dear:"), m_dear},
+        std::pair {tr("FullName:"), m_fullName},
+        std::pair {tr("Address:"), m_address},
+        std::pair {tr("City:"), m_city},
+        std::pair {tr("Country:"), m_country},
+        std::pair {tr("State/Province:"), m_state},
+        std::pair {tr("Zip/Postal Code:"), m_postalCode},
+        std::pair {tr("EmailName:"), m_email},
     };
     auto* layout = new QGridLayout(page);
     int line = 0;
@@ -215,7 +222,7 @@ void ContactEditor::load()
         addContactRow();
         hideKeyColumns(m_phoneModel);
     } catch (const Error& error) {
-        msgBox(QStringLiteral("Data error event hit err:") + error.description());
+        msgBox(tr("Data error event hit err:") + error.description());
     }
     m_edited = false;
 }
@@ -320,20 +327,14 @@ void ContactEditor::storeGridRows()
 
 QList<QPair<QString, QString>> ContactEditor::fieldCaptions()
 {
-    return {{QStringLiteral("CompanyName"), QStringLiteral("Company Name")},
-        {QStringLiteral("Title"), QStringLiteral("Title")}, {QStringLiteral("Dear"), QStringLiteral("Dear")},
-        {QStringLiteral("FullName"), QStringLiteral("FullName")},
-        {QStringLiteral("Address"), QStringLiteral("Address")},
-        {QStringLiteral("City"), QStringLiteral("City")},
-        {QStringLiteral("Country"), QStringLiteral("Country")},
-        {QStringLiteral("StateOrProvince"), QStringLiteral("State/Province")},
-        {QStringLiteral("PostalCode"), QStringLiteral("Zip/Postal Code")},
-        {QStringLiteral("EmailName"), QStringLiteral("EmailName")},
-        {QStringLiteral("Notes"), QStringLiteral("Notes")},
-        {QStringLiteral("PhoneName"), QStringLiteral("Phone")},
-        {QStringLiteral("PhoneNumber"), QStringLiteral("Phone number")},
-        {QStringLiteral("Description"), QStringLiteral("Web page")},
-        {QStringLiteral("HomeWWW"), QStringLiteral("Web address")}};
+    return {{QStringLiteral("CompanyName"), tr("Company Name")}, {QStringLiteral("Title"), tr("Title")},
+        {QStringLiteral("Dear"), tr("Dear")}, {QStringLiteral("FullName"), tr("FullName")},
+        {QStringLiteral("Address"), tr("Address")}, {QStringLiteral("City"), tr("City")},
+        {QStringLiteral("Country"), tr("Country")}, {QStringLiteral("StateOrProvince"), tr("State/Province")},
+        {QStringLiteral("PostalCode"), tr("Zip/Postal Code")}, {QStringLiteral("EmailName"), tr("EmailName")},
+        {QStringLiteral("Notes"), tr("Notes")}, {QStringLiteral("PhoneName"), tr("Phone")},
+        {QStringLiteral("PhoneNumber"), tr("Phone number")}, {QStringLiteral("Description"), tr("Web page")},
+        {QStringLiteral("HomeWWW"), tr("Web address")}};
 }
 
 void ContactEditor::save()
@@ -343,11 +344,11 @@ void ContactEditor::save()
     try {
         m_binder->validate();
         if (!storeResolvingChanges(
-                *m_contact, AffectEnum::All, QStringLiteral("contact"), fieldCaptions(), windowTitle()))
+                *m_contact, AffectEnum::All, tr("contact"), fieldCaptions(), windowTitle()))
             return;
         if (m_homePages->isOpen()
             && !storeResolvingChanges(
-                *m_homePages, AffectEnum::All, QStringLiteral("contact"), fieldCaptions(), windowTitle()))
+                *m_homePages, AffectEnum::All, tr("contact"), fieldCaptions(), windowTitle()))
             return;
     } catch (const Error& error) {
         msgBox(error.description());
@@ -367,9 +368,8 @@ bool ContactEditor::askBeforeClosing()
         cancel();
         return true;
     }
-    const int answer
-        = msgBox(QStringLiteral("Changes to contact have not applied.\n\nDo you want to apply these now?"),
-            MsgBoxStyle::YesNoCancel | MsgBoxStyle::Exclamation, QStringLiteral("Warning"));
+    const int answer = msgBox(tr("Changes to contact have not applied.\n\nDo you want to apply these now?"),
+        MsgBoxStyle::YesNoCancel | MsgBoxStyle::Exclamation, tr("Warning"));
     if (answer == MsgBoxResult::Yes)
         save();
     else if (answer == MsgBoxResult::No)

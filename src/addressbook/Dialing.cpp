@@ -4,14 +4,17 @@
 #include "platform/Prompter.h"
 #include "platform/Telephony.h"
 
+#include <QCoreApplication>
+
 namespace kartella {
 
 void dialNumber(const QString& number)
 {
     try {
         if (number.isEmpty()) {
-            msgBox(QStringLiteral("Dial number isn't selected!"), MsgBoxStyle::OkOnly | MsgBoxStyle::Critical,
-                QStringLiteral("Unable to dial"));
+            msgBox(QCoreApplication::translate("kartella::Dialing", "Dial number isn't selected!"),
+                MsgBoxStyle::OkOnly | MsgBoxStyle::Critical,
+                QCoreApplication::translate("kartella::Dialing", "Unable to dial"));
             return;
         }
         requestCall(number);
@@ -23,21 +26,28 @@ void dialNumber(const QString& number)
 void requestCall(const QString& number)
 {
     if (!Telephony::instance().callsPossible()) {
-        msgBox(QStringLiteral("Unable to dial number ") + number
-                + QStringLiteral(": no program on this desktop takes phone calls (none is set for tel: "
-                                 "links).\r\rInstall a softphone or a phone link that handles tel: links, "
-                                 "then dial again."),
-            MsgBoxStyle::OkOnly | MsgBoxStyle::Critical, QStringLiteral("Dial Number Error"));
+        msgBox(QCoreApplication::translate("kartella::Dialing",
+                   "Unable to dial number %1: no program on this desktop takes phone calls (none is set "
+                   "for tel: links).\r\rInstall a softphone or a phone link that handles tel: links, then "
+                   "dial again.")
+                   .arg(number),
+            MsgBoxStyle::OkOnly | MsgBoxStyle::Critical,
+            QCoreApplication::translate("kartella::Dialing", "Dial Number Error"));
         return;
     }
-    const int answer = msgBox(QStringLiteral("Please pickup the phone and choose OK to dial ") + number,
-        MsgBoxStyle::OkCancel | MsgBoxStyle::Information, QStringLiteral("Dial Number"));
+    const int answer = msgBox(
+        QCoreApplication::translate("kartella::Dialing", "Please pickup the phone and choose OK to dial %1")
+            .arg(number),
+        MsgBoxStyle::OkCancel | MsgBoxStyle::Information,
+        QCoreApplication::translate("kartella::Dialing", "Dial Number"));
     if (answer == MsgBoxResult::Cancel)
         return;
     if (!Telephony::instance().requestCall(number)) {
-        msgBox(QStringLiteral("Unable to dial number ") + number
-                + QStringLiteral("\r\rMake sure no other devices are using the Com port"),
-            MsgBoxStyle::OkOnly | MsgBoxStyle::Critical, QStringLiteral("Dial Number Error"));
+        msgBox(QCoreApplication::translate("kartella::Dialing",
+                   "Unable to dial number %1\r\rMake sure no other devices are using the Com port")
+                   .arg(number),
+            MsgBoxStyle::OkOnly | MsgBoxStyle::Critical,
+            QCoreApplication::translate("kartella::Dialing", "Dial Number Error"));
     }
 }
 

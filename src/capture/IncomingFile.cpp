@@ -3,6 +3,7 @@
 #include "base/Error.h"
 #include "registration/FileNaming.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -28,10 +29,11 @@ QString extensionOf(const QString& path)
 QString placeIncomingFile(const QString& source, Intake intake, const IncomingTarget& target)
 {
     if (target.category.toString().isEmpty())
-        refuse(QStringLiteral("Select any Category, please!"));
+        refuse(QCoreApplication::translate("kartella::IncomingFile", "Select any Category, please!"));
     const QFileInfo original(source);
     if (!original.isFile())
-        refuse(QStringLiteral("The file \"") + source + QStringLiteral("\" is no longer there."));
+        refuse(QCoreApplication::translate("kartella::IncomingFile", "The file \"%1\" is no longer there.")
+                   .arg(source));
     const QVariant folder = getDocumentFolder(target.category, target.subCategory);
     const QString placed
         = makeNewFileName(target.description, extensionOf(source), folder, target.category, target.regIndex);
@@ -48,9 +50,11 @@ QString placeIncomingFile(const QString& source, Intake intake, const IncomingTa
         const QString reason = file.errorString();
         if (intake == Intake::Move && QFileInfo::exists(placed) && QFileInfo::exists(source))
             QFile::remove(placed);
-        refuse(QStringLiteral("The file \"") + source + QStringLiteral("\" can't be ")
-            + (intake == Intake::Copy ? QStringLiteral("copied") : QStringLiteral("moved"))
-            + QStringLiteral(" to \"") + placed + QStringLiteral("\": ") + reason);
+        refuse((intake == Intake::Copy ? QCoreApplication::translate(
+                    "kartella::IncomingFile", "The file \"%1\" can't be copied to \"%2\": %3")
+                                       : QCoreApplication::translate("kartella::IncomingFile",
+                                           "The file \"%1\" can't be moved to \"%2\": %3"))
+                   .arg(source, placed, reason));
     }
     return placed;
 }

@@ -1,5 +1,6 @@
 #include "capture/SaneScanner.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -189,25 +190,25 @@ QString SaneScanner::libraryName()
 
 QString SaneScanner::missingSaneMessage()
 {
-    return QStringLiteral(
+    return QCoreApplication::translate("kartella::SaneScanner",
         "Scanning needs SANE, which is not installed. Install the Debian package libsane1.");
 }
 
 QString SaneScanner::noScannerMessage()
 {
-    return QStringLiteral(
+    return QCoreApplication::translate("kartella::SaneScanner",
         "No scanner was found. Check that the scanner is connected and switched on; "
         "the command scanimage -L (Debian package sane-utils) lists the scanners SANE sees.");
 }
 
 QString SaneScanner::noScannerOpenMessage()
 {
-    return QStringLiteral("No scanner is open.");
+    return QCoreApplication::translate("kartella::SaneScanner", "No scanner is open.");
 }
 
 QString SaneScanner::emptyFeederMessage()
 {
-    return QStringLiteral("There is no paper in the feeder.");
+    return QCoreApplication::translate("kartella::SaneScanner", "There is no paper in the feeder.");
 }
 
 bool SaneScanner::initialise(QString* message)
@@ -228,7 +229,8 @@ bool SaneScanner::initialise(QString* message)
     SANE_Int version = 0;
     const SANE_Status status = api.init(&version, nullptr);
     if (status != SANE_STATUS_GOOD) {
-        *message = QStringLiteral("SANE could not start: %1.").arg(statusText(status));
+        *message = QCoreApplication::translate("kartella::SaneScanner", "SANE could not start: %1.")
+                       .arg(statusText(status));
         return false;
     }
     m_initialised = true;
@@ -261,7 +263,8 @@ bool SaneScanner::open(const QString& device, QString* message)
     SANE_Handle handle = nullptr;
     const SANE_Status status = api.open(device.toUtf8().constData(), &handle);
     if (status != SANE_STATUS_GOOD) {
-        *message = QStringLiteral("The scanner %1 can't be opened: %2.").arg(device, statusText(status));
+        *message = QCoreApplication::translate("kartella::SaneScanner", "The scanner %1 can't be opened: %2.")
+                       .arg(device, statusText(status));
         return false;
     }
     m_handle = handle;
@@ -396,15 +399,17 @@ SaneScanner::Outcome SaneScanner::scanPage(
     }
     if (status != SANE_STATUS_GOOD) {
         finishBatch();
-        *message = QStringLiteral("The scanner can't start: %1.").arg(statusText(status));
+        *message = QCoreApplication::translate("kartella::SaneScanner", "The scanner can't start: %1.")
+                       .arg(statusText(status));
         return Outcome::Failed;
     }
     SANE_Parameters parameters {};
     if (api.getParameters(m_handle, &parameters) != SANE_STATUS_GOOD
         || (parameters.format != SANE_FRAME_GRAY && parameters.format != SANE_FRAME_RGB)) {
         finishBatch();
-        *message = QStringLiteral("The scanner sends its colours in three passes, which Kartella can't read. "
-                                  "Choose another colour mode.");
+        *message = QCoreApplication::translate("kartella::SaneScanner",
+            "The scanner sends its colours in three passes, which Kartella can't read. "
+            "Choose another colour mode.");
         return Outcome::Failed;
     }
     std::vector<SANE_Byte> data;
@@ -426,8 +431,9 @@ SaneScanner::Outcome SaneScanner::scanPage(
         }
         if (status != SANE_STATUS_GOOD) {
             finishBatch();
-            *message = QStringLiteral("The scanner stopped in the middle of a page: %1. "
-                                      "The pages scanned before it are kept.")
+            *message = QCoreApplication::translate("kartella::SaneScanner",
+                "The scanner stopped in the middle of a page: %1. "
+                "The pages scanned before it are kept.")
                            .arg(statusText(status));
             return Outcome::Failed;
         }
@@ -437,7 +443,7 @@ SaneScanner::Outcome SaneScanner::scanPage(
         finishBatch();
     *page = makeImage(parameters, data);
     if (page->isNull()) {
-        *message = QStringLiteral("The scanner sent an empty page.");
+        *message = QCoreApplication::translate("kartella::SaneScanner", "The scanner sent an empty page.");
         return Outcome::Failed;
     }
     SANE_Int resolution = 0;

@@ -23,8 +23,6 @@ namespace kartella {
 
 namespace {
 
-const QString Title = QStringLiteral("Scan");
-
 QIcon thumbnail(const QImage& page)
 {
     return QIcon(QPixmap::fromImage(page.scaled(120, 160, Qt::KeepAspectRatio, Qt::SmoothTransformation)));
@@ -39,14 +37,14 @@ ScanDialog::ScanDialog(std::function<QString()> pathForPdf, QWidget* parent)
     , m_stopWriting(std::make_shared<std::atomic_bool>(false))
 {
     setObjectName(QStringLiteral("frmScan"));
-    setWindowTitle(Title);
+    setWindowTitle(tr("Scan"));
     useCNumericLocale();
     buildWidgets();
     connect(m_session, &ScanSession::scannersFound, this, &ScanDialog::onScannersFound);
     connect(m_session, &ScanSession::scannerOpened, this, &ScanDialog::onScannerOpened);
     connect(m_session, &ScanSession::pageScanned, this, &ScanDialog::onPageScanned);
     connect(m_session, &ScanSession::scanEnded, this, &ScanDialog::onScanEnded);
-    setBusy(true, QStringLiteral("Looking for scanners..."));
+    setBusy(true, tr("Looking for scanners..."));
     m_session->findScanners();
 }
 
@@ -72,7 +70,7 @@ void ScanDialog::buildWidgets()
 
     m_pageList = new QListWidget(this);
     m_pageList->setObjectName(QStringLiteral("lstPages"));
-    m_pageList->setAccessibleName(QStringLiteral("Scanned pages"));
+    m_pageList->setAccessibleName(tr("Scanned pages"));
     m_pageList->setViewMode(QListView::IconMode);
     m_pageList->setIconSize(QSize(120, 160));
     m_pageList->setMovement(QListView::Static);
@@ -83,13 +81,13 @@ void ScanDialog::buildWidgets()
     m_status->setObjectName(QStringLiteral("lblStatus"));
     m_status->setWordWrap(true);
 
-    m_scanPage = makeDialogButton(QStringLiteral("cmdScanPage"), QStringLiteral("Scan &Page"), this);
-    m_scanFeeder = makeDialogButton(QStringLiteral("cmdScanFeeder"), QStringLiteral("Scan &Feeder"), this);
-    m_rotate = makeDialogButton(QStringLiteral("cmdRotate"), QStringLiteral("R&otate"), this);
-    m_delete = makeDialogButton(QStringLiteral("cmdDeletePage"), QStringLiteral("&Delete Page"), this);
-    m_rescan = makeDialogButton(QStringLiteral("cmdRescan"), QStringLiteral("Sca&n Again"), this);
-    m_done = makeDialogButton(QStringLiteral("cmdDone"), QStringLiteral("Done"), this);
-    m_cancel = makeDialogButton(QStringLiteral("cmdCancel"), QStringLiteral("Cancel"), this);
+    m_scanPage = makeDialogButton(QStringLiteral("cmdScanPage"), tr("Scan &Page"), this);
+    m_scanFeeder = makeDialogButton(QStringLiteral("cmdScanFeeder"), tr("Scan &Feeder"), this);
+    m_rotate = makeDialogButton(QStringLiteral("cmdRotate"), tr("R&otate"), this);
+    m_delete = makeDialogButton(QStringLiteral("cmdDeletePage"), tr("&Delete Page"), this);
+    m_rescan = makeDialogButton(QStringLiteral("cmdRescan"), tr("Sca&n Again"), this);
+    m_done = makeDialogButton(QStringLiteral("cmdDone"), tr("Done"), this);
+    m_cancel = makeDialogButton(QStringLiteral("cmdCancel"), tr("Cancel"), this);
     m_done->setDefault(true);
 
     // Del on the list deletes the selected page, as the button does.
@@ -108,13 +106,13 @@ void ScanDialog::buildWidgets()
     connect(m_cancel, &QPushButton::clicked, this, &ScanDialog::reject);
 
     auto* settings = new QGridLayout;
-    settings->addWidget(makeBuddyLabel(QStringLiteral("Sc&anner:"), m_scanner, this), 0, 0);
+    settings->addWidget(makeBuddyLabel(tr("Sc&anner:"), m_scanner, this), 0, 0);
     settings->addWidget(m_scanner, 0, 1, 1, 3);
-    settings->addWidget(makeBuddyLabel(QStringLiteral("&Source:"), m_source, this), 1, 0);
+    settings->addWidget(makeBuddyLabel(tr("&Source:"), m_source, this), 1, 0);
     settings->addWidget(m_source, 1, 1);
-    settings->addWidget(makeBuddyLabel(QStringLiteral("&Colour mode:"), m_mode, this), 1, 2);
+    settings->addWidget(makeBuddyLabel(tr("&Colour mode:"), m_mode, this), 1, 2);
     settings->addWidget(m_mode, 1, 3);
-    settings->addWidget(makeBuddyLabel(QStringLiteral("&Resolution:"), m_resolution, this), 2, 0);
+    settings->addWidget(makeBuddyLabel(tr("&Resolution:"), m_resolution, this), 2, 0);
     settings->addWidget(m_resolution, 2, 1);
 
     auto* pageButtons = new QVBoxLayout;
@@ -145,7 +143,7 @@ void ScanDialog::setScannerOption(const QString& name, const QString& value)
 void ScanDialog::tell(const QString& message)
 {
     m_status->setText(message);
-    msgBox(message, MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, Title);
+    msgBox(message, MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, tr("Scan"));
 }
 
 void ScanDialog::setBusy(bool busy, const QString& status)
@@ -181,7 +179,7 @@ void ScanDialog::onScannersFound(const QList<ScannerDevice>& devices, const QStr
 
 void ScanDialog::onScannerChosen()
 {
-    setBusy(true, QStringLiteral("Opening the scanner..."));
+    setBusy(true, tr("Opening the scanner..."));
     m_session->openScanner(m_scanner->currentData().toString());
 }
 
@@ -199,7 +197,7 @@ void ScanDialog::onScannerOpened(const ScannerChoices& choices, const QString& m
     fill(m_mode, choices.modes, remembered.mode);
     m_resolution->clear();
     for (const int dpi : choices.resolutions)
-        m_resolution->addItem(QStringLiteral("%1 dpi").arg(dpi), dpi);
+        m_resolution->addItem(tr("%1 dpi").arg(dpi), dpi);
     const int index = m_resolution->findData(remembered.resolution);
     if (index >= 0)
         m_resolution->setCurrentIndex(index);
@@ -227,7 +225,7 @@ void ScanDialog::startScan(bool wholeFeeder)
         return;
     const ScanSettings settings = chosenSettings();
     saveScanSettings(settings);
-    setBusy(true, QStringLiteral("Scanning..."));
+    setBusy(true, tr("Scanning..."));
     m_session->scan(settings, wholeFeeder);
 }
 
@@ -260,13 +258,13 @@ void ScanDialog::onPageScanned(const QImage& page)
         m_pageList->addItem(new QListWidgetItem(QString()));
         showPage(int(m_pages.size()) - 1);
     }
-    m_status->setText(QStringLiteral("Scanning... %1 pages").arg(m_pages.size()));
+    m_status->setText(tr("Scanning... %1 pages").arg(m_pages.size()));
 }
 
 void ScanDialog::showPage(int index)
 {
     for (int row = 0; row < m_pageList->count(); ++row)
-        m_pageList->item(row)->setText(QStringLiteral("Page %1").arg(row + 1));
+        m_pageList->item(row)->setText(tr("Page %1").arg(row + 1));
     m_pageList->item(index)->setIcon(thumbnail(m_pages.at(index)));
     m_pageList->setCurrentRow(index);
     m_pageList->scrollToItem(m_pageList->item(index));
@@ -275,7 +273,7 @@ void ScanDialog::showPage(int index)
 void ScanDialog::onScanEnded(bool, const QString& message)
 {
     m_replacing = -1;
-    setBusy(false, QStringLiteral("%1 pages").arg(m_pages.size()));
+    setBusy(false, tr("%1 pages").arg(m_pages.size()));
     if (!message.isEmpty())
         tell(message);
 }
@@ -298,7 +296,7 @@ void ScanDialog::deletePage()
     delete m_pageList->takeItem(index);
     if (!m_pages.isEmpty())
         showPage(std::min(index, int(m_pages.size()) - 1));
-    setBusy(false, QStringLiteral("%1 pages").arg(m_pages.size()));
+    setBusy(false, tr("%1 pages").arg(m_pages.size()));
 }
 
 void ScanDialog::finish()
@@ -306,7 +304,7 @@ void ScanDialog::finish()
     if (m_busy)
         return;
     if (m_pages.isEmpty()) {
-        tell(QStringLiteral("Scan at least one page, or press Cancel."));
+        tell(tr("Scan at least one page, or press Cancel."));
         return;
     }
     const QString missing = missingLanguageMessage(ocrLanguages());
@@ -317,7 +315,7 @@ void ScanDialog::finish()
     const QString path = m_pathForPdf ? m_pathForPdf() : QString();
     if (path.isEmpty())
         return;
-    setBusy(true, QStringLiteral("Reading the words of the pages and saving them..."));
+    setBusy(true, tr("Reading the words of the pages and saving them..."));
     m_writingPath = path;
     *m_stopWriting = false;
     const QList<QImage> pages = m_pages;

@@ -20,8 +20,8 @@ QString& chosenProgram()
 
 QString stoppedMessage()
 {
-    return QStringLiteral("The scanning program %1 stopped or could not be started. "
-                          "Reinstalling Kartella puts it back.")
+    return QCoreApplication::translate("kartella::ScanSession",
+        "The scanning program %1 stopped or could not be started. Reinstalling Kartella puts it back.")
         .arg(QFileInfo(ScanSession::scanningProgram()).fileName());
 }
 

@@ -3,6 +3,7 @@
 #include "base/Error.h"
 #include "capture/PageImages.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -54,12 +55,14 @@ QString missingLanguageMessage(const QString& languages)
     const QString folder = tessdataFolder();
     const QStringList names = languages.split(u'+', Qt::SkipEmptyParts);
     if (names.isEmpty())
-        return QStringLiteral("No language is chosen for text recognition (option OcrLanguages).");
+        return QCoreApplication::translate(
+            "kartella::TextRecognition", "No language is chosen for text recognition (option OcrLanguages).");
     for (const QString& name : names) {
         const QString language = name.trimmed();
         if (!QFileInfo::exists(folder + u'/' + language + QStringLiteral(".traineddata"))) {
-            return QStringLiteral("Text recognition has no data for the language \"%1\" in %2. "
-                                  "Install the Debian package %3.")
+            return QCoreApplication::translate("kartella::TextRecognition",
+                "Text recognition has no data for the language \"%1\" in %2. "
+                "Install the Debian package %3.")
                 .arg(language, folder, languagePackage(language));
         }
     }
@@ -104,13 +107,16 @@ TextRecognizer::TextRecognizer(const QString& languages)
         throw Error(RecognitionError::MissingLanguage, missing);
     if (!numericLocaleIsC())
         throw Error(RecognitionError::EngineFailed,
-            QStringLiteral("Text recognition needs the C numeric locale (LC_NUMERIC)."));
+            QCoreApplication::translate(
+                "kartella::TextRecognition", "Text recognition needs the C numeric locale (LC_NUMERIC)."));
     readPagesOnOneThread();
     const QByteArray folder = QFile::encodeName(tessdataFolder());
     const QByteArray names = languages.toUtf8();
     if (m_api->Init(folder.constData(), names.constData(), tesseract::OEM_LSTM_ONLY) != 0)
         throw Error(RecognitionError::EngineFailed,
-            QStringLiteral("Text recognition could not load the languages \"%1\".").arg(languages));
+            QCoreApplication::translate(
+                "kartella::TextRecognition", "Text recognition could not load the languages \"%1\".")
+                .arg(languages));
     // Quiet: a page without words is not worth a line on the standard error.
     m_api->SetVariable("debug_file", "/dev/null");
 }
@@ -133,9 +139,11 @@ QString TextRecognizer::recognise(const QImage& page, int dotsPerInch, const std
     }
     const int status = m_api->Recognize(&monitor);
     if (cancelled && cancelled())
-        throw Error(RecognitionError::Cancelled, QStringLiteral("Text recognition was cancelled."));
+        throw Error(RecognitionError::Cancelled,
+            QCoreApplication::translate("kartella::TextRecognition", "Text recognition was cancelled."));
     if (status != 0)
-        throw Error(RecognitionError::EngineFailed, QStringLiteral("Text recognition failed on a page."));
+        throw Error(RecognitionError::EngineFailed,
+            QCoreApplication::translate("kartella::TextRecognition", "Text recognition failed on a page."));
     const std::unique_ptr<char[]> text(m_api->GetUTF8Text());
     m_api->Clear();
     return text ? QString::fromUtf8(text.get()).trimmed() : QString();
@@ -154,23 +162,29 @@ QString savePageImage(const QImage& page, int number, const QString& folder)
                               : page.convertToFormat(QImage::Format_RGB888);
     if (!image.save(path, mono ? "PNG" : "JPEG", mono ? -1 : 85))
         throw Error(RecognitionError::PdfFailed,
-            QStringLiteral("A scanned page could not be saved in %1.").arg(folder));
+            QCoreApplication::translate(
+                "kartella::TextRecognition", "A scanned page could not be saved in %1.")
+                .arg(folder));
     return path;
 }
 
 void moveIntoPlace(const QString& written, const QString& path)
 {
     if (QFileInfo::exists(path))
-        throw Error(RecognitionError::PdfFailed, QStringLiteral("The file \"%1\" exists already.").arg(path));
+        throw Error(RecognitionError::PdfFailed,
+            QCoreApplication::translate("kartella::TextRecognition", "The file \"%1\" exists already.")
+                .arg(path));
     const QString partial = path + QStringLiteral(".partial");
     QFile::remove(partial);
     if (!QFile::copy(written, partial))
-        throw Error(
-            RecognitionError::PdfFailed, QStringLiteral("The file \"%1\" can't be written.").arg(path));
+        throw Error(RecognitionError::PdfFailed,
+            QCoreApplication::translate("kartella::TextRecognition", "The file \"%1\" can't be written.")
+                .arg(path));
     if (!QFile::rename(partial, path)) {
         QFile::remove(partial);
-        throw Error(
-            RecognitionError::PdfFailed, QStringLiteral("The file \"%1\" can't be written.").arg(path));
+        throw Error(RecognitionError::PdfFailed,
+            QCoreApplication::translate("kartella::TextRecognition", "The file \"%1\" can't be written.")
+                .arg(path));
     }
 }
 
@@ -180,12 +194,14 @@ void writeSearchablePdf(const QList<QImage>& pages, int dotsPerInch, const QStri
     const QString& languages, const std::function<bool(int page)>& afterPage)
 {
     if (pages.isEmpty())
-        throw Error(RecognitionError::PdfFailed, QStringLiteral("There are no pages to save."));
+        throw Error(RecognitionError::PdfFailed,
+            QCoreApplication::translate("kartella::TextRecognition", "There are no pages to save."));
     TextRecognizer recognizer(languages);
     QTemporaryDir folder;
     if (!folder.isValid())
-        throw Error(
-            RecognitionError::PdfFailed, QStringLiteral("No temporary folder for the scanned pages."));
+        throw Error(RecognitionError::PdfFailed,
+            QCoreApplication::translate(
+                "kartella::TextRecognition", "No temporary folder for the scanned pages."));
     const QByteArray outputBase = QFile::encodeName(folder.filePath(QStringLiteral("document")));
     const QByteArray dataFolder = QFile::encodeName(tessdataFolder());
     // The renderer opens its file when made and closes it when destroyed.
@@ -193,14 +209,17 @@ void writeSearchablePdf(const QList<QImage>& pages, int dotsPerInch, const QStri
         = std::make_unique<tesseract::TessPDFRenderer>(outputBase.constData(), dataFolder.constData());
     const QByteArray title = QFileInfo(path).completeBaseName().toUtf8();
     if (!renderer->happy() || !renderer->BeginDocument(title.constData()))
-        throw Error(RecognitionError::PdfFailed, QStringLiteral("The PDF \"%1\" can't be begun.").arg(path));
+        throw Error(RecognitionError::PdfFailed,
+            QCoreApplication::translate("kartella::TextRecognition", "The PDF \"%1\" can't be begun.")
+                .arg(path));
     for (int number = 0; number < pages.size(); ++number) {
         const QByteArray image
             = QFile::encodeName(savePageImage(pages.at(number), number + 1, folder.path()));
         Pix* pix = pixRead(image.constData());
         if (!pix)
-            throw Error(
-                RecognitionError::PdfFailed, QStringLiteral("A scanned page could not be read back."));
+            throw Error(RecognitionError::PdfFailed,
+                QCoreApplication::translate(
+                    "kartella::TextRecognition", "A scanned page could not be read back."));
         const int pageDpi = pageResolution(pages.at(number), dotsPerInch);
         pixSetResolution(pix, pageDpi, pageDpi);
         const bool added
@@ -208,14 +227,18 @@ void writeSearchablePdf(const QList<QImage>& pages, int dotsPerInch, const QStri
         pixDestroy(&pix);
         if (!added)
             throw Error(RecognitionError::PdfFailed,
-                QStringLiteral("Page %1 could not be added to the PDF.").arg(number + 1));
+                QCoreApplication::translate(
+                    "kartella::TextRecognition", "Page %1 could not be added to the PDF.")
+                    .arg(number + 1));
         if (afterPage && !afterPage(number + 1))
-            throw Error(
-                RecognitionError::Cancelled, QStringLiteral("Saving the scanned pages was cancelled."));
+            throw Error(RecognitionError::Cancelled,
+                QCoreApplication::translate(
+                    "kartella::TextRecognition", "Saving the scanned pages was cancelled."));
     }
     if (!renderer->EndDocument() || !renderer->happy())
-        throw Error(
-            RecognitionError::PdfFailed, QStringLiteral("The PDF \"%1\" can't be completed.").arg(path));
+        throw Error(RecognitionError::PdfFailed,
+            QCoreApplication::translate("kartella::TextRecognition", "The PDF \"%1\" can't be completed.")
+                .arg(path));
     renderer.reset();
     moveIntoPlace(QString::fromLocal8Bit(outputBase) + QStringLiteral(".pdf"), path);
 }

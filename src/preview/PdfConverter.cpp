@@ -77,7 +77,7 @@ void LibreOfficeConverter::convert(const QString& source)
         const QString source = m_source;
         stop();
         Q_EMIT finished(source, {},
-            QStringLiteral("LibreOffice did not finish the conversion in %1 seconds and was stopped.")
+            tr("LibreOffice did not finish the conversion in %1 seconds and was stopped.")
                 .arg(m_timeoutMs / 1000));
     });
     limit->start(m_timeoutMs);
@@ -104,9 +104,8 @@ void LibreOfficeConverter::onProcessEnded()
             kept.clear();
     }
     const QString reason = !started
-        ? QStringLiteral("LibreOffice could not be started: ") + m_process->errorString()
-        : QStringLiteral("LibreOffice made no PDF of the file: ")
-            + (output.isEmpty() ? QStringLiteral("(no output)") : output);
+        ? tr("LibreOffice could not be started: ") + m_process->errorString()
+        : tr("LibreOffice made no PDF of the file: ") + (output.isEmpty() ? tr("(no output)") : output);
     stop();
     Q_EMIT finished(source, kept, kept.isEmpty() ? reason : QString());
 }

@@ -36,12 +36,12 @@ PdfViewer::PdfViewer(QWidget* parent)
 
     m_zoomOut->setObjectName(QStringLiteral("btnZoomOut"));
     m_zoomOut->setText(QStringLiteral("−"));
-    m_zoomOut->setToolTip(QStringLiteral("Zoom Out (Ctrl+-)"));
-    m_zoomOut->setAccessibleName(QStringLiteral("Zoom out"));
+    m_zoomOut->setToolTip(tr("Zoom Out (Ctrl+-)"));
+    m_zoomOut->setAccessibleName(tr("Zoom out"));
     m_zoomIn->setObjectName(QStringLiteral("btnZoomIn"));
     m_zoomIn->setText(QStringLiteral("+"));
-    m_zoomIn->setToolTip(QStringLiteral("Zoom In (Ctrl++)"));
-    m_zoomIn->setAccessibleName(QStringLiteral("Zoom in"));
+    m_zoomIn->setToolTip(tr("Zoom In (Ctrl++)"));
+    m_zoomIn->setAccessibleName(tr("Zoom in"));
     m_page->setObjectName(QStringLiteral("lblPage"));
     connect(m_zoomOut, &QToolButton::clicked, this, &PdfViewer::zoomOut);
     connect(m_zoomIn, &QToolButton::clicked, this, &PdfViewer::zoomIn);
@@ -92,7 +92,7 @@ QString PdfViewer::pageText() const
 void PdfViewer::showPage()
 {
     const int pages = m_document ? m_document->pageCount() : 0;
-    m_page->setText(pages > 0 ? QStringLiteral("Page %1 of %2").arg(pageInView() + 1).arg(pages) : QString());
+    m_page->setText(pages > 0 ? tr("Page %1 of %2").arg(pageInView() + 1).arg(pages) : QString());
 }
 
 int PdfViewer::pageInView() const

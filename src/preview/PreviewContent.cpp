@@ -4,6 +4,7 @@
 #include "preview/PdfConverter.h"
 #include "preview/PreviewCache.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
@@ -42,7 +43,8 @@ QImage readImage(const QString& path, int maxImage, QString* failure)
         reader.setScaledSize(size.scaled(maxImage, maxImage, Qt::KeepAspectRatio));
     QImage image = reader.read();
     if (image.isNull())
-        *failure = QStringLiteral("The image can't be read: ") + reader.errorString();
+        *failure = QCoreApplication::translate("kartella::PreviewContent", "The image can't be read: ")
+            + reader.errorString();
     return image;
 }
 
@@ -84,13 +86,15 @@ std::unique_ptr<QPdfDocument> loadPdf(const QString& path, QThread* owner, QStri
     if (error != QPdfDocument::Error::None || document->pageCount() < 1) {
         switch (error) {
         case QPdfDocument::Error::IncorrectPassword:
-            *failure = QStringLiteral("The PDF is protected by a password.");
+            *failure = QCoreApplication::translate(
+                "kartella::PreviewContent", "The PDF is protected by a password.");
             break;
         case QPdfDocument::Error::FileNotFound:
-            *failure = QStringLiteral("The file can't be opened.");
+            *failure = QCoreApplication::translate("kartella::PreviewContent", "The file can't be opened.");
             break;
         default:
-            *failure = QStringLiteral("The PDF is damaged or not a PDF.");
+            *failure
+                = QCoreApplication::translate("kartella::PreviewContent", "The PDF is damaged or not a PDF.");
             break;
         }
         return nullptr;
@@ -125,7 +129,9 @@ PreviewContent readPreview(const QString& path, const PreviewCache& cache, QThre
     case PreviewKind::Text: {
         QFile file(path);
         if (!file.open(QIODevice::ReadOnly)) {
-            content.failure = QStringLiteral("The file can't be read: ") + file.errorString();
+            content.failure
+                = QCoreApplication::translate("kartella::PreviewContent", "The file can't be read: ")
+                + file.errorString();
             break;
         }
         QByteArray bytes = file.read(MaxTextBytes);

@@ -200,7 +200,7 @@ void PreviewPane::onRead(quint64 generation, bool converted, PreviewContent cont
     switch (content.kind) {
     case PreviewKind::Missing:
         showInfo(content.path,
-            QStringLiteral("File not found. It is no longer in its folder:\n")
+            tr("File not found. It is no longer in its folder:\n")
                 + QDir::toNativeSeparators(QFileInfo(content.path).absolutePath()),
             false);
         break;
@@ -214,7 +214,7 @@ void PreviewPane::onRead(quint64 generation, bool converted, PreviewContent cont
             showPage(m_pdf);
             break;
         }
-        showInfo(content.path, QStringLiteral("Making a preview of the document…"), true);
+        showInfo(content.path, tr("Making a preview of the document…"), true);
         m_converter->convert(content.path);
         return;
     case PreviewKind::Image:
@@ -226,7 +226,7 @@ void PreviewPane::onRead(quint64 generation, bool converted, PreviewContent cont
         showPage(m_text);
         break;
     default:
-        showInfo(content.path, QStringLiteral("No preview for this kind of file"), true);
+        showInfo(content.path, tr("No preview for this kind of file"), true);
         break;
     }
     finish();
@@ -240,7 +240,7 @@ void PreviewPane::onConverted(const QString& source, const QString& pdf, const Q
         return;
     }
     if (pdf.isEmpty()) {
-        showInfo(source, QStringLiteral("No preview: ") + failure, true);
+        showInfo(source, tr("No preview: ") + failure, true);
         finish();
         return;
     }
@@ -249,7 +249,7 @@ void PreviewPane::onConverted(const QString& source, const QString& pdf, const Q
     if (entry.isEmpty()) {
         QFile::remove(pdf);
         showInfo(source,
-            QStringLiteral("No preview: the converted document can't be kept in ")
+            tr("No preview: the converted document can't be kept in ")
                 + QDir::toNativeSeparators(m_cache.folder()),
             true);
         finish();

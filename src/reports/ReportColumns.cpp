@@ -47,7 +47,7 @@ double widestText(const ReportItem& item, const SectionRows& rows, const TextWid
 {
     double widest = 0.0;
     if (item.kind == ReportItem::Kind::Label) {
-        widest = widthOf(item.text, item.bold, measure);
+        widest = widthOf(shownText(item), item.bold, measure);
     } else {
         const qsizetype index = rows.fields.indexOf(item.text);
         if (index >= 0) {
@@ -151,7 +151,7 @@ ReportLayout fitColumns(
     QHash<QString, QStringList> headings;
     for (const ReportItem& item : layout.pageHeader) {
         if (!item.heads.isEmpty())
-            headings[item.heads] << item.text;
+            headings[item.heads] << shownText(item);
     }
     const double gap = measure(QStringLiteral("  "), false) / pageWidth;
 

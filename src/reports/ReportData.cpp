@@ -20,9 +20,9 @@ QString reportText(const QVariant& value)
         return {};
     switch (value.typeId()) {
     case QMetaType::QDate:
-        return QLocale::system().toString(value.toDate(), QLocale::ShortFormat);
+        return QLocale().toString(value.toDate(), QLocale::ShortFormat);
     case QMetaType::QDateTime:
-        return QLocale::system().toString(value.toDateTime().date(), QLocale::ShortFormat);
+        return QLocale().toString(value.toDateTime().date(), QLocale::ShortFormat);
     default:
         return value.toString();
     }

@@ -1,5 +1,7 @@
 #include "reports/ReportLayouts.h"
 
+#include <QCoreApplication>
+
 namespace kartella {
 
 namespace {
@@ -90,14 +92,15 @@ ReportLayout makeLayout(const QString& name, const QString& scriptName, const QS
 ReportLayout categories()
 {
     ReportLayout r = makeLayout(QStringLiteral("DataReport1"), QStringLiteral("categories"),
-        QStringLiteral("Categories"), QStringLiteral("Categories"), QStringLiteral("SubCategories"),
-        ReportOrientation::Landscape);
-    r.reportHeader = {title(QStringLiteral("CATEGORIES"))};
-    r.pageHeader = {label(QStringLiteral("Mnem"), 0, 0.20, 0.07),
-        label(QStringLiteral("Location of files"), 0, 0.27, 0.19),
-        label(QStringLiteral("WORD Template"), 0, 0.46, 0.18),
-        label(QStringLiteral("EXCEL Template"), 0, 0.64, 0.18),
-        label(QStringLiteral("POWERPOINT Template"), 0, 0.82, 0.18, true), rule(1)};
+        QT_TRANSLATE_NOOP("kartella::ReportLayouts", "Categories"), QStringLiteral("Categories"),
+        QStringLiteral("SubCategories"), ReportOrientation::Landscape);
+    r.reportHeader = {title(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "CATEGORIES"))};
+    r.pageHeader = {label(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "Mnem"), 0, 0.20, 0.07),
+        label(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "Location of files"), 0, 0.27, 0.19),
+        label(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "WORD Template"), 0, 0.46, 0.18),
+        label(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "EXCEL Template"), 0, 0.64, 0.18),
+        label(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "POWERPOINT Template"), 0, 0.82, 0.18, true),
+        rule(1)};
     r.groupHeader = {heading(QStringLiteral("DokKategorija"), 0, 0.0, 0.20, true),
         field(QStringLiteral("Mnemonic"), 0, 0.20, 0.07),
         field(QStringLiteral("DokKategDaug"), 0, 0.27, 0.19, true),
@@ -116,13 +119,17 @@ ReportLayout categories()
 ReportLayout byContacts()
 {
     ReportLayout r = makeLayout(QStringLiteral("DataReport2"), QStringLiteral("by-contacts"),
-        QStringLiteral("List by Contacts"), QStringLiteral("DocByCor_Grouping"), QStringLiteral("DocByCor"),
-        ReportOrientation::Landscape);
-    r.pageHeader = {title(QStringLiteral("List of Documents by Contacts")),
-        columnHeading(QStringLiteral("Doc. Description"), QStringLiteral("DokAntraste"), 1, 0.03, 0.43),
-        columnHeading(QStringLiteral("Reg. Date"), QStringLiteral("DokRegistracData"), 1, 0.46, 0.12),
-        columnHeading(QStringLiteral("Reg. Index"), QStringLiteral("DokRegistracIndeksas"), 1, 0.58, 0.17),
-        columnHeading(QStringLiteral("Category"), QStringLiteral("DokKategorija"), 1, 0.75, 0.25)};
+        QT_TRANSLATE_NOOP("kartella::ReportLayouts", "List by Contacts"), QStringLiteral("DocByCor_Grouping"),
+        QStringLiteral("DocByCor"), ReportOrientation::Landscape);
+    r.pageHeader = {title(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "List of Documents by Contacts")),
+        columnHeading(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "Doc. Description"),
+            QStringLiteral("DokAntraste"), 1, 0.03, 0.43),
+        columnHeading(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "Reg. Date"),
+            QStringLiteral("DokRegistracData"), 1, 0.46, 0.12),
+        columnHeading(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "Reg. Index"),
+            QStringLiteral("DokRegistracIndeksas"), 1, 0.58, 0.17),
+        columnHeading(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "Category"),
+            QStringLiteral("DokKategorija"), 1, 0.75, 0.25)};
     r.groupHeader = {heading(QStringLiteral("FullName"), 0, 0.0, 0.45, true),
         heading(QStringLiteral("FullName"), 0, 0.55, 0.45), hidden(QStringLiteral("ContactID"))};
     r.detail = {field(QStringLiteral("DokAntraste"), 0, 0.03, 0.43, true),
@@ -134,10 +141,10 @@ ReportLayout byContacts()
 
 ReportLayout phones()
 {
-    ReportLayout r
-        = makeLayout(QStringLiteral("DataReport3"), QStringLiteral("phones"), QStringLiteral("Phones"),
-            QStringLiteral("Command1_Grouping"), QStringLiteral("Command1"), ReportOrientation::Portrait);
-    r.reportHeader = {title(QStringLiteral("Phones"))};
+    ReportLayout r = makeLayout(QStringLiteral("DataReport3"), QStringLiteral("phones"),
+        QT_TRANSLATE_NOOP("kartella::ReportLayouts", "Phones"), QStringLiteral("Command1_Grouping"),
+        QStringLiteral("Command1"), ReportOrientation::Portrait);
+    r.reportHeader = {title(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "Phones"))};
     r.groupHeader = {heading(QStringLiteral("FullName"), 0, 0.0, 1.0), hidden(QStringLiteral("ContactID"))};
     r.detail = {field(QStringLiteral("PhoneName"), 0, 0.05, 0.45, true),
         field(QStringLiteral("PhoneNumber"), 0, 0.50, 0.50, true)};
@@ -147,13 +154,17 @@ ReportLayout phones()
 ReportLayout byCategory()
 {
     ReportLayout r = makeLayout(QStringLiteral("DataReport4"), QStringLiteral("by-category"),
-        QStringLiteral("List of Documents by Category"), QStringLiteral("Command2_Grouping"),
-        QStringLiteral("Command2"), ReportOrientation::Landscape);
-    r.pageHeader = {title(QStringLiteral("List of Documents by Category")),
-        columnHeading(QStringLiteral("Doc. Description"), QStringLiteral("DokAntraste"), 1, 0.03, 0.42),
-        columnHeading(QStringLiteral("Reg. Index"), QStringLiteral("DokRegistracIndeksas"), 1, 0.45, 0.18),
-        columnHeading(QStringLiteral("Reg. Date"), QStringLiteral("DokRegistracData"), 1, 0.63, 0.12),
-        columnHeading(QStringLiteral("Sender/Receiver"), QStringLiteral("FullName"), 1, 0.75, 0.25)};
+        QT_TRANSLATE_NOOP("kartella::ReportLayouts", "List of Documents by Category"),
+        QStringLiteral("Command2_Grouping"), QStringLiteral("Command2"), ReportOrientation::Landscape);
+    r.pageHeader = {title(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "List of Documents by Category")),
+        columnHeading(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "Doc. Description"),
+            QStringLiteral("DokAntraste"), 1, 0.03, 0.42),
+        columnHeading(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "Reg. Index"),
+            QStringLiteral("DokRegistracIndeksas"), 1, 0.45, 0.18),
+        columnHeading(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "Reg. Date"),
+            QStringLiteral("DokRegistracData"), 1, 0.63, 0.12),
+        columnHeading(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "Sender/Receiver"),
+            QStringLiteral("FullName"), 1, 0.75, 0.25)};
     r.groupHeader
         = {heading(QStringLiteral("DokKategorija"), 0, 0.0, 1.0, true), hidden(QStringLiteral("KategID"))};
     r.detail = {field(QStringLiteral("DokAntraste"), 0, 0.03, 0.42, true),
@@ -165,10 +176,10 @@ ReportLayout byCategory()
 
 ReportLayout reminder()
 {
-    ReportLayout r
-        = makeLayout(QStringLiteral("DataReport5"), QStringLiteral("reminder"), QStringLiteral("Reminder"),
-            QStringLiteral("Tickler_Grouping"), QStringLiteral("Tickler"), ReportOrientation::Portrait);
-    r.pageHeader = {title(QStringLiteral("Reminder"))};
+    ReportLayout r = makeLayout(QStringLiteral("DataReport5"), QStringLiteral("reminder"),
+        QT_TRANSLATE_NOOP("kartella::ReportLayouts", "Reminder"), QStringLiteral("Tickler_Grouping"),
+        QStringLiteral("Tickler"), ReportOrientation::Portrait);
+    r.pageHeader = {title(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "Reminder"))};
     // The index tells apart two documents of one description.
     r.groupHeader = {wholeField(QStringLiteral("DokRegistracIndeksas"), 0, 0.0, 0.25, true),
         heading(QStringLiteral("DokAntraste"), 0, 0.25, 0.75, true), hidden(QStringLiteral("RastasID"))};
@@ -180,9 +191,9 @@ ReportLayout reminder()
 ReportLayout telephoneList()
 {
     ReportLayout r = makeLayout(QStringLiteral("PhoneList"), QStringLiteral("telephone-list"),
-        QStringLiteral("Telephone List"), QStringLiteral("Contacts"), QStringLiteral("Phones"),
-        ReportOrientation::Portrait);
-    r.reportHeader = {title(QStringLiteral("Telephone List"))};
+        QT_TRANSLATE_NOOP("kartella::ReportLayouts", "Telephone List"), QStringLiteral("Contacts"),
+        QStringLiteral("Phones"), ReportOrientation::Portrait);
+    r.reportHeader = {title(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "Telephone List"))};
     r.groupHeader = {heading(QStringLiteral("FullName"), 0, 0.0, 0.5, true),
         field(QStringLiteral("CompanyName"), 0, 0.5, 0.5, true), hidden(QStringLiteral("ContactID"))};
     r.detail = {field(QStringLiteral("PhoneName"), 0, 0.05, 0.45),
@@ -193,9 +204,9 @@ ReportLayout telephoneList()
 ReportLayout addresses()
 {
     ReportLayout r = makeLayout(QStringLiteral("AddressBooks"), QStringLiteral("addresses"),
-        QStringLiteral("Addresses"), QStringLiteral("AddressBook_Grouping"), QStringLiteral("AddressBook"),
-        ReportOrientation::Portrait);
-    r.reportHeader = {title(QStringLiteral("Address Book"))};
+        QT_TRANSLATE_NOOP("kartella::ReportLayouts", "Addresses"), QStringLiteral("AddressBook_Grouping"),
+        QStringLiteral("AddressBook"), ReportOrientation::Portrait);
+    r.reportHeader = {title(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "Address Book"))};
     r.groupHeader = {heading(QStringLiteral("FullName"), 0, 0.0, 0.5, true),
         field(QStringLiteral("CompanyName"), 0, 0.5, 0.5, true),
         field(QStringLiteral("Address"), 1, 0.0, 0.35), field(QStringLiteral("City"), 1, 0.35, 0.2),
@@ -210,14 +221,19 @@ ReportLayout addresses()
 ReportLayout thisMonth()
 {
     ReportLayout r = makeLayout(QStringLiteral("rptThisMonth"), QStringLiteral("this-month"),
-        QStringLiteral("This Month"), QStringLiteral("This_Month_Grouping"), QStringLiteral("This_Month"),
-        ReportOrientation::Landscape);
-    r.pageHeader = {title(QStringLiteral("List Of documents By Categories")),
-        columnHeading(QStringLiteral("Reg. Date"), QStringLiteral("DokRegistracData"), 1, 0.03, 0.10),
-        columnHeading(QStringLiteral("Reg. Index"), QStringLiteral("DokRegistracIndeksas"), 1, 0.13, 0.15),
-        columnHeading(QStringLiteral("Doc. Description"), QStringLiteral("DokAntraste"), 1, 0.28, 0.32),
-        columnHeading(QStringLiteral("Sender/Receiver"), QStringLiteral("FullName"), 1, 0.60, 0.20),
-        columnHeading(QStringLiteral("Category"), QStringLiteral("DokKategorija"), 1, 0.80, 0.20)};
+        QT_TRANSLATE_NOOP("kartella::ReportLayouts", "This Month"), QStringLiteral("This_Month_Grouping"),
+        QStringLiteral("This_Month"), ReportOrientation::Landscape);
+    r.pageHeader = {title(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "List Of documents By Categories")),
+        columnHeading(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "Reg. Date"),
+            QStringLiteral("DokRegistracData"), 1, 0.03, 0.10),
+        columnHeading(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "Reg. Index"),
+            QStringLiteral("DokRegistracIndeksas"), 1, 0.13, 0.15),
+        columnHeading(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "Doc. Description"),
+            QStringLiteral("DokAntraste"), 1, 0.28, 0.32),
+        columnHeading(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "Sender/Receiver"),
+            QStringLiteral("FullName"), 1, 0.60, 0.20),
+        columnHeading(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "Category"),
+            QStringLiteral("DokKategorija"), 1, 0.80, 0.20)};
     r.groupHeader
         = {heading(QStringLiteral("DokKategorija"), 0, 0.0, 1.0, true), hidden(QStringLiteral("KategID"))};
     r.detail = {wholeField(QStringLiteral("DokRegistracData"), 0, 0.03, 0.10),
@@ -225,9 +241,11 @@ ReportLayout thisMonth()
         field(QStringLiteral("DokAntraste"), 0, 0.28, 0.32),
         field(QStringLiteral("FullName"), 0, 0.60, 0.20, true),
         field(QStringLiteral("DokKategorija"), 0, 0.80, 0.20, true), hidden(QStringLiteral("RastasID"))};
-    r.pageFooter = {rule(0), label(QStringLiteral("Printed:"), 1, 0.0, 0.08),
-        label(QStringLiteral("%d"), 1, 0.08, 0.14), label(QStringLiteral("page"), 1, 0.72, 0.06),
-        label(QStringLiteral("%p"), 1, 0.78, 0.07), label(QStringLiteral("of"), 1, 0.85, 0.04),
+    r.pageFooter = {rule(0), label(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "Printed:"), 1, 0.0, 0.08),
+        label(QStringLiteral("%d"), 1, 0.08, 0.14),
+        label(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "page"), 1, 0.72, 0.06),
+        label(QStringLiteral("%p"), 1, 0.78, 0.07),
+        label(QT_TRANSLATE_NOOP("kartella::ReportLayouts", "of"), 1, 0.85, 0.04),
         label(QStringLiteral("%P"), 1, 0.89, 0.11)};
     return r;
 }
@@ -248,6 +266,18 @@ const ReportLayout* findReportLayout(const QString& name)
             return &layout;
     }
     return nullptr;
+}
+
+QString shownText(const ReportItem& item)
+{
+    if (item.kind != ReportItem::Kind::Label || item.text.isEmpty())
+        return item.text;
+    return QCoreApplication::translate("kartella::ReportLayouts", item.text.toUtf8().constData());
+}
+
+QString shownCaption(const ReportLayout& layout)
+{
+    return QCoreApplication::translate("kartella::ReportLayouts", layout.caption.toUtf8().constData());
 }
 
 } // namespace kartella

@@ -63,4 +63,9 @@ const QList<ReportLayout>& reportLayouts();
 // The layout by its own name or its script name; null when there is none.
 const ReportLayout* findReportLayout(const QString& name);
 
+// The layouts keep the program's own texts, which code looks up and compares; these give
+// what a label prints and what a window shows, in the interface's language.
+QString shownText(const ReportItem& item);
+QString shownCaption(const ReportLayout& layout);
+
 } // namespace kartella

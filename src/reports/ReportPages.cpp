@@ -4,6 +4,7 @@
 #include "platform/Clock.h"
 #include "reports/ReportColumns.h"
 
+#include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QPageLayout>
 #include <QPagedPaintDevice>
@@ -171,7 +172,7 @@ ReportPaginator::Band ReportPaginator::band(
                 rowHeight = std::max(rowHeight, height);
                 continue;
             }
-            QString text = item.text;
+            QString text = shownText(item);
             if (item.kind == ReportItem::Kind::Field) {
                 const int index = int(fields.indexOf(item.text));
                 text = index >= 0 && index < values.size() ? reportText(values.at(index)) : QString();
@@ -411,10 +412,12 @@ int printReport(const ReportLayout& layout, const ReportData& data, QPagedPaintD
     const QList<ReportPage> pages = ReportPaginator(layout, device, reportToday()).paginate(data);
     QPainter painter;
     if (!painter.begin(&device))
-        throw Error(PrintFailed, QStringLiteral("The report could not be printed."));
+        throw Error(PrintFailed,
+            QCoreApplication::translate("kartella::ReportPages", "The report could not be printed."));
     const bool painted = paintReportPages(pages, painter, device);
     if (!painter.end() || !painted)
-        throw Error(PrintFailed, QStringLiteral("The report could not be printed."));
+        throw Error(PrintFailed,
+            QCoreApplication::translate("kartella::ReportPages", "The report could not be printed."));
     return int(pages.size());
 }
 

@@ -5,6 +5,7 @@
 #include "store/engine/ConnectionString.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QPainter>
@@ -20,7 +21,8 @@ namespace {
 [[noreturn]] void cantWrite(const QString& path, const QString& reason)
 {
     throw Error(ErrorNumber::PathFileAccess,
-        QStringLiteral("Can't write the file \"%1\": %2.").arg(QDir::toNativeSeparators(path), reason));
+        QCoreApplication::translate("kartella::ReportPdf", "Can't write the file \"%1\": %2.")
+            .arg(QDir::toNativeSeparators(path), reason));
 }
 
 } // namespace
@@ -33,7 +35,8 @@ void refuseRegisterAsReport(const QString& path, const QString& connectionString
         return;
     if (target.canonicalFilePath() == registerFile.canonicalFilePath()) {
         throw Error(ErrorNumber::PathFileAccess,
-            QStringLiteral("\"%1\" is the register the report reads; choose another file for the report.")
+            QCoreApplication::translate("kartella::ReportPdf",
+                "\"%1\" is the register the report reads; choose another file for the report.")
                 .arg(QDir::toNativeSeparators(path)));
     }
 }
@@ -54,22 +57,23 @@ int writeReportPdf(
     {
         QPdfWriter writer(&pdf);
         writer.setResolution(300);
-        writer.setTitle(layout.caption);
+        writer.setTitle(shownCaption(layout));
         writer.setCreator(QStringLiteral("Kartella"));
         setReportPage(writer, orientation);
         QPainter painter;
         if (!painter.begin(&writer))
-            cantWrite(path, QStringLiteral("the PDF could not be started"));
+            cantWrite(
+                path, QCoreApplication::translate("kartella::ReportPdf", "the PDF could not be started"));
         const QList<ReportPage> laidOut = ReportPaginator(layout, writer, reportToday()).paginate(data);
         const bool painted = paintReportPages(laidOut, painter, writer);
         if (!painter.end() || !painted)
-            cantWrite(path, QStringLiteral("the PDF could not be made"));
+            cantWrite(path, QCoreApplication::translate("kartella::ReportPdf", "the PDF could not be made"));
         pages = int(laidOut.size());
     }
     // A device or a folder can't be replaced whole, so it is not written at all.
     const QFileInfo target(path);
     if (target.exists() && !target.isFile())
-        cantWrite(path, QStringLiteral("it is not a plain file"));
+        cantWrite(path, QCoreApplication::translate("kartella::ReportPdf", "it is not a plain file"));
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         cantWrite(path, file.errorString());

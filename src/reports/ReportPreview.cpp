@@ -63,7 +63,7 @@ ReportPreview::ReportPreview(const ReportLayout& layout, ReportData data, QWidge
     , m_data(std::move(data))
 {
     setObjectName(layout.name);
-    setWindowTitle(layout.caption);
+    setWindowTitle(shownCaption(layout));
     connect(this, &QPrintPreviewDialog::paintRequested, this, &ReportPreview::paintReport);
     addSaveButton();
 }
@@ -74,8 +74,8 @@ void ReportPreview::addSaveButton()
     if (!toolbar)
         return;
     // First on the toolbar, where a narrow window doesn't push it into the overflow menu.
-    auto* save = new QAction(
-        QIcon::fromTheme(QStringLiteral("document-save-as")), QStringLiteral("Save as PDF..."), toolbar);
+    auto* save
+        = new QAction(QIcon::fromTheme(QStringLiteral("document-save-as")), tr("Save as PDF..."), toolbar);
     save->setObjectName(QStringLiteral("savePdf"));
     // A tool button drops the dots of an action's text; the button shows them.
     save->setIconText(save->text());
@@ -92,13 +92,12 @@ void ReportPreview::addSaveButton()
 
 void ReportPreview::saveAsPdf()
 {
-    QFileDialog chooser(
-        this, QStringLiteral("Save as PDF"), QDir::homePath(), QStringLiteral("PDF files (*.pdf)"));
+    QFileDialog chooser(this, tr("Save as PDF"), QDir::homePath(), tr("PDF files (*.pdf)"));
     chooser.setObjectName(QStringLiteral("savePdfDialog"));
     chooser.setAcceptMode(QFileDialog::AcceptSave);
     chooser.setFileMode(QFileDialog::AnyFile);
     chooser.setDefaultSuffix(QStringLiteral("pdf"));
-    chooser.selectFile(m_layout.caption + QStringLiteral(".pdf"));
+    chooser.selectFile(shownCaption(m_layout) + QStringLiteral(".pdf"));
     if (chooser.exec() != QDialog::Accepted || chooser.selectedFiles().isEmpty())
         return;
     const QString path = chooser.selectedFiles().constFirst();

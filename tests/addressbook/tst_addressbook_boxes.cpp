@@ -2,6 +2,7 @@
 // where Tab, Ctrl+Delete and the access keys go.
 
 #include "AddressBookFixture.h"
+#include "LithuanianScreen.h"
 #include "addressbook/AddressBookWindow.h"
 #include "addressbook/ContactEditor.h"
 #include "options/OptionStore.h"
@@ -10,6 +11,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -22,6 +24,7 @@
 #include <QTreeWidget>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 using namespace kartella;
@@ -235,32 +238,91 @@ private Q_SLOTS:
         QCOMPARE(QApplication::focusWidget(), w.lineEdit("txtURL"));
     }
 
-    // Alt+P and Alt+U add a phone or a web page from any tab; they type nothing.
+    // The keys that add a phone or a web page from any tab are the ones the buttons' texts
+    // mark in the interface's language; they type nothing.
+    void contactEditorAccessKeys_data()
+    {
+        QTest::addColumn<bool>("lithuanian");
+        QTest::addColumn<int>("phoneKey");
+        QTest::addColumn<int>("urlKey");
+        QTest::addColumn<QString>("phoneButton");
+        QTest::newRow("English") << false << int(Qt::Key_P) << int(Qt::Key_U) << "Add &Phone";
+        QTest::newRow("Lithuanian") << true << int(Qt::Key_T) << int(Qt::Key_U) << "Pridėti &telefoną";
+    }
     void contactEditorAccessKeys()
     {
+        QFETCH(bool, lithuanian);
+        QFETCH(int, phoneKey);
+        QFETCH(int, urlKey);
+        QFETCH(QString, phoneButton);
         AddressBookFixture fx(false);
+        std::optional<LithuanianScreen> language;
+        if (lithuanian)
+            QVERIFY(language.emplace().installed());
         ContactEditor editor;
         Shown e(&editor);
+        QCOMPARE(editor.findChild<QPushButton*>("cmdAddPhone")->text(), phoneButton);
+        QCOMPARE(clashingAccessKeys(&editor), QStringList());
         auto* tabs = editor.findChild<QTabWidget*>();
         QCOMPARE(tabs->currentIndex(), 0);
         e.box(4)->setFocus();
         QTest::keyClicks(e.box(4), "Ada");
-        QTest::keyClick(e.box(4), Qt::Key_P, Qt::AltModifier);
+        QTest::keyClick(e.box(4), Qt::Key(phoneKey), Qt::AltModifier);
         QCOMPARE(e.box(4)->text(), "Ada");
         QCOMPARE(fx.count("tbl_Contacts"), 1);
         QCOMPARE(tabs->currentIndex(), 1);
         QVERIFY(e.grid("grdDataGrid")->hasFocus());
         tabs->setCurrentIndex(0);
         e.box(6)->setFocus();
-        QTest::keyClick(e.box(6), Qt::Key_U, Qt::AltModifier);
+        QTest::keyClick(e.box(6), Qt::Key(urlKey), Qt::AltModifier);
         QCOMPARE(e.box(6)->text(), "");
         QCOMPARE(tabs->currentIndex(), 2);
         QVERIFY(e.grid("grdHomePages")->hasFocus());
         // On its own tab too, once.
-        QTest::keyClick(e.grid("grdHomePages"), Qt::Key_P, Qt::AltModifier);
+        QTest::keyClick(e.grid("grdHomePages"), Qt::Key(phoneKey), Qt::AltModifier);
         QCOMPARE(tabs->currentIndex(), 1);
         QCOMPARE(fx.count("tbl_Contacts"), 1);
         QVERIFY(fx.prompter.allAnswered());
+    }
+
+    // A Lithuanian desktop: the window's texts and its questions are Lithuanian; the letters
+    // of the filter stay what they filter by.
+    void addressBookInLithuanian()
+    {
+        AddressBookFixture fx;
+        LithuanianScreen language;
+        QVERIFY(language.installed());
+        AddressBookWindow window;
+        Shown w(&window);
+        QCOMPARE(window.windowTitle(), "Adresų knyga");
+        QCOMPARE(window.findChild<QGroupBox*>("Frame1")->title(), "Filtras");
+        QCOMPARE(window.findChild<QPushButton*>("Command2_26")->text(), "Visi");
+        QCOMPARE(window.findChild<QPushButton*>("Command2_0")->text(), "&A");
+        QCOMPARE(w.action("mnuNewContact")->text(), "Naujas kontaktas");
+        // The key's name as Qt's own Lithuanian gives it.
+        QCOMPARE(w.action("mnuNewContact")->toolTip(), "Naujas kontaktas (Vald+N)");
+        QCOMPARE(w.list()->headerItem()->text(0), "Kontaktas");
+        const QList<QLabel*> labels = window.findChildren<QLabel*>();
+        const auto companyLabel = std::find_if(
+            labels.begin(), labels.end(), [&w](const QLabel* label) { return label->buddy() == w.box(1); });
+        QVERIFY(companyLabel != labels.end());
+        QCOMPARE((*companyLabel)->text(), "Įmonė:");
+        QCOMPARE(w.status(), "Įrašų: 4");
+        QCOMPARE(w.grid("grdDataGrid")->model()->headerData(3, Qt::Horizontal).toString(), "Numeris");
+        QCOMPARE(w.grid("dgrHP")->model()->headerData(3, Qt::Horizontal).toString(), "Adresas");
+        QCOMPARE(clashingAccessKeys(&window), QStringList());
+
+        w.clickLine("Ona Petraitiene");
+        fx.prompter.answer(MsgBoxResult::No);
+        w.action("mnuDelete")->trigger();
+        QCOMPARE(fx.prompter.prompts().size(), 1);
+        QCOMPARE(fx.prompter.prompts().first().text,
+            "Šalinti kontaktą Ona Petraitiene kartu su jo telefonais ir tinklalapiais?");
+        QCOMPARE(fx.prompter.prompts().first().title, "Šalinimo patvirtinimas");
+        QCOMPARE(fx.count("tbl_Contacts"), 4);
+        w.click("Command2_9");
+        QCOMPARE(w.lines(), QStringList {"Jonas Jonaitis"});
+        QCOMPARE(w.status(), "Įrašų: 1");
     }
 };
 

@@ -1,5 +1,6 @@
 // Scanning through SANE's test backend, and the searchable PDF the pages become.
 #include "TestPages.h"
+#include "addressbook/LithuanianScreen.h"
 #include "base/Error.h"
 #include "capture/PageImages.h"
 #include "capture/SaneScanner.h"
@@ -86,6 +87,7 @@ private Q_SLOTS:
     void searchablePdfHoldsThePagesAndTheirWords();
     void scanButtonAttachesThePdfNamedAsTheCategoryNames();
     void scanNewDocumentOpensTheScanOverNewDocument();
+    void scanWindowInLithuanian();
 
 private:
     void writeBackends(const QByteArray& backends);
@@ -440,6 +442,51 @@ void ScanTest::scanNewDocumentOpensTheScanOverNewDocument()
     QVERIFY(scanOverNewDocument);
     QCOMPARE(category, QStringLiteral("Sutartys"));
     QVERIFY(!window.findChild<ScanDialog*>());
+}
+
+// A Lithuanian desktop: the window's buttons, labels, pages and messages are Lithuanian; what
+// the scanner calls its sources stays as the scanner names them.
+void ScanTest::scanWindowInLithuanian()
+{
+    writeBackends("test\n");
+    ScriptedPrompter prompter;
+    LithuanianScreen language;
+    QVERIFY(language.installed());
+    ScanDialog dialog([] { return QString(); });
+    dialog.show();
+    QCOMPARE(dialog.windowTitle(), QStringLiteral("Skenavimas"));
+    waitForScanner(dialog);
+    QCOMPARE(child<QPushButton>(dialog, "cmdScanPage")->text(), QStringLiteral("Skenuoti &puslapį"));
+    QCOMPARE(child<QPushButton>(dialog, "cmdDone")->text(), QStringLiteral("Atlikta"));
+    QCOMPARE(child<QComboBox>(dialog, "cboResolution")->currentText(), QStringLiteral("75 dpi"));
+    QStringList labels;
+    for (const QLabel* label : dialog.findChildren<QLabel*>()) {
+        if (label->buddy())
+            labels << label->text();
+    }
+    labels.sort();
+    QCOMPARE(labels, (QStringList {"&Raiška:", "&Spalvų režimas:", "S&keneris:", "Š&altinis:"}));
+    QCOMPARE(clashingAccessKeys(&dialog), QStringList());
+
+    // Alt and the label's letter reach its box.
+    QTest::keyClick(&dialog, Qt::Key_K, Qt::AltModifier);
+    QCOMPARE(QApplication::focusWidget(), child<QComboBox>(dialog, "cboScanner"));
+
+    click(dialog, "cmdScanPage");
+    QTRY_COMPARE_WITH_TIMEOUT(pageCountOf(dialog), 1, 10000);
+    QTRY_VERIFY(child<QPushButton>(dialog, "cmdScanPage")->isEnabled());
+    QCOMPARE(child<QListWidget>(dialog, "lstPages")->item(0)->text(), QStringLiteral("Puslapis 1"));
+    QCOMPARE(child<QLabel>(dialog, "lblStatus")->text(), QStringLiteral("Puslapių: 1"));
+
+    dialog.setScannerOption(QStringLiteral("read-return-value"), QStringLiteral("SANE_STATUS_IO_ERROR"));
+    prompter.answer(MsgBoxResult::Ok);
+    click(dialog, "cmdScanPage");
+    QTRY_COMPARE_WITH_TIMEOUT(prompter.prompts().size(), 1, 10000);
+    QVERIFY2(prompter.texts().value(0).startsWith(QStringLiteral("Skeneris sustojo puslapio viduryje: ")),
+        qPrintable(prompter.texts().value(0)));
+    QCOMPARE(prompter.prompts().value(0).title, QStringLiteral("Skenavimas"));
+    QTRY_VERIFY(child<QPushButton>(dialog, "cmdScanPage")->isEnabled());
+    click(dialog, "cmdCancel");
 }
 
 int main(int argc, char** argv)

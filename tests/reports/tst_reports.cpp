@@ -1,4 +1,5 @@
 #include "ReportFixture.h"
+#include "addressbook/LithuanianScreen.h"
 #include "base/Error.h"
 #include "explorer/MainWindow.h"
 #include "harness/ScriptedPrompter.h"
@@ -14,6 +15,7 @@
 #include <QPrinter>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QToolButton>
@@ -406,6 +408,76 @@ private Q_SLOTS:
                   "the report."});
         QVERIFY(registerFile.open(QIODevice::ReadOnly));
         QCOMPARE(registerFile.readAll(), before);
+    }
+
+    // A Lithuanian desktop: the preview's caption and button, the report's headings and
+    // page footer are Lithuanian, its dates are as Lithuanian writes them, and a refused
+    // file is told in Lithuanian.
+    void aReportInLithuanian()
+    {
+        ReportFixture fx;
+        ReportCommands::instance().setConnectionString(fx.reg.connectionString());
+        ScriptedPrompter prompter;
+        const QLocale systemLocale;
+        QLocale::setDefault(QLocale(QLocale::Lithuanian, QLocale::Lithuania));
+        const auto restoreLocale = qScopeGuard([&] { QLocale::setDefault(systemLocale); });
+        LithuanianScreen language;
+        QVERIFY(language.installed());
+
+        ReportCommands commands;
+        commands.setConnectionString(fx.reg.connectionString());
+        const ReportLayout& layout = *findReportLayout("this-month");
+        const ReportData data = commands.run(layout);
+        const QString day = fx.thisMonth.toString("yyyy-MM-dd");
+        const QStringList expected {"Dokumentų sąrašas pagal kategorijas",
+            "Reg. data Reg. indeksas Dok. aprašymas Siuntėjas / gavėjas Kategorija", "Laiškai",
+            day + " LAI-2 Laiškas be adresato Laiškai",
+            "Spausdinta: " + reportToday().toString("yyyy-MM-dd") + " puslapis 1 iš 1"};
+        const QStringList lines = allLines(layOut(layout, data));
+        QString missing;
+        QVERIFY2(inOrder(lines, expected, missing),
+            qPrintable(missing + " not in order in:\n" + lines.join('\n')));
+        // The layout keeps the program's own texts, which the code looks up.
+        QCOMPARE(layout.caption, "This Month");
+
+        setPrinterOrientation(ReportOrientation::Landscape);
+        ReportPreview preview(layout, data);
+        preview.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&preview));
+        QCOMPARE(preview.windowTitle(), "Šis mėnuo");
+        auto* save = preview.findChild<QToolButton*>("savePdfButton");
+        QVERIFY(save);
+        QCOMPARE(save->text(), "Įrašyti kaip PDF...");
+
+        // The register chosen as the report's file.
+        QString chooserTitle;
+        QString offeredName;
+        QTimer::singleShot(0, [&] {
+            auto* chooser = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            QVERIFY(chooser);
+            chooserTitle = chooser->windowTitle();
+            auto* name = chooser->findChild<QLineEdit*>("fileNameEdit");
+            QVERIFY(name);
+            offeredName = name->text();
+            chooser->setDirectory(fx.reg.dir());
+            name->selectAll();
+            QTest::keyClicks(name, QFileInfo(fx.reg.path()).fileName());
+            QTimer::singleShot(0, [] {
+                if (auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+                    question->button(QMessageBox::Yes)->click();
+            });
+            QTest::keyClick(name, Qt::Key_Return);
+            if (chooser->isVisible())
+                chooser->reject();
+        });
+        prompter.answer(MsgBoxResult::Ok);
+        QTest::mouseClick(save, Qt::LeftButton);
+        QCOMPARE(chooserTitle, "Įrašyti kaip PDF");
+        QCOMPARE(offeredName, "Šis mėnuo.pdf");
+        QCOMPARE(prompter.texts(),
+            QStringList {"„" + fx.reg.path()
+                + "“ yra registras, iš kurio skaitoma ataskaita; ataskaitai pasirinkite kitą failą."});
+        QCOMPARE(prompter.prompts().first().title, "Šis mėnuo");
     }
 
     void theReportsMenuOpensEachReport()

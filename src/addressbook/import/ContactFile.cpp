@@ -4,6 +4,7 @@
 #include "addressbook/import/VCardReader.h"
 #include "base/Error.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 
@@ -15,18 +16,23 @@ QList<ContactItem> readContactFile(const QString& path, const QString& codePage)
     const QString shown = QDir::toNativeSeparators(path);
     if (!file.open(QIODevice::ReadOnly))
         throw Error(ErrorNumber::PathFileAccess,
-            QStringLiteral("The contact file \"%1\" could not be read: %2.").arg(shown, file.errorString()));
+            QCoreApplication::translate(
+                "kartella::ContactFile", "The contact file \"%1\" could not be read: %2.")
+                .arg(shown, file.errorString()));
     const QByteArray data = file.readAll();
     if (file.error() != QFileDevice::NoError)
         throw Error(ErrorNumber::PathFileAccess,
-            QStringLiteral("The contact file \"%1\" could not be read: %2.").arg(shown, file.errorString()));
+            QCoreApplication::translate(
+                "kartella::ContactFile", "The contact file \"%1\" could not be read: %2.")
+                .arg(shown, file.errorString()));
     if (looksLikeVCard(data))
         return readVCards(data, codePage);
     bool recognised = false;
     QList<ContactItem> contacts = readOutlookCsv(data, codePage, &recognised);
     if (!recognised && !data.trimmed().isEmpty())
         throw Error(ErrorNumber::PathFileAccess,
-            QStringLiteral("The contact file \"%1\" is neither a vCard file nor an Outlook CSV export.")
+            QCoreApplication::translate("kartella::ContactFile",
+                "The contact file \"%1\" is neither a vCard file nor an Outlook CSV export.")
                 .arg(shown));
     return contacts;
 }

@@ -6,48 +6,51 @@
 #include "platform/Prompter.h"
 #include "store/Store.h"
 
+#include <QCoreApplication>
 #include <QDir>
 
 namespace kartella {
 
 namespace {
 
-const QString ContactManagerTitle = QStringLiteral("Contact Manager");
-const QString ClosingTitle = QStringLiteral("Import Contacts from Outlook");
-const QString ErrorTitle = QStringLiteral("Error in ImportOutlookData()");
-
 QString errorQuestion(const Error& error)
 {
-    return QStringLiteral("An error occured while importing data. The error was ")
-        + QStringLiteral("error number ") + QString::number(error.number()) + QStringLiteral(": ")
-        + error.description() + QStringLiteral("Would you like to continue trying to import data?");
+    return QCoreApplication::translate("kartella::OutlookImport",
+        "An error occured while importing data. The error was error number %1: %2Would you like to "
+        "continue trying to import data?")
+        .arg(QString::number(error.number()), error.description());
 }
 
 } // namespace
 
 QString countsText(const ContactImportCounts& counts)
 {
-    QString text = QStringLiteral("%1 added, %2 skipped as already there, %3 failed")
+    QString text = QCoreApplication::translate(
+        "kartella::OutlookImport", "%1 added, %2 skipped as already there, %3 failed")
                        .arg(counts.added)
                        .arg(counts.alreadyThere)
                        .arg(counts.failed);
     if (const int unnamed = counts.skipped - counts.alreadyThere; unnamed > 0)
-        text += QStringLiteral(", %1 passed over without a name").arg(unnamed);
+        text += QCoreApplication::translate("kartella::OutlookImport", ", %1 passed over without a name")
+                    .arg(unnamed);
     return text + u'.';
 }
 
 bool OutlookImport::run()
 {
-    const int answer = msgBox(QStringLiteral("Importing data will bring in ALL contacts from Outlook.")
-            + QStringLiteral(" Do you wish to continue?"),
-        MsgBoxStyle::YesNo + MsgBoxStyle::Question, ContactManagerTitle);
+    const int answer
+        = msgBox(QCoreApplication::translate("kartella::OutlookImport",
+                     "Importing data will bring in ALL contacts from Outlook. Do you wish to continue?"),
+            MsgBoxStyle::YesNo + MsgBoxStyle::Question,
+            QCoreApplication::translate("kartella::OutlookImport", "Contact Manager"));
     if (answer != MsgBoxResult::Yes)
         return false;
 
     Prompter::OpenFileRequest request;
-    request.title = QStringLiteral("Import Contacts");
+    request.title = QCoreApplication::translate("kartella::OutlookImport", "Import Contacts");
     request.startFolder = QDir::homePath();
-    request.filterLabel = QStringLiteral("vCard and Outlook CSV files");
+    request.filterLabel
+        = QCoreApplication::translate("kartella::OutlookImport", "vCard and Outlook CSV files");
     request.pattern = QStringLiteral("*.vcf;*.vcard;*.csv");
     const QString path = Prompter::instance().openFile(request);
     if (path.isEmpty())
@@ -57,11 +60,15 @@ bool OutlookImport::run()
     try {
         items = readContactFile(path);
     } catch (const Error& error) {
-        msgBox(QStringLiteral("An error occured while importing data.  ") + error.description());
+        msgBox(QCoreApplication::translate(
+            "kartella::OutlookImport", "An error occured while importing data.  %1")
+                   .arg(error.description()));
         return false;
     }
     if (items.isEmpty()) {
-        msgBox(QStringLiteral("Unable to find Outlook Contacts folder"), MsgBoxStyle::Critical);
+        msgBox(
+            QCoreApplication::translate("kartella::OutlookImport", "Unable to find Outlook Contacts folder"),
+            MsgBoxStyle::Critical);
         return false;
     }
 
@@ -71,8 +78,8 @@ bool OutlookImport::run()
     };
     ContactImporter importer(plainConnectionString(), [&setBusy](const Error& error) {
         setBusy(false);
-        const int choice
-            = msgBox(errorQuestion(error), MsgBoxStyle::YesNo + MsgBoxStyle::Critical, ErrorTitle);
+        const int choice = msgBox(errorQuestion(error), MsgBoxStyle::YesNo + MsgBoxStyle::Critical,
+            QCoreApplication::translate("kartella::OutlookImport", "Error in ImportOutlookData()"));
         setBusy(choice == MsgBoxResult::Yes);
         return choice == MsgBoxResult::Yes;
     });
@@ -81,10 +88,12 @@ bool OutlookImport::run()
     setBusy(false);
     if (importer.counts().added > 0)
         Q_EMIT ContactImportNotifier::instance().contactsImported();
-    msgBox((finished ? QStringLiteral("Contacts successfully imported.")
-                     : QStringLiteral("Contacts did not import."))
+    msgBox(
+        (finished ? QCoreApplication::translate("kartella::OutlookImport", "Contacts successfully imported.")
+                  : QCoreApplication::translate("kartella::OutlookImport", "Contacts did not import."))
             + QStringLiteral("\n\n") + countsText(importer.counts()),
-        MsgBoxStyle::OkOnly, ClosingTitle);
+        MsgBoxStyle::OkOnly,
+        QCoreApplication::translate("kartella::OutlookImport", "Import Contacts from Outlook"));
     return finished;
 }
 
