@@ -716,6 +716,10 @@ Ar norite juos įrašyti dabar?</translation>
         <source>The file &quot;%1&quot; can&apos;t be deleted: %2</source>
         <translation>Failo „%1“ pašalinti nepavyko: %2</translation>
     </message>
+    <message>
+        <source>Reminders</source>
+        <translation>Priminimai</translation>
+    </message>
 </context>
 <context>
     <name>kartella::OfficeDocuments</name>

@@ -97,7 +97,7 @@ void NewDocumentDialog::buildWidgets()
 
     m_grid = new QTableView(this);
     m_grid->setObjectName(QStringLiteral("grdTickler"));
-    m_grid->setAccessibleName(QStringLiteral("Reminders"));
+    m_grid->setAccessibleName(tr("Reminders"));
     m_tabs->addTab(m_grid, tr("Tickler"));
 
     m_notes = new QPlainTextEdit(this);
