@@ -599,7 +599,7 @@ Ar norite juos įrašyti dabar?</translation>
     </message>
     <message>
         <source>Data error event hit err:</source>
-        <translation>Duomenų klaida:</translation>
+        <translation>Duomenų klaida: </translation>
     </message>
 </context>
 <context>
@@ -818,7 +818,7 @@ Ar norite juos įrašyti dabar?</translation>
     </message>
     <message>
         <source>Data error event hit err:</source>
-        <translation>Duomenų klaida:</translation>
+        <translation>Duomenų klaida: </translation>
     </message>
     <message>
         <source>This document no longer exists.</source>
