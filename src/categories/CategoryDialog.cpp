@@ -22,12 +22,12 @@
 namespace kartella {
 
 CategoryDialog::CategoryDialog(QWidget* parent)
-    : CategoryDialogBase({QStringLiteral("frmCategory"), QStringLiteral("Category"), QStringLiteral("cmdAdd"),
-                             QStringLiteral("cmdClose")},
+    : CategoryDialogBase(
+        {QStringLiteral("frmCategory"), tr("Category"), QStringLiteral("cmdAdd"), QStringLiteral("cmdClose")},
         parent)
 {
     for (QLineEdit* box : {m_wordTemplate, m_excelTemplate, m_powerPointTemplate})
-        box->setToolTip(QStringLiteral("To edit template double click this field"));
+        box->setToolTip(tr("To edit template double click this field"));
     m_category = new Recordset(this);
     m_category->setObjectName(QStringLiteral("CategoryRecordset"));
     m_subCategories = new Recordset(this);
@@ -38,7 +38,7 @@ CategoryDialog::CategoryDialog(QWidget* parent)
     connect(m_subCategoryModel, &RecordsetModel::edited, this, [this] { m_edited = true; });
     m_keys->onEscape([this] {
         if (!m_addingSubCategory)
-            askBeforeClosing(QStringLiteral("You have category details changes that have not applied."));
+            askBeforeClosing(tr("You have category details changes that have not applied."));
         return true;
     });
     load();
@@ -78,8 +78,8 @@ void CategoryDialog::load()
     if (!m_category->isOpen() || m_category->recordCount() == 0) {
         if (m_category->isOpen()) {
             m_gone = true;
-            msgBox(QStringLiteral("This category no longer exists."),
-                MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, windowTitle());
+            msgBox(tr("This category no longer exists."), MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation,
+                windowTitle());
         }
         m_add->setEnabled(false);
     }
@@ -140,17 +140,17 @@ void CategoryDialog::save()
         // A row another user changed meanwhile is told, and stays here unless the user
         // stores theirs over it.
         if (m_category->isOpen()
-            && !storeResolvingChanges(*m_category, AffectEnum::Current, QStringLiteral("category"),
-                categoryFieldCaptions(), windowTitle()))
+            && !storeResolvingChanges(
+                *m_category, AffectEnum::Current, tr("category"), categoryFieldCaptions(), windowTitle()))
             return;
         if (m_subCategories->isOpen()
-            && !storeResolvingChanges(*m_subCategories, AffectEnum::All, QStringLiteral("category"),
-                categoryFieldCaptions(), windowTitle()))
+            && !storeResolvingChanges(
+                *m_subCategories, AffectEnum::All, tr("category"), categoryFieldCaptions(), windowTitle()))
             return;
     } catch (const Error& error) {
         // Refused: the dialog stays with what was typed, for the user to cancel or retry.
         if (rowWasDeleted(error))
-            reportDeletedRow(QStringLiteral("category"), windowTitle());
+            reportDeletedRow(tr("category"), windowTitle());
         else
             msgBox(error.description());
         return;

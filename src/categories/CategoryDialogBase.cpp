@@ -83,10 +83,10 @@ void CategoryDialogBase::buildWidgets(const Names& names)
     m_wordTemplate = addTextBox(4);
     m_excelTemplate = addTextBox(5);
     m_powerPointTemplate = addTextBox(6);
-    m_folder->setAccessibleName(QStringLiteral("Path To Files"));
-    m_wordTemplate->setAccessibleName(QStringLiteral("Word Template"));
-    m_excelTemplate->setAccessibleName(QStringLiteral("Excel Template"));
-    m_powerPointTemplate->setAccessibleName(QStringLiteral("PowerPoint Template"));
+    m_folder->setAccessibleName(tr("Path To Files"));
+    m_wordTemplate->setAccessibleName(tr("Word Template"));
+    m_excelTemplate->setAccessibleName(tr("Excel Template"));
+    m_powerPointTemplate->setAccessibleName(tr("PowerPoint Template"));
 
     auto* fields = new QGridLayout;
     const auto addLabelled = [&](int line, const QString& caption, QLineEdit* box) {
@@ -95,8 +95,8 @@ void CategoryDialogBase::buildWidgets(const Names& names)
         fields->addWidget(label, line, 0);
         fields->addWidget(box, line, 1);
     };
-    addLabelled(0, QStringLiteral("Title of Category:"), m_title);
-    addLabelled(1, QStringLiteral("Mnemonic:"), m_mnemonic);
+    addLabelled(0, tr("Title of Category:"), m_title);
+    addLabelled(1, tr("Mnemonic:"), m_mnemonic);
     const struct
     {
         const char* name;
@@ -104,15 +104,17 @@ void CategoryDialogBase::buildWidgets(const Names& names)
         QLineEdit* box;
         void (CategoryDialogBase::*choose)();
     } choosers[] = {
-        {"cmdPath", "Path To &Files:", m_folder, &CategoryDialogBase::chooseCategoryFolder},
-        {"cmdtemplateWord", "&Word Template:", m_wordTemplate, &CategoryDialogBase::chooseWordTemplate},
-        {"cmdTemplateExcel", "E&xcel Template:", m_excelTemplate, &CategoryDialogBase::chooseExcelTemplate},
-        {"cmdTemplatePP", "P&owerPoint Template:", m_powerPointTemplate,
+        {"cmdPath", QT_TR_NOOP("Path To &Files:"), m_folder, &CategoryDialogBase::chooseCategoryFolder},
+        {"cmdtemplateWord", QT_TR_NOOP("&Word Template:"), m_wordTemplate,
+            &CategoryDialogBase::chooseWordTemplate},
+        {"cmdTemplateExcel", QT_TR_NOOP("E&xcel Template:"), m_excelTemplate,
+            &CategoryDialogBase::chooseExcelTemplate},
+        {"cmdTemplatePP", QT_TR_NOOP("P&owerPoint Template:"), m_powerPointTemplate,
             &CategoryDialogBase::choosePowerPointTemplate},
     };
     int line = 2;
     for (const auto& entry : choosers) {
-        QPushButton* button = makeButton(QLatin1String(entry.name), QLatin1String(entry.caption), this);
+        QPushButton* button = makeButton(QLatin1String(entry.name), tr(entry.caption), this);
         connect(button, &QPushButton::clicked, this, entry.choose);
         fields->addWidget(button, line, 0);
         fields->addWidget(entry.box, line++, 1);
@@ -122,7 +124,7 @@ void CategoryDialogBase::buildWidgets(const Names& names)
 
     m_grid = new QTableView(this);
     m_grid->setObjectName(QStringLiteral("grdDataGrid"));
-    m_grid->setAccessibleName(QStringLiteral("Subcategories"));
+    m_grid->setAccessibleName(tr("Subcategories"));
     m_grid->installEventFilter(this);
     m_grid->viewport()->installEventFilter(this);
     m_subCategoryModel = new RecordsetModel(this);
@@ -145,10 +147,10 @@ void CategoryDialogBase::buildWidgets(const Names& names)
     for (int column = 2; column <= 6; ++column)
         m_subCategoryModel->setColumnCaption(column, subCategoryCaption(column));
 
-    m_add = makeButton(names.addButton, QStringLiteral("&Add New SubCategory"), this);
-    m_delete = makeButton(QStringLiteral("cmdDelete"), QStringLiteral("&Delete SubCategory"), this);
-    m_ok = makeButton(names.okButton, QStringLiteral("OK"), this);
-    m_cancel = makeButton(QStringLiteral("cmdCancel"), QStringLiteral("Cancel"), this);
+    m_add = makeButton(names.addButton, tr("&Add New SubCategory"), this);
+    m_delete = makeButton(QStringLiteral("cmdDelete"), tr("&Delete SubCategory"), this);
+    m_ok = makeButton(names.okButton, tr("OK"), this);
+    m_cancel = makeButton(QStringLiteral("cmdCancel"), tr("Cancel"), this);
     connect(m_add, &QPushButton::clicked, this, &CategoryDialogBase::addSubCategory);
     connect(m_delete, &QPushButton::clicked, this, &CategoryDialogBase::deleteSubCategory);
     connect(m_ok, &QPushButton::clicked, this, &CategoryDialogBase::save);
@@ -275,7 +277,7 @@ void CategoryDialogBase::askBeforeClosing(const QString& firstLine)
         return;
     }
     const int answer = msgBox(unappliedChangesQuestion(firstLine),
-        MsgBoxStyle::YesNoCancel | MsgBoxStyle::Exclamation, QStringLiteral("Warning"));
+        MsgBoxStyle::YesNoCancel | MsgBoxStyle::Exclamation, tr("Warning"));
     if (answer == MsgBoxResult::Yes)
         save();
     else if (answer == MsgBoxResult::No)

@@ -1,5 +1,7 @@
 #include "categories/CategoryTexts.h"
 
+#include <QCoreApplication>
+
 namespace kartella {
 
 namespace {
@@ -42,18 +44,23 @@ GridCellAction gridCellAction(int column)
     switch (column) {
     case 3:
         return {GridCellAction::ChooseFolder,
-            QStringLiteral("Select a folder in which to place the new files of SubCategory:"), {}};
+            QCoreApplication::translate(
+                "kartella::CategoryTexts", "Select a folder in which to place the new files of SubCategory:"),
+            {}};
     case 4:
         return {GridCellAction::ChooseOrOpenTemplate, {},
-            {QStringLiteral("Select a Word Template"), QStringLiteral("Word templates (*.dot)"),
+            {QCoreApplication::translate("kartella::CategoryTexts", "Select a Word Template"),
+                QCoreApplication::translate("kartella::CategoryTexts", "Word templates (*.dot)"),
                 QStringLiteral("*.dot")}};
     case 5:
         return {GridCellAction::ChooseOrOpenTemplate, {},
-            {QStringLiteral("Select a Excel Template"), QStringLiteral("Excel templates (*.xlt)"),
+            {QCoreApplication::translate("kartella::CategoryTexts", "Select a Excel Template"),
+                QCoreApplication::translate("kartella::CategoryTexts", "Excel templates (*.xlt)"),
                 QStringLiteral("*.xlt")}};
     case 6:
         return {GridCellAction::ChooseOrOpenTemplate, {},
-            {QStringLiteral("Select a PowerPoint Template"), QStringLiteral("PowerPoint templates (*.pot)"),
+            {QCoreApplication::translate("kartella::CategoryTexts", "Select a PowerPoint Template"),
+                QCoreApplication::translate("kartella::CategoryTexts", "PowerPoint templates (*.pot)"),
                 QStringLiteral("*.pot")}};
     default:
         return {};
@@ -64,14 +71,17 @@ TemplateChooser categoryTemplateChooser(int box)
 {
     switch (box) {
     case 4:
-        return {QStringLiteral("Select the Word Template"), QStringLiteral("Word templates (*.dot)"),
+        return {QCoreApplication::translate("kartella::CategoryTexts", "Select the Word Template"),
+            QCoreApplication::translate("kartella::CategoryTexts", "Word templates (*.dot)"),
             QStringLiteral("*.dot")};
     case 5:
-        return {QStringLiteral("Select the Excel Template"), QStringLiteral("Excel templates (*.xlt)"),
+        return {QCoreApplication::translate("kartella::CategoryTexts", "Select the Excel Template"),
+            QCoreApplication::translate("kartella::CategoryTexts", "Excel templates (*.xlt)"),
             QStringLiteral("*.xlt")};
     case 6:
-        return {QStringLiteral("Select the PowerPoint Template"),
-            QStringLiteral("PowerPoint templates (*.pot)"), QStringLiteral("*.pot")};
+        return {QCoreApplication::translate("kartella::CategoryTexts", "Select the PowerPoint Template"),
+            QCoreApplication::translate("kartella::CategoryTexts", "PowerPoint templates (*.pot)"),
+            QStringLiteral("*.pot")};
     default:
         return {};
     }
@@ -81,15 +91,15 @@ QString subCategoryCaption(int column)
 {
     switch (column) {
     case 2:
-        return QStringLiteral("SubCategory");
+        return QCoreApplication::translate("kartella::CategoryTexts", "SubCategory");
     case 3:
-        return QStringLiteral("Path To Files");
+        return QCoreApplication::translate("kartella::CategoryTexts", "Path To Files");
     case 4:
-        return QStringLiteral("Word Template");
+        return QCoreApplication::translate("kartella::CategoryTexts", "Word Template");
     case 5:
-        return QStringLiteral("Excel Template");
+        return QCoreApplication::translate("kartella::CategoryTexts", "Excel Template");
     case 6:
-        return QStringLiteral("PowerPoint Template");
+        return QCoreApplication::translate("kartella::CategoryTexts", "PowerPoint Template");
     default:
         return {};
     }
@@ -97,28 +107,39 @@ QString subCategoryCaption(int column)
 
 QList<QPair<QString, QString>> categoryFieldCaptions()
 {
-    return {{QStringLiteral("DokKategorija"), QStringLiteral("Title of Category")},
-        {QStringLiteral("Mnemonic"), QStringLiteral("Mnemonic")},
-        {QStringLiteral("DokKategDaug"), QStringLiteral("Path To Files")},
-        {QStringLiteral("DokTemplates"), QStringLiteral("Word Template")},
-        {QStringLiteral("DokTemplatesExel"), QStringLiteral("Excel Template")},
-        {QStringLiteral("DokTemplatesPowPoint"), QStringLiteral("PowerPoint Template")},
+    return {{QStringLiteral("DokKategorija"),
+                QCoreApplication::translate("kartella::CategoryTexts", "Title of Category")},
+        {QStringLiteral("Mnemonic"), QCoreApplication::translate("kartella::CategoryTexts", "Mnemonic")},
+        {QStringLiteral("DokKategDaug"),
+            QCoreApplication::translate("kartella::CategoryTexts", "Path To Files")},
+        {QStringLiteral("DokTemplates"),
+            QCoreApplication::translate("kartella::CategoryTexts", "Word Template")},
+        {QStringLiteral("DokTemplatesExel"),
+            QCoreApplication::translate("kartella::CategoryTexts", "Excel Template")},
+        {QStringLiteral("DokTemplatesPowPoint"),
+            QCoreApplication::translate("kartella::CategoryTexts", "PowerPoint Template")},
         {QStringLiteral("DokSubKategorija"), subCategoryCaption(2)},
-        {QStringLiteral("SubPathToFiles"), QStringLiteral("SubCategory Path To Files")},
-        {QStringLiteral("SubDokTemplates"), QStringLiteral("SubCategory Word Template")},
-        {QStringLiteral("SubDokTemplatesExel"), QStringLiteral("SubCategory Excel Template")},
-        {QStringLiteral("SubDokTemplatesPowPoint"), QStringLiteral("SubCategory PowerPoint Template")}};
+        {QStringLiteral("SubPathToFiles"),
+            QCoreApplication::translate("kartella::CategoryTexts", "SubCategory Path To Files")},
+        {QStringLiteral("SubDokTemplates"),
+            QCoreApplication::translate("kartella::CategoryTexts", "SubCategory Word Template")},
+        {QStringLiteral("SubDokTemplatesExel"),
+            QCoreApplication::translate("kartella::CategoryTexts", "SubCategory Excel Template")},
+        {QStringLiteral("SubDokTemplatesPowPoint"),
+            QCoreApplication::translate("kartella::CategoryTexts", "SubCategory PowerPoint Template")}};
 }
 
 QString categoryFolderPrompt(const QString& categoryTitle)
 {
-    return QStringLiteral("Select a folder in which to place the new files of - ") + categoryTitle
-        + QStringLiteral(" - category:");
+    return QCoreApplication::translate(
+        "kartella::CategoryTexts", "Select a folder in which to place the new files of - %1 - category:")
+        .arg(categoryTitle);
 }
 
 QString unappliedChangesQuestion(const QString& firstLine)
 {
-    return firstLine + QStringLiteral("\n\nDo you want to apply these now?");
+    return firstLine
+        + QCoreApplication::translate("kartella::CategoryTexts", "\n\nDo you want to apply these now?");
 }
 
 } // namespace kartella

@@ -18,7 +18,7 @@
 namespace kartella {
 
 NewCategoryDialog::NewCategoryDialog(QWidget* parent)
-    : CategoryDialogBase({QStringLiteral("frmNewCategory"), QStringLiteral("Add New Category of Document"),
+    : CategoryDialogBase({QStringLiteral("frmNewCategory"), tr("Add New Category of Document"),
                              QStringLiteral("cmdAddSub"), QStringLiteral("cmdOk")},
         parent)
 {
@@ -37,7 +37,7 @@ NewCategoryDialog::NewCategoryDialog(QWidget* parent)
         m_keys->watch(box);
     m_keys->onEnter(m_grid, [this] { onGridEnter(); });
     m_keys->onEscape([this] {
-        askBeforeClosing(QStringLiteral("Changes to contact have not applied."));
+        askBeforeClosing(tr("Changes to contact have not applied."));
         return true;
     });
     load();
@@ -52,7 +52,7 @@ void NewCategoryDialog::load()
             getRegValue(QStringLiteral("Provider")), getRegValue(QStringLiteral("DbLocation")));
         m_category->open(allCategoriesSource(), m_connection);
     } catch (const Error& error) {
-        msgBox(QStringLiteral("Data error event hit err:") + error.description());
+        msgBox(tr("Data error event hit err:") + error.description());
         return;
     }
     addCategoryRow();

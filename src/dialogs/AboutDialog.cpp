@@ -30,14 +30,14 @@ AboutDialog::AboutDialog(QWidget* parent)
 {
     setObjectName(QStringLiteral("frmAbout"));
     const QString title = programTitle();
-    setWindowTitle(QStringLiteral("About ") + title);
+    setWindowTitle(tr("About %1").arg(title));
 
     auto* icon = makeLabel(QStringLiteral("picIcon"), {}, this);
     QIcon picture = QApplication::windowIcon();
     if (picture.isNull())
         picture = style()->standardIcon(QStyle::SP_FileDialogInfoView);
     icon->setPixmap(picture.pixmap(48, 48));
-    icon->setAccessibleName(QStringLiteral("Program icon"));
+    icon->setAccessibleName(tr("Program icon"));
 
     QLabel* titleLabel = makeLabel(QStringLiteral("lblTitle"), title, this);
     QFont bigger = titleLabel->font();
@@ -46,18 +46,17 @@ AboutDialog::AboutDialog(QWidget* parent)
     titleLabel->setFont(bigger);
     QLabel* version = makeLabel(QStringLiteral("lblVersion"), programVersionLine(), this);
     QLabel* description = makeLabel(QStringLiteral("lblDescription"),
-        QStringLiteral("The Documents Management Application for single users and small workgroups."), this);
+        tr("The Documents Management Application for single users and small workgroups."), this);
     QLabel* disclaimer = makeLabel(QStringLiteral("lblDisclaimer"),
-        QStringLiteral(
-            "Warning: this program is provided as is, without warranty of any kind. Keep copies of "
-            "your register and documents."),
+        tr("Warning: this program is provided as is, without warranty of any kind. Keep copies of "
+           "your register and documents."),
         this);
 
-    auto* ok = new QPushButton(QStringLiteral("OK"), this);
+    auto* ok = new QPushButton(tr("OK"), this);
     ok->setObjectName(QStringLiteral("cmdOK"));
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
-    auto* sysInfo = new QPushButton(QStringLiteral("&System Info..."), this);
+    auto* sysInfo = new QPushButton(tr("&System Info..."), this);
     sysInfo->setObjectName(QStringLiteral("cmdSysInfo"));
     sysInfo->setAutoDefault(false);
     connect(sysInfo, &QPushButton::clicked, this, &AboutDialog::startSysInfo);

@@ -21,26 +21,24 @@ CaptureSettingsPage::CaptureSettingsPage(QDialog* dialog)
     setObjectName(QStringLiteral("tabIncomingFiles"));
     m_inboxFolder = new QLineEdit(inboxFolder(), this);
     m_inboxFolder->setObjectName(QStringLiteral("txtInboxFolder"));
-    m_inboxFolder->setPlaceholderText(QStringLiteral("No inbox"));
-    auto* browse = new QPushButton(QStringLiteral("&Browse..."), this);
+    m_inboxFolder->setPlaceholderText(tr("No inbox"));
+    auto* browse = new QPushButton(tr("&Browse..."), this);
     browse->setObjectName(QStringLiteral("cmdInboxFolder"));
     connect(browse, &QPushButton::clicked, this, &CaptureSettingsPage::chooseInboxFolder);
     m_ocrLanguages = new QLineEdit(ocrLanguages(), this);
     m_ocrLanguages->setObjectName(QStringLiteral("txtOcrLanguages"));
-    m_ocrLanguages->setToolTip(
-        QStringLiteral("Tesseract's language codes joined by \"+\", as in \"lit+eng\""));
+    m_ocrLanguages->setToolTip(tr("Tesseract's language codes joined by \"+\", as in \"lit+eng\""));
 
     auto* layout = new QGridLayout(this);
-    layout->addWidget(makeBuddyLabel(QStringLiteral("&Inbox folder:"), m_inboxFolder, this), 0, 0);
+    layout->addWidget(makeBuddyLabel(tr("&Inbox folder:"), m_inboxFolder, this), 0, 0);
     layout->addWidget(m_inboxFolder, 0, 1);
     layout->addWidget(browse, 0, 2);
     auto* note = new QLabel(
-        QStringLiteral("Files put in this folder wait in the Inbox at the top of the tree. Leave it "
-                       "empty for no inbox."),
+        tr("Files put in this folder wait in the Inbox at the top of the tree. Leave it empty for no inbox."),
         this);
     note->setWordWrap(true);
     layout->addWidget(note, 1, 1, 1, 2);
-    layout->addWidget(makeBuddyLabel(QStringLiteral("&OCR languages:"), m_ocrLanguages, this), 2, 0);
+    layout->addWidget(makeBuddyLabel(tr("&OCR languages:"), m_ocrLanguages, this), 2, 0);
     layout->addWidget(m_ocrLanguages, 2, 1, 1, 2);
     layout->setRowStretch(3, 1);
 
@@ -55,18 +53,17 @@ bool CaptureSettingsPage::validOcrLanguages(const QString& text)
 
 void CaptureSettingsPage::chooseInboxFolder()
 {
-    const QString folder = chooseFolder(QStringLiteral("Select the inbox folder"));
+    const QString folder = chooseFolder(tr("Select the inbox folder"));
     if (!folder.isEmpty())
         m_inboxFolder->setText(folder);
 }
 
 void CaptureSettingsPage::store()
 {
-    const QString title = QStringLiteral("Application Settings");
+    const QString title = tr("Application Settings");
     const QString folder = m_inboxFolder->text().trimmed();
     if (!folder.isEmpty() && !QFileInfo(folder).isDir()) {
-        msgBox(QStringLiteral("The inbox folder \"") + folder
-                + QStringLiteral("\" is not there. The inbox stays as it was."),
+        msgBox(tr("The inbox folder \"%1\" is not there. The inbox stays as it was.").arg(folder),
             MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, title);
     } else {
         setInboxFolder(folder);
@@ -75,9 +72,9 @@ void CaptureSettingsPage::store()
     if (languages.isEmpty() || validOcrLanguages(languages)) {
         setOcrLanguages(languages);
     } else {
-        msgBox(QStringLiteral("\"") + languages
-                + QStringLiteral("\" are no OCR languages: write Tesseract's codes joined by \"+\", as in "
-                                 "\"lit+eng\". The languages stay as they were."),
+        msgBox(tr("\"%1\" are no OCR languages: write Tesseract's codes joined by \"+\", as in \"lit+eng\". "
+                  "The languages stay as they were.")
+                   .arg(languages),
             MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, title);
     }
 }

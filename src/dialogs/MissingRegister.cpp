@@ -4,6 +4,7 @@
 #include "platform/Prompter.h"
 #include "store/DefaultRegister.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace kartella {
@@ -22,10 +23,11 @@ bool namesNoRegister(const QString& location)
 
 QString missingRegisterQuestion(const QString& location)
 {
-    return QStringLiteral("The register ") + location
-        + QStringLiteral(" cannot be found.\r\rIf it is on a drive or a network share that isn't "
-                         "connected yet, connect it and choose Try Again. You can also choose "
-                         "another register, or open the settings.");
+    return QCoreApplication::translate("kartella::MissingRegister",
+        "The register %1 cannot be found.\r\rIf it is on a drive or a network share that isn't "
+        "connected yet, connect it and choose Try Again. You can also choose another register, or "
+        "open the settings.")
+        .arg(location);
 }
 
 bool settleRegisterLocation(const QString& defaultLocation)
@@ -40,18 +42,22 @@ bool settleRegisterLocation(const QString& defaultLocation)
     // The installed program's own register is offered for creation once the start goes on.
     if (defaultRegisterInDataFolder() && location == defaultLocation)
         return true;
-    const QStringList choices
-        = {QStringLiteral("Try Again"), QStringLiteral("Choose Another..."), QStringLiteral("Open Settings")};
+    const QStringList choices = {QCoreApplication::translate("kartella::MissingRegister", "Try Again"),
+        QCoreApplication::translate("kartella::MissingRegister", "Choose Another..."),
+        QCoreApplication::translate("kartella::MissingRegister", "Open Settings")};
     for (;;) {
         const int choice = Prompter::instance().choose(missingRegisterQuestion(location), choices,
-            MsgBoxStyle::Exclamation, QStringLiteral("Register not found"));
+            MsgBoxStyle::Exclamation,
+            QCoreApplication::translate("kartella::MissingRegister", "Register not found"));
         if (choice == TryAgain) {
             if (!registerLocationMissing(location))
                 return true;
         } else if (choice == ChooseAnother) {
             const QString chosen = Prompter::instance().openFile(
-                {QStringLiteral("Select the Database File"), QFileInfo(location).absolutePath(),
-                    QStringLiteral("Access databases (*.mdb)"), QStringLiteral("*.mdb")});
+                {QCoreApplication::translate("kartella::MissingRegister", "Select the Database File"),
+                    QFileInfo(location).absolutePath(),
+                    QCoreApplication::translate("kartella::MissingRegister", "Access databases (*.mdb)"),
+                    QStringLiteral("*.mdb")});
             if (!chosen.isEmpty()) {
                 setRegValue(QStringLiteral("DbLocation"), chosen);
                 return true;

@@ -2,6 +2,7 @@
 
 #include "base/Error.h"
 #include "dialogs/CaptureSettingsPage.h"
+#include "dialogs/LanguageChoice.h"
 #include "dialogs/SettingsStore.h"
 #include "dialogs/TrashSettingsPage.h"
 #include "options/OptionStore.h"
@@ -15,6 +16,7 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QGroupBox>
@@ -68,9 +70,10 @@ int indexOption(const char* name)
 // How a register on a server is written, under the location box.
 QString serverLocationHint()
 {
-    return QStringLiteral("A register on a PostgreSQL server: postgresql://user@host:port/database. "
-                          "Its password comes from ")
-        + serverPasswordFileName() + QStringLiteral(" or PGPASSWORD, never from these settings.");
+    return QCoreApplication::translate("kartella::SettingsDialog",
+        "A register on a PostgreSQL server: postgresql://user@host:port/database. Its password comes "
+        "from %1 or PGPASSWORD, never from these settings.")
+        .arg(serverPasswordFileName());
 }
 
 void selectButton(QButtonGroup* group, int id)
@@ -85,23 +88,23 @@ SettingsDialog::SettingsDialog(QWidget* parent)
     : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmSettings"));
-    setWindowTitle(QStringLiteral("Application Settings"));
+    setWindowTitle(tr("Application Settings"));
 
     m_tabs = new QTabWidget(this);
     m_tabs->setObjectName(QStringLiteral("SSTab1"));
-    m_tabs->addTab(buildDefaultFolderTab(), QStringLiteral("Default Folder"));
-    m_tabs->addTab(buildAddressTab(), QStringLiteral("Your Address"));
-    m_tabs->addTab(buildIndexTab(), QStringLiteral("Registration Index"));
-    m_tabs->addTab(buildDatabaseTab(), QStringLiteral("Database Location"));
-    m_tabs->addTab(buildFileNameTab(), QStringLiteral("File Name"));
-    m_tabs->addTab(new CaptureSettingsPage(this), QStringLiteral("Incoming Files"));
-    m_tabs->addTab(new TrashSettingsPage(this), QStringLiteral("Trash and Versions"));
+    m_tabs->addTab(buildDefaultFolderTab(), tr("Default Folder"));
+    m_tabs->addTab(buildAddressTab(), tr("Your Address"));
+    m_tabs->addTab(buildIndexTab(), tr("Registration Index"));
+    m_tabs->addTab(buildDatabaseTab(), tr("Database Location"));
+    m_tabs->addTab(buildFileNameTab(), tr("File Name"));
+    m_tabs->addTab(new CaptureSettingsPage(this), tr("Incoming Files"));
+    m_tabs->addTab(new TrashSettingsPage(this), tr("Trash and Versions"));
 
     auto* buttons = new QDialogButtonBox(this);
-    m_ok = buttons->addButton(QStringLiteral("OK"), QDialogButtonBox::AcceptRole);
+    m_ok = buttons->addButton(tr("OK"), QDialogButtonBox::AcceptRole);
     m_ok->setObjectName(QStringLiteral("btnOk"));
     m_ok->setDefault(true);
-    m_cancel = buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
+    m_cancel = buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
     m_cancel->setObjectName(QStringLiteral("btnCancel"));
     connect(m_ok, &QPushButton::clicked, this, &SettingsDialog::save);
     connect(m_cancel, &QPushButton::clicked, this, &SettingsDialog::cancel);
@@ -136,16 +139,16 @@ QLineEdit* SettingsDialog::addTextBox(const QString& name, const QString& access
 QWidget* SettingsDialog::buildDefaultFolderTab()
 {
     auto* page = new QWidget(this);
-    m_defaultFolder = addTextBox(QStringLiteral("visidok"), QStringLiteral("Default folder"));
-    auto* choose = new QPushButton(QStringLiteral("Default Folder"), page);
+    m_defaultFolder = addTextBox(QStringLiteral("visidok"), tr("Default folder"));
+    auto* choose = new QPushButton(tr("Default Folder"), page);
     choose->setObjectName(QStringLiteral("btnDefaultFolder"));
-    choose->setToolTip(QStringLiteral("Location of New Documents"));
+    choose->setToolTip(tr("Location of New Documents"));
     choose->setAutoDefault(false);
     connect(choose, &QPushButton::clicked, this, &SettingsDialog::chooseDefaultFolder);
-    m_filterByDate = makeCheckBox(QStringLiteral("FilterByDate"), QStringLiteral("Filter by Date  On"), page);
-    m_network = makeCheckBox(QStringLiteral("network"), QStringLiteral("Network"), page);
-    m_showReminders = makeCheckBox(
-        QStringLiteral("chkShowReminders"), QStringLiteral("Show due reminders at start"), page);
+    m_filterByDate = makeCheckBox(QStringLiteral("FilterByDate"), tr("Filter by Date  On"), page);
+    m_network = makeCheckBox(QStringLiteral("network"), tr("Network"), page);
+    m_showReminders
+        = makeCheckBox(QStringLiteral("chkShowReminders"), tr("Show due reminders at start"), page);
 
     auto* folderRow = new QHBoxLayout;
     folderRow->addWidget(m_defaultFolder, 1);
@@ -155,6 +158,9 @@ QWidget* SettingsDialog::buildDefaultFolderTab()
     layout->addWidget(m_filterByDate);
     layout->addWidget(m_network);
     layout->addWidget(m_showReminders);
+    auto* language = new LanguageChoice(page);
+    connect(language, &LanguageChoice::changed, this, &SettingsDialog::markChanged);
+    layout->addWidget(language);
     layout->addStretch(1);
     return page;
 }
@@ -168,14 +174,13 @@ QWidget* SettingsDialog::buildAddressTab()
         form->addRow(makeLabel(label, caption, box, page), box);
         return box;
     };
-    m_name = addRow(QStringLiteral("name"), QStringLiteral("Label5"), QStringLiteral("Name:"));
-    m_street = addRow(QStringLiteral("address"), QStringLiteral("Label6"), QStringLiteral("Street:"));
-    m_city = addRow(QStringLiteral("city"), QStringLiteral("Label7"), QStringLiteral("City:"));
-    m_country = addRow(QStringLiteral("Country"), QStringLiteral("Label8"), QStringLiteral("Country:"));
-    m_state = addRow(QStringLiteral("State"), QStringLiteral("Label9"), QStringLiteral("State/Province:"));
-    m_postalCode
-        = addRow(QStringLiteral("post"), QStringLiteral("Label10"), QStringLiteral("Zip/Postal Code:"));
-    m_company = addRow(QStringLiteral("txtCompany"), QStringLiteral("Label11"), QStringLiteral("Company:"));
+    m_name = addRow(QStringLiteral("name"), QStringLiteral("Label5"), tr("Name:"));
+    m_street = addRow(QStringLiteral("address"), QStringLiteral("Label6"), tr("Street:"));
+    m_city = addRow(QStringLiteral("city"), QStringLiteral("Label7"), tr("City:"));
+    m_country = addRow(QStringLiteral("Country"), QStringLiteral("Label8"), tr("Country:"));
+    m_state = addRow(QStringLiteral("State"), QStringLiteral("Label9"), tr("State/Province:"));
+    m_postalCode = addRow(QStringLiteral("post"), QStringLiteral("Label10"), tr("Zip/Postal Code:"));
+    m_company = addRow(QStringLiteral("txtCompany"), QStringLiteral("Label11"), tr("Company:"));
     return page;
 }
 
@@ -183,26 +188,23 @@ QWidget* SettingsDialog::buildIndexTab()
 {
     auto* page = new QWidget(this);
 
-    auto* index = new QGroupBox(QStringLiteral("Reg. Index"), page);
-    m_createIndexAuto
-        = makeCheckBox(QStringLiteral("chkCreateIndexAuto"), QStringLiteral("Create Automatically"), index);
-    m_useMnemonic = makeCheckBox(QStringLiteral("chkUseMnemonic"), QStringLiteral("Use Mnemonic"), index);
+    auto* index = new QGroupBox(tr("Reg. Index"), page);
+    m_createIndexAuto = makeCheckBox(QStringLiteral("chkCreateIndexAuto"), tr("Create Automatically"), index);
+    m_useMnemonic = makeCheckBox(QStringLiteral("chkUseMnemonic"), tr("Use Mnemonic"), index);
     auto* indexLayout = new QVBoxLayout(index);
     indexLayout->addWidget(m_createIndexAuto);
     indexLayout->addWidget(m_useMnemonic);
 
-    auto* separators = new QGroupBox(QStringLiteral("Separators"), page);
+    auto* separators = new QGroupBox(tr("Separators"), page);
     m_separator1 = addTextBox(QStringLiteral("Separ1"));
     m_separator2 = addTextBox(QStringLiteral("Separ2"));
     auto* separatorLayout = new QFormLayout(separators);
     separatorLayout->addRow(
-        makeLabel(QStringLiteral("Label2"), QStringLiteral("Separator1"), m_separator1, separators),
-        m_separator1);
+        makeLabel(QStringLiteral("Label2"), tr("Separator1"), m_separator1, separators), m_separator1);
     separatorLayout->addRow(
-        makeLabel(QStringLiteral("Label3"), QStringLiteral("Separator2"), m_separator2, separators),
-        m_separator2);
+        makeLabel(QStringLiteral("Label3"), tr("Separator2"), m_separator2, separators), m_separator2);
 
-    auto* dateStyle = new QGroupBox(QStringLiteral("Date Style"), page);
+    auto* dateStyle = new QGroupBox(tr("Date Style"), page);
     auto* styleLayout = new QVBoxLayout(dateStyle);
     m_dateStyles = new QButtonGroup(this);
     const QStringList styles
@@ -217,7 +219,7 @@ QWidget* SettingsDialog::buildIndexTab()
 
     m_sample = addTextBox(QStringLiteral("txtSample"));
     m_sample->setReadOnly(true);
-    auto* sampleLabel = makeLabel(QStringLiteral("Label4"), QStringLiteral("Sample"), m_sample, page);
+    auto* sampleLabel = makeLabel(QStringLiteral("Label4"), tr("Sample"), m_sample, page);
 
     auto* grid = new QGridLayout(page);
     grid->addWidget(index, 0, 0);
@@ -238,8 +240,8 @@ QWidget* SettingsDialog::buildDatabaseTab()
     m_dbType->setInsertPolicy(QComboBox::NoInsert);
     m_dbType->addItems({QStringLiteral("MS Access 2000"), QStringLiteral("MS Access 97")});
     m_dbType->setCurrentIndex(-1);
-    m_dbLocation = addTextBox(QStringLiteral("txtDbLocation"), QStringLiteral("Register location"));
-    auto* choose = new QPushButton(QStringLiteral("Database File"), page);
+    m_dbLocation = addTextBox(QStringLiteral("txtDbLocation"), tr("Register location"));
+    auto* choose = new QPushButton(tr("Database File"), page);
     choose->setObjectName(QStringLiteral("btnDbName"));
     choose->setAutoDefault(false);
     connect(choose, &QPushButton::clicked, this, &SettingsDialog::chooseDatabaseFile);
@@ -255,7 +257,7 @@ QWidget* SettingsDialog::buildDatabaseTab()
     locationRow->addWidget(m_dbLocation, 1);
     locationRow->addWidget(choose);
     auto* layout = new QVBoxLayout(page);
-    layout->addWidget(makeLabel(QStringLiteral("Label1"), QStringLiteral("Database Type:"), m_dbType, page));
+    layout->addWidget(makeLabel(QStringLiteral("Label1"), tr("Database Type:"), m_dbType, page));
     layout->addWidget(m_dbType);
     layout->addLayout(locationRow);
     layout->addWidget(serverHint);
@@ -266,12 +268,11 @@ QWidget* SettingsDialog::buildDatabaseTab()
 QWidget* SettingsDialog::buildFileNameTab()
 {
     auto* page = new QWidget(this);
-    auto* frame = new QGroupBox(QStringLiteral("The File Name of New Document "), page);
+    auto* frame = new QGroupBox(tr("The File Name of New Document "), page);
     auto* frameLayout = new QVBoxLayout(frame);
     m_fileNames = new QButtonGroup(this);
-    const QStringList systems = {QStringLiteral("Mnemonic+Number"),
-        QStringLiteral("First 25 letters of document Description+Number"),
-        QStringLiteral("Like Registration Index")};
+    const QStringList systems = {tr("Mnemonic+Number"), tr("First 25 letters of document Description+Number"),
+        tr("Like Registration Index")};
     for (int system = 0; system < systems.size(); ++system) {
         auto* button = new QRadioButton(systems[system], frame);
         button->setObjectName(QStringLiteral("optFileName_%1").arg(system));
@@ -286,12 +287,11 @@ QWidget* SettingsDialog::buildFileNameTab()
     };
     auto* layout = new QVBoxLayout(page);
     layout->addWidget(addText(QStringLiteral("Label14"),
-        QStringLiteral(
-            "For File Names of New Documents you can use three different naming systems. Select one, "
-            "that you like, please.")));
+        tr("For File Names of New Documents you can use three different naming systems. Select one, "
+           "that you like, please.")));
     layout->addWidget(frame);
-    layout->addWidget(addText(QStringLiteral("Label12"), QStringLiteral("Sample:  AGR00001.doc")));
-    layout->addWidget(addText(QStringLiteral("Label13"), QStringLiteral("Sample:  DocDescription125.doc")));
+    layout->addWidget(addText(QStringLiteral("Label12"), tr("Sample:  AGR00001.doc")));
+    layout->addWidget(addText(QStringLiteral("Label13"), tr("Sample:  DocDescription125.doc")));
     layout->addStretch(1);
     return page;
 }
@@ -404,7 +404,7 @@ int SettingsDialog::databaseTypeIndex() const
 
 void SettingsDialog::chooseDefaultFolder()
 {
-    const QString folder = chooseFolder(QStringLiteral("Select the Default Folder for new documents"));
+    const QString folder = chooseFolder(tr("Select the Default Folder for new documents"));
     if (folder.isEmpty())
         return;
     m_defaultFolder->setText(folder);
@@ -413,8 +413,8 @@ void SettingsDialog::chooseDefaultFolder()
 
 void SettingsDialog::chooseDatabaseFile()
 {
-    const QString file = showOpenDialog({QStringLiteral("Select the Database File"), {},
-        QStringLiteral("Access databases (*.mdb)"), QStringLiteral("*.mdb")});
+    const QString file = showOpenDialog(
+        {tr("Select the Database File"), {}, tr("Access databases (*.mdb)"), QStringLiteral("*.mdb")});
     if (!file.isEmpty())
         m_dbLocation->setText(file);
 }
@@ -423,10 +423,11 @@ bool SettingsDialog::refusePasswordInLocation()
 {
     if (!locationHoldsPassword(m_dbLocation->text()))
         return false;
-    msgBox(QStringLiteral("The register location holds a password. It is not stored, since the "
-                          "settings file would keep it for anyone to read.\r\rWrite the location "
-                          "without it (postgresql://user@host:port/database) and put the password in ")
-            + serverPasswordFileName() + QStringLiteral(" or in the environment variable PGPASSWORD."),
+    msgBox(tr("The register location holds a password. It is not stored, since the settings file would "
+              "keep it for anyone to read.\r\rWrite the location without it "
+              "(postgresql://user@host:port/database) and put the password in %1 or in the environment "
+              "variable PGPASSWORD.")
+               .arg(serverPasswordFileName()),
         MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation, windowTitle());
     m_tabs->setCurrentWidget(m_dbLocation->parentWidget());
     m_dbLocation->setFocus();
@@ -460,14 +461,15 @@ void SettingsDialog::save()
     settings.dbLocation = m_dbLocation->text();
     if (!writeConfirmedSettings(settings)) {
         // The dialog stays, with what was typed, for another OK once the cause is mended.
-        msgBox(QStringLiteral("Unable to write the settings file ") + iniFilePath()
-                + QStringLiteral("\r\rThe settings that wait for OK are not stored. The dialog stays "
-                                 "open: make the file writable and press OK again, or Cancel."),
+        msgBox(tr("Unable to write the settings file %1\r\rThe settings that wait for OK are not stored. "
+                  "The dialog stays open: make the file writable and press OK again, or Cancel.")
+                   .arg(iniFilePath()),
             MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation, windowTitle());
         return;
     }
 
     findChild<TrashSettingsPage*>()->save();
+    findChild<LanguageChoice*>()->save();
     // The main window answers after this dialog has closed: its refresh is queued.
     if (m_databaseChanged)
         Q_EMIT databaseLocationChanged();
@@ -488,9 +490,8 @@ void SettingsDialog::askBeforeClosing()
         return;
     }
     const int answer = msgBox(
-        QStringLiteral(
-            "You have settings changes that have not applied.\r\n\r\nDo you want to apply these now?"),
-        MsgBoxStyle::YesNoCancel | MsgBoxStyle::Exclamation, QStringLiteral("Warning"));
+        tr("You have settings changes that have not applied.\r\n\r\nDo you want to apply these now?"),
+        MsgBoxStyle::YesNoCancel | MsgBoxStyle::Exclamation, tr("Warning"));
     if (answer == MsgBoxResult::Yes)
         save();
     else if (answer == MsgBoxResult::No)

@@ -3,6 +3,7 @@
 #include "options/OptionStore.h"
 #include "registration/ValueConversions.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -91,7 +92,8 @@ bool writeConfirmedSettings(const ConfirmedSettings& settings)
 
 QString sourcePanelText(const QString& dbLocation)
 {
-    return QStringLiteral("Source : ") + withoutPasswords(dbLocation) + QStringLiteral("   ");
+    return QCoreApplication::translate("kartella::SettingsStore", "Source : %1   ")
+        .arg(withoutPasswords(dbLocation));
 }
 
 bool locationHoldsPassword(const QString& location)

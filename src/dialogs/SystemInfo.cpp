@@ -2,6 +2,7 @@
 
 #include "dialogs/BuildVersion.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QSettings>
@@ -10,7 +11,10 @@ namespace kartella {
 
 QString versionLine(int major, int minor, int revision)
 {
-    return QStringLiteral("Version %1.%2.%3").arg(major).arg(minor).arg(revision);
+    return QCoreApplication::translate("kartella::SystemInfo", "Version %1.%2.%3")
+        .arg(major)
+        .arg(minor)
+        .arg(revision);
 }
 
 QString programVersionLine()
@@ -48,7 +52,8 @@ QString findSystemInfoTool(const MachineKeyReader& read)
 
 QString systemInfoUnavailableText()
 {
-    return QStringLiteral("System Information Is Unavailable At This Time");
+    return QCoreApplication::translate(
+        "kartella::SystemInfo", "System Information Is Unavailable At This Time");
 }
 
 } // namespace kartella

@@ -21,7 +21,7 @@ TrashSettingsPage::TrashSettingsPage(QWidget* parent)
     m_days->setObjectName(QStringLiteral("spnTrashDays"));
     m_days->setRange(1, 36500);
     m_days->setValue(trashDays());
-    auto* daysLabel = new QLabel(QStringLiteral("&Keep deleted items for (days):"), this);
+    auto* daysLabel = new QLabel(tr("&Keep deleted items for (days):"), this);
     daysLabel->setBuddy(m_days);
     form->addRow(daysLabel, m_days);
 
@@ -29,32 +29,30 @@ TrashSettingsPage::TrashSettingsPage(QWidget* parent)
     m_versions->setObjectName(QStringLiteral("spnVersions"));
     m_versions->setRange(1, 1000);
     m_versions->setValue(versionsPerDocument());
-    auto* versionsLabel = new QLabel(QStringLiteral("Earlier &versions kept per document:"), this);
+    auto* versionsLabel = new QLabel(tr("Earlier &versions kept per document:"), this);
     versionsLabel->setBuddy(m_versions);
     form->addRow(versionsLabel, m_versions);
 
     m_folder = new QLineEdit(sharedTrashFolder(), this);
     m_folder->setObjectName(QStringLiteral("txtTrashFolder"));
-    auto* browse = new QPushButton(QStringLiteral("&Browse..."), this);
+    auto* browse = new QPushButton(tr("&Browse..."), this);
     browse->setObjectName(QStringLiteral("cmdBrowseTrashFolder"));
     connect(browse, &QPushButton::clicked, this, &TrashSettingsPage::browseFolder);
     auto* row = new QHBoxLayout;
     row->addWidget(m_folder);
     row->addWidget(browse);
-    auto* folderLabel = new QLabel(QStringLiteral("&Shared folder of a register on a server:"), this);
+    auto* folderLabel = new QLabel(tr("&Shared folder of a register on a server:"), this);
     folderLabel->setBuddy(m_folder);
     form->addRow(folderLabel, row);
-    auto* note = new QLabel(QStringLiteral("A register file keeps its deleted files and earlier versions in "
-                                           "folders beside it."),
-        this);
+    auto* note = new QLabel(
+        tr("A register file keeps its deleted files and earlier versions in folders beside it."), this);
     note->setWordWrap(true);
     form->addRow(note);
 }
 
 void TrashSettingsPage::browseFolder()
 {
-    const QString chosen
-        = Prompter::instance().chooseFolder(QStringLiteral("Shared folder of the trash and versions"));
+    const QString chosen = Prompter::instance().chooseFolder(tr("Shared folder of the trash and versions"));
     if (!chosen.isEmpty())
         m_folder->setText(chosen);
 }

@@ -4,6 +4,8 @@
 #include "store/Lookups.h"
 #include "store/engine/Value.h"
 
+#include <QCoreApplication>
+
 namespace kartella {
 
 QVariant categoryField(qint32 categoryId, const QString& field)
@@ -13,8 +15,9 @@ QVariant categoryField(qint32 categoryId, const QString& field)
     const QVariant value = getFieldValue(key, field, table, categoryId);
     if (isNull(value) && isNull(getFieldValue(key, key, table, categoryId)))
         throw Error(ErrorNumber::NoCurrentRecord,
-            QStringLiteral("There is no category with the key ") % QString::number(categoryId)
-                % QStringLiteral(" in the register."));
+            QCoreApplication::translate(
+                "kartella::CategoryFields", "There is no category with the key %1 in the register.")
+                .arg(categoryId));
     return value;
 }
 

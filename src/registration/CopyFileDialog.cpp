@@ -42,7 +42,7 @@ CopyFileDialog::CopyFileDialog(QWidget* parent)
     : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmCopyFile"));
-    setWindowTitle(QStringLiteral("Copy/Move File"));
+    setWindowTitle(tr("Copy/Move File"));
     setModal(true);
     buildWidgets();
     m_hasFile = load();
@@ -60,12 +60,12 @@ void CopyFileDialog::buildWidgets()
     m_fileDate = makeValue("txtFileDate", this);
     m_destination = new QLineEdit(this);
     m_destination->setObjectName(QStringLiteral("txtDestination"));
-    m_destination->setAccessibleName(QStringLiteral("Destination folder"));
+    m_destination->setAccessibleName(tr("Destination folder"));
 
-    auto* chooser = makeDialogButton(QStringLiteral("cmdDestFolder"), QStringLiteral("Destination"), this);
-    auto* copy = makeDialogButton(QStringLiteral("cmdCopy"), QStringLiteral("Copy"), this);
-    auto* move = makeDialogButton(QStringLiteral("cmdMove"), QStringLiteral("Move"), this);
-    auto* close = makeDialogButton(QStringLiteral("cmdClose"), QStringLiteral("Close"), this);
+    auto* chooser = makeDialogButton(QStringLiteral("cmdDestFolder"), tr("Destination"), this);
+    auto* copy = makeDialogButton(QStringLiteral("cmdCopy"), tr("Copy"), this);
+    auto* move = makeDialogButton(QStringLiteral("cmdMove"), tr("Move"), this);
+    auto* close = makeDialogButton(QStringLiteral("cmdClose"), tr("Close"), this);
     connect(chooser, &QPushButton::clicked, this, &CopyFileDialog::chooseDestination);
     connect(copy, &QPushButton::clicked, this, &CopyFileDialog::copyFile);
     connect(move, &QPushButton::clicked, this, &CopyFileDialog::moveFile);
@@ -74,10 +74,10 @@ void CopyFileDialog::buildWidgets()
     auto* grid = new QGridLayout;
     int line = 0;
     for (const auto& [caption, field] :
-        {std::pair<QString, QWidget*> {QStringLiteral("Document Description:"), m_document},
-            std::pair<QString, QWidget*> {QStringLiteral("Current Location:"), m_pathNow},
-            std::pair<QString, QWidget*> {QStringLiteral("Size:"), m_fileSize},
-            std::pair<QString, QWidget*> {QStringLiteral("Date:"), m_fileDate}}) {
+        {std::pair<QString, QWidget*> {tr("Document Description:"), m_document},
+            std::pair<QString, QWidget*> {tr("Current Location:"), m_pathNow},
+            std::pair<QString, QWidget*> {tr("Size:"), m_fileSize},
+            std::pair<QString, QWidget*> {tr("Date:"), m_fileDate}}) {
         grid->addWidget(makeBuddyLabel(caption, field, this), line, 0);
         grid->addWidget(field, line++, 1, 1, 2);
     }
@@ -103,13 +103,13 @@ bool CopyFileDialog::load()
     const bool listed = state.activeListName == DocumentList || state.activeListName == RelatedList;
     const QString path = listed ? state.selectedFilePath : QString();
     if (path.isEmpty()) {
-        msgBox(QStringLiteral("Select a document with a file first, please!"),
+        msgBox(tr("Select a document with a file first, please!"),
             MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, windowTitle());
         return false;
     }
     const QFileInfo file(path);
     if (!file.isFile()) {
-        msgBox(QStringLiteral("The file of this document can't be found:\n") + path,
+        msgBox(tr("The file of this document can't be found:\n%1").arg(path),
             MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, windowTitle());
         return false;
     }
@@ -122,14 +122,14 @@ bool CopyFileDialog::load()
 
 void CopyFileDialog::chooseDestination()
 {
-    m_destination->setText(chooseFolder(QStringLiteral("Select a Folder in which you'll to copy/move:")));
+    m_destination->setText(chooseFolder(tr("Select a Folder in which you'll to copy/move:")));
 }
 
 QString CopyFileDialog::destinationOrAsk() const
 {
     const QString folder = m_destination->text();
     if (folder.isEmpty())
-        msgBox(QStringLiteral("Select the destination folder, please!"));
+        msgBox(tr("Select the destination folder, please!"));
     return folder;
 }
 
@@ -155,9 +155,8 @@ void CopyFileDialog::moveFile()
     // counts from the working folder, and the row gets the absolute path.
     const QString target = QDir::cleanPath(QDir(folder).absoluteFilePath(fileNameOf(source)));
     if (QFileInfo(target).isDir()) {
-        msgBox(QStringLiteral("The folder ") + QDir::toNativeSeparators(QFileInfo(target).path())
-                + QStringLiteral(" holds a folder named ") + fileNameOf(source)
-                + QStringLiteral(", so the file can't be moved there."),
+        msgBox(tr("The folder %1 holds a folder named %2, so the file can't be moved there.")
+                   .arg(QDir::toNativeSeparators(QFileInfo(target).path()), fileNameOf(source)),
             MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, windowTitle());
         return;
     }
@@ -173,12 +172,13 @@ void CopyFileDialog::moveFile()
         // The row keeps the old path, so the file goes back there: a row that leads to no
         // file would lose the document's file for every user.
         if (moveFileContents(moved, source)) {
-            msgBox(error.description() + QStringLiteral("\n\nThe file was moved back to ")
-                + QDir::toNativeSeparators(source) + u'.');
+            msgBox(error.description()
+                + tr("\n\nThe file was moved back to %1.").arg(QDir::toNativeSeparators(source)));
             return;
         }
-        msgBox(error.description() + QStringLiteral("\n\nThe file could not be moved back; it is now at ")
-            + QDir::toNativeSeparators(moved) + u'.');
+        msgBox(error.description()
+            + tr("\n\nThe file could not be moved back; it is now at %1.")
+                  .arg(QDir::toNativeSeparators(moved)));
     }
     state.selectedFilePath = moved;
     m_pathNow->setText(moved);

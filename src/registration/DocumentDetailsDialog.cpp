@@ -23,6 +23,7 @@
 
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -52,22 +53,35 @@ const QString SubCategorySource
 const QString SentReceivedField = QStringLiteral("DokGavSiuntData");
 const QString RegistrationField = QStringLiteral("DokRegistracData");
 const QString DateFormat = QStringLiteral("yyyy.MM.dd");
-const QString ErrorTitle = QStringLiteral("Document Description");
 
 // The captions of the row's fields, as a changed row lists them.
-const QList<QPair<QString, QString>> FieldCaptions
-    = {{QStringLiteral("DokAntraste"), QStringLiteral("Description")},
-        {QStringLiteral("ContactID"), QStringLiteral("Sender/Receiver")},
-        {QStringLiteral("RastoKel"), QStringLiteral("Location")},
-        {QStringLiteral("DokGavSiuntData"), QStringLiteral("Send/Receive Date")},
-        {QStringLiteral("DokRegistracData"), QStringLiteral("Registration Date")},
-        {QStringLiteral("DokRegistracIndeksas"), QStringLiteral("Registration Index")},
-        {QStringLiteral("KategID"), QStringLiteral("Category")},
-        {QStringLiteral("SubKategID"), QStringLiteral("Subcategory")},
-        {QStringLiteral("KryptisID"), QStringLiteral("Direction")},
-        {QStringLiteral("DokPastaba"), QStringLiteral("Notes")},
-        {QStringLiteral("TicklerDate"), QStringLiteral("Reminder date")},
-        {QStringLiteral("TicklerText"), QStringLiteral("Reminder text")}};
+const std::pair<const char*, const char*> FieldCaptions[]
+    = {{"DokAntraste", QT_TRANSLATE_NOOP("kartella::DocumentDetailsDialog", "Description")},
+        {"ContactID", QT_TRANSLATE_NOOP("kartella::DocumentDetailsDialog", "Sender/Receiver")},
+        {"RastoKel", QT_TRANSLATE_NOOP("kartella::DocumentDetailsDialog", "Location")},
+        {"DokGavSiuntData", QT_TRANSLATE_NOOP("kartella::DocumentDetailsDialog", "Send/Receive Date")},
+        {"DokRegistracData", QT_TRANSLATE_NOOP("kartella::DocumentDetailsDialog", "Registration Date")},
+        {"DokRegistracIndeksas", QT_TRANSLATE_NOOP("kartella::DocumentDetailsDialog", "Registration Index")},
+        {"KategID", QT_TRANSLATE_NOOP("kartella::DocumentDetailsDialog", "Category")},
+        {"SubKategID", QT_TRANSLATE_NOOP("kartella::DocumentDetailsDialog", "Subcategory")},
+        {"KryptisID", QT_TRANSLATE_NOOP("kartella::DocumentDetailsDialog", "Direction")},
+        {"DokPastaba", QT_TRANSLATE_NOOP("kartella::DocumentDetailsDialog", "Notes")},
+        {"TicklerDate", QT_TRANSLATE_NOOP("kartella::DocumentDetailsDialog", "Reminder date")},
+        {"TicklerText", QT_TRANSLATE_NOOP("kartella::DocumentDetailsDialog", "Reminder text")}};
+
+QList<QPair<QString, QString>> fieldCaptions()
+{
+    QList<QPair<QString, QString>> captions;
+    for (const auto& [field, caption] : FieldCaptions)
+        captions.append({QString::fromLatin1(field),
+            QCoreApplication::translate("kartella::DocumentDetailsDialog", caption)});
+    return captions;
+}
+
+QString errorTitle()
+{
+    return QCoreApplication::translate("kartella::DocumentDetailsDialog", "Document Description");
+}
 
 QString reminderSource(qint32 documentId)
 {
@@ -126,7 +140,7 @@ DocumentDetailsDialog::DocumentDetailsDialog(qint32 documentId, QWidget* parent)
     , m_documentId(documentId)
 {
     setObjectName(QStringLiteral("frmNew"));
-    setWindowTitle(QStringLiteral("Document Description"));
+    setWindowTitle(errorTitle());
     setModal(true);
     const auto dataControl = [this](const char* name) {
         auto* recordset = new Recordset(this);
@@ -154,27 +168,27 @@ void DocumentDetailsDialog::buildWidgets()
 {
     m_tabs = new QTabWidget(this);
     m_tabs->setObjectName(QStringLiteral("SSTab1"));
-    m_tabs->addTab(buildGeneralTab(), QStringLiteral("General"));
+    m_tabs->addTab(buildGeneralTab(), tr("General"));
 
     m_grid = new QTableView(this);
     m_grid->setObjectName(QStringLiteral("grdTickler"));
-    m_grid->setAccessibleName(QStringLiteral("Reminders"));
+    m_grid->setAccessibleName(tr("Reminders"));
     m_grid->setItemDelegate(
         new ReminderDelegate([this] { markChanged(); }, [this] { askOnEscape(); }, m_grid));
-    m_tabs->addTab(m_grid, QStringLiteral("Tickler"));
+    m_tabs->addTab(m_grid, tr("Tickler"));
 
     m_notes = new QPlainTextEdit(this);
     m_notes->setObjectName(QStringLiteral("txtFields_12"));
-    m_notes->setAccessibleName(QStringLiteral("Notes"));
+    m_notes->setAccessibleName(tr("Notes"));
     m_notes->setTabChangesFocus(true);
-    m_tabs->addTab(m_notes, QStringLiteral("Notes"));
+    m_tabs->addTab(m_notes, tr("Notes"));
     m_tabs->addTab(new HistoryTab(
                        HistoryTab::Document, [this] { return qint64(m_documentId); }, this),
-        QStringLiteral("History"));
+        tr("History"));
 
-    m_ok = makeDialogButton(QStringLiteral("cmdButton_0"), QStringLiteral("OK"), this);
-    m_cancel = makeDialogButton(QStringLiteral("cmdButton_1"), QStringLiteral("Cancel"), this);
-    m_apply = makeDialogButton(QStringLiteral("cmdButton_2"), QStringLiteral("&Apply"), this);
+    m_ok = makeDialogButton(QStringLiteral("cmdButton_0"), tr("OK"), this);
+    m_cancel = makeDialogButton(QStringLiteral("cmdButton_1"), tr("Cancel"), this);
+    m_apply = makeDialogButton(QStringLiteral("cmdButton_2"), tr("&Apply"), this);
     connect(m_ok, &QPushButton::clicked, this, &DocumentDetailsDialog::save);
     connect(m_cancel, &QPushButton::clicked, this, &DocumentDetailsDialog::cancel);
     connect(m_apply, &QPushButton::clicked, this, &DocumentDetailsDialog::apply);
@@ -211,18 +225,18 @@ QWidget* DocumentDetailsDialog::buildGeneralTab()
     auto* page = new QWidget(this);
     m_icon = new QLabel(page);
     m_icon->setObjectName(QStringLiteral("imdgLIcon"));
-    m_icon->setAccessibleName(QStringLiteral("File icon"));
+    m_icon->setAccessibleName(tr("File icon"));
     m_icon->setFixedSize(36, 36);
     m_description = makeFieldBox(7, this);
-    m_description->setToolTip(QStringLiteral("Short Description of Document"));
+    m_description->setToolTip(tr("Short Description of Document"));
     auto* sender = new QComboBox(page);
     sender->setObjectName(QStringLiteral("cmbSender"));
     m_sender = new BoundList(sender, this);
     m_location = makeFieldBox(14, this);
     m_location->setReadOnly(true);
-    m_location->setToolTip(QStringLiteral("Location of File"));
+    m_location->setToolTip(tr("Location of File"));
 
-    auto* dates = new QGroupBox(QStringLiteral("Date, Index"), page);
+    auto* dates = new QGroupBox(tr("Date, Index"), page);
     dates->setObjectName(QStringLiteral("fraDateIndex"));
     const auto makePicker = [dates](const char* name) {
         auto* picker = new DateBox(dates);
@@ -236,17 +250,17 @@ QWidget* DocumentDetailsDialog::buildGeneralTab()
     auto* datesLayout = new QGridLayout(dates);
     int line = 0;
     for (const auto& [caption, box] :
-        {std::pair<QString, QWidget*> {QStringLiteral("Send/Receive Date:"), m_sentReceivedDate},
-            std::pair<QString, QWidget*> {QStringLiteral("Registration Date:"), m_registrationDate},
-            std::pair<QString, QWidget*> {QStringLiteral("Registration Index:"), m_regIndex}}) {
+        {std::pair<QString, QWidget*> {tr("Send/Receive Date:"), m_sentReceivedDate},
+            std::pair<QString, QWidget*> {tr("Registration Date:"), m_registrationDate},
+            std::pair<QString, QWidget*> {tr("Registration Index:"), m_regIndex}}) {
         datesLayout->addWidget(makeBuddyLabel(caption, box, dates), line, 0);
         datesLayout->addWidget(box, line++, 1);
     }
 
     const CategoryFrame categoryFrame = makeCategoryFrame(page);
     QGroupBox* categories = categoryFrame.frame;
-    categoryFrame.category->setToolTip(QStringLiteral("Category of Document"));
-    categoryFrame.subCategory->setToolTip(QStringLiteral("SubCategory of Document"));
+    categoryFrame.category->setToolTip(tr("Category of Document"));
+    categoryFrame.subCategory->setToolTip(tr("SubCategory of Document"));
     m_category = new BoundList(categoryFrame.category, this);
     m_subCategory = new BoundList(categoryFrame.subCategory, this);
 
@@ -259,11 +273,11 @@ QWidget* DocumentDetailsDialog::buildGeneralTab()
 
     auto* layout = new QGridLayout(page);
     layout->addWidget(m_icon, 0, 0, 2, 1, Qt::AlignTop);
-    layout->addWidget(makeBuddyLabel(QStringLiteral("Description:"), m_description, page), 0, 1);
+    layout->addWidget(makeBuddyLabel(tr("Description:"), m_description, page), 0, 1);
     layout->addWidget(m_description, 0, 2, 1, 2);
-    layout->addWidget(makeBuddyLabel(QStringLiteral("Sender/Receiver:"), sender, page), 1, 1);
+    layout->addWidget(makeBuddyLabel(tr("Sender/Receiver:"), sender, page), 1, 1);
     layout->addWidget(sender, 1, 2, 1, 2);
-    layout->addWidget(makeBuddyLabel(QStringLiteral("Location:"), m_location, page), 2, 1);
+    layout->addWidget(makeBuddyLabel(tr("Location:"), m_location, page), 2, 1);
     layout->addWidget(m_location, 2, 2, 1, 2);
     layout->addWidget(dates, 3, 0, 2, 3);
     layout->addWidget(categories, 3, 3);
@@ -331,25 +345,25 @@ void DocumentDetailsDialog::load()
         m_tickler->setRecordset(m_reminders->fields(QStringLiteral("ChildCMD")).chapter());
         m_tickler->setColumnHidden(0, true);
         m_tickler->setColumnHidden(2, true);
-        m_tickler->setColumnCaption(1, QStringLiteral("Date"));
+        m_tickler->setColumnCaption(1, tr("Date"));
         m_tickler->setColumnWidth(1, 1000);
-        m_tickler->setColumnCaption(3, QStringLiteral("Text"));
+        m_tickler->setColumnCaption(3, tr("Text"));
         m_tickler->setColumnWidth(3, 6540);
     } catch (const Error& error) {
-        reportStoreError(error.number(), error.description(), ErrorTitle);
+        reportStoreError(error.number(), error.description(), errorTitle());
     }
     // A document deleted by another program since its key was taken: nothing to show, and
     // nothing the form could store but a new row.
     if (m_document->isOpen() && m_document->eof()) {
         m_gone = true;
-        msgBox(QStringLiteral("This document no longer exists."),
-            MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, ErrorTitle);
+        msgBox(tr("This document no longer exists."), MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation,
+            errorTitle());
         for (QWidget* editing :
             {static_cast<QWidget*>(m_tabs), static_cast<QWidget*>(m_ok), static_cast<QWidget*>(m_apply)})
             editing->setEnabled(false);
     }
 
-    setWindowTitle(m_description->text() + QStringLiteral(" Description"));
+    setWindowTitle(tr("%1 Description").arg(m_description->text()));
     showIcon();
     if (auto* history = findChild<HistoryTab*>(); history && !m_gone)
         history->showFileVersions(id, m_location->text());
@@ -404,7 +418,7 @@ void DocumentDetailsDialog::fillSubCategories(const QString& category)
     } catch (const Error& error) {
         // A row without a category has no subcategories to offer.
         if (!category.isEmpty())
-            reportStoreError(error.number(), error.description(), ErrorTitle);
+            reportStoreError(error.number(), error.description(), errorTitle());
     }
 }
 
@@ -511,9 +525,9 @@ bool DocumentDetailsDialog::apply()
         }
     } catch (const Error& error) {
         if (rowWasDeleted(error))
-            reportDeletedRow(QStringLiteral("document"), ErrorTitle);
+            reportDeletedRow(tr("document"), errorTitle());
         else
-            reportStoreError(error.number(), error.description(), ErrorTitle);
+            reportStoreError(error.number(), error.description(), errorTitle());
         return false;
     }
     setClean();
@@ -523,8 +537,8 @@ bool DocumentDetailsDialog::apply()
 bool DocumentDetailsDialog::resolveChangedDocument(Recordset& rows)
 {
     const bool reminders = &rows != m_document;
-    const ChangedRowChoice choice = resolveChangedRow(rows, QStringLiteral("document"), FieldCaptions,
-        ErrorTitle, reminders ? AffectEnum::All : AffectEnum::Current);
+    const ChangedRowChoice choice = resolveChangedRow(rows, tr("document"), fieldCaptions(), errorTitle(),
+        reminders ? AffectEnum::All : AffectEnum::Current);
     if (choice == ChangedRowChoice::Reload && !reminders) {
         m_storedIndex = m_regIndex->text();
         m_showing = true;
@@ -563,9 +577,9 @@ bool DocumentDetailsDialog::askOnEscape()
 void DocumentDetailsDialog::closeEvent(QCloseEvent* event)
 {
     if (m_changed) {
-        const int answer = msgBox(QStringLiteral("You have details changes that have not applied.\n\n"
-                                                 "Do you want to apply these now?"),
-            MsgBoxStyle::YesNo | MsgBoxStyle::Exclamation, QStringLiteral("Warning"));
+        const int answer = msgBox(tr("You have details changes that have not applied.\n\n"
+                                     "Do you want to apply these now?"),
+            MsgBoxStyle::YesNo | MsgBoxStyle::Exclamation, tr("Warning"));
         // A refused write keeps the window, so that nothing typed is lost unasked.
         if (answer == MsgBoxResult::Yes && !apply()) {
             event->ignore();

@@ -7,6 +7,7 @@
 #include "store/Lookups.h"
 #include "store/Store.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QRandomGenerator>
 
@@ -38,10 +39,12 @@ QString DocumentFileName::buildFileName(const QString& system, const FileNamePar
     }
     if (system == QLatin1String("2")) {
         if (parts.regIndex.isEmpty()) {
-            msgBox(QStringLiteral("Can't create a file, because the Registration Index is empty. Enter valid "
-                                  "Registration Index, please."),
+            msgBox(QCoreApplication::translate("kartella::DocumentFileName",
+                       "Can't create a file, because the Registration Index is empty. Enter valid "
+                       "Registration Index, please."),
                 MsgBoxStyle::OkOnly | MsgBoxStyle::Critical,
-                QStringLiteral("The file name must be like Registration Index"));
+                QCoreApplication::translate(
+                    "kartella::DocumentFileName", "The file name must be like Registration Index"));
             return {};
         }
         return cleanFileName(parts.regIndex);
@@ -70,7 +73,8 @@ QString makeFileNumberName(qint32 category)
     // A value that can't be read names the option in its error.
     const qint16 number = getRegInteger(QStringLiteral("FileNumber"));
     if (number == std::numeric_limits<qint16>::max())
-        raiseOverflow(QStringLiteral("FileNumber can't go past 32767"));
+        raiseOverflow(
+            QCoreApplication::translate("kartella::DocumentFileName", "FileNumber can't go past 32767"));
     setRegValue(QStringLiteral("FileNumber"), numberWithSignPlace(number + 1));
     const QString digits = QStringLiteral("%1").arg(qAbs(int(number)), 5, 10, QLatin1Char('0'));
     return mnemonic % (number < 0 ? QStringLiteral("-") : QString()) % digits;
@@ -90,10 +94,10 @@ QString makeNewFileName(const QString& description, const QString& extension, co
 
 QString fileExistsMessage(const QString& path)
 {
-    return QStringLiteral("The File with name ") % path
-        % QStringLiteral(
-            " exist. Depending on the File Name style, check Doc. Description, Registration Index or "
-            "other parameters.");
+    return QCoreApplication::translate("kartella::DocumentFileName",
+        "The File with name %1 exist. Depending on the File Name style, check Doc. Description, "
+        "Registration Index or other parameters.")
+        .arg(path);
 }
 
 QVariant getDocumentFolder(const QVariant& category, const QVariant& subCategory)

@@ -18,10 +18,10 @@ FileTextStatus::FileTextStatus(qint32 documentId, QWidget* parent)
     m_status = new QLineEdit(this);
     m_status->setObjectName(QStringLiteral("txtFileText"));
     m_status->setReadOnly(true);
-    m_status->setToolTip(QStringLiteral("Whether the text of the file was read for the search"));
+    m_status->setToolTip(tr("Whether the text of the file was read for the search"));
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(makeBuddyLabel(QStringLiteral("Text of the file:"), m_status, this));
+    layout->addWidget(makeBuddyLabel(tr("Text of the file:"), m_status, this));
     layout->addWidget(m_status, 1);
 
     QString status;

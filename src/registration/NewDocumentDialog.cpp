@@ -69,7 +69,7 @@ NewDocumentDialog::NewDocumentDialog(QWidget* parent)
     : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmNewDocument"));
-    setWindowTitle(QStringLiteral("New Document"));
+    setWindowTitle(tr("New Document"));
     setModal(true);
     const auto dataControl = [this](const char* name) {
         auto* recordset = new Recordset(this);
@@ -93,21 +93,21 @@ void NewDocumentDialog::buildWidgets()
 {
     m_tabs = new QTabWidget(this);
     m_tabs->setObjectName(QStringLiteral("SSTab1"));
-    m_tabs->addTab(buildGeneralTab(), QStringLiteral("General"));
+    m_tabs->addTab(buildGeneralTab(), tr("General"));
 
     m_grid = new QTableView(this);
     m_grid->setObjectName(QStringLiteral("grdTickler"));
-    m_grid->setAccessibleName(QStringLiteral("Reminders"));
-    m_tabs->addTab(m_grid, QStringLiteral("Tickler"));
+    m_grid->setAccessibleName(tr("Reminders"));
+    m_tabs->addTab(m_grid, tr("Tickler"));
 
     m_notes = new QPlainTextEdit(this);
     m_notes->setObjectName(QStringLiteral("txtFields_6"));
-    m_notes->setAccessibleName(QStringLiteral("Notes"));
+    m_notes->setAccessibleName(tr("Notes"));
     m_notes->setTabChangesFocus(true);
-    m_tabs->addTab(m_notes, QStringLiteral("Notes"));
+    m_tabs->addTab(m_notes, tr("Notes"));
 
-    m_ok = makeDialogButton(QStringLiteral("cmdOK"), QStringLiteral("OK"), this);
-    m_cancel = makeDialogButton(QStringLiteral("cmdCancel"), QStringLiteral("Cancel"), this);
+    m_ok = makeDialogButton(QStringLiteral("cmdOK"), tr("OK"), this);
+    m_cancel = makeDialogButton(QStringLiteral("cmdCancel"), tr("Cancel"), this);
     connect(m_ok, &QPushButton::clicked, this, &NewDocumentDialog::save);
     connect(m_cancel, &QPushButton::clicked, this, &NewDocumentDialog::cancel);
 
@@ -165,16 +165,16 @@ QWidget* NewDocumentDialog::buildGeneralTab()
     QLineEdit* location = m_location;
     location->setReadOnly(true);
 
-    auto* dates = new QGroupBox(QStringLiteral("Date, Index"), page);
+    auto* dates = new QGroupBox(tr("Date, Index"), page);
     dates->setObjectName(QStringLiteral("fraDateIndex"));
     auto* datesLayout = new QGridLayout(dates);
     m_sentReceivedDate = makeFieldBox(1, this);
     m_registrationDate = makeFieldBox(2, this);
     m_regIndex = makeFieldBox(3, this);
     const std::array<std::pair<QString, QLineEdit*>, 3> dateBoxes
-        = {std::pair {QStringLiteral("Send/Receive Date:"), m_sentReceivedDate},
-            std::pair {QStringLiteral("Registration Date:"), m_registrationDate},
-            std::pair {QStringLiteral("Registration Index:"), m_regIndex}};
+        = {std::pair {tr("Send/Receive Date:"), m_sentReceivedDate},
+            std::pair {tr("Registration Date:"), m_registrationDate},
+            std::pair {tr("Registration Index:"), m_regIndex}};
     int line = 0;
     for (const auto& [caption, box] : dateBoxes) {
         datesLayout->addWidget(makeBuddyLabel(caption, box, dates), line, 0);
@@ -194,11 +194,11 @@ QWidget* NewDocumentDialog::buildGeneralTab()
     m_otherDirection = directions.other;
 
     auto* layout = new QGridLayout(page);
-    layout->addWidget(makeBuddyLabel(QStringLiteral("Description:"), description, page), 0, 0);
+    layout->addWidget(makeBuddyLabel(tr("Description:"), description, page), 0, 0);
     layout->addWidget(description, 0, 1, 1, 2);
-    layout->addWidget(makeBuddyLabel(QStringLiteral("Sender/Receiver:"), sender, page), 1, 0);
+    layout->addWidget(makeBuddyLabel(tr("Sender/Receiver:"), sender, page), 1, 0);
     layout->addWidget(sender, 1, 1, 1, 2);
-    layout->addWidget(makeBuddyLabel(QStringLiteral("Location:"), location, page), 2, 0);
+    layout->addWidget(makeBuddyLabel(tr("Location:"), location, page), 2, 0);
     layout->addWidget(location, 2, 1, 1, 2);
     layout->addWidget(dates, 3, 0, 2, 2);
     layout->addWidget(categories, 3, 2);
@@ -212,7 +212,7 @@ QGroupBox* NewDocumentDialog::buildCreateWith()
     QGroupBox* frame = makeCreateWithFrame(this,
         {[this] { createWithWord(); }, [this] { createWithExcel(); }, [this] { createWithPowerPoint(); },
             [this] { addExistingFile(); }});
-    QPushButton* scan = makeDialogButton(QStringLiteral("cmdScan"), QStringLiteral("&Scan"), frame);
+    QPushButton* scan = makeDialogButton(QStringLiteral("cmdScan"), tr("&Scan"), frame);
     connect(scan, &QPushButton::clicked, this, &NewDocumentDialog::scanDocument);
     frame->layout()->addWidget(scan);
     return frame;
@@ -294,9 +294,9 @@ void NewDocumentDialog::load()
 
         m_tickler->setColumnHidden(0, true);
         m_tickler->setColumnHidden(2, true);
-        m_tickler->setColumnCaption(1, QStringLiteral("Date"));
+        m_tickler->setColumnCaption(1, tr("Date"));
         m_tickler->setColumnWidth(1, 1000);
-        m_tickler->setColumnCaption(3, QStringLiteral("Text"));
+        m_tickler->setColumnCaption(3, tr("Text"));
         m_tickler->setColumnWidth(3, 5200);
     } catch (const Error&) {
         // Silently: the steps that didn't run leave their effect undone.
@@ -338,8 +338,7 @@ void NewDocumentDialog::takeBackIncomingFile()
     if (m_placedFile.isEmpty())
         return;
     if (!kartella::takeBackIncomingFile(m_placedFile, m_incomingFile, m_intake))
-        msgBox(QStringLiteral("The file \"") + m_placedFile + QStringLiteral("\" can't be taken back to \"")
-                + m_incomingFile + QStringLiteral("\"."),
+        msgBox(tr("The file \"%1\" can't be taken back to \"%2\".").arg(m_placedFile, m_incomingFile),
             MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, windowTitle());
     m_placedFile.clear();
     setLocation(m_incomingFile);
@@ -381,21 +380,20 @@ void NewDocumentDialog::onDirectionChosen(int index)
 
 void NewDocumentDialog::createWithWord()
 {
-    createDocument({QStringLiteral("Unable to create a New Word Document"), QStringLiteral("DokTemplates"),
+    createDocument({tr("Unable to create a New Word Document"), QStringLiteral("DokTemplates"),
         QStringLiteral("SubDokTemplates"), &createWordDocument});
 }
 
 void NewDocumentDialog::createWithExcel()
 {
-    createDocument({QStringLiteral("Unable to create a New Excel Document"),
-        QStringLiteral("DokTemplatesExel"), QStringLiteral("SubDokTemplatesExel"), &createExcelDocument});
+    createDocument({tr("Unable to create a New Excel Document"), QStringLiteral("DokTemplatesExel"),
+        QStringLiteral("SubDokTemplatesExel"), &createExcelDocument});
 }
 
 void NewDocumentDialog::createWithPowerPoint()
 {
-    createDocument(
-        {QStringLiteral("Unable to create a New PowerPoint Document"), QStringLiteral("DokTemplatesPowPoint"),
-            QStringLiteral("SubDokTemplatesPowPoint"), &createPowerPointDocument});
+    createDocument({tr("Unable to create a New PowerPoint Document"), QStringLiteral("DokTemplatesPowPoint"),
+        QStringLiteral("SubDokTemplatesPowPoint"), &createPowerPointDocument});
 }
 
 void NewDocumentDialog::createDocument(const CreatingButton& button)
@@ -404,11 +402,11 @@ void NewDocumentDialog::createDocument(const CreatingButton& button)
     const int warning = MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation;
     const QString category = m_category->value();
     if (category.isEmpty()) {
-        msgBox(QStringLiteral("Select any Category, please!"), warning, button.title);
+        msgBox(tr("Select any Category, please!"), warning, button.title);
         return;
     }
     if (m_description->text().isEmpty()) {
-        msgBox(QStringLiteral("Document Description Required!"), warning, button.title);
+        msgBox(tr("Document Description Required!"), warning, button.title);
         return;
     }
     // A failure ends here, leaving the current directory as it was left.
@@ -452,20 +450,20 @@ void NewDocumentDialog::createDocument(const CreatingButton& button)
 
 void NewDocumentDialog::scanDocument()
 {
-    const QString title = QStringLiteral("Unable to scan a New Document");
+    const QString title = tr("Unable to scan a New Document");
     const int warning = MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation;
     if (m_category->value().isEmpty()) {
-        msgBox(QStringLiteral("Select any Category, please!"), warning, title);
+        msgBox(tr("Select any Category, please!"), warning, title);
         return;
     }
     // The description names the file only under the naming system "1"; else it may be typed
     // after the scan (File > Scan New Document... opens the scan window at once).
     if (m_description->text().isEmpty() && getRegValue(QStringLiteral("FileName")).trimmed() == u'1') {
-        msgBox(QStringLiteral("Document Description Required!"), warning, title);
+        msgBox(tr("Document Description Required!"), warning, title);
         return;
     }
     if (!m_location->text().isEmpty()) {
-        msgBox(QStringLiteral("The document has its file already: ") + m_location->text(), warning, title);
+        msgBox(tr("The document has its file already: %1").arg(m_location->text()), warning, title);
         return;
     }
     // The name is taken (and the running number counted) only when Done saves the pages.
@@ -478,7 +476,7 @@ void NewDocumentDialog::scanDocument()
 
 QString NewDocumentDialog::scannedFilePath()
 {
-    const QString title = QStringLiteral("Unable to scan a New Document");
+    const QString title = tr("Unable to scan a New Document");
     try {
         const QString category = m_category->value();
         const QVariant folder = getDocumentFolder(category, m_subCategory->value());
@@ -500,8 +498,8 @@ QString NewDocumentDialog::scannedFilePath()
 void NewDocumentDialog::addExistingFile()
 {
     const QString directory = QDir::currentPath();
-    const QString file = showOpenDialog({QStringLiteral("Select Document"), directory,
-        QStringLiteral("All files (*.*)"), QStringLiteral("*.*")});
+    const QString file
+        = showOpenDialog({tr("Select Document"), directory, tr("All files (*.*)"), QStringLiteral("*.*")});
     if (file.isEmpty())
         return;
     setLocation(file);
@@ -565,14 +563,13 @@ void NewDocumentDialog::reject()
     // Nothing reaches the register before OK; a file a creating button made is taken back
     // too, once the user agrees. No keeps the dialog open.
     if (!m_madeFile.isEmpty()) {
-        const QString question = QStringLiteral("Discard the new document and delete the file \"")
-            + m_madeFile + QStringLiteral("\" made for it?");
+        const QString question
+            = tr("Discard the new document and delete the file \"%1\" made for it?").arg(m_madeFile);
         if (msgBox(question, MsgBoxStyle::YesNo | MsgBoxStyle::Question, windowTitle()) != MsgBoxResult::Yes)
             return;
         QFile file(m_madeFile);
         if (file.exists() && !file.remove()) {
-            msgBox(QStringLiteral("The file \"") + m_madeFile + QStringLiteral("\" can't be deleted: ")
-                    + file.errorString(),
+            msgBox(tr("The file \"%1\" can't be deleted: %2").arg(m_madeFile, file.errorString()),
                 MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, windowTitle());
         }
         m_madeFile.clear();

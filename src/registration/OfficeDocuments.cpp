@@ -6,6 +6,7 @@
 #include "registration/FileNaming.h"
 #include "store/engine/Value.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace kartella {
@@ -28,14 +29,16 @@ void createWithSuite(OfficeSuite::Kind kind, const QString& templatePath, const 
         if ((missing || error.number() == OfficeErrorNumber::TimedOut) && !g_officeNoticeShown) {
             g_officeNoticeShown = true;
             const QString what = missing
-                ? QStringLiteral(
+                ? QCoreApplication::translate("kartella::OfficeDocuments",
                     "LibreOffice, which makes the Word, Excel and PowerPoint files, isn't installed.")
-                : QStringLiteral("LibreOffice didn't finish making the file in time and was stopped.");
+                : QCoreApplication::translate("kartella::OfficeDocuments",
+                    "LibreOffice didn't finish making the file in time and was stopped.");
             msgBox(what
-                    + QStringLiteral(
+                    + QCoreApplication::translate("kartella::OfficeDocuments",
                         "\r\rTo make these files and to open and edit them, install the packages "
                         "libreoffice-writer, libreoffice-calc and libreoffice-impress."),
-                MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, QStringLiteral("Office documents"));
+                MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation,
+                QCoreApplication::translate("kartella::OfficeDocuments", "Office documents"));
         }
         throw;
     }
@@ -69,10 +72,12 @@ bool chooseTemplate(const QVariant& templatePath, QString& chosen)
     // A folder is no template: it is missing like a file that isn't there.
     if (chosen.isEmpty() || QFileInfo(chosen).isFile())
         return true;
-    const int answer = msgBox(QStringLiteral("Can't achieve desired template ") % chosen
-            % QStringLiteral(".\r\rIf you want to continue without template click OK"),
+    const int answer = msgBox(QCoreApplication::translate("kartella::OfficeDocuments",
+                                  "Can't achieve desired template %1.\r\rIf you want to continue without "
+                                  "template click OK")
+                                  .arg(chosen),
         MsgBoxStyle::OkCancel | MsgBoxStyle::Critical | MsgBoxStyle::DefaultButton2,
-        QStringLiteral("Warning: Desired template not found"));
+        QCoreApplication::translate("kartella::OfficeDocuments", "Warning: Desired template not found"));
     if (answer != MsgBoxResult::Ok)
         return false;
     chosen.clear();
@@ -102,21 +107,24 @@ void forgetOfficeNotice()
 
 void createWordDocument(const OfficeDocumentRequest& request, const LocationSetter& setLocation)
 {
-    createFromTemplate(OfficeSuite::Kind::Word, QStringLiteral(".doc"), QStringLiteral("Can't create a file"),
-        request, setLocation);
+    createFromTemplate(OfficeSuite::Kind::Word, QStringLiteral(".doc"),
+        QCoreApplication::translate("kartella::OfficeDocuments", "Can't create a file"), request,
+        setLocation);
 }
 
 void createExcelDocument(const OfficeDocumentRequest& request, const LocationSetter& setLocation)
 {
     createFromTemplate(OfficeSuite::Kind::Excel, QStringLiteral(".xls"),
-        QStringLiteral("Can't create a file. Try again."), request, setLocation);
+        QCoreApplication::translate("kartella::OfficeDocuments", "Can't create a file. Try again."), request,
+        setLocation);
 }
 
 void createPowerPointDocument(const OfficeDocumentRequest& request, const LocationSetter& setLocation)
 {
     // The presentation is saved empty: a template would only be applied in the running
     // application, after the save.
-    const QString path = newFilePath(request, QStringLiteral(".ppt"), QStringLiteral("Can't create a file"));
+    const QString path = newFilePath(request, QStringLiteral(".ppt"),
+        QCoreApplication::translate("kartella::OfficeDocuments", "Can't create a file"));
     if (path.isEmpty())
         return;
     createWithSuite(OfficeSuite::Kind::PowerPoint, QString(), path);

@@ -11,6 +11,8 @@
 #include "store/engine/SqlText.h"
 #include "store/engine/Value.h"
 
+#include <QCoreApplication>
+
 #include <optional>
 
 namespace kartella {
@@ -257,8 +259,9 @@ void guardRegIndex(Recordset& document, std::function<QString()> index, qint32 d
         const QString text = index();
         if (!text.trimmed().isEmpty() && regIndexTaken(connection, text, documentId))
             throw Error(ErrorNumber::DuplicateValue,
-                QStringLiteral("The register already has a document with the index \"") + text
-                    + QStringLiteral("\"."));
+                QCoreApplication::translate(
+                    "kartella::RegIndex", "The register already has a document with the index \"%1\".")
+                    .arg(text));
     };
     auto count = [index](Connection& connection) {
         if (!registerKeepsDayCounter(connection))

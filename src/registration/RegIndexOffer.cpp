@@ -4,6 +4,7 @@
 #include "registration/RegIndex.h"
 #include "store/engine/Connection.h"
 
+#include <QCoreApplication>
 #include <QLineEdit>
 
 namespace kartella {
@@ -14,8 +15,9 @@ bool offerFreeRegIndex(QLineEdit* box, const QString& connectionString, const QS
     Connection connection;
     connection.open(connectionString);
     const QString next = reserveFreeRegIndex(connection, index);
-    const QString question = QStringLiteral("The register already has a document with the index \"") + index
-        + QStringLiteral("\". Store this one as \"") + next + QStringLiteral("\"?");
+    const QString question = QCoreApplication::translate("kartella::RegIndexOffer",
+        "The register already has a document with the index \"%1\". Store this one as \"%2\"?")
+                                 .arg(index, next);
     if (msgBox(question, MsgBoxStyle::YesNo | MsgBoxStyle::Question, title) != MsgBoxResult::Yes) {
         releaseRegIndex(connection, next);
         box->setFocus(Qt::OtherFocusReason);

@@ -55,8 +55,7 @@ RelatedDocumentDialog::RelatedDocumentDialog(Mode mode, QWidget* parent)
 {
     const bool creating = mode == Mode::Creating;
     setObjectName(creating ? QStringLiteral("frmRelated") : QStringLiteral("frmRelDescr"));
-    setWindowTitle(creating ? QStringLiteral("New Related Document")
-                            : QStringLiteral("Description of Related Document"));
+    setWindowTitle(creating ? tr("New Related Document") : tr("Description of Related Document"));
     setModal(true);
     m_related = new Recordset(this);
     m_related->setObjectName(QStringLiteral("datPrimaryRS"));
@@ -86,12 +85,12 @@ void RelatedDocumentDialog::buildWidgets()
     m_date = makeFieldBox(3, page);
     auto* contact = new QComboBox(page);
     contact->setObjectName(QStringLiteral("cmbContact"));
-    contact->setToolTip(QStringLiteral("Select a Contact"));
+    contact->setToolTip(tr("Select a Contact"));
     m_contact = new BoundList(contact, this);
     // The Location box has another place among the fields in each of the two dialogs.
     m_location = makeFieldBox(m_mode == Mode::Creating ? 5 : 4, page);
     m_location->setReadOnly(true);
-    m_location->setToolTip(QStringLiteral("Location of File"));
+    m_location->setToolTip(tr("Location of File"));
     m_documentId = makeFieldBox(0, page);
     m_relatedId = makeFieldBox(2, page);
     m_documentId->setVisible(false);
@@ -103,14 +102,14 @@ void RelatedDocumentDialog::buildWidgets()
         grid->addWidget(makeBuddyLabel(caption, field, page), line, 0, Qt::AlignTop);
         grid->addWidget(field, line++, 1);
     };
-    addRow(QStringLiteral("Parent Document:"), m_parent);
-    addRow(QStringLiteral("Related Document Description:"), m_description);
-    addRow(QStringLiteral("Send/Receive Date:"), m_date);
-    addRow(QStringLiteral("Sender/Receiver:"), contact);
-    addRow(QStringLiteral("Location:"), m_location);
+    addRow(tr("Parent Document:"), m_parent);
+    addRow(tr("Related Document Description:"), m_description);
+    addRow(tr("Send/Receive Date:"), m_date);
+    addRow(tr("Sender/Receiver:"), contact);
+    addRow(tr("Location:"), m_location);
 
-    m_ok = makeDialogButton(QStringLiteral("cmdOK"), QStringLiteral("OK"), this);
-    m_cancel = makeDialogButton(QStringLiteral("cmdCancel"), QStringLiteral("Cancel"), this);
+    m_ok = makeDialogButton(QStringLiteral("cmdOK"), tr("OK"), this);
+    m_cancel = makeDialogButton(QStringLiteral("cmdCancel"), tr("Cancel"), this);
     connect(m_ok, &QPushButton::clicked, this, &RelatedDocumentDialog::save);
     connect(m_cancel, &QPushButton::clicked, this, &RelatedDocumentDialog::cancel);
     auto* buttons = new QHBoxLayout;
@@ -179,15 +178,15 @@ void RelatedDocumentDialog::load()
         if (m_mode == Mode::Creating)
             m_date->setText(Clock::currentDate().toString(DateFormat));
     } catch (const Error& error) {
-        msgBox(QStringLiteral("Data error event hit err:") + error.description());
+        msgBox(tr("Data error event hit err:") + error.description());
     }
     // The document, or the related document edited, deleted by another program since it was
     // selected: there is nothing to hang a row on or to edit.
     const bool rowGone = m_mode == Mode::Editing && m_related->isOpen() && m_related->eof();
     if (parentGone || rowGone) {
         m_gone = true;
-        msgBox(parentGone ? QStringLiteral("This document no longer exists.")
-                          : QStringLiteral("This related document no longer exists."),
+        msgBox(parentGone ? tr("This document no longer exists.")
+                          : tr("This related document no longer exists."),
             MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, windowTitle());
         const QList<QWidget*> editing = {m_tabs, m_ok};
         for (QWidget* widget : editing)
@@ -208,20 +207,20 @@ void RelatedDocumentDialog::setLocation(const QString& path)
 
 void RelatedDocumentDialog::createWithWord()
 {
-    createDocument({QStringLiteral("Unable to create a new Word Document"),
-        QStringLiteral("SubDocument Description Required!"), &createWordDocument});
+    createDocument({tr("Unable to create a new Word Document"), tr("SubDocument Description Required!"),
+        &createWordDocument});
 }
 
 void RelatedDocumentDialog::createWithExcel()
 {
-    createDocument({QStringLiteral("Unable to create a new Excel Document"),
-        QStringLiteral("Document Description Required!"), &createExcelDocument});
+    createDocument({tr("Unable to create a new Excel Document"), tr("Document Description Required!"),
+        &createExcelDocument});
 }
 
 void RelatedDocumentDialog::createWithPowerPoint()
 {
-    createDocument({QStringLiteral("Unable to create a new PowerPoint Document"),
-        QStringLiteral("SubDocument Description Required!"), &createPowerPointDocument});
+    createDocument({tr("Unable to create a new PowerPoint Document"), tr("SubDocument Description Required!"),
+        &createPowerPointDocument});
 }
 
 void RelatedDocumentDialog::createDocument(const CreatingButton& button)
@@ -237,8 +236,8 @@ void RelatedDocumentDialog::createDocument(const CreatingButton& button)
     // chooses none.
     const qint32 category = selection().currentCategoryId;
     if (category == 0) {
-        msgBox(QStringLiteral("Select any Category, please!"), MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation,
-            button.title);
+        msgBox(
+            tr("Select any Category, please!"), MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, button.title);
         return;
     }
     try {
@@ -256,8 +255,8 @@ void RelatedDocumentDialog::createDocument(const CreatingButton& button)
 void RelatedDocumentDialog::addExistingFile()
 {
     const QString directory = QDir::currentPath();
-    const QString file = showOpenDialog({QStringLiteral("Select the Document"), directory,
-        QStringLiteral("All files (*.*)"), QStringLiteral("*.*")});
+    const QString file = showOpenDialog(
+        {tr("Select the Document"), directory, tr("All files (*.*)"), QStringLiteral("*.*")});
     if (file.isEmpty())
         return;
     setLocation(file);
@@ -270,8 +269,7 @@ void RelatedDocumentDialog::save()
     // the parent it has.
     if (m_mode == Mode::Creating) {
         if (m_parentId == 0) {
-            msgBox(QStringLiteral("A related document needs its document: select one in the list first, "
-                                  "please!"),
+            msgBox(tr("A related document needs its document: select one in the list first, please!"),
                 MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, windowTitle());
             return;
         }
@@ -279,23 +277,23 @@ void RelatedDocumentDialog::save()
     }
     try {
         if (m_mode == Mode::Creating && !documentExists(m_parentId)) {
-            reportDeletedRow(QStringLiteral("document"), windowTitle());
+            reportDeletedRow(tr("document"), windowTitle());
             return;
         }
         m_binder->validate();
         // A row another user changed since it was read is told; it stays here unless the
         // user stores theirs over it.
         const QList<QPair<QString, QString>> captions
-            = {{QStringLiteral("SubDocDescript"), QStringLiteral("Related Document Description")},
-                {QStringLiteral("SubRastGavimoData"), QStringLiteral("Send/Receive Date")},
-                {QStringLiteral("ContactID"), QStringLiteral("Sender/Receiver")},
-                {QStringLiteral("SubRastoKelias"), QStringLiteral("Location")}};
+            = {{QStringLiteral("SubDocDescript"), tr("Related Document Description")},
+                {QStringLiteral("SubRastGavimoData"), tr("Send/Receive Date")},
+                {QStringLiteral("ContactID"), tr("Sender/Receiver")},
+                {QStringLiteral("SubRastoKelias"), tr("Location")}};
         if (!storeResolvingChanges(
-                *m_related, AffectEnum::All, QStringLiteral("related document"), captions, windowTitle()))
+                *m_related, AffectEnum::All, tr("related document"), captions, windowTitle()))
             return;
     } catch (const Error& error) {
         if (rowWasDeleted(error))
-            reportDeletedRow(QStringLiteral("related document"), windowTitle());
+            reportDeletedRow(tr("related document"), windowTitle());
         else
             msgBox(error.description());
         return;

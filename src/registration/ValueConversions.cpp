@@ -2,6 +2,8 @@
 
 #include "base/Error.h"
 
+#include <QCoreApplication>
+
 #include <cmath>
 #include <limits>
 
@@ -31,12 +33,14 @@ Int checkedRound(double number, const QString& what)
 
 void raiseTypeMismatch(const QString& what)
 {
-    throw Error(ErrorNumber::TypeMismatch, QStringLiteral("Type mismatch: ") % what);
+    throw Error(ErrorNumber::TypeMismatch,
+        QCoreApplication::translate("kartella::ValueConversions", "Type mismatch: %1").arg(what));
 }
 
 void raiseOverflow(const QString& what)
 {
-    throw Error(ErrorNumber::Overflow, QStringLiteral("Overflow: ") % what);
+    throw Error(ErrorNumber::Overflow,
+        QCoreApplication::translate("kartella::ValueConversions", "Overflow: %1").arg(what));
 }
 
 QDate toStoredDate(const QString& text)
@@ -46,7 +50,8 @@ QDate toStoredDate(const QString& text)
     if (!date.isValid())
         date = QDate::fromString(trimmed, QStringLiteral("yyyy M d"));
     if (!date.isValid())
-        raiseTypeMismatch(QStringLiteral("\"") % text % QStringLiteral("\" isn't a date"));
+        raiseTypeMismatch(
+            QCoreApplication::translate("kartella::ValueConversions", "\"%1\" isn't a date").arg(text));
     return date;
 }
 
@@ -65,33 +70,40 @@ bool toTruthValue(const QString& text)
         return true;
     if (trimmed.compare(QLatin1String("False"), Qt::CaseInsensitive) == 0)
         return false;
-    raiseTypeMismatch(QStringLiteral("\"") % text % QStringLiteral("\" isn't a truth value"));
+    raiseTypeMismatch(
+        QCoreApplication::translate("kartella::ValueConversions", "\"%1\" isn't a truth value").arg(text));
 }
 
 qint16 toInteger16(const QString& text)
 {
     double number = 0;
     if (!parseNumber(text, number))
-        raiseTypeMismatch(QStringLiteral("\"") % text % QStringLiteral("\" isn't a number"));
-    return checkedRound<qint16>(number, QStringLiteral("\"") % text % QStringLiteral("\" is out of range"));
+        raiseTypeMismatch(
+            QCoreApplication::translate("kartella::ValueConversions", "\"%1\" isn't a number").arg(text));
+    return checkedRound<qint16>(number,
+        QCoreApplication::translate("kartella::ValueConversions", "\"%1\" is out of range").arg(text));
 }
 
 qint32 toLong(const QVariant& value)
 {
     if (!value.isValid() || value.isNull())
-        raiseTypeMismatch(QStringLiteral("the value is empty"));
+        raiseTypeMismatch(QCoreApplication::translate("kartella::ValueConversions", "the value is empty"));
     double number = 0;
     if (value.typeId() == QMetaType::QString) {
         if (!parseNumber(value.toString(), number))
-            raiseTypeMismatch(QStringLiteral("\"") % value.toString() % QStringLiteral("\" isn't a number"));
+            raiseTypeMismatch(
+                QCoreApplication::translate("kartella::ValueConversions", "\"%1\" isn't a number")
+                    .arg(value.toString()));
     } else {
         bool ok = false;
         number = value.toDouble(&ok);
         if (!ok)
-            raiseTypeMismatch(QStringLiteral("the value isn't a number"));
+            raiseTypeMismatch(
+                QCoreApplication::translate("kartella::ValueConversions", "the value isn't a number"));
     }
-    return checkedRound<qint32>(
-        number, QString::number(number, 'g', 17) % QStringLiteral(" is out of range"));
+    return checkedRound<qint32>(number,
+        QCoreApplication::translate("kartella::ValueConversions", "%1 is out of range")
+            .arg(QString::number(number, 'g', 17)));
 }
 
 qint16 leadingInteger16(const QString& text)
@@ -107,7 +119,8 @@ qint16 leadingInteger16(const QString& text)
     const double whole = text.mid(start, i - start).toDouble();
     if (whole < double(std::numeric_limits<qint16>::min())
         || whole > double(std::numeric_limits<qint16>::max()))
-        raiseOverflow(QStringLiteral("\"") % text % QStringLiteral("\" is out of range"));
+        raiseOverflow(
+            QCoreApplication::translate("kartella::ValueConversions", "\"%1\" is out of range").arg(text));
     return qint16(whole);
 }
 

@@ -1,6 +1,7 @@
 #include "CategoryFixture.h"
 #include "categories/CategoryDialog.h"
 #include "categories/NewCategoryDialog.h"
+#include "dialogs/InLithuanian.h"
 #include "platform/Prompter.h"
 
 #include <QDir>
@@ -151,6 +152,50 @@ private Q_SLOTS:
             QCOMPARE(stored.toString(), title.isEmpty() ? QString() : title);
         else
             QCOMPARE(stored.toString(), "Contracts"); // no new row
+    }
+
+    // Both dialogs in Lithuanian: the title, the grid's captions, the Esc question made of its
+    // two parts, and no two access keys alike.
+    void showsLithuanian_data()
+    {
+        QTest::addColumn<bool>("details");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("firstLine");
+        QTest::newRow("details") << true << "Kategorija"
+                                 << "Kategorijos duomenų pakeitimai dar neįrašyti.";
+        QTest::newRow("new category") << false << "Nauja dokumentų kategorija"
+                                      << "Pakeitimai dar neįrašyti.";
+    }
+
+    void showsLithuanian()
+    {
+        QFETCH(bool, details);
+        QFETCH(QString, title);
+        QFETCH(QString, firstLine);
+        Fixture fx;
+        const InLithuanian lithuanian;
+        QVERIFY(lithuanian.language().startsWith("lt"));
+        std::unique_ptr<QDialog> d;
+        if (details)
+            d = std::make_unique<CategoryDialog>();
+        else
+            d = std::make_unique<NewCategoryDialog>();
+        activate(d.get());
+        QCOMPARE(d->windowTitle(), title);
+        QCOMPARE(grid(d.get())->model()->headerData(2, Qt::Horizontal).toString(), "Pakategorė");
+        QCOMPARE(grid(d.get())->model()->headerData(3, Qt::Horizontal).toString(), "Failų aplankas");
+        QCOMPARE(d->findChild<QPushButton*>("cmdDelete")->text(), "Ša&linti pakategorę");
+        const QStringList clashes = clashingAccessKeys(d.get());
+        QVERIFY2(clashes.isEmpty(), qPrintable(clashes.join(", ")));
+
+        typeInto(box(d.get(), 1), "Sutartys");
+        fx.prompter.answer(MsgBoxResult::Cancel);
+        QTest::keyClick(d.get(), Qt::Key_Escape);
+        const auto prompts = fx.prompter.take();
+        QCOMPARE(prompts.size(), 1);
+        QCOMPARE(prompts[0].text, firstLine + "\n\nAr norite juos įrašyti dabar?");
+        QCOMPARE(prompts[0].title, "Įspėjimas");
+        QVERIFY(d->isVisible());
     }
 
     // Closing without OK after "Add New SubCategory" takes back the category stored by it and

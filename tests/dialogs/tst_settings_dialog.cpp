@@ -1,8 +1,10 @@
+#include "dialogs/InLithuanian.h"
 #include "dialogs/SettingsDialog.h"
 #include "dialogs/SettingsFixture.h"
 #include "dialogs/SettingsStore.h"
 #include "harness/ScriptedPrompter.h"
 #include "harness/TestRegister.h"
+#include "options/LanguageOption.h"
 #include "options/OptionStore.h"
 
 #include <QApplication>
@@ -382,6 +384,114 @@ private Q_SLOTS:
         QCOMPARE(getRegValue("Provider"), provider);
         QCOMPARE(announced.count(), 0);
         QVERIFY(prompter.prompts().isEmpty());
+    }
+
+    // The language is reached with its access key and picked with the arrow keys; only OK
+    // stores it, Cancel and Esc leave the stored one, and a pending pick makes Esc ask.
+    void languageChoice_data()
+    {
+        QTest::addColumn<int>("stored");
+        QTest::addColumn<QString>("shown");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<QString>("closing"); // "OK", "Cancel", "Esc"
+        QTest::addColumn<int>("result");
+        const int desktop = int(InterfaceLanguage::Desktop);
+        const int english = int(InterfaceLanguage::English);
+        const int lithuanian = int(InterfaceLanguage::Lithuanian);
+        QTest::newRow("desktop's to English, OK")
+            << desktop << "The desktop's language" << int(Qt::Key_Down) << "OK" << english;
+        QTest::newRow("English to Lithuanian, OK")
+            << english << "English" << int(Qt::Key_Down) << "OK" << lithuanian;
+        QTest::newRow("Lithuanian to English, OK")
+            << lithuanian << "Lietuvių" << int(Qt::Key_Up) << "OK" << english;
+        QTest::newRow("English to desktop's, OK")
+            << english << "English" << int(Qt::Key_Up) << "OK" << desktop;
+        QTest::newRow("picked, Cancel")
+            << desktop << "The desktop's language" << int(Qt::Key_Down) << "Cancel" << desktop;
+        QTest::newRow("picked, Esc, No")
+            << lithuanian << "Lietuvių" << int(Qt::Key_Up) << "Esc" << lithuanian;
+    }
+
+    void languageChoice()
+    {
+        QFETCH(int, stored);
+        QFETCH(QString, shown);
+        QFETCH(int, key);
+        QFETCH(QString, closing);
+        QFETCH(int, result);
+        TestRegister reg;
+        ScriptedPrompter prompter;
+        setInterfaceLanguage(InterfaceLanguage(stored));
+        Settings s;
+        auto* language = s.control<QComboBox>("cboLanguage");
+        QCOMPARE(language->currentText(), shown);
+        QCOMPARE(language->count(), 3);
+        QCOMPARE(s.control<QLabel>("lblLanguage")->text(), "&Language:");
+        QCOMPARE(s.control<QLabel>("lblLanguageNote")->text(), "The language changes at the next start.");
+
+        QTest::keyClick(&s.dialog, Qt::Key_L, Qt::AltModifier);
+        QCOMPARE(QApplication::focusWidget(), language);
+        QTest::keyClick(language, Qt::Key(key));
+        QVERIFY(language->currentText() != shown);
+        QCOMPARE(int(interfaceLanguage()), stored); // not before OK
+        QVERIFY(s.dialog.settingsChanged());
+        if (closing == "Esc") {
+            prompter.answer(MsgBoxResult::No);
+            s.escape();
+            QCOMPARE(prompter.prompts().size(), 1);
+            QCOMPARE(prompter.prompts().first().text, escapeQuestion());
+        } else {
+            s.press(closing == "OK" ? "btnOk" : "btnCancel");
+            QVERIFY(prompter.prompts().isEmpty());
+        }
+        QVERIFY(!s.dialog.isVisible());
+        QCOMPARE(int(interfaceLanguage()), result);
+
+        // The next opening shows what is stored.
+        Settings again;
+        QCOMPARE(again.control<QComboBox>("cboLanguage")->currentIndex(),
+            again.control<QComboBox>("cboLanguage")->findData(result));
+    }
+
+    // In Lithuanian: the captions, the languages by their own names, the Esc question through
+    // the prompter, and no two access keys of one tab alike. The language is picked there too.
+    void showsLithuanian()
+    {
+        TestRegister reg;
+        ScriptedPrompter prompter;
+        const InLithuanian lithuanian;
+        QVERIFY(lithuanian.language().startsWith("lt"));
+        Settings s;
+        QCOMPARE(s.dialog.windowTitle(), "Programos nuostatos");
+        auto* tabs = s.control<QTabWidget>("SSTab1");
+        QCOMPARE(tabs->tabText(0), "Numatytasis aplankas");
+        QCOMPARE(tabs->tabText(2), "Registracijos indeksas");
+        QCOMPARE(tabs->tabText(6), "Šiukšlinė ir versijos");
+        QCOMPARE(s.control<QCheckBox>("chkUseMnemonic")->text(), "Naudoti trumpinį");
+        QCOMPARE(s.control<QPushButton>("btnOk")->text(), "Gerai");
+        QCOMPARE(s.control<QPushButton>("btnCancel")->text(), "Atsisakyti");
+        QCOMPARE(s.control<QLabel>("lblLanguage")->text(), "&Kalba:");
+        auto* language = s.control<QComboBox>("cboLanguage");
+        QStringList languages;
+        for (int item = 0; item < language->count(); ++item)
+            languages.append(language->itemText(item));
+        QCOMPARE(languages, QStringList({"Darbalaukio kalba", "English", "Lietuvių"}));
+        for (int tab = 0; tab < tabs->count(); ++tab) {
+            const QStringList clashes = clashingAccessKeys(tabs->widget(tab));
+            QVERIFY2(clashes.isEmpty(), qPrintable(clashes.join(", ")));
+        }
+
+        QTest::keyClick(&s.dialog, Qt::Key_K, Qt::AltModifier);
+        QCOMPARE(QApplication::focusWidget(), language);
+        QTest::keyClick(language, Qt::Key_End);
+        prompter.answer(MsgBoxResult::Yes);
+        s.escape();
+        QCOMPARE(prompter.prompts().size(), 1);
+        QCOMPARE(prompter.prompts().first().text,
+            "Nuostatų pakeitimai dar neįrašyti.\r\n\r\nAr norite juos įrašyti dabar?");
+        QCOMPARE(prompter.prompts().first().title, "Įspėjimas");
+        QVERIFY(!s.dialog.isVisible());
+        QCOMPARE(interfaceLanguage(), InterfaceLanguage::Lithuanian);
     }
 
     // A register on a server is typed into the location box and stored as typed, with no

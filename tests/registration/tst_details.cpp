@@ -1,4 +1,5 @@
 #include "RegisterFixture.h"
+#include "dialogs/InLithuanian.h"
 #include "explorer/DocumentFills.h"
 #include "explorer/ListModel.h"
 #include "explorer/MainWindow.h"
@@ -153,6 +154,36 @@ private Q_SLOTS:
         QVERIFY(!dialog.isVisible());
         QCOMPARE(fx.document("DokRegistracIndeksas", fx.lease).toString(),
             answer == MsgBoxResult::Yes ? "AGR-2" : "AGR-1");
+    }
+
+    // In Lithuanian: the title made of the description, the captions, the question of the
+    // close box through the prompter, and no two access keys of the General tab alike.
+    void showsLithuanian()
+    {
+        Fixture fx;
+        const InLithuanian lithuanian;
+        QVERIFY(lithuanian.language().startsWith("lt"));
+        DocumentDetailsDialog dialog;
+        showActive(dialog);
+        QCOMPARE(dialog.windowTitle(), "Sutartis – aprašymas");
+        auto* tabs = dialog.findChild<QTabWidget*>("SSTab1");
+        QCOMPARE(tabs->tabText(0), "Bendra");
+        QCOMPARE(tabs->tabText(1), "Priminimai");
+        QCOMPARE(box(dialog, 7)->toolTip(), "Trumpas dokumento aprašymas");
+        QCOMPARE(dialog.findChild<QPushButton*>("cmdButton_0")->text(), "Gerai");
+        QCOMPARE(dialog.findChild<QPushButton*>("cmdButton_2")->text(), "&Taikyti");
+        const QStringList clashes = clashingAccessKeys(tabs->widget(0));
+        QVERIFY2(clashes.isEmpty(), qPrintable(clashes.join(", ")));
+
+        retype(box(dialog, 3), "AGR-2");
+        fx.prompter.answer(MsgBoxResult::No);
+        dialog.close();
+        const auto prompts = fx.prompter.take();
+        QCOMPARE(prompts.size(), 1);
+        QCOMPARE(prompts.first().text, "Duomenų pakeitimai dar neįrašyti.\n\nAr norite juos įrašyti dabar?");
+        QCOMPARE(prompts.first().title, "Įspėjimas");
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(fx.document("DokRegistracIndeksas", fx.lease).toString(), "AGR-1");
     }
 
     // Choosing another category (by the keyboard) refills the subcategory list only: the

@@ -1,9 +1,11 @@
 #include "NewDocumentFixture.h"
+#include "dialogs/InLithuanian.h"
 #include "explorer/ExplorerList.h"
 #include "explorer/MainWindow.h"
 #include "options/OptionStore.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <QTabWidget>
 #include <QTimer>
@@ -18,6 +20,44 @@ class NewDocumentEntryTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // In Lithuanian: the captions, the reminders' columns, a refusal through the prompter, and
+    // no two access keys of the dialog alike.
+    void showsLithuanian()
+    {
+        Fixture fx;
+        const InLithuanian lithuanian;
+        QVERIFY(lithuanian.language().startsWith("lt"));
+        Dialog d;
+        QCOMPARE(d.dialog.windowTitle(), "Naujas dokumentas");
+        auto* tabs = d.dialog.findChild<QTabWidget*>("SSTab1");
+        QCOMPARE(tabs->tabText(0), "Bendra");
+        QCOMPARE(tabs->tabText(1), "Priminimai");
+        QCOMPARE(tabs->tabText(2), "Pastabos");
+        QStringList buddies;
+        for (const QLabel* label : d.dialog.findChildren<QLabel*>()) {
+            if (label->buddy() == d.box(4) || label->buddy() == d.box(3))
+                buddies.append(label->text());
+        }
+        buddies.sort();
+        QCOMPARE(buddies, QStringList({"Aprašymas:", "Registracijos indeksas:"}));
+        QCOMPARE(d.dialog.findChild<QPushButton*>("cmdOK")->text(), "Gerai");
+        QCOMPARE(d.dialog.findChild<QPushButton*>("cmdCancel")->text(), "Atsisakyti");
+        QCOMPARE(d.dialog.findChild<QPushButton*>("cmdScan")->text(), "&Skenuoti");
+        QCOMPARE(d.grid()->model()->headerData(1, Qt::Horizontal).toString(), "Data");
+        QCOMPARE(d.grid()->model()->headerData(3, Qt::Horizontal).toString(), "Tekstas");
+        const QStringList clashes = clashingAccessKeys(&d.dialog);
+        QVERIFY2(clashes.isEmpty(), qPrintable(clashes.join(", ")));
+
+        // Word without a description is refused, in Lithuanian.
+        fx.prompter.answer(MsgBoxResult::Ok);
+        d.click("cmdWord");
+        QCOMPARE(fx.prompter.prompts().size(), 1);
+        QCOMPARE(fx.prompter.prompts().first().text, "Būtinas dokumento aprašymas!");
+        QCOMPARE(fx.prompter.prompts().first().title, "Nepavyko sukurti naujo Word dokumento");
+        QVERIFY(fx.suite.calls.isEmpty());
+        QVERIFY(d.dialog.isVisible());
+    }
+
     // Proposals reserve nothing; a change of category proposes anew and clears the
     // subcategory. The register counts the day's numbers and leaves the options alone; a
     // register of an older version counts in the options, where a new day restarts the count.
