@@ -1,0 +1,636 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="lt_LT" sourcelanguage="en">
+<context>
+    <name>kartella::DeletedItemsWindow</name>
+    <message>
+        <source>Deleted items</source>
+        <translation>Pašalinti elementai</translation>
+    </message>
+    <message>
+        <source>document</source>
+        <translation>dokumentas</translation>
+    </message>
+    <message>
+        <source>related document</source>
+        <translation>susijęs dokumentas</translation>
+    </message>
+    <message>
+        <source>category</source>
+        <translation>kategorija</translation>
+    </message>
+    <message>
+        <source>subcategory</source>
+        <translation>pakategorė</translation>
+    </message>
+    <message>
+        <source>contact</source>
+        <translation>kontaktas</translation>
+    </message>
+    <message>
+        <source>&amp;Deleted items:</source>
+        <translation>&amp;Pašalinti elementai:</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Kas</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Rūšis</translation>
+    </message>
+    <message>
+        <source>Deleted by</source>
+        <translation>Pašalino</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Kada</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Atkurti</translation>
+    </message>
+    <message>
+        <source>De&amp;lete</source>
+        <translation>Ša&amp;linti</translation>
+    </message>
+    <message>
+        <source>&amp;Empty Trash</source>
+        <translation>&amp;Išvalyti šiukšlinę</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot; for good? It can&apos;t be restored afterwards.</source>
+        <translation>Pašalinti „%1“ visam laikui? Vėliau jo nebus galima atkurti.</translation>
+    </message>
+    <message>
+        <source>Confirm Deletion</source>
+        <translation>Šalinimo patvirtinimas</translation>
+    </message>
+    <message>
+        <source>Delete all %1 deleted items for good? They can&apos;t be restored afterwards.</source>
+        <translation>Pašalinti visus pašalintus elementus (%1) visam laikui? Vėliau jų nebus galima atkurti.</translation>
+    </message>
+    <message>
+        <source>Empty Trash</source>
+        <translation>Išvalyti šiukšlinę</translation>
+    </message>
+</context>
+<context>
+    <name>kartella::HistoryTab</name>
+    <message>
+        <source>When</source>
+        <translation>Kada</translation>
+    </message>
+    <message>
+        <source>Who</source>
+        <translation>Kas</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Komanda</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Kas pakeista</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Pakeitimas</translation>
+    </message>
+    <message>
+        <source>&amp;Changes:</source>
+        <translation>&amp;Pakeitimai:</translation>
+    </message>
+    <message>
+        <source>Earlier &amp;versions of the file:</source>
+        <translation>Ankstesnės failo &amp;versijos:</translation>
+    </message>
+</context>
+<context>
+    <name>kartella::HistoryText</name>
+    <message>
+        <source>Description</source>
+        <translation>Aprašymas</translation>
+    </message>
+    <message>
+        <source>Sender/Receiver</source>
+        <translation>Siuntėjas / gavėjas</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Vieta</translation>
+    </message>
+    <message>
+        <source>Send/Receive Date</source>
+        <translation>Siuntimo / gavimo data</translation>
+    </message>
+    <message>
+        <source>Registration Date</source>
+        <translation>Registracijos data</translation>
+    </message>
+    <message>
+        <source>Registration Index</source>
+        <translation>Registracijos indeksas</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Kategorija</translation>
+    </message>
+    <message>
+        <source>Subcategory</source>
+        <translation>Pakategorė</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Kryptis</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Pastabos</translation>
+    </message>
+    <message>
+        <source>Executor</source>
+        <translation>Vykdytojas</translation>
+    </message>
+    <message>
+        <source>Execution mark</source>
+        <translation>Įvykdymo žyma</translation>
+    </message>
+    <message>
+        <source>Related Document Description</source>
+        <translation>Susijusio dokumento aprašymas</translation>
+    </message>
+    <message>
+        <source>Parent Document</source>
+        <translation>Pagrindinis dokumentas</translation>
+    </message>
+    <message>
+        <source>Reminder date</source>
+        <translation>Priminimo data</translation>
+    </message>
+    <message>
+        <source>Reminder text</source>
+        <translation>Priminimo tekstas</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Atlikta</translation>
+    </message>
+    <message>
+        <source>Category (plural)</source>
+        <translation>Kategorija (daugiskaita)</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Šablonas</translation>
+    </message>
+    <message>
+        <source>Spreadsheet template</source>
+        <translation>Skaičiuoklės šablonas</translation>
+    </message>
+    <message>
+        <source>Presentation template</source>
+        <translation>Pateikties šablonas</translation>
+    </message>
+    <message>
+        <source>Folder of files</source>
+        <translation>Failų aplankas</translation>
+    </message>
+    <message>
+        <source>Company Name</source>
+        <translation>Įmonės pavadinimas</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Pareigos</translation>
+    </message>
+    <message>
+        <source>Dear</source>
+        <translation>Kreipinys</translation>
+    </message>
+    <message>
+        <source>FullName</source>
+        <translation>Vardas ir pavardė</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresas</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Miestas</translation>
+    </message>
+    <message>
+        <source>State/Province</source>
+        <translation>Apskritis / provincija</translation>
+    </message>
+    <message>
+        <source>Zip/Postal Code</source>
+        <translation>Pašto kodas</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>Regionas</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Šalis</translation>
+    </message>
+    <message>
+        <source>EmailName</source>
+        <translation>El. paštas</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation>Telefonas</translation>
+    </message>
+    <message>
+        <source>Phone number</source>
+        <translation>Telefono numeris</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>Tinklalapis</translation>
+    </message>
+    <message>
+        <source>Web address</source>
+        <translation>Tinklalapio adresas</translation>
+    </message>
+    <message>
+        <source>(empty)</source>
+        <translation>(tuščia)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>Inner</source>
+        <translation>Vidinis</translation>
+    </message>
+    <message>
+        <source>Outgoing</source>
+        <translation>Siunčiamas</translation>
+    </message>
+    <message>
+        <source>Incoming</source>
+        <translation>Gaunamas</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Kitas</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Dokumentas</translation>
+    </message>
+    <message>
+        <source>Document added</source>
+        <translation>Pridėtas dokumentas</translation>
+    </message>
+    <message>
+        <source>Document deleted</source>
+        <translation>Pašalintas dokumentas</translation>
+    </message>
+    <message>
+        <source>Document changed</source>
+        <translation>Pakeistas dokumentas</translation>
+    </message>
+    <message>
+        <source>Related document</source>
+        <translation>Susijęs dokumentas</translation>
+    </message>
+    <message>
+        <source>Related document added</source>
+        <translation>Pridėtas susijęs dokumentas</translation>
+    </message>
+    <message>
+        <source>Related document deleted</source>
+        <translation>Pašalintas susijęs dokumentas</translation>
+    </message>
+    <message>
+        <source>Related document changed</source>
+        <translation>Pakeistas susijęs dokumentas</translation>
+    </message>
+    <message>
+        <source>Reminder</source>
+        <translation>Priminimas</translation>
+    </message>
+    <message>
+        <source>Reminder added</source>
+        <translation>Pridėtas priminimas</translation>
+    </message>
+    <message>
+        <source>Reminder deleted</source>
+        <translation>Pašalintas priminimas</translation>
+    </message>
+    <message>
+        <source>Reminder changed</source>
+        <translation>Pakeistas priminimas</translation>
+    </message>
+    <message>
+        <source>Category added</source>
+        <translation>Pridėta kategorija</translation>
+    </message>
+    <message>
+        <source>Category deleted</source>
+        <translation>Pašalinta kategorija</translation>
+    </message>
+    <message>
+        <source>Category changed</source>
+        <translation>Pakeista kategorija</translation>
+    </message>
+    <message>
+        <source>Subcategory added</source>
+        <translation>Pridėta pakategorė</translation>
+    </message>
+    <message>
+        <source>Subcategory deleted</source>
+        <translation>Pašalinta pakategorė</translation>
+    </message>
+    <message>
+        <source>Subcategory changed</source>
+        <translation>Pakeista pakategorė</translation>
+    </message>
+    <message>
+        <source>Contact</source>
+        <translation>Kontaktas</translation>
+    </message>
+    <message>
+        <source>Contact added</source>
+        <translation>Pridėtas kontaktas</translation>
+    </message>
+    <message>
+        <source>Contact deleted</source>
+        <translation>Pašalintas kontaktas</translation>
+    </message>
+    <message>
+        <source>Contact changed</source>
+        <translation>Pakeistas kontaktas</translation>
+    </message>
+    <message>
+        <source>Phone added</source>
+        <translation>Pridėtas telefonas</translation>
+    </message>
+    <message>
+        <source>Phone deleted</source>
+        <translation>Pašalintas telefonas</translation>
+    </message>
+    <message>
+        <source>Phone changed</source>
+        <translation>Pakeistas telefonas</translation>
+    </message>
+    <message>
+        <source>Web page added</source>
+        <translation>Pridėtas tinklalapis</translation>
+    </message>
+    <message>
+        <source>Web page deleted</source>
+        <translation>Pašalintas tinklalapis</translation>
+    </message>
+    <message>
+        <source>Web page changed</source>
+        <translation>Pakeistas tinklalapis</translation>
+    </message>
+    <message>
+        <source>New Document</source>
+        <comment>command</comment>
+        <translation>Naujas dokumentas</translation>
+    </message>
+    <message>
+        <source>Copy/Move</source>
+        <comment>command</comment>
+        <translation>Kopijuoti / perkelti</translation>
+    </message>
+    <message>
+        <source>Related</source>
+        <comment>command</comment>
+        <translation>Susiję dokumentai</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <comment>command</comment>
+        <translation>Išsami informacija</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <comment>command</comment>
+        <translation>Kategorija</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <comment>command</comment>
+        <translation>Šalinti</translation>
+    </message>
+    <message>
+        <source>Reminders Done</source>
+        <comment>command</comment>
+        <translation>Priminimai atlikti</translation>
+    </message>
+    <message>
+        <source>Contact</source>
+        <comment>command</comment>
+        <translation>Kontaktas</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <comment>command</comment>
+        <translation>Importuoti</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <comment>command</comment>
+        <translation>Atkurti</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>kita programa</translation>
+    </message>
+    <message>
+        <source>%1 added</source>
+        <translation>Pridėta: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 deleted</source>
+        <translation>Pašalinta: %1</translation>
+    </message>
+    <message>
+        <source>%1 was %2</source>
+        <translation>%1 buvo %2</translation>
+    </message>
+    <message>
+        <source>%1 changed</source>
+        <translation>Pakeista: %1</translation>
+    </message>
+    <message>
+        <source>%1 changed from %2 to %3</source>
+        <translation>%1: pakeista iš %2 į %3</translation>
+    </message>
+</context>
+<context>
+    <name>kartella::Trash</name>
+    <message>
+        <source>The document is no longer in the register: another user may have deleted it.</source>
+        <translation>Dokumento registre nebėra: galbūt jį pašalino kitas naudotojas.</translation>
+    </message>
+    <message>
+        <source>The related document is no longer in the register: another user may have deleted it.</source>
+        <translation>Susijusio dokumento registre nebėra: galbūt jį pašalino kitas naudotojas.</translation>
+    </message>
+    <message>
+        <source>The category is no longer in the register: another user may have deleted it.</source>
+        <translation>Kategorijos registre nebėra: galbūt ją pašalino kitas naudotojas.</translation>
+    </message>
+    <message>
+        <source>The subcategory is no longer in the register: another user may have deleted it.</source>
+        <translation>Pakategorės registre nebėra: galbūt ją pašalino kitas naudotojas.</translation>
+    </message>
+    <message>
+        <source>The contact is no longer in the register: another user may have deleted it.</source>
+        <translation>Kontakto registre nebėra: galbūt jį pašalino kitas naudotojas.</translation>
+    </message>
+    <message>
+        <source>No folder is named for the trash of this register: its files can&apos;t be kept.</source>
+        <translation>Šio registro šiukšlinei nenurodytas aplankas: jo failų išsaugoti negalima.</translation>
+    </message>
+    <message>
+        <source>The file could not be moved to the trash:
+%1
+(to %2)</source>
+        <translation>Failo nepavyko perkelti į šiukšlinę:
+%1
+(į %2)</translation>
+    </message>
+    <message>
+        <source>Choose the shared folder where the register keeps deleted files and earlier versions</source>
+        <translation>Pasirinkite bendrą aplanką, kuriame registras laikys pašalintus failus ir ankstesnes versijas</translation>
+    </message>
+    <message>
+        <source>Unable to delete as requested</source>
+        <translation>Nepavyko pašalinti, kaip prašyta</translation>
+    </message>
+    <message>
+        <source>Another file took the place of a restored one meanwhile; the restored file got a new name:</source>
+        <translation>Tuo metu atkurto failo vietą užėmė kitas failas; atkurtas failas gavo naują pavadinimą:</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Atkurti</translation>
+    </message>
+    <message>
+        <source>The deleted item is no longer in the register: another user may have deleted it.</source>
+        <translation>Pašalinto elemento registre nebėra: galbūt jį pašalino kitas naudotojas.</translation>
+    </message>
+    <message>
+        <source>No folder is named for the trash of this register: the files of &quot;%1&quot; can&apos;t be put back.</source>
+        <translation>Šio registro šiukšlinei nenurodytas aplankas: „%1“ failų grąžinti negalima.</translation>
+    </message>
+    <message>
+        <source>The file of &quot;%1&quot; is missing from the trash:
+%2</source>
+        <translation>Šiukšlinėje nėra „%1“ failo:
+%2</translation>
+    </message>
+    <message>
+        <source>The file could not be put back:
+%1</source>
+        <translation>Failo nepavyko grąžinti:
+%1</translation>
+    </message>
+    <message>
+        <source>The rows of a deleted item could not be read: %1</source>
+        <translation>Nepavyko perskaityti pašalinto elemento eilučių: %1</translation>
+    </message>
+</context>
+<context>
+    <name>kartella::VersionList</name>
+    <message>
+        <source>&amp;Earlier versions of the file:</source>
+        <translation>A&amp;nkstesnės failo versijos:</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <translation>Išsaugota</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Dydis</translation>
+    </message>
+    <message>
+        <source>Replaced by</source>
+        <translation>Pakeitė</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Atverti</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>Atku&amp;rti</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Atkurti</translation>
+    </message>
+</context>
+<context>
+    <name>kartella::Versions</name>
+    <message>
+        <source>New Version</source>
+        <translation>Nauja versija</translation>
+    </message>
+    <message>
+        <source>Select document, please!</source>
+        <translation>Pasirinkite dokumentą!</translation>
+    </message>
+    <message>
+        <source>This document has no file to replace.</source>
+        <translation>Šis dokumentas neturi failo, kurį būtų galima pakeisti.</translation>
+    </message>
+    <message>
+        <source>New version of %1</source>
+        <translation>Nauja %1 versija</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Visi failai</translation>
+    </message>
+    <message>
+        <source>This is the document&apos;s own file.</source>
+        <translation>Tai paties dokumento failas.</translation>
+    </message>
+    <message>
+        <source>The file could not be copied to %1.</source>
+        <translation>Failo nepavyko nukopijuoti į %1.</translation>
+    </message>
+    <message>
+        <source>The file %1 could not be replaced.</source>
+        <translation>Failo %1 nepavyko pakeisti.</translation>
+    </message>
+    <message>
+        <source>No folder is named for the versions of this register&apos;s files.</source>
+        <translation>Šio registro failų versijoms nenurodytas aplankas.</translation>
+    </message>
+    <message>
+        <source>An earlier version of the file could not be kept in %1.</source>
+        <translation>Ankstesnės failo versijos nepavyko išsaugoti aplanke %1.</translation>
+    </message>
+    <message>
+        <source>The file %1 was not found.</source>
+        <translation>Failas %1 nerastas.</translation>
+    </message>
+    <message>
+        <source>The version %1 is no longer kept.</source>
+        <translation>Versija %1 nebesaugoma.</translation>
+    </message>
+    <message>
+        <source>The version %1 could not be read.</source>
+        <translation>Versijos %1 nepavyko perskaityti.</translation>
+    </message>
+</context>
+</TS>
