@@ -473,6 +473,71 @@
     </message>
 </context>
 <context>
+    <name>kartella::TextIndexer</name>
+    <message>
+        <source>Reading files: %1 of %2</source>
+        <translation>Skaitomi failai: %1 iš %2</translation>
+    </message>
+</context>
+<context>
+    <name>kartella::TextRecognitionPass</name>
+    <message>
+        <source>Recognising text: %1 of %2</source>
+        <translation>Atpažįstamas tekstas: %1 iš %2</translation>
+    </message>
+</context>
+<context>
+    <name>kartella::TextStore</name>
+    <message>
+        <source>damaged</source>
+        <translation>pažeistas</translation>
+    </message>
+    <message>
+        <source>password-protected</source>
+        <translation>apsaugotas slaptažodžiu</translation>
+    </message>
+    <message>
+        <source>file not found</source>
+        <translation>failas nerastas</translation>
+    </message>
+    <message>
+        <source>LibreOffice or catdoc is not installed</source>
+        <translation>neįdiegta LibreOffice arba catdoc</translation>
+    </message>
+    <message>
+        <source>can&apos;t be opened</source>
+        <translation>negalima atverti</translation>
+    </message>
+    <message>
+        <source>larger than %1 MB</source>
+        <translation>didesnis nei %1 MB</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Perskaitytas</translation>
+    </message>
+    <message>
+        <source>No text in this kind of file</source>
+        <translation>Šios rūšies failuose teksto nėra</translation>
+    </message>
+    <message>
+        <source>Needs text recognition (a scanned PDF)</source>
+        <translation>Reikia atpažinti tekstą (nuskaitytas PDF)</translation>
+    </message>
+    <message>
+        <source>Not read: %1</source>
+        <translation>Neperskaitytas: %1</translation>
+    </message>
+    <message>
+        <source>unknown reason</source>
+        <translation>priežastis nežinoma</translation>
+    </message>
+    <message>
+        <source>Not read yet</source>
+        <translation>Dar neperskaitytas</translation>
+    </message>
+</context>
+<context>
     <name>kartella::Trash</name>
     <message>
         <source>The document is no longer in the register: another user may have deleted it.</source>
