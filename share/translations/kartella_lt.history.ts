@@ -2,6 +2,57 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="lt_LT" sourcelanguage="en">
 <context>
+    <name>kartella::ChangedRowPrompt</name>
+    <message>
+        <source>(empty)</source>
+        <translation>(tuščia)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>This document was changed by another user since you opened it.</source>
+        <translation>Kol dokumentas buvo atvertas, jį pakeitė kitas naudotojas.</translation>
+    </message>
+    <message>
+        <source>This related document was changed by another user since you opened it.</source>
+        <translation>Kol susijęs dokumentas buvo atvertas, jį pakeitė kitas naudotojas.</translation>
+    </message>
+    <message>
+        <source>This contact was changed by another user since you opened it.</source>
+        <translation>Kol kontaktas buvo atvertas, jį pakeitė kitas naudotojas.</translation>
+    </message>
+    <message>
+        <source>This category was changed by another user since you opened it.</source>
+        <translation>Kol kategorija buvo atverta, ją pakeitė kitas naudotojas.</translation>
+    </message>
+    <message>
+        <source>This %1 was changed by another user since you opened it.</source>
+        <translation>Kol šis įrašas (%1) buvo atvertas, jį pakeitė kitas naudotojas.</translation>
+    </message>
+    <message>
+        <source>%1: stored %2, yours %3</source>
+        <translation>%1: įrašyta %2, jūsų %3</translation>
+    </message>
+    <message>
+        <source>Reload shows what is stored now, and you may type again. Keep Mine stores yours over it. Cancel goes back to what you typed.</source>
+        <translation>„Įkelti iš naujo“ parodys, kas įrašyta dabar, ir galėsite įvesti dar kartą. „Palikti mano“ įrašys jūsų reikšmes vietoj jų. „Atsisakyti“ grąžins tai, ką įvedėte.</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>Į&amp;kelti iš naujo</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Mine</source>
+        <translation>&amp;Palikti mano</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Atsisakyti</translation>
+    </message>
+</context>
+<context>
     <name>kartella::DeletedItemsWindow</name>
     <message>
         <source>Deleted items</source>
@@ -74,6 +125,284 @@
     <message>
         <source>Empty Trash</source>
         <translation>Išvalyti šiukšlinę</translation>
+    </message>
+</context>
+<context>
+    <name>kartella::DesktopShell</name>
+    <message>
+        <source>Moving File</source>
+        <translation>Failas perkeliamas</translation>
+    </message>
+    <message>
+        <source>Copying File</source>
+        <translation>Failas kopijuojamas</translation>
+    </message>
+    <message>
+        <source>Moving &apos;%1&apos; to &apos;%2&apos;...</source>
+        <translation>„%1“ perkeliamas į „%2“...</translation>
+    </message>
+    <message>
+        <source>Copying &apos;%1&apos; to &apos;%2&apos;...</source>
+        <translation>„%1“ kopijuojamas į „%2“...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Atsisakyti</translation>
+    </message>
+    <message>
+        <source>No program on this desktop opens files of the type %1.<byte value="xd"/><byte value="xd"/>Install a program for this type of file, or choose one for it in the desktop&apos;s settings, then open the document again.</source>
+        <translation>Šiame darbalaukyje nėra programos, kuri atvertų šio tipo failus: %1.<byte value="xd"/><byte value="xd"/>Įdiekite programą šio tipo failams arba pasirinkite ją darbalaukio nuostatose, tada dokumentą atverkite dar kartą.</translation>
+    </message>
+    <message>
+        <source>Unable to open Document</source>
+        <translation>Nepavyko atverti dokumento</translation>
+    </message>
+</context>
+<context>
+    <name>kartella::DialogParts</name>
+    <message>
+        <source>Category</source>
+        <translation>Kategorija</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Kryptis</translation>
+    </message>
+    <message>
+        <source>Inner</source>
+        <translation>Vidinis</translation>
+    </message>
+    <message>
+        <source>Outgoing</source>
+        <translation>Siunčiamas</translation>
+    </message>
+    <message>
+        <source>Incoming</source>
+        <translation>Gaunamas</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Kitas</translation>
+    </message>
+    <message>
+        <source>Create With</source>
+        <translation>Sukurti su</translation>
+    </message>
+    <message>
+        <source>&amp;Add Existing</source>
+        <translation>Pr&amp;idėti esamą</translation>
+    </message>
+    <message>
+        <source>You have details changes that have not applied.
+
+Do you want to apply these now?</source>
+        <translation>Yra nepritaikytų išsamios informacijos pakeitimų.
+
+Ar pritaikyti juos dabar?</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Įspėjimas</translation>
+    </message>
+    <message>
+        <source>Error: %1 %2</source>
+        <translation>Klaida: %1 %2</translation>
+    </message>
+    <message>
+        <source>This document was deleted by another user; your changes were not saved.</source>
+        <translation>Dokumentą pašalino kitas naudotojas; jūsų pakeitimai neįrašyti.</translation>
+    </message>
+    <message>
+        <source>This related document was deleted by another user; your changes were not saved.</source>
+        <translation>Susijusį dokumentą pašalino kitas naudotojas; jūsų pakeitimai neįrašyti.</translation>
+    </message>
+    <message>
+        <source>This contact was deleted by another user; your changes were not saved.</source>
+        <translation>Kontaktą pašalino kitas naudotojas; jūsų pakeitimai neįrašyti.</translation>
+    </message>
+    <message>
+        <source>This category was deleted by another user; your changes were not saved.</source>
+        <translation>Kategoriją pašalino kitas naudotojas; jūsų pakeitimai neįrašyti.</translation>
+    </message>
+    <message>
+        <source>This %1 was deleted by another user; your changes were not saved.</source>
+        <translation>Šį įrašą (%1) pašalino kitas naudotojas; jūsų pakeitimai neįrašyti.</translation>
+    </message>
+</context>
+<context>
+    <name>kartella::FieldBinder</name>
+    <message>
+        <source>&quot;%1&quot; in &quot;%2&quot; isn&apos;t a date. Type the date as %3, please.</source>
+        <translation>„%1“ lauke „%2“ nėra data. Įveskite datą taip: %3.</translation>
+    </message>
+</context>
+<context>
+    <name>kartella::FileInfo</name>
+    <message>
+        <source>API Error</source>
+        <translation>API klaida</translation>
+    </message>
+    <message>
+        <source>Operating System Error</source>
+        <translation>Operacinės sistemos klaida</translation>
+    </message>
+</context>
+<context>
+    <name>kartella::FilePropertiesDialog</name>
+    <message>
+        <source>%1 Properties</source>
+        <translation>%1 – savybės</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Pavadinimas:</translation>
+    </message>
+    <message>
+        <source>&amp;Type:</source>
+        <translation>&amp;Tipas:</translation>
+    </message>
+    <message>
+        <source>&amp;Size:</source>
+        <translation>&amp;Dydis:</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Aplankas:</translation>
+    </message>
+    <message>
+        <source>&amp;Modified:</source>
+        <translation>Pa&amp;keistas:</translation>
+    </message>
+    <message>
+        <source>&amp;Created:</source>
+        <translation>&amp;Sukurtas:</translation>
+    </message>
+    <message>
+        <source>&amp;Permissions:</source>
+        <translation>&amp;Leidimai:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Uždaryti</translation>
+    </message>
+    <message>
+        <source>1 byte</source>
+        <translation>1 baitas</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 B</translation>
+    </message>
+    <message>
+        <source>%1 (%2 bytes)</source>
+        <translation>%1 (%2 B)</translation>
+    </message>
+    <message>
+        <source>Read and write</source>
+        <translation>Skaityti ir rašyti</translation>
+    </message>
+    <message>
+        <source>Read only</source>
+        <translation>Tik skaityti</translation>
+    </message>
+    <message>
+        <source>Write only</source>
+        <translation>Tik rašyti</translation>
+    </message>
+    <message>
+        <source>No access</source>
+        <translation>Prieigos nėra</translation>
+    </message>
+    <message>
+        <source>%1, executable</source>
+        <translation>%1, vykdomasis</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Nuoroda</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nėra</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Nežinoma</translation>
+    </message>
+</context>
+<context>
+    <name>kartella::FileShell</name>
+    <message>
+        <source>The file was copied to &apos;%1&apos;, but the original couldn&apos;t be removed: %2</source>
+        <translation>Failas nukopijuotas į „%1“, bet originalo pašalinti nepavyko: %2</translation>
+    </message>
+    <message>
+        <source>Do you want to permanently delete the file &apos;%1&apos;?</source>
+        <translation>Ar tikrai visam laikui pašalinti failą „%1“?</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; already exists in &apos;%2&apos;. Do you want to replace it?</source>
+        <translation>Failas „%1“ aplanke „%2“ jau yra. Ar jį pakeisti?</translation>
+    </message>
+    <message>
+        <source>Error Deleting File</source>
+        <translation>Klaida šalinant failą</translation>
+    </message>
+    <message>
+        <source>Can&apos;t delete &apos;%1&apos;: the file can&apos;t be found.</source>
+        <translation>Nepavyko pašalinti „%1“: failas nerastas.</translation>
+    </message>
+    <message>
+        <source>Can&apos;t delete &apos;%1&apos;: it is a folder.</source>
+        <translation>Nepavyko pašalinti „%1“: tai aplankas.</translation>
+    </message>
+    <message>
+        <source>Can&apos;t delete &apos;%1&apos;: %2</source>
+        <translation>Nepavyko pašalinti „%1“: %2</translation>
+    </message>
+    <message>
+        <source>Error Moving File</source>
+        <translation>Klaida perkeliant failą</translation>
+    </message>
+    <message>
+        <source>Error Copying File</source>
+        <translation>Klaida kopijuojant failą</translation>
+    </message>
+    <message>
+        <source>Can&apos;t move &apos;%1&apos;: %2</source>
+        <translation>Nepavyko perkelti „%1“: %2</translation>
+    </message>
+    <message>
+        <source>Can&apos;t copy &apos;%1&apos;: %2</source>
+        <translation>Nepavyko nukopijuoti „%1“: %2</translation>
+    </message>
+    <message>
+        <source>the file can&apos;t be found.</source>
+        <translation>failas nerastas.</translation>
+    </message>
+    <message>
+        <source>the folder &apos;%1&apos; doesn&apos;t exist.</source>
+        <translation>aplanko „%1“ nėra.</translation>
+    </message>
+    <message>
+        <source>the source and the target are the same file.</source>
+        <translation>šaltinis ir paskirtis yra tas pats failas.</translation>
+    </message>
+    <message>
+        <source>a folder of that name exists in &apos;%1&apos;.</source>
+        <translation>aplanke „%1“ yra tokio pavadinimo aplankas.</translation>
+    </message>
+    <message>
+        <source>Delete File</source>
+        <translation>Failo šalinimas</translation>
+    </message>
+    <message>
+        <source>Confirm File Replace</source>
+        <translation>Failo pakeitimo patvirtinimas</translation>
     </message>
 </context>
 <context>
@@ -470,6 +799,129 @@
     <message>
         <source>%1 changed from %2 to %3</source>
         <translation>%1: pakeista iš %2 į %3</translation>
+    </message>
+</context>
+<context>
+    <name>kartella::LibreOfficeSuite</name>
+    <message>
+        <source>LibreOffice can&apos;t be found: there is no program &quot;soffice&quot; on the PATH. Install the Debian packages libreoffice-writer-nogui, libreoffice-calc-nogui and libreoffice-impress-nogui.</source>
+        <translation>LibreOffice nerasta: PATH kelyje nėra programos „soffice“. Įdiekite Debian paketus libreoffice-writer-nogui, libreoffice-calc-nogui ir libreoffice-impress-nogui.</translation>
+    </message>
+    <message>
+        <source>(no output)</source>
+        <translation>(nieko neišvesta)</translation>
+    </message>
+    <message>
+        <source>LibreOffice (%1) couldn&apos;t be started: %2</source>
+        <translation>Nepavyko paleisti LibreOffice (%1): %2</translation>
+    </message>
+    <message>
+        <source>LibreOffice didn&apos;t finish making %1 within %2 seconds and was stopped.</source>
+        <translation>LibreOffice nebaigė kurti %1 per %2 s ir buvo sustabdyta.</translation>
+    </message>
+    <message>
+        <source>LibreOffice failed making %1 (exit code %2): %3</source>
+        <translation>LibreOffice nepavyko sukurti %1 (išėjimo kodas %2): %3</translation>
+    </message>
+    <message>
+        <source>The new document has no path.</source>
+        <translation>Naujam dokumentui nenurodytas kelias.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; already exists.</source>
+        <translation>Failas „%1“ jau yra.</translation>
+    </message>
+    <message>
+        <source>The folder &apos;%1&apos; doesn&apos;t exist.</source>
+        <translation>Aplanko „%1“ nėra.</translation>
+    </message>
+    <message>
+        <source>The template &apos;%1&apos; can&apos;t be found.</source>
+        <translation>Šablonas „%1“ nerastas.</translation>
+    </message>
+    <message>
+        <source>No temporary folder for LibreOffice: %1</source>
+        <translation>Nėra laikinojo aplanko LibreOffice programai: %1</translation>
+    </message>
+    <message>
+        <source>The empty document couldn&apos;t be written: %1</source>
+        <translation>Nepavyko įrašyti tuščio dokumento: %1</translation>
+    </message>
+    <message>
+        <source>LibreOffice couldn&apos;t make %1 from &apos;%2&apos;: %3</source>
+        <translation>LibreOffice nepavyko sukurti %1 iš „%2“: %3</translation>
+    </message>
+    <message>
+        <source>The new document couldn&apos;t be moved to &apos;%1&apos;: %2</source>
+        <translation>Nepavyko perkelti naujo dokumento į „%1“: %2</translation>
+    </message>
+    <message>
+        <source>No program could be started to show &apos;%1&apos;.</source>
+        <translation>Nepavyko paleisti programos „%1“ parodyti.</translation>
+    </message>
+</context>
+<context>
+    <name>kartella::NetworkShare</name>
+    <message>
+        <source>a network drive</source>
+        <translation>tinklo diskas</translation>
+    </message>
+    <message>
+        <source>The register is on a network share (%1), whose locks several writers can&apos;t rely on: a workgroup is safer on a PostgreSQL server. Move it there with: kartella-db copy &quot;%2&quot; postgresql://USER@HOST:PORT/DATABASE</source>
+        <translation>Registras yra bendrame tinklo aplanke (%1), kurio užraktais keli rašantieji pasikliauti negali: darbo grupei saugiau PostgreSQL serveryje. Perkelkite jį ten komanda: kartella-db copy &quot;%2&quot; postgresql://USER@HOST:PORT/DATABASE</translation>
+    </message>
+</context>
+<context>
+    <name>kartella::OptionStore</name>
+    <message>
+        <source>ERROR # %1 : 0<byte value="xd"/>Please exit and try again.</source>
+        <translation>KLAIDA Nr. %1 : 0<byte value="xd"/>Baikite darbą ir bandykite dar kartą.</translation>
+    </message>
+    <message>
+        <source>Unable to set Registry Value %1</source>
+        <translation>Nepavyko nustatyti nuostatos reikšmės %1</translation>
+    </message>
+    <message>
+        <source>Unable to get Registry Value %1</source>
+        <translation>Nepavyko gauti nuostatos reikšmės %1</translation>
+    </message>
+    <message>
+        <source>The option %1 can&apos;t be read: it holds &quot;%2&quot; (%3).<byte value="xd"/><byte value="xd"/>Correct it in %4, then try again.</source>
+        <translation>Nuostatos %1 perskaityti nepavyko: jos reikšmė „%2“ (%3).<byte value="xd"/><byte value="xd"/>Pataisykite ją %4 ir bandykite dar kartą.</translation>
+    </message>
+</context>
+<context>
+    <name>kartella::PathUtils</name>
+    <message>
+        <source>The system cannot find the file specified.</source>
+        <translation>Sistema nerado nurodyto failo.</translation>
+    </message>
+    <message>
+        <source>The system cannot find the path specified.</source>
+        <translation>Sistema nerado nurodyto kelio.</translation>
+    </message>
+    <message>
+        <source>Access is denied.</source>
+        <translation>Prieiga uždrausta.</translation>
+    </message>
+    <message>
+        <source>The filename, directory name, or volume label syntax is incorrect.</source>
+        <translation>Neteisinga failo, aplanko ar tomo žymės sintaksė.</translation>
+    </message>
+    <message>
+        <source>The specified path is invalid.</source>
+        <translation>Nurodytas kelias neteisingas.</translation>
+    </message>
+    <message>
+        <source>The filename or extension is too long.</source>
+        <translation>Failo vardas arba plėtinys per ilgas.</translation>
+    </message>
+</context>
+<context>
+    <name>kartella::RecordsetModel</name>
+    <message>
+        <source>This row was deleted by another user; your change was not saved.</source>
+        <translation>Šią eilutę pašalino kitas naudotojas; jūsų pakeitimas neįrašytas.</translation>
     </message>
 </context>
 <context>
