@@ -59,26 +59,6 @@
         <translation>Pašalinti elementai</translation>
     </message>
     <message>
-        <source>document</source>
-        <translation>dokumentas</translation>
-    </message>
-    <message>
-        <source>related document</source>
-        <translation>susijęs dokumentas</translation>
-    </message>
-    <message>
-        <source>category</source>
-        <translation>kategorija</translation>
-    </message>
-    <message>
-        <source>subcategory</source>
-        <translation>pakategorė</translation>
-    </message>
-    <message>
-        <source>contact</source>
-        <translation>kontaktas</translation>
-    </message>
-    <message>
         <source>&amp;Deleted items:</source>
         <translation>&amp;Pašalinti elementai:</translation>
     </message>
@@ -1062,6 +1042,26 @@ Ar pritaikyti juos dabar?</translation>
     <message>
         <source>The rows of a deleted item could not be read: %1</source>
         <translation>Nepavyko perskaityti pašalinto elemento eilučių: %1</translation>
+    </message>
+    <message>
+        <source>document</source>
+        <translation>dokumentas</translation>
+    </message>
+    <message>
+        <source>related document</source>
+        <translation>susijęs dokumentas</translation>
+    </message>
+    <message>
+        <source>category</source>
+        <translation>kategorija</translation>
+    </message>
+    <message>
+        <source>subcategory</source>
+        <translation>pakategorė</translation>
+    </message>
+    <message>
+        <source>contact</source>
+        <translation>kontaktas</translation>
     </message>
 </context>
 <context>

@@ -41,22 +41,6 @@ bool onTrash(Work work)
     }
 }
 
-// The register keeps an item's kind in English (TrashKind); the list shows it in the
-// interface's language.
-QString kindText(const QString& kind)
-{
-    static const char* const kinds[] = {QT_TRANSLATE_NOOP("kartella::DeletedItemsWindow", "document"),
-        QT_TRANSLATE_NOOP("kartella::DeletedItemsWindow", "related document"),
-        QT_TRANSLATE_NOOP("kartella::DeletedItemsWindow", "category"),
-        QT_TRANSLATE_NOOP("kartella::DeletedItemsWindow", "subcategory"),
-        QT_TRANSLATE_NOOP("kartella::DeletedItemsWindow", "contact")};
-    for (const char* known : kinds) {
-        if (kind == QLatin1String(known))
-            return DeletedItemsWindow::tr(known);
-    }
-    return kind;
-}
-
 } // namespace
 
 DeletedItemsWindow::DeletedItemsWindow(QWidget* parent)
@@ -117,7 +101,7 @@ void DeletedItemsWindow::fill()
             if (!item.registrationIndex.isEmpty())
                 what += QStringLiteral(" (%1)").arg(item.registrationIndex);
             auto* row = new QTreeWidgetItem(m_items,
-                {what, kindText(item.kind), item.deletedBy,
+                {what, TrashKind::shownName(item.kind), item.deletedBy,
                     QLocale().toString(item.deletedAt.toLocalTime(), QLocale::ShortFormat)});
             row->setData(0, ItemIdRole, item.id);
         }

@@ -17,6 +17,19 @@
 
 namespace kartella {
 
+QString TrashKind::shownName(const QString& kind)
+{
+    static const char* const kinds[] = {QT_TRANSLATE_NOOP("kartella::Trash", "document"),
+        QT_TRANSLATE_NOOP("kartella::Trash", "related document"),
+        QT_TRANSLATE_NOOP("kartella::Trash", "category"), QT_TRANSLATE_NOOP("kartella::Trash", "subcategory"),
+        QT_TRANSLATE_NOOP("kartella::Trash", "contact")};
+    for (const char* known : kinds) {
+        if (kind == QLatin1String(known))
+            return QCoreApplication::translate("kartella::Trash", known);
+    }
+    return kind;
+}
+
 using namespace trash;
 
 Trash::Trash(Connection& connection, QString folder)
