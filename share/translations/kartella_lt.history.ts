@@ -64,7 +64,7 @@
     </message>
     <message>
         <source>What</source>
-        <translation>Kas</translation>
+        <translation>Elementas</translation>
     </message>
     <message>
         <source>Kind</source>

@@ -323,7 +323,7 @@ void TrashTest::deletedItemsWindowSpeaksLithuanian()
     QStringList headers;
     for (int column = 0; column < list->columnCount(); ++column)
         headers << list->headerItem()->text(column);
-    QCOMPARE(headers, (QStringList {"Kas", "Rūšis", "Pašalino", "Kada"}));
+    QCOMPARE(headers, (QStringList {"Elementas", "Rūšis", "Pašalino", "Kada"}));
     QCOMPARE(window.findChild<QLabel*>()->text(), QString("&Pašalinti elementai:"));
     QCOMPARE(window.findChild<QPushButton*>("cmdRestore")->text(), QString("&Atkurti"));
     QCOMPARE(window.findChild<QPushButton*>("cmdDelete")->text(), QString("Ša&linti"));
