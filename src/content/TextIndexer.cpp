@@ -5,6 +5,7 @@
 #include "store/engine/Connection.h"
 #include "store/engine/Value.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QFileInfo>
 
@@ -182,7 +183,8 @@ QString groupedNumber(qint64 number)
 
 QString readingProgressText(int done, int total)
 {
-    return QStringLiteral("Reading files: %1 of %2").arg(groupedNumber(done), groupedNumber(total));
+    return QCoreApplication::translate("kartella::TextIndexer", "Reading files: %1 of %2")
+        .arg(groupedNumber(done), groupedNumber(total));
 }
 
 } // namespace kartella

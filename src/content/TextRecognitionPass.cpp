@@ -9,9 +9,11 @@
 #include "store/engine/Connection.h"
 #include "store/engine/Value.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QFileInfo>
 #include <QMutex>
+#include <QRegularExpression>
 #include <QThread>
 #include <QThreadPool>
 
@@ -22,9 +24,12 @@ namespace kartella {
 
 namespace {
 
+// The reason stored for a language without its data, in whichever language the desktop that
+// stored it spoke: it names the package to install, and a package's name is never translated.
 bool isMissingLanguageReason(const QString& reason)
 {
-    return reason.startsWith(QStringLiteral("Text recognition has no data"));
+    static const QRegularExpression package(QStringLiteral("(^|\\s)tesseract-ocr-[a-z]"));
+    return reason.startsWith(QLatin1String("Text recognition has no data")) || reason.contains(package);
 }
 
 // An engine per pool thread, kept while the thread lives: loading the languages costs more
@@ -196,7 +201,8 @@ std::optional<DocumentText> TextRecognitionPass::recognise(const DocumentText& s
 
 QString recognitionProgressText(int done, int total)
 {
-    return QStringLiteral("Recognising text: %1 of %2").arg(groupedNumber(done), groupedNumber(total));
+    return QCoreApplication::translate("kartella::TextRecognitionPass", "Recognising text: %1 of %2")
+        .arg(groupedNumber(done), groupedNumber(total));
 }
 
 } // namespace kartella

@@ -5,6 +5,9 @@
 #include "store/engine/SqlText.h"
 #include "store/engine/Value.h"
 
+#include <QCoreApplication>
+#include <QRegularExpression>
+
 namespace kartella {
 
 namespace {
@@ -113,21 +116,47 @@ void removeDocumentText(Connection& connection, qint32 documentId)
         QStringLiteral("DELETE FROM tbl_Document_Text WHERE RastasID=") + QString::number(documentId));
 }
 
+namespace {
+
+// The register keeps a reason as the reader gave it, in English (TextReason); the ones the
+// readers give are shown in the interface's language, others (the system's) as they are.
+QString reasonText(const QString& reason)
+{
+    static const char* const known[] = {QT_TRANSLATE_NOOP("kartella::TextStore", "damaged"),
+        QT_TRANSLATE_NOOP("kartella::TextStore", "password-protected"),
+        QT_TRANSLATE_NOOP("kartella::TextStore", "file not found"),
+        QT_TRANSLATE_NOOP("kartella::TextStore", "LibreOffice or catdoc is not installed"),
+        QT_TRANSLATE_NOOP("kartella::TextStore", "can't be opened")};
+    for (const char* text : known) {
+        if (reason == QLatin1String(text))
+            return QCoreApplication::translate("kartella::TextStore", text);
+    }
+    static const QRegularExpression tooLarge(QStringLiteral("^larger than (\\d+) MB$"));
+    const QRegularExpressionMatch match = tooLarge.match(reason);
+    if (match.hasMatch())
+        return QCoreApplication::translate("kartella::TextStore", "larger than %1 MB").arg(match.captured(1));
+    return reason;
+}
+
+} // namespace
+
 QString textStatusText(TextState state, const QString& reason)
 {
     switch (state) {
     case TextState::Read:
-        return QStringLiteral("Read");
+        return QCoreApplication::translate("kartella::TextStore", "Read");
     case TextState::NoText:
-        return QStringLiteral("No text in this kind of file");
+        return QCoreApplication::translate("kartella::TextStore", "No text in this kind of file");
     case TextState::NeedsOcr:
-        return QStringLiteral("Needs text recognition (a scanned PDF)");
+        return QCoreApplication::translate("kartella::TextStore", "Needs text recognition (a scanned PDF)");
     case TextState::Failed:
-        return QStringLiteral("Not read: ") + (reason.isEmpty() ? QStringLiteral("unknown reason") : reason);
+        return QCoreApplication::translate("kartella::TextStore", "Not read: %1")
+            .arg(reason.isEmpty() ? QCoreApplication::translate("kartella::TextStore", "unknown reason")
+                                  : reasonText(reason));
     case TextState::NotRead:
         break;
     }
-    return QStringLiteral("Not read yet");
+    return QCoreApplication::translate("kartella::TextStore", "Not read yet");
 }
 
 } // namespace kartella

@@ -36,7 +36,7 @@ bool onTrash(Work work)
         return true;
     } catch (const Error& error) {
         msgBox(error.description(), MsgBoxStyle::OkOnly + MsgBoxStyle::Critical,
-            QStringLiteral("Deleted items"));
+            DeletedItemsWindow::tr("Deleted items"));
         return false;
     }
 }
@@ -47,26 +47,25 @@ DeletedItemsWindow::DeletedItemsWindow(QWidget* parent)
     : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmDeletedItems"));
-    setWindowTitle(QStringLiteral("Deleted items"));
+    setWindowTitle(tr("Deleted items"));
     auto* layout = new QVBoxLayout(this);
-    auto* label = new QLabel(QStringLiteral("&Deleted items:"), this);
+    auto* label = new QLabel(tr("&Deleted items:"), this);
     m_items = new QTreeWidget(this);
     m_items->setObjectName(QStringLiteral("lstDeletedItems"));
     m_items->setRootIsDecorated(false);
     m_items->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_items->setHeaderLabels({QStringLiteral("What"), QStringLiteral("Kind"), QStringLiteral("Deleted by"),
-        QStringLiteral("When")});
+    m_items->setHeaderLabels({tr("What"), tr("Kind"), tr("Deleted by"), tr("When")});
     m_items->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     label->setBuddy(m_items);
     layout->addWidget(label);
     layout->addWidget(m_items);
 
     auto* buttons = new QDialogButtonBox(this);
-    m_restore = buttons->addButton(QStringLiteral("&Restore"), QDialogButtonBox::ActionRole);
+    m_restore = buttons->addButton(tr("&Restore"), QDialogButtonBox::ActionRole);
     m_restore->setObjectName(QStringLiteral("cmdRestore"));
-    m_delete = buttons->addButton(QStringLiteral("De&lete"), QDialogButtonBox::ActionRole);
+    m_delete = buttons->addButton(tr("De&lete"), QDialogButtonBox::ActionRole);
     m_delete->setObjectName(QStringLiteral("cmdDelete"));
-    m_empty = buttons->addButton(QStringLiteral("&Empty Trash"), QDialogButtonBox::ActionRole);
+    m_empty = buttons->addButton(tr("&Empty Trash"), QDialogButtonBox::ActionRole);
     m_empty->setObjectName(QStringLiteral("cmdEmptyTrash"));
     QPushButton* close = buttons->addButton(QDialogButtonBox::Close);
     close->setObjectName(QStringLiteral("cmdClose"));
@@ -102,7 +101,7 @@ void DeletedItemsWindow::fill()
             if (!item.registrationIndex.isEmpty())
                 what += QStringLiteral(" (%1)").arg(item.registrationIndex);
             auto* row = new QTreeWidgetItem(m_items,
-                {what, item.kind, item.deletedBy,
+                {what, TrashKind::shownName(item.kind), item.deletedBy,
                     QLocale().toString(item.deletedAt.toLocalTime(), QLocale::ShortFormat)});
             row->setData(0, ItemIdRole, item.id);
         }
@@ -143,9 +142,9 @@ void DeletedItemsWindow::deleteSelected()
     const QTreeWidgetItem* row = m_items->currentItem();
     if (!row)
         return;
-    if (msgBox(QStringLiteral("Delete \"%1\" for good? It can't be restored afterwards.").arg(row->text(0)),
+    if (msgBox(tr("Delete \"%1\" for good? It can't be restored afterwards.").arg(row->text(0)),
             MsgBoxStyle::YesNo + MsgBoxStyle::Exclamation + MsgBoxStyle::DefaultButton2,
-            QStringLiteral("Confirm Deletion"))
+            tr("Confirm Deletion"))
         != MsgBoxResult::Yes)
         return;
     const qint64 item = selectedItem();
@@ -155,10 +154,9 @@ void DeletedItemsWindow::deleteSelected()
 
 void DeletedItemsWindow::emptyTrash()
 {
-    if (msgBox(QStringLiteral("Delete all %1 deleted items for good? They can't be restored afterwards.")
+    if (msgBox(tr("Delete all %1 deleted items for good? They can't be restored afterwards.")
                    .arg(m_items->topLevelItemCount()),
-            MsgBoxStyle::YesNo + MsgBoxStyle::Exclamation + MsgBoxStyle::DefaultButton2,
-            QStringLiteral("Empty Trash"))
+            MsgBoxStyle::YesNo + MsgBoxStyle::Exclamation + MsgBoxStyle::DefaultButton2, tr("Empty Trash"))
         != MsgBoxResult::Yes)
         return;
     onTrash([](Trash& trash) { trash.empty(); });

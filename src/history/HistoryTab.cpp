@@ -24,14 +24,13 @@ HistoryTab::HistoryTab(Subject subject, std::function<qint64()> key, QWidget* pa
     m_table = new QTableWidget(0, 5, this);
     m_table->setObjectName(QStringLiteral("lstHistory"));
     m_table->setAccessibleName(QStringLiteral("Changes"));
-    m_table->setHorizontalHeaderLabels({QStringLiteral("When"), QStringLiteral("Who"),
-        QStringLiteral("Command"), QStringLiteral("What"), QStringLiteral("Change")});
+    m_table->setHorizontalHeaderLabels({tr("When"), tr("Who"), tr("Command"), tr("What"), tr("Change")});
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setTabKeyNavigation(false);
     m_table->verticalHeader()->setVisible(false);
     m_table->horizontalHeader()->setStretchLastSection(true);
-    auto* label = new QLabel(QStringLiteral("&Changes:"), this);
+    auto* label = new QLabel(tr("&Changes:"), this);
     label->setBuddy(m_table);
     m_layout = new QVBoxLayout(this);
     m_layout->addWidget(label);
@@ -48,7 +47,7 @@ void HistoryTab::showFileVersions(qint64 documentId, const QString& currentPath)
 {
     if (m_versions || documentId <= 0)
         return;
-    auto* caption = new QLabel(QStringLiteral("Earlier &versions of the file:"), this);
+    auto* caption = new QLabel(tr("Earlier &versions of the file:"), this);
     m_versions = new VersionList(documentId, currentPath, this);
     caption->setBuddy(m_versions->list());
     m_layout->addWidget(caption);

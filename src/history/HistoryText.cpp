@@ -5,6 +5,7 @@
 #include "store/engine/Backend.h"
 #include "store/engine/Connection.h"
 
+#include <QCoreApplication>
 #include <QDate>
 #include <QSet>
 
@@ -14,64 +15,82 @@ namespace kartella {
 
 namespace {
 
-using Captions = QHash<QString, QString>;
+using Captions = QHash<QString, const char*>;
+
+// The texts of the tables below, in the interface's language.
+QString translated(const char* text, const char* disambiguation = nullptr)
+{
+    return QCoreApplication::translate("kartella::HistoryText", text, disambiguation);
+}
 
 // By "table.column", lower case.
 const Captions& captions()
 {
     static const Captions known = [] {
         const std::pair<const char*, const char*> pairs[] = {
-            {"tbl_documents.dokantraste", "Description"},
-            {"tbl_documents.contactid", "Sender/Receiver"},
-            {"tbl_documents.rastokel", "Location"},
-            {"tbl_documents.dokgavsiuntdata", "Send/Receive Date"},
-            {"tbl_documents.dokregistracdata", "Registration Date"},
-            {"tbl_documents.dokregistracindeksas", "Registration Index"},
-            {"tbl_documents.kategid", "Category"},
-            {"tbl_documents.subkategid", "Subcategory"},
-            {"tbl_documents.kryptisid", "Direction"},
-            {"tbl_documents.dokpastaba", "Notes"},
-            {"tbl_documents.dokvykdytojas", "Executor"},
-            {"tbl_documents.dokivykdymozyma", "Execution mark"},
-            {"tbl_sub_documents.subdocdescript", "Related Document Description"},
-            {"tbl_sub_documents.subrastgavimodata", "Send/Receive Date"},
-            {"tbl_sub_documents.contactid", "Sender/Receiver"},
-            {"tbl_sub_documents.subrastokelias", "Location"},
-            {"tbl_sub_documents.rastasid", "Parent Document"},
-            {"tbl_tickler.ticklerdate", "Reminder date"},
-            {"tbl_tickler.ticklertext", "Reminder text"},
-            {"tbl_tickler.ticklerdone", "Done"},
-            {"tbl_document_categories.dokkategorija", "Category"},
-            {"tbl_document_categories.dokkategdaug", "Category (plural)"},
-            {"tbl_document_categories.doktemplates", "Template"},
-            {"tbl_document_categories.doktemplatesexel", "Spreadsheet template"},
-            {"tbl_document_categories.doktemplatespowpoint", "Presentation template"},
-            {"tbl_sub_categories.doksubkategorija", "Subcategory"},
-            {"tbl_sub_categories.kategid", "Category"},
-            {"tbl_sub_categories.subpathtofiles", "Folder of files"},
-            {"tbl_sub_categories.subdoktemplates", "Template"},
-            {"tbl_sub_categories.subdoktemplatesexel", "Spreadsheet template"},
-            {"tbl_sub_categories.subdoktemplatespowpoint", "Presentation template"},
-            {"tbl_contacts.companyname", "Company Name"},
-            {"tbl_contacts.title", "Title"},
-            {"tbl_contacts.dear", "Dear"},
-            {"tbl_contacts.fullname", "FullName"},
-            {"tbl_contacts.address", "Address"},
-            {"tbl_contacts.city", "City"},
-            {"tbl_contacts.stateorprovince", "State/Province"},
-            {"tbl_contacts.postalcode", "Zip/Postal Code"},
-            {"tbl_contacts.region", "Region"},
-            {"tbl_contacts.country", "Country"},
-            {"tbl_contacts.emailname", "EmailName"},
-            {"tbl_contacts.notes", "Notes"},
-            {"tbl_phones.phonename", "Phone"},
-            {"tbl_phones.phonenumber", "Phone number"},
-            {"tbl_homepages.description", "Web page"},
-            {"tbl_homepages.homewww", "Web address"},
+            {"tbl_documents.dokantraste", QT_TRANSLATE_NOOP("kartella::HistoryText", "Description")},
+            {"tbl_documents.contactid", QT_TRANSLATE_NOOP("kartella::HistoryText", "Sender/Receiver")},
+            {"tbl_documents.rastokel", QT_TRANSLATE_NOOP("kartella::HistoryText", "Location")},
+            {"tbl_documents.dokgavsiuntdata",
+                QT_TRANSLATE_NOOP("kartella::HistoryText", "Send/Receive Date")},
+            {"tbl_documents.dokregistracdata",
+                QT_TRANSLATE_NOOP("kartella::HistoryText", "Registration Date")},
+            {"tbl_documents.dokregistracindeksas",
+                QT_TRANSLATE_NOOP("kartella::HistoryText", "Registration Index")},
+            {"tbl_documents.kategid", QT_TRANSLATE_NOOP("kartella::HistoryText", "Category")},
+            {"tbl_documents.subkategid", QT_TRANSLATE_NOOP("kartella::HistoryText", "Subcategory")},
+            {"tbl_documents.kryptisid", QT_TRANSLATE_NOOP("kartella::HistoryText", "Direction")},
+            {"tbl_documents.dokpastaba", QT_TRANSLATE_NOOP("kartella::HistoryText", "Notes")},
+            {"tbl_documents.dokvykdytojas", QT_TRANSLATE_NOOP("kartella::HistoryText", "Executor")},
+            {"tbl_documents.dokivykdymozyma", QT_TRANSLATE_NOOP("kartella::HistoryText", "Execution mark")},
+            {"tbl_sub_documents.subdocdescript",
+                QT_TRANSLATE_NOOP("kartella::HistoryText", "Related Document Description")},
+            {"tbl_sub_documents.subrastgavimodata",
+                QT_TRANSLATE_NOOP("kartella::HistoryText", "Send/Receive Date")},
+            {"tbl_sub_documents.contactid", QT_TRANSLATE_NOOP("kartella::HistoryText", "Sender/Receiver")},
+            {"tbl_sub_documents.subrastokelias", QT_TRANSLATE_NOOP("kartella::HistoryText", "Location")},
+            {"tbl_sub_documents.rastasid", QT_TRANSLATE_NOOP("kartella::HistoryText", "Parent Document")},
+            {"tbl_tickler.ticklerdate", QT_TRANSLATE_NOOP("kartella::HistoryText", "Reminder date")},
+            {"tbl_tickler.ticklertext", QT_TRANSLATE_NOOP("kartella::HistoryText", "Reminder text")},
+            {"tbl_tickler.ticklerdone", QT_TRANSLATE_NOOP("kartella::HistoryText", "Done")},
+            {"tbl_document_categories.dokkategorija", QT_TRANSLATE_NOOP("kartella::HistoryText", "Category")},
+            {"tbl_document_categories.dokkategdaug",
+                QT_TRANSLATE_NOOP("kartella::HistoryText", "Category (plural)")},
+            {"tbl_document_categories.doktemplates", QT_TRANSLATE_NOOP("kartella::HistoryText", "Template")},
+            {"tbl_document_categories.doktemplatesexel",
+                QT_TRANSLATE_NOOP("kartella::HistoryText", "Spreadsheet template")},
+            {"tbl_document_categories.doktemplatespowpoint",
+                QT_TRANSLATE_NOOP("kartella::HistoryText", "Presentation template")},
+            {"tbl_sub_categories.doksubkategorija",
+                QT_TRANSLATE_NOOP("kartella::HistoryText", "Subcategory")},
+            {"tbl_sub_categories.kategid", QT_TRANSLATE_NOOP("kartella::HistoryText", "Category")},
+            {"tbl_sub_categories.subpathtofiles",
+                QT_TRANSLATE_NOOP("kartella::HistoryText", "Folder of files")},
+            {"tbl_sub_categories.subdoktemplates", QT_TRANSLATE_NOOP("kartella::HistoryText", "Template")},
+            {"tbl_sub_categories.subdoktemplatesexel",
+                QT_TRANSLATE_NOOP("kartella::HistoryText", "Spreadsheet template")},
+            {"tbl_sub_categories.subdoktemplatespowpoint",
+                QT_TRANSLATE_NOOP("kartella::HistoryText", "Presentation template")},
+            {"tbl_contacts.companyname", QT_TRANSLATE_NOOP("kartella::HistoryText", "Company Name")},
+            {"tbl_contacts.title", QT_TRANSLATE_NOOP("kartella::HistoryText", "Title")},
+            {"tbl_contacts.dear", QT_TRANSLATE_NOOP("kartella::HistoryText", "Dear")},
+            {"tbl_contacts.fullname", QT_TRANSLATE_NOOP("kartella::HistoryText", "FullName")},
+            {"tbl_contacts.address", QT_TRANSLATE_NOOP("kartella::HistoryText", "Address")},
+            {"tbl_contacts.city", QT_TRANSLATE_NOOP("kartella::HistoryText", "City")},
+            {"tbl_contacts.stateorprovince", QT_TRANSLATE_NOOP("kartella::HistoryText", "State/Province")},
+            {"tbl_contacts.postalcode", QT_TRANSLATE_NOOP("kartella::HistoryText", "Zip/Postal Code")},
+            {"tbl_contacts.region", QT_TRANSLATE_NOOP("kartella::HistoryText", "Region")},
+            {"tbl_contacts.country", QT_TRANSLATE_NOOP("kartella::HistoryText", "Country")},
+            {"tbl_contacts.emailname", QT_TRANSLATE_NOOP("kartella::HistoryText", "EmailName")},
+            {"tbl_contacts.notes", QT_TRANSLATE_NOOP("kartella::HistoryText", "Notes")},
+            {"tbl_phones.phonename", QT_TRANSLATE_NOOP("kartella::HistoryText", "Phone")},
+            {"tbl_phones.phonenumber", QT_TRANSLATE_NOOP("kartella::HistoryText", "Phone number")},
+            {"tbl_homepages.description", QT_TRANSLATE_NOOP("kartella::HistoryText", "Web page")},
+            {"tbl_homepages.homewww", QT_TRANSLATE_NOOP("kartella::HistoryText", "Web address")},
         };
         Captions map;
         for (const auto& [key, caption] : pairs)
-            map.insert(QLatin1String(key), QLatin1String(caption));
+            map.insert(QLatin1String(key), caption);
         return map;
     }();
     return known;
@@ -81,10 +100,10 @@ const Captions& captions()
 QString valueText(const QVariant& value)
 {
     if (value.isNull() || !value.isValid())
-        return QStringLiteral("(empty)");
+        return QCoreApplication::translate("kartella::HistoryText", "(empty)");
     const QString text = value.toString();
     if (text.isEmpty())
-        return QStringLiteral("(empty)");
+        return QCoreApplication::translate("kartella::HistoryText", "(empty)");
     // A date written by either back end: the day alone, or the day and a time of midnight.
     const QString day = text.left(10);
     if (text.size() >= 10 && text.at(4) == u'-' && text.at(7) == u'-'
@@ -94,7 +113,7 @@ QString valueText(const QVariant& value)
         if (date.isValid())
             return displayText(date);
     }
-    return u'"' + text + u'"';
+    return QCoreApplication::translate("kartella::HistoryText", "\"%1\"").arg(text);
 }
 
 // Which names a column's keys stand for.
@@ -119,8 +138,11 @@ KeyKind keyKind(const QString& table, const QString& column)
 // The names of the directions, by their codes, as the details dialog shows them.
 QString directionName(qint64 code)
 {
-    static const char* const names[] = {"Inner", "Outgoing", "Incoming", "Other"};
-    return code >= 1 && code <= 4 ? QLatin1String(names[code - 1]) : QString();
+    static const char* const names[] = {QT_TRANSLATE_NOOP("kartella::HistoryText", "Inner"),
+        QT_TRANSLATE_NOOP("kartella::HistoryText", "Outgoing"),
+        QT_TRANSLATE_NOOP("kartella::HistoryText", "Incoming"),
+        QT_TRANSLATE_NOOP("kartella::HistoryText", "Other")};
+    return code >= 1 && code <= 4 ? translated(names[code - 1]) : QString();
 }
 
 // A key's value as its name, when it has one.
@@ -172,30 +194,103 @@ const HistoryTable* tableOf(const QString& name)
     return nullptr;
 }
 
+// What a table's row is called, and the words for its rows' changes: whole phrases, so that
+// a language can make them agree with the noun.
+struct RowTexts
+{
+    const char* table;
+    const char* noun;
+    const char* added;
+    const char* deleted;
+    const char* changed;
+};
+
+const RowTexts* rowTextsOf(const QString& table)
+{
+    static const RowTexts known[] = {
+        {"tbl_documents", QT_TRANSLATE_NOOP("kartella::HistoryText", "Document"),
+            QT_TRANSLATE_NOOP("kartella::HistoryText", "Document added"),
+            QT_TRANSLATE_NOOP("kartella::HistoryText", "Document deleted"),
+            QT_TRANSLATE_NOOP("kartella::HistoryText", "Document changed")},
+        {"tbl_sub_documents", QT_TRANSLATE_NOOP("kartella::HistoryText", "Related document"),
+            QT_TRANSLATE_NOOP("kartella::HistoryText", "Related document added"),
+            QT_TRANSLATE_NOOP("kartella::HistoryText", "Related document deleted"),
+            QT_TRANSLATE_NOOP("kartella::HistoryText", "Related document changed")},
+        {"tbl_tickler", QT_TRANSLATE_NOOP("kartella::HistoryText", "Reminder"),
+            QT_TRANSLATE_NOOP("kartella::HistoryText", "Reminder added"),
+            QT_TRANSLATE_NOOP("kartella::HistoryText", "Reminder deleted"),
+            QT_TRANSLATE_NOOP("kartella::HistoryText", "Reminder changed")},
+        {"tbl_document_categories", QT_TRANSLATE_NOOP("kartella::HistoryText", "Category"),
+            QT_TRANSLATE_NOOP("kartella::HistoryText", "Category added"),
+            QT_TRANSLATE_NOOP("kartella::HistoryText", "Category deleted"),
+            QT_TRANSLATE_NOOP("kartella::HistoryText", "Category changed")},
+        {"tbl_sub_categories", QT_TRANSLATE_NOOP("kartella::HistoryText", "Subcategory"),
+            QT_TRANSLATE_NOOP("kartella::HistoryText", "Subcategory added"),
+            QT_TRANSLATE_NOOP("kartella::HistoryText", "Subcategory deleted"),
+            QT_TRANSLATE_NOOP("kartella::HistoryText", "Subcategory changed")},
+        {"tbl_contacts", QT_TRANSLATE_NOOP("kartella::HistoryText", "Contact"),
+            QT_TRANSLATE_NOOP("kartella::HistoryText", "Contact added"),
+            QT_TRANSLATE_NOOP("kartella::HistoryText", "Contact deleted"),
+            QT_TRANSLATE_NOOP("kartella::HistoryText", "Contact changed")},
+        {"tbl_phones", QT_TRANSLATE_NOOP("kartella::HistoryText", "Phone"),
+            QT_TRANSLATE_NOOP("kartella::HistoryText", "Phone added"),
+            QT_TRANSLATE_NOOP("kartella::HistoryText", "Phone deleted"),
+            QT_TRANSLATE_NOOP("kartella::HistoryText", "Phone changed")},
+        {"tbl_homepages", QT_TRANSLATE_NOOP("kartella::HistoryText", "Web page"),
+            QT_TRANSLATE_NOOP("kartella::HistoryText", "Web page added"),
+            QT_TRANSLATE_NOOP("kartella::HistoryText", "Web page deleted"),
+            QT_TRANSLATE_NOOP("kartella::HistoryText", "Web page changed")},
+    };
+    for (const RowTexts& texts : known) {
+        if (table.compare(QLatin1String(texts.table), Qt::CaseInsensitive) == 0)
+            return &texts;
+    }
+    return nullptr;
+}
+
+// The register keeps the name of the command that wrote a row in English, as the program
+// names it (CommandScope); a name is translated where it is shown. Each command that writes
+// has its name here.
+struct CommandName
+{
+    const char* source;
+    const char* comment;
+};
+
+const CommandName CommandNames[] = {
+    QT_TRANSLATE_NOOP3("kartella::HistoryText", "New Document", "command"),
+    QT_TRANSLATE_NOOP3("kartella::HistoryText", "Copy/Move", "command"),
+    QT_TRANSLATE_NOOP3("kartella::HistoryText", "Related", "command"),
+    QT_TRANSLATE_NOOP3("kartella::HistoryText", "Details", "command"),
+    QT_TRANSLATE_NOOP3("kartella::HistoryText", "Category", "command"),
+    QT_TRANSLATE_NOOP3("kartella::HistoryText", "Delete", "command"),
+    QT_TRANSLATE_NOOP3("kartella::HistoryText", "Reminders Done", "command"),
+    QT_TRANSLATE_NOOP3("kartella::HistoryText", "Contact", "command"),
+    QT_TRANSLATE_NOOP3("kartella::HistoryText", "Import", "command"),
+    QT_TRANSLATE_NOOP3("kartella::HistoryText", "Restore", "command"),
+};
+
+QString commandName(const QString& command)
+{
+    for (const CommandName& name : CommandNames) {
+        if (command == QLatin1String(name.source))
+            return translated(name.source, name.comment);
+    }
+    return command;
+}
+
 } // namespace
 
 QString columnCaption(const QString& table, const QString& column)
 {
-    return captions().value((table + u'.' + column).toLower(), column);
+    const char* caption = captions().value((table + u'.' + column).toLower(), nullptr);
+    return caption ? translated(caption) : column;
 }
 
 QString rowNoun(const QString& table)
 {
-    static const std::pair<const char*, const char*> nouns[] = {
-        {"tbl_documents", "Document"},
-        {"tbl_sub_documents", "Related document"},
-        {"tbl_tickler", "Reminder"},
-        {"tbl_document_categories", "Category"},
-        {"tbl_sub_categories", "Subcategory"},
-        {"tbl_contacts", "Contact"},
-        {"tbl_phones", "Phone"},
-        {"tbl_homepages", "Web page"},
-    };
-    for (const auto& [name, noun] : nouns) {
-        if (table.compare(QLatin1String(name), Qt::CaseInsensitive) == 0)
-            return QLatin1String(noun);
-    }
-    return table;
+    const RowTexts* texts = rowTextsOf(table);
+    return texts ? translated(texts->noun) : table;
 }
 
 HistoryNames historyNames(Connection& connection, const std::vector<HistoryEntry>& entries)
@@ -253,22 +348,31 @@ std::optional<HistoryLine> historyLine(const HistoryEntry& entry, const HistoryN
     HistoryLine line;
     line.when = entry.changedAt.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
     line.who = entry.who;
-    line.command = entry.anotherProgram ? QStringLiteral("another program") : entry.command;
+    line.command = entry.anotherProgram
+        ? QCoreApplication::translate("kartella::HistoryText", "another program")
+        : commandName(entry.command);
     const KeyKind kind = keyKind(entry.table, entry.column);
     const QVariant before = named(entry.before, kind, names);
     const QVariant after = named(entry.after, kind, names);
-    const QString noun = rowNoun(entry.table);
+    const RowTexts* texts = rowTextsOf(entry.table);
     const QString caption = columnCaption(entry.table, entry.column);
     if (entry.change == QLatin1String("insert")) {
-        line.what = noun + QStringLiteral(" added");
-        line.change = caption + QStringLiteral(": ") + valueText(after);
+        line.what = texts ? translated(texts->added)
+                          : QCoreApplication::translate("kartella::HistoryText", "%1 added").arg(entry.table);
+        line.change
+            = QCoreApplication::translate("kartella::HistoryText", "%1: %2").arg(caption, valueText(after));
     } else if (entry.change == QLatin1String("delete")) {
-        line.what = noun + QStringLiteral(" deleted");
-        line.change = caption + QStringLiteral(" was ") + valueText(before);
+        line.what = texts
+            ? translated(texts->deleted)
+            : QCoreApplication::translate("kartella::HistoryText", "%1 deleted").arg(entry.table);
+        line.change = QCoreApplication::translate("kartella::HistoryText", "%1 was %2")
+                          .arg(caption, valueText(before));
     } else {
-        line.what = noun + QStringLiteral(" changed");
-        line.change = caption + QStringLiteral(" changed from ") + valueText(before) + QStringLiteral(" to ")
-            + valueText(after);
+        line.what = texts
+            ? translated(texts->changed)
+            : QCoreApplication::translate("kartella::HistoryText", "%1 changed").arg(entry.table);
+        line.change = QCoreApplication::translate("kartella::HistoryText", "%1 changed from %2 to %3")
+                          .arg(caption, valueText(before), valueText(after));
     }
     return line;
 }

@@ -12,7 +12,8 @@ namespace kartella {
 
 class Connection;
 
-// A change as a clerk reads it, the same in the History tab and in kartella-db history.
+// A change as a clerk reads it, the same in the History tab and in kartella-db history, in the
+// interface's language (the register keeps its command names and values as they were written).
 struct HistoryLine
 {
     QString when; // local time, yyyy-MM-dd HH:mm:ss

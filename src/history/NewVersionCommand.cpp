@@ -6,6 +6,7 @@
 #include "options/TrashOptions.h"
 #include "platform/Prompter.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -13,24 +14,26 @@ namespace kartella {
 
 bool replaceWithNewVersion(qint64 documentId, const QString& currentPath)
 {
-    const QString title = QStringLiteral("New Version");
+    const QString title = QCoreApplication::translate("kartella::Versions", "New Version");
     if (documentId == 0) {
-        msgBox(QStringLiteral("Select document, please!"), MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation,
-            title);
+        msgBox(QCoreApplication::translate("kartella::Versions", "Select document, please!"),
+            MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation, title);
         return false;
     }
     if (currentPath.isEmpty() || !QFileInfo(currentPath).isFile()) {
-        msgBox(QStringLiteral("This document has no file to replace."),
+        msgBox(QCoreApplication::translate("kartella::Versions", "This document has no file to replace."),
             MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation, title);
         return false;
     }
     const QString chosen = Prompter::instance().openFile(
-        {QStringLiteral("New version of %1").arg(QFileInfo(currentPath).fileName()),
-            QFileInfo(currentPath).absolutePath(), QStringLiteral("All files"), QStringLiteral("*")});
+        {QCoreApplication::translate("kartella::Versions", "New version of %1")
+                .arg(QFileInfo(currentPath).fileName()),
+            QFileInfo(currentPath).absolutePath(),
+            QCoreApplication::translate("kartella::Versions", "All files"), QStringLiteral("*")});
     if (chosen.isEmpty())
         return false;
     if (QFileInfo(chosen).canonicalFilePath() == QFileInfo(currentPath).canonicalFilePath()) {
-        msgBox(QStringLiteral("This is the document's own file."),
+        msgBox(QCoreApplication::translate("kartella::Versions", "This is the document's own file."),
             MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation, title);
         return false;
     }

@@ -7,6 +7,7 @@
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -15,6 +16,19 @@
 #include <QUuid>
 
 namespace kartella {
+
+QString TrashKind::shownName(const QString& kind)
+{
+    static const char* const kinds[] = {QT_TRANSLATE_NOOP("kartella::Trash", "document"),
+        QT_TRANSLATE_NOOP("kartella::Trash", "related document"),
+        QT_TRANSLATE_NOOP("kartella::Trash", "category"), QT_TRANSLATE_NOOP("kartella::Trash", "subcategory"),
+        QT_TRANSLATE_NOOP("kartella::Trash", "contact")};
+    for (const char* known : kinds) {
+        if (kind == QLatin1String(known))
+            return QCoreApplication::translate("kartella::Trash", known);
+    }
+    return kind;
+}
 
 using namespace trash;
 
@@ -44,7 +58,8 @@ qint64 Trash::deleteDocument(qint64 id)
     QList<TableRows> rows {readRows(m_connection, QStringLiteral("tbl_Documents"), QStringLiteral("RastasID"),
         QStringLiteral("RastasID"), {id})};
     if (rows.first().rows.isEmpty())
-        throw gone(QStringLiteral("document"));
+        throw gone(QCoreApplication::translate("kartella::Trash",
+            "The document is no longer in the register: another user may have deleted it."));
     rows << readRows(m_connection, QStringLiteral("tbl_Sub_Documents"), QStringLiteral("SubRastasID"),
         QStringLiteral("RastasID"), {id});
     rows << readRows(m_connection, QStringLiteral("tbl_Tickler"), QStringLiteral("TicklerID"),
@@ -66,7 +81,8 @@ qint64 Trash::deleteRelatedDocument(qint64 id)
     const QList<TableRows> rows {readRows(m_connection, QStringLiteral("tbl_Sub_Documents"),
         QStringLiteral("SubRastasID"), QStringLiteral("SubRastasID"), {id})};
     if (rows.first().rows.isEmpty())
-        throw gone(QStringLiteral("related document"));
+        throw gone(QCoreApplication::translate("kartella::Trash",
+            "The related document is no longer in the register: another user may have deleted it."));
     const QJsonObject related = rows.first().rows.first().toObject();
     Recordset parent;
     parent.open(QStringLiteral("SELECT DokRegistracIndeksas FROM tbl_Documents WHERE RastasID=")
@@ -91,7 +107,8 @@ qint64 Trash::deleteCategory(qint64 id)
         readRows(m_connection, QStringLiteral("tbl_Sub_Categories"), QStringLiteral("SubKategID"),
             QStringLiteral("KategID"), {id})};
     if (rows.first().rows.isEmpty())
-        throw gone(QStringLiteral("category"));
+        throw gone(QCoreApplication::translate("kartella::Trash",
+            "The category is no longer in the register: another user may have deleted it."));
     const TrashItem item {0, TrashKind::Category, id, {},
         textOf(rows.first().rows.first().toObject(), QStringLiteral("DokKategorija")), {}, {}};
     return moveToTrash(item, rows, {}, [&transaction] { transaction.commit(); });
@@ -103,7 +120,8 @@ qint64 Trash::deleteSubCategory(qint64 id)
     const QList<TableRows> rows {readRows(m_connection, QStringLiteral("tbl_Sub_Categories"),
         QStringLiteral("SubKategID"), QStringLiteral("SubKategID"), {id})};
     if (rows.first().rows.isEmpty())
-        throw gone(QStringLiteral("subcategory"));
+        throw gone(QCoreApplication::translate("kartella::Trash",
+            "The subcategory is no longer in the register: another user may have deleted it."));
     const TrashItem item {0, TrashKind::SubCategory, id, {},
         textOf(rows.first().rows.first().toObject(), QStringLiteral("DokSubKategorija")), {}, {}};
     return moveToTrash(item, rows, {}, [&transaction] { transaction.commit(); });
@@ -121,7 +139,8 @@ qint64 Trash::deleteContact(qint64 id)
             QStringLiteral("ContactID"), {id}),
     };
     if (rows.first().rows.isEmpty())
-        throw gone(QStringLiteral("contact"));
+        throw gone(QCoreApplication::translate("kartella::Trash",
+            "The contact is no longer in the register: another user may have deleted it."));
     const QJsonObject contact = rows.first().rows.first().toObject();
     QString name = textOf(contact, QStringLiteral("FullName"));
     if (name.isEmpty())
@@ -193,7 +212,8 @@ qint64 Trash::moveToTrash(const TrashItem& item, const QList<TableRows>& rows,
         m_folder = m_askFolder();
     if (!files.isEmpty() && m_folder.isEmpty())
         throw Error(ErrorNumber::PathFileAccess,
-            QStringLiteral("No folder is named for the trash of this register: its files can't be kept."));
+            QCoreApplication::translate("kartella::Trash",
+                "No folder is named for the trash of this register: its files can't be kept."));
     const QString itemFolder = QUuid::createUuid().toString(QUuid::WithoutBraces);
     QJsonArray fileList;
     QList<QPair<QString, QString>> moved;
@@ -205,7 +225,8 @@ qint64 Trash::moveToTrash(const TrashItem& item, const QList<TableRows>& rows,
             const QString target = QDir(m_folder).filePath(stored);
             if (!moveFile(file.path, target))
                 throw Error(ErrorNumber::PathFileAccess,
-                    QStringLiteral("The file could not be moved to the trash:\n%1\n(to %2)")
+                    QCoreApplication::translate(
+                        "kartella::Trash", "The file could not be moved to the trash:\n%1\n(to %2)")
                         .arg(QDir::toNativeSeparators(file.path), QDir::toNativeSeparators(target)));
             moved.append({file.path, target});
             fileList.append(QJsonObject {{QStringLiteral("table"), file.table},

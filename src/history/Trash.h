@@ -20,6 +20,8 @@ inline const QString RelatedDocument = QStringLiteral("related document");
 inline const QString Category = QStringLiteral("category");
 inline const QString SubCategory = QStringLiteral("subcategory");
 inline const QString Contact = QStringLiteral("contact");
+// A kind as a user reads it, in the interface's language; the register keeps the names above.
+QString shownName(const QString& kind);
 } // namespace TrashKind
 
 // One deleted item: its kind, the key it had, what it was (a document's description and

@@ -6,6 +6,7 @@
 #include "platform/Prompter.h"
 #include "store/engine/Connection.h"
 
+#include <QCoreApplication>
 #include <QDir>
 
 namespace kartella {
@@ -21,7 +22,7 @@ QString askRegisterTrashFolder()
     const QString folder = trashFolderFor(location);
     if (!folder.isEmpty())
         return folder;
-    const QString shared = Prompter::instance().chooseFolder(QStringLiteral(
+    const QString shared = Prompter::instance().chooseFolder(QCoreApplication::translate("kartella::Trash",
         "Choose the shared folder where the register keeps deleted files and earlier versions"));
     if (shared.isEmpty())
         return {};
@@ -38,7 +39,7 @@ bool moveToRegisterTrash(Connection& connection, const QString& kind, qint64 key
         return true;
     } catch (const Error& error) {
         msgBox(error.description(), MsgBoxStyle::OkOnly + MsgBoxStyle::Critical,
-            QStringLiteral("Unable to delete as requested"));
+            QCoreApplication::translate("kartella::Trash", "Unable to delete as requested"));
         return false;
     }
 }
@@ -47,13 +48,13 @@ void tellRenamedFiles(const RestoreOutcome& outcome)
 {
     if (outcome.renamed.isEmpty())
         return;
-    QString text
-        = QStringLiteral("Another file took the place of a restored one meanwhile; the restored file "
-                         "got a new name:");
+    QString text = QCoreApplication::translate("kartella::Trash",
+        "Another file took the place of a restored one meanwhile; the restored file got a new name:");
     for (const auto& [path, renamed] : outcome.renamed)
         text += QStringLiteral("\n%1\n    -> %2")
                     .arg(QDir::toNativeSeparators(path), QDir::toNativeSeparators(renamed));
-    msgBox(text, MsgBoxStyle::OkOnly + MsgBoxStyle::Information, QStringLiteral("Restore"));
+    msgBox(text, MsgBoxStyle::OkOnly + MsgBoxStyle::Information,
+        QCoreApplication::translate("kartella::Trash", "Restore"));
 }
 
 } // namespace kartella

@@ -88,10 +88,9 @@ bool hasTable(Connection& connection, const QString& table)
     }
 }
 
-Error gone(const QString& what)
+Error gone(const QString& message)
 {
-    return Error(ErrorNumber::RowDeleted,
-        QStringLiteral("The %1 is no longer in the register: another user may have deleted it.").arg(what));
+    return Error(ErrorNumber::RowDeleted, message);
 }
 
 } // namespace kartella::trash

@@ -58,7 +58,7 @@ qint64 keyOf(const QJsonObject& row, const QString& column);
 const TableRows* rowsOf(const QList<TableRows>& tables, const QString& table);
 QList<qint64> keysOf(const QList<TableRows>& tables, const QString& table);
 bool hasTable(Connection& connection, const QString& table);
-// The error of a row another user deleted meanwhile.
-Error gone(const QString& what);
+// The error of a row another user deleted meanwhile, saying so in message.
+Error gone(const QString& message);
 
 } // namespace kartella::trash

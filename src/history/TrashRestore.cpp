@@ -5,6 +5,7 @@
 #include "store/engine/Recordset.h"
 #include "store/engine/WriteContext.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -84,7 +85,8 @@ TrashItem Trash::item(qint64 itemId)
     const QList<TrashItem> found
         = readItems(m_connection, ItemColumns + QStringLiteral(" WHERE TrashID=") + QString::number(itemId));
     if (found.isEmpty())
-        throw gone(QStringLiteral("deleted item"));
+        throw gone(QCoreApplication::translate("kartella::Trash",
+            "The deleted item is no longer in the register: another user may have deleted it."));
     return found.first();
 }
 
@@ -137,8 +139,8 @@ void Trash::restoreInside(qint64 itemId, RestoreOutcome& outcome, QList<QPair<QS
     QList<QPair<QString, QString>> toMove;
     if (m_folder.isEmpty() && !files.value(QStringLiteral("files")).toArray().isEmpty())
         throw Error(ErrorNumber::PathFileAccess,
-            QStringLiteral("No folder is named for the trash of this register: the files of \"%1\" can't be "
-                           "put back.")
+            QCoreApplication::translate("kartella::Trash",
+                "No folder is named for the trash of this register: the files of \"%1\" can't be put back.")
                 .arg(restored.title));
     for (const QJsonValue& value : files.value(QStringLiteral("files")).toArray()) {
         const QJsonObject file = value.toObject();
@@ -146,7 +148,8 @@ void Trash::restoreInside(qint64 itemId, RestoreOutcome& outcome, QList<QPair<QS
         const QString from = QDir(m_folder).filePath(file.value(QStringLiteral("stored")).toString());
         if (!QFileInfo::exists(from))
             throw Error(ErrorNumber::PathFileAccess,
-                QStringLiteral("The file of \"%1\" is missing from the trash:\n%2")
+                QCoreApplication::translate(
+                    "kartella::Trash", "The file of \"%1\" is missing from the trash:\n%2")
                     .arg(restored.title, QDir::toNativeSeparators(from)));
         const QString target = freePath(path);
         if (target != path) {
@@ -162,7 +165,8 @@ void Trash::restoreInside(qint64 itemId, RestoreOutcome& outcome, QList<QPair<QS
     for (const auto& [from, target] : std::as_const(toMove)) {
         if (!moveFile(from, target))
             throw Error(ErrorNumber::PathFileAccess,
-                QStringLiteral("The file could not be put back:\n%1").arg(QDir::toNativeSeparators(target)));
+                QCoreApplication::translate("kartella::Trash", "The file could not be put back:\n%1")
+                    .arg(QDir::toNativeSeparators(target)));
         moved.append({from, target});
     }
     outcome.restored.append(restored);

@@ -5,6 +5,7 @@
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
 
+#include <QCoreApplication>
 #include <QDate>
 #include <QDateTime>
 #include <QJsonDocument>
@@ -143,7 +144,8 @@ QList<TableRows> rowsFromJson(const QByteArray& json)
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError || !document.isArray())
         throw Error(ErrorNumber::CommandFailed,
-            QStringLiteral("The rows of a deleted item could not be read: %1").arg(error.errorString()));
+            QCoreApplication::translate("kartella::Trash", "The rows of a deleted item could not be read: %1")
+                .arg(error.errorString()));
     QList<TableRows> tables;
     for (const QJsonValue& table : document.array()) {
         const QJsonObject object = table.toObject();

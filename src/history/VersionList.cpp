@@ -36,19 +36,19 @@ VersionList::VersionList(qint64 documentId, QString currentPath, QWidget* parent
 {
     setObjectName(QStringLiteral("VersionList"));
     auto* layout = new QVBoxLayout(this);
-    auto* label = new QLabel(QStringLiteral("&Earlier versions of the file:"), this);
+    auto* label = new QLabel(tr("&Earlier versions of the file:"), this);
     m_list = new QTreeWidget(this);
     m_list->setObjectName(QStringLiteral("lstVersions"));
     m_list->setRootIsDecorated(false);
-    m_list->setHeaderLabels({QStringLiteral("Kept"), QStringLiteral("Size"), QStringLiteral("Replaced by")});
+    m_list->setHeaderLabels({tr("Kept"), tr("Size"), tr("Replaced by")});
     m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     label->setBuddy(m_list);
     layout->addWidget(label);
     layout->addWidget(m_list);
     auto* buttons = new QHBoxLayout;
-    m_open = new QPushButton(QStringLiteral("&Open"), this);
+    m_open = new QPushButton(tr("&Open"), this);
     m_open->setObjectName(QStringLiteral("cmdOpenVersion"));
-    m_restore = new QPushButton(QStringLiteral("&Restore"), this);
+    m_restore = new QPushButton(tr("&Restore"), this);
     m_restore->setObjectName(QStringLiteral("cmdRestoreVersion"));
     buttons->addStretch();
     buttons->addWidget(m_open);
@@ -105,7 +105,7 @@ void VersionList::restoreSelected()
     try {
         registerVersions().restore(m_documentId, m_currentPath, version);
     } catch (const Error& error) {
-        msgBox(error.description(), MsgBoxStyle::OkOnly + MsgBoxStyle::Critical, QStringLiteral("Restore"));
+        msgBox(error.description(), MsgBoxStyle::OkOnly + MsgBoxStyle::Critical, tr("Restore"));
         return;
     }
     fill();

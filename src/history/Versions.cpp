@@ -4,6 +4,7 @@
 #include "history/Trash.h"
 #include "platform/Clock.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -26,11 +27,13 @@ void copyOver(const QString& from, const QString& to)
     const QString partial = to + QStringLiteral(".partial");
     QFile::remove(partial);
     if (!QFile::copy(from, partial))
-        throw fileError(QStringLiteral("The file could not be copied to %1."), to);
+        throw fileError(
+            QCoreApplication::translate("kartella::Versions", "The file could not be copied to %1."), to);
     QFile::remove(to);
     if (!QFile::rename(partial, to)) {
         QFile::remove(partial);
-        throw fileError(QStringLiteral("The file %1 could not be replaced."), to);
+        throw fileError(
+            QCoreApplication::translate("kartella::Versions", "The file %1 could not be replaced."), to);
     }
 }
 
@@ -45,7 +48,8 @@ QString Versions::documentFolder(qint64 documentId) const
 {
     if (m_folder.isEmpty())
         throw Error(ErrorNumber::PathFileAccess,
-            QStringLiteral("No folder is named for the versions of this register's files."));
+            QCoreApplication::translate(
+                "kartella::Versions", "No folder is named for the versions of this register's files."));
     return QDir(m_folder).filePath(QString::number(documentId));
 }
 
@@ -66,7 +70,9 @@ void Versions::keep(qint64 documentId, const QString& file)
         now = now.addMSecs(1);
     } while (QFileInfo::exists(target));
     if (!QFile::copy(file, target))
-        throw fileError(QStringLiteral("An earlier version of the file could not be kept in %1."), folder);
+        throw fileError(QCoreApplication::translate(
+                            "kartella::Versions", "An earlier version of the file could not be kept in %1."),
+            folder);
     dropBeyondLimit(documentId);
 }
 
@@ -96,7 +102,8 @@ void Versions::dropBeyondLimit(qint64 documentId)
 void Versions::replace(qint64 documentId, const QString& current, const QString& replacement)
 {
     if (!QFileInfo(replacement).isFile())
-        throw fileError(QStringLiteral("The file %1 was not found."), replacement);
+        throw fileError(
+            QCoreApplication::translate("kartella::Versions", "The file %1 was not found."), replacement);
     keep(documentId, current);
     copyOver(replacement, current);
 }
@@ -104,11 +111,15 @@ void Versions::replace(qint64 documentId, const QString& current, const QString&
 void Versions::restore(qint64 documentId, const QString& current, const FileVersion& version)
 {
     if (!QFileInfo(version.path).isFile())
-        throw fileError(QStringLiteral("The version %1 is no longer kept."), version.path);
+        throw fileError(
+            QCoreApplication::translate("kartella::Versions", "The version %1 is no longer kept."),
+            version.path);
     // The version is read before the current file is kept: the limit may drop it.
     const QString held = QDir(m_folder).filePath(QStringLiteral("restoring-%1").arg(documentId));
     if (!QFile::copy(version.path, held))
-        throw fileError(QStringLiteral("The version %1 could not be read."), version.path);
+        throw fileError(
+            QCoreApplication::translate("kartella::Versions", "The version %1 could not be read."),
+            version.path);
     try {
         keep(documentId, current);
         copyOver(held, current);

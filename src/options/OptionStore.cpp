@@ -5,6 +5,7 @@
 #include "platform/Prompter.h"
 #include "registration/ValueConversions.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QSettings>
@@ -20,8 +21,8 @@ const QString IniSection = QStringLiteral("DocContr");
 // A run-time error inside the primitives: reported in the one plain form.
 void reportRuntimeError(long number)
 {
-    msgBox(QStringLiteral("ERROR # ") + QString::number(number)
-        + QStringLiteral(" : 0\rPlease exit and try again."));
+    msgBox(QCoreApplication::translate("kartella::OptionStore", "ERROR # %1 : 0\rPlease exit and try again.")
+               .arg(number));
 }
 
 #ifdef Q_OS_WIN
@@ -208,13 +209,15 @@ void setRegValue(const QString& name, const QString& value)
     if (!optionsKeyExists())
         return;
     if (!writeRegValue(Hive::CurrentUser, optionsKeyPath(), name, value))
-        msgBox(QStringLiteral("Unable to set Registry Value ") + optionsKeyPath() + u'\\' + name);
+        msgBox(QCoreApplication::translate("kartella::OptionStore", "Unable to set Registry Value %1")
+                   .arg(optionsKeyPath() + u'\\' + name));
 }
 
 QString getRegValue(const QString& name)
 {
     if (!optionsKeyExists()) {
-        msgBox(QStringLiteral("Unable to get Registry Value ") + optionsKeyPath() + u'\\' + name);
+        msgBox(QCoreApplication::translate("kartella::OptionStore", "Unable to get Registry Value %1")
+                   .arg(optionsKeyPath() + u'\\' + name));
         return {};
     }
     return readRegValue(Hive::CurrentUser, optionsKeyPath(), name, NotFound);
@@ -239,9 +242,9 @@ QString wrongOptionMessage(const QString& name, const QString& value, const QStr
 #else
     const QString where = optionsFilePath();
 #endif
-    return QStringLiteral("The option ") + name + QStringLiteral(" can't be read: it holds \"") + value
-        + QStringLiteral("\" (") + reason + QStringLiteral(").\r\rCorrect it in ") + where
-        + QStringLiteral(", then try again.");
+    return QCoreApplication::translate("kartella::OptionStore",
+        "The option %1 can't be read: it holds \"%2\" (%3).\r\rCorrect it in %4, then try again.")
+        .arg(name, value, reason, where);
 }
 
 namespace {

@@ -5,6 +5,7 @@
 #include "platform/Prompter.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
@@ -49,11 +50,17 @@ public:
     {
         const QFileInfo into(target);
         m_dialog.setObjectName(QStringLiteral("dlgCopyProgress"));
-        m_dialog.setWindowTitle(moving ? QStringLiteral("Moving File") : QStringLiteral("Copying File"));
-        m_dialog.setLabelText((moving ? QStringLiteral("Moving '") : QStringLiteral("Copying '"))
-            % QFileInfo(source).fileName() % QStringLiteral("' to '")
-            % QDir::toNativeSeparators(into.absolutePath()) % QStringLiteral("'..."));
-        m_dialog.setCancelButtonText(QStringLiteral("Cancel"));
+        m_dialog.setWindowTitle(moving
+                ? QCoreApplication::translate("kartella::DesktopShell", "Moving File")
+                : QCoreApplication::translate("kartella::DesktopShell", "Copying File"));
+        const QString name = QFileInfo(source).fileName();
+        const QString folder = QDir::toNativeSeparators(into.absolutePath());
+        m_dialog.setLabelText(moving
+                ? QCoreApplication::translate("kartella::DesktopShell", "Moving '%1' to '%2'...")
+                      .arg(name, folder)
+                : QCoreApplication::translate("kartella::DesktopShell", "Copying '%1' to '%2'...")
+                      .arg(name, folder));
+        m_dialog.setCancelButtonText(QCoreApplication::translate("kartella::DesktopShell", "Cancel"));
         m_dialog.setWindowModality(Qt::ApplicationModal);
         m_dialog.setAutoClose(false);
         m_dialog.setAutoReset(false);
@@ -84,10 +91,13 @@ bool DesktopShell::open(const QString& path)
     if (path.isEmpty() || !QFileInfo::exists(path))
         return false;
     if (!desktopOpensFile(path)) {
-        ask(QStringLiteral("No program on this desktop opens files of the type ") + fileTypeDescription(path)
-                + QStringLiteral(".\r\rInstall a program for this type of file, or choose one for it in "
-                                 "the desktop's settings, then open the document again."),
-            MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation, QStringLiteral("Unable to open Document"));
+        ask(QCoreApplication::translate("kartella::DesktopShell",
+                "No program on this desktop opens files of the type %1.\r\rInstall a program for "
+                "this type of file, or choose one for it in the desktop's settings, "
+                "then open the document again.")
+                .arg(fileTypeDescription(path)),
+            MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation,
+            QCoreApplication::translate("kartella::DesktopShell", "Unable to open Document"));
         return false;
     }
     return QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));

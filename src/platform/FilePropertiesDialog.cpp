@@ -47,7 +47,7 @@ FilePropertiesDialog::FilePropertiesDialog(const QString& path, QWidget* parent)
     shellInfo.createFromFile(path);
 
     setObjectName(QStringLiteral("frmFileProperties"));
-    setWindowTitle(info.fileName() % QStringLiteral(" Properties"));
+    setWindowTitle(tr("%1 Properties").arg(info.fileName()));
 
     auto* layout = new QVBoxLayout(this);
     auto* header = new QHBoxLayout;
@@ -61,24 +61,23 @@ FilePropertiesDialog::FilePropertiesDialog(const QString& path, QWidget* parent)
     layout->addLayout(header);
 
     auto* form = new QFormLayout;
-    addField(
-        form, QStringLiteral("txtName"), QStringLiteral("&Name:"), QStringLiteral("Name"), info.fileName());
-    addField(form, QStringLiteral("txtType"), QStringLiteral("&Type:"), QStringLiteral("Type"),
-        shellInfo.typeName());
-    addField(form, QStringLiteral("txtSize"), QStringLiteral("&Size:"), QStringLiteral("Size"),
+    addField(form, QStringLiteral("txtName"), tr("&Name:"), QStringLiteral("Name"), info.fileName());
+    addField(form, QStringLiteral("txtType"), tr("&Type:"), QStringLiteral("Type"),
+        typeText(shellInfo.typeName()));
+    addField(form, QStringLiteral("txtSize"), tr("&Size:"), QStringLiteral("Size"),
         info.isDir() ? QString() : sizeText(info.size()));
-    addField(form, QStringLiteral("txtFolder"), QStringLiteral("&Folder:"), QStringLiteral("Folder"),
+    addField(form, QStringLiteral("txtFolder"), tr("&Folder:"), QStringLiteral("Folder"),
         QDir::toNativeSeparators(info.absolutePath()));
-    addField(form, QStringLiteral("txtModified"), QStringLiteral("&Modified:"), QStringLiteral("Modified"),
+    addField(form, QStringLiteral("txtModified"), tr("&Modified:"), QStringLiteral("Modified"),
         dateText(info.lastModified()));
-    addField(form, QStringLiteral("txtCreated"), QStringLiteral("&Created:"), QStringLiteral("Created"),
+    addField(form, QStringLiteral("txtCreated"), tr("&Created:"), QStringLiteral("Created"),
         dateText(info.birthTime()));
-    addField(form, QStringLiteral("txtPermissions"), QStringLiteral("&Permissions:"),
-        QStringLiteral("Permissions"), permissionsText(info.permissions()));
+    addField(form, QStringLiteral("txtPermissions"), tr("&Permissions:"), QStringLiteral("Permissions"),
+        permissionsText(info.permissions()));
     layout->addLayout(form);
 
     auto* buttons = new QDialogButtonBox(this);
-    QPushButton* close = buttons->addButton(QStringLiteral("Close"), QDialogButtonBox::RejectRole);
+    QPushButton* close = buttons->addButton(tr("Close"), QDialogButtonBox::RejectRole);
     close->setObjectName(QStringLiteral("cmdClose"));
     close->setDefault(true);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -107,33 +106,42 @@ QString FilePropertiesDialog::sizeText(qint64 bytes)
 {
     const QLocale locale;
     if (bytes == 1)
-        return QStringLiteral("1 byte");
+        return tr("1 byte");
     if (bytes < 1024)
-        return locale.toString(bytes) % QStringLiteral(" bytes");
-    return locale.formattedDataSize(bytes) % QStringLiteral(" (") % locale.toString(bytes)
-        % QStringLiteral(" bytes)");
+        return tr("%1 bytes").arg(locale.toString(bytes));
+    return tr("%1 (%2 bytes)").arg(locale.formattedDataSize(bytes), locale.toString(bytes));
 }
 
 QString FilePropertiesDialog::permissionsText(QFileDevice::Permissions permissions)
 {
     QString access;
     if (permissions.testFlag(QFileDevice::ReadOwner) && permissions.testFlag(QFileDevice::WriteOwner))
-        access = QStringLiteral("Read and write");
+        access = tr("Read and write");
     else if (permissions.testFlag(QFileDevice::ReadOwner))
-        access = QStringLiteral("Read only");
+        access = tr("Read only");
     else if (permissions.testFlag(QFileDevice::WriteOwner))
-        access = QStringLiteral("Write only");
+        access = tr("Write only");
     else
-        access = QStringLiteral("No access");
+        access = tr("No access");
     if (permissions.testFlag(QFileDevice::ExeOwner))
-        access += QStringLiteral(", executable");
-    return access % QStringLiteral(" (") % symbolic(permissions) % QStringLiteral(")");
+        access = tr("%1, executable").arg(access);
+    return tr("%1 (%2)").arg(access, symbolic(permissions));
+}
+
+QString FilePropertiesDialog::typeText(const QString& typeName)
+{
+    // FileInfo names a launcher and nothing in English words of its own, which others compare.
+    if (typeName == QLatin1String("Shortcut"))
+        return tr("Shortcut");
+    if (typeName == QLatin1String("None"))
+        return tr("None");
+    return typeName;
 }
 
 QString FilePropertiesDialog::dateText(const QDateTime& when)
 {
     if (!when.isValid())
-        return QStringLiteral("Unknown");
+        return tr("Unknown");
     return QLocale().toString(when.toLocalTime(), QLocale::LongFormat);
 }
 

@@ -25,6 +25,8 @@ public:
     static QString permissionsText(QFileDevice::Permissions permissions);
     // A date and time as the fields show it; "Unknown" for an invalid one.
     static QString dateText(const QDateTime& when);
+    // The file's kind as FileInfo gives it, in the interface's language.
+    static QString typeText(const QString& typeName);
 
 private:
     QLineEdit* addField(QFormLayout* form, const QString& objectName, const QString& label,

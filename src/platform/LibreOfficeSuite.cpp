@@ -51,9 +51,10 @@ QString findProgram()
     const QString program = LibreOfficeSuite::program();
     if (program.isEmpty())
         raise(OfficeErrorNumber::NotInstalled,
-            QStringLiteral("LibreOffice can't be found: there is no program \"soffice\" on the PATH. Install "
-                           "the Debian packages libreoffice-writer-nogui, libreoffice-calc-nogui and "
-                           "libreoffice-impress-nogui."));
+            QCoreApplication::translate("kartella::LibreOfficeSuite",
+                "LibreOffice can't be found: there is no program \"soffice\" on the PATH. "
+                "Install the Debian packages libreoffice-writer-nogui, "
+                "libreoffice-calc-nogui and libreoffice-impress-nogui."));
     return program;
 }
 
@@ -67,7 +68,8 @@ QString cleanOutput(const QByteArray& raw)
         if (!text.isEmpty() && !text.contains(QLatin1String("javaldx")))
             kept << text;
     }
-    return kept.isEmpty() ? QStringLiteral("(no output)") : kept.join(QLatin1Char('\n'));
+    return kept.isEmpty() ? QCoreApplication::translate("kartella::LibreOfficeSuite", "(no output)")
+                          : kept.join(QLatin1Char('\n'));
 }
 
 // Stops the process and every process it started.
@@ -116,19 +118,22 @@ QString run(const QString& program, const QStringList& arguments, int timeoutMs,
     process.start();
     if (!process.waitForStarted(timeoutMs))
         raise(OfficeErrorNumber::NotInstalled,
-            QStringLiteral("LibreOffice (") % program % QStringLiteral(") couldn't be started: ")
-                % process.errorString());
+            QCoreApplication::translate(
+                "kartella::LibreOfficeSuite", "LibreOffice (%1) couldn't be started: %2")
+                .arg(program, process.errorString()));
     if (!waitWhileThePainting(process, timeoutMs)) {
         stopTree(process);
         raise(OfficeErrorNumber::TimedOut,
-            QStringLiteral("LibreOffice didn't finish making ") % what % QStringLiteral(" within ")
-                % QString::number(timeoutMs / 1000.0) % QStringLiteral(" seconds and was stopped."));
+            QCoreApplication::translate("kartella::LibreOfficeSuite",
+                "LibreOffice didn't finish making %1 within %2 seconds and was stopped.")
+                .arg(what, QString::number(timeoutMs / 1000.0)));
     }
     const QString output = cleanOutput(process.readAll());
     if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
         raise(OfficeErrorNumber::Failed,
-            QStringLiteral("LibreOffice failed making ") % what % QStringLiteral(" (exit code ")
-                % QString::number(process.exitCode()) % QStringLiteral("): ") % output);
+            QCoreApplication::translate(
+                "kartella::LibreOfficeSuite", "LibreOffice failed making %1 (exit code %2): %3")
+                .arg(what, QString::number(process.exitCode()), output));
     return output;
 }
 
@@ -203,24 +208,28 @@ void LibreOfficeSuite::create(Kind kind, const QString& templatePath, const QStr
     const QFileInfo into(target);
     const QString shown = QDir::toNativeSeparators(target);
     if (target.isEmpty())
-        raise(OfficeErrorNumber::Failed, QStringLiteral("The new document has no path."));
+        raise(OfficeErrorNumber::Failed,
+            QCoreApplication::translate("kartella::LibreOfficeSuite", "The new document has no path."));
     if (into.exists() || into.isSymLink())
         raise(OfficeErrorNumber::FileExists,
-            QStringLiteral("The file '") % shown % QStringLiteral("' already exists."));
+            QCoreApplication::translate("kartella::LibreOfficeSuite", "The file '%1' already exists.")
+                .arg(shown));
     if (!into.absoluteDir().exists())
         raise(OfficeErrorNumber::Failed,
-            QStringLiteral("The folder '") % QDir::toNativeSeparators(into.absolutePath())
-                % QStringLiteral("' doesn't exist."));
+            QCoreApplication::translate("kartella::LibreOfficeSuite", "The folder '%1' doesn't exist.")
+                .arg(QDir::toNativeSeparators(into.absolutePath())));
     if (!templatePath.isEmpty() && !QFileInfo(templatePath).isFile())
         raise(TemplateNotFound,
-            QStringLiteral("The template '") % QDir::toNativeSeparators(templatePath)
-                % QStringLiteral("' can't be found."));
+            QCoreApplication::translate("kartella::LibreOfficeSuite", "The template '%1' can't be found.")
+                .arg(QDir::toNativeSeparators(templatePath)));
     const QString program = findProgram();
 
     QTemporaryDir work(QDir(QDir::tempPath()).filePath(QStringLiteral("kartella-office-XXXXXX")));
     if (!work.isValid())
         raise(OfficeErrorNumber::Failed,
-            QStringLiteral("No temporary folder for LibreOffice: ") % work.errorString());
+            QCoreApplication::translate(
+                "kartella::LibreOfficeSuite", "No temporary folder for LibreOffice: %1")
+                .arg(work.errorString()));
     const QString profile = work.filePath(QStringLiteral("profile"));
     const QString outDir = work.filePath(QStringLiteral("out"));
 
@@ -230,7 +239,9 @@ void LibreOfficeSuite::create(Kind kind, const QString& templatePath, const QStr
         QFile seed(source);
         if (!seed.open(QIODevice::WriteOnly) || seed.write(seedDocument(kind)) < 0 || !seed.flush())
             raise(OfficeErrorNumber::Failed,
-                QStringLiteral("The empty document couldn't be written: ") % seed.errorString());
+                QCoreApplication::translate(
+                    "kartella::LibreOfficeSuite", "The empty document couldn't be written: %1")
+                    .arg(seed.errorString()));
     }
 
     const QString targetExtension = extension(kind);
@@ -243,17 +254,20 @@ void LibreOfficeSuite::create(Kind kind, const QString& templatePath, const QStr
     const QString result = resultIn(outDir, targetExtension);
     if (result.isEmpty())
         raise(OfficeErrorNumber::Failed,
-            QStringLiteral("LibreOffice couldn't make ") % what % QStringLiteral(" from '")
-                % QDir::toNativeSeparators(source) % QStringLiteral("': ") % output);
+            QCoreApplication::translate(
+                "kartella::LibreOfficeSuite", "LibreOffice couldn't make %1 from '%2': %3")
+                .arg(what, QDir::toNativeSeparators(source), output));
     // A rename never replaces a file: one that appeared meanwhile stays.
     QFile made(result);
     if (!made.rename(target)) {
         if (QFileInfo::exists(target))
             raise(OfficeErrorNumber::FileExists,
-                QStringLiteral("The file '") % shown % QStringLiteral("' already exists."));
+                QCoreApplication::translate("kartella::LibreOfficeSuite", "The file '%1' already exists.")
+                    .arg(shown));
         raise(OfficeErrorNumber::Failed,
-            QStringLiteral("The new document couldn't be moved to '") % shown % QStringLiteral("': ")
-                % made.errorString());
+            QCoreApplication::translate(
+                "kartella::LibreOfficeSuite", "The new document couldn't be moved to '%1': %2")
+                .arg(shown, made.errorString()));
     }
 }
 
@@ -261,8 +275,9 @@ void LibreOfficeSuite::show(const QString& path)
 {
     if (!Shell::instance().open(path))
         raise(OfficeErrorNumber::Failed,
-            QStringLiteral("No program could be started to show '") % QDir::toNativeSeparators(path)
-                % QStringLiteral("'."));
+            QCoreApplication::translate(
+                "kartella::LibreOfficeSuite", "No program could be started to show '%1'.")
+                .arg(QDir::toNativeSeparators(path)));
 }
 
 QString LibreOfficeSuite::program()

@@ -2,6 +2,7 @@
 
 #include "store/engine/Connection.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QStorageInfo>
@@ -126,7 +127,8 @@ QString networkFileSystemName(const FileSystemType& type)
             if (kind == known)
                 return QString::fromLatin1(known);
         }
-        return type.remote ? QStringLiteral("a network drive") : QString();
+        return type.remote ? QCoreApplication::translate("kartella::NetworkShare", "a network drive")
+                           : QString();
     }
     if (type.magic == 0) {
         for (const auto& [known, shown] : NetworkNames) {
@@ -134,7 +136,7 @@ QString networkFileSystemName(const FileSystemType& type)
                 return QString::fromLatin1(shown);
         }
     }
-    return type.remote ? QStringLiteral("a network drive") : QString();
+    return type.remote ? QCoreApplication::translate("kartella::NetworkShare", "a network drive") : QString();
 }
 
 QString registerShareName(const QString& location)
@@ -147,9 +149,10 @@ QString registerShareName(const QString& location)
 
 QString shareNoticeText(const QString& location, const QString& shareName)
 {
-    return QStringLiteral("The register is on a network share (%1), whose locks several writers "
-                          "can't rely on: a workgroup is safer on a PostgreSQL server. Move it "
-                          "there with: kartella-db copy \"%2\" postgresql://USER@HOST:PORT/DATABASE")
+    return QCoreApplication::translate("kartella::NetworkShare",
+        "The register is on a network share (%1), whose locks several writers "
+        "can't rely on: a workgroup is safer on a PostgreSQL server. Move it "
+        "there with: kartella-db copy \"%2\" postgresql://USER@HOST:PORT/DATABASE")
         .arg(shareName, QDir::toNativeSeparators(location.trimmed()));
 }
 

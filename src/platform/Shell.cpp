@@ -2,6 +2,7 @@
 
 #include "platform/Prompter.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -141,8 +142,9 @@ bool moveFileContents(
     QFile original(source);
     if (!original.remove()) {
         setError(error,
-            QStringLiteral("The file was copied to '") % QDir::toNativeSeparators(target)
-                % QStringLiteral("', but the original couldn't be removed: ") % original.errorString());
+            QCoreApplication::translate("kartella::FileShell",
+                "The file was copied to '%1', but the original couldn't be removed: %2")
+                .arg(QDir::toNativeSeparators(target), original.errorString()));
         return false;
     }
     return true;
@@ -162,31 +164,34 @@ void FileShell::showProperties(const QString&) { }
 
 QString FileShell::deleteQuestion(const QString& path)
 {
-    return QStringLiteral("Do you want to permanently delete the file '") % displayName(path)
-        % QStringLiteral("'?");
+    return QCoreApplication::translate(
+        "kartella::FileShell", "Do you want to permanently delete the file '%1'?")
+        .arg(displayName(path));
 }
 
 QString FileShell::replaceQuestion(const QString& target)
 {
     const QFileInfo info(target);
-    return QStringLiteral("The file '") % info.fileName() % QStringLiteral("' already exists in '")
-        % displayFolder(info) % QStringLiteral("'. Do you want to replace it?");
+    return QCoreApplication::translate(
+        "kartella::FileShell", "The file '%1' already exists in '%2'. Do you want to replace it?")
+        .arg(info.fileName(), displayFolder(info));
 }
 
 bool FileShell::deleteFile(const QString& path)
 {
-    const QString title = QStringLiteral("Error Deleting File");
+    const QString title = QCoreApplication::translate("kartella::FileShell", "Error Deleting File");
     if (path.isEmpty())
         return false;
     const QFileInfo info(path);
     if (!info.exists() && !info.isSymLink()) {
-        fail(QStringLiteral("Can't delete '") % displayName(path)
-                % QStringLiteral("': the file can't be found."),
+        fail(QCoreApplication::translate("kartella::FileShell", "Can't delete '%1': the file can't be found.")
+                 .arg(displayName(path)),
             title);
         return false;
     }
     if (info.isDir() && !info.isSymLink()) {
-        fail(QStringLiteral("Can't delete '") % displayName(path) % QStringLiteral("': it is a folder."),
+        fail(QCoreApplication::translate("kartella::FileShell", "Can't delete '%1': it is a folder.")
+                 .arg(displayName(path)),
             title);
         return false;
     }
@@ -196,8 +201,8 @@ bool FileShell::deleteFile(const QString& path)
         return false;
     QFile file(path);
     if (!file.remove()) {
-        fail(
-            QStringLiteral("Can't delete '") % displayName(path) % QStringLiteral("': ") % file.errorString(),
+        fail(QCoreApplication::translate("kartella::FileShell", "Can't delete '%1': %2")
+                 .arg(displayName(path), file.errorString()),
             title);
         return false;
     }
@@ -218,12 +223,17 @@ bool FileShell::transfer(const QString& source, const QString& target, bool movi
 {
     if (source.isEmpty() || target.isEmpty())
         return false;
-    const QString title = moving ? QStringLiteral("Error Moving File") : QStringLiteral("Error Copying File");
-    const QString cant = (moving ? QStringLiteral("Can't move '") : QStringLiteral("Can't copy '"))
-        % displayName(source) % QStringLiteral("': ");
+    const QString title = moving ? QCoreApplication::translate("kartella::FileShell", "Error Moving File")
+                                 : QCoreApplication::translate("kartella::FileShell", "Error Copying File");
+    const QString name = displayName(source);
+    const auto cant = [moving, &name](const QString& reason) {
+        return moving
+            ? QCoreApplication::translate("kartella::FileShell", "Can't move '%1': %2").arg(name, reason)
+            : QCoreApplication::translate("kartella::FileShell", "Can't copy '%1': %2").arg(name, reason);
+    };
     const QFileInfo from(source);
     if (!from.isFile()) {
-        fail(cant % QStringLiteral("the file can't be found."), title);
+        fail(cant(QCoreApplication::translate("kartella::FileShell", "the file can't be found.")), title);
         return false;
     }
     QString to = target;
@@ -231,18 +241,22 @@ bool FileShell::transfer(const QString& source, const QString& target, bool movi
         to = QDir(to).filePath(from.fileName());
     const QFileInfo into(to);
     if (!into.absoluteDir().exists()) {
-        fail(cant % QStringLiteral("the folder '") % displayFolder(into) % QStringLiteral("' doesn't exist."),
+        fail(cant(QCoreApplication::translate("kartella::FileShell", "the folder '%1' doesn't exist.")
+                      .arg(displayFolder(into))),
             title);
         return false;
     }
     if (into.exists()) {
         if (sameFile(source, to)) {
-            fail(cant % QStringLiteral("the source and the target are the same file."), title);
+            fail(cant(QCoreApplication::translate(
+                     "kartella::FileShell", "the source and the target are the same file.")),
+                title);
             return false;
         }
         if (into.isDir()) {
-            fail(cant % QStringLiteral("a folder of that name exists in '") % displayFolder(into)
-                    % QStringLiteral("'."),
+            fail(cant(QCoreApplication::translate(
+                     "kartella::FileShell", "a folder of that name exists in '%1'.")
+                          .arg(displayFolder(into))),
                 title);
             return false;
         }
@@ -267,7 +281,7 @@ bool FileShell::transfer(const QString& source, const QString& target, bool movi
                              : copyFileContents(source, to, progress, &error);
     sign.reset();
     if (!done && !error.isEmpty())
-        fail(cant % error, title);
+        fail(cant(error), title);
     return done;
 }
 

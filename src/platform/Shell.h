@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <functional>
@@ -78,8 +79,11 @@ public:
     // The texts of the shell's questions.
     static QString deleteQuestion(const QString& path);
     static QString replaceQuestion(const QString& target);
-    static QString deleteTitle() { return QStringLiteral("Delete File"); }
-    static QString replaceTitle() { return QStringLiteral("Confirm File Replace"); }
+    static QString deleteTitle() { return QCoreApplication::translate("kartella::FileShell", "Delete File"); }
+    static QString replaceTitle()
+    {
+        return QCoreApplication::translate("kartella::FileShell", "Confirm File Replace");
+    }
 
 protected:
     // Asks a question or tells of a failure: a msgBox with prompt, style and title, whose

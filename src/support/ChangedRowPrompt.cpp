@@ -4,6 +4,7 @@
 #include "platform/Prompter.h"
 #include "store/engine/Recordset.h"
 
+#include <QCoreApplication>
 #include <QDate>
 #include <QDateTime>
 #include <QStringList>
@@ -15,12 +16,12 @@ namespace {
 QString shownValue(const QVariant& value)
 {
     if (!value.isValid() || value.isNull() || value.toString().isEmpty())
-        return QStringLiteral("(empty)");
+        return QCoreApplication::translate("kartella::ChangedRowPrompt", "(empty)");
     if (value.typeId() == QMetaType::QDate)
         return value.toDate().toString(u"yyyy.MM.dd");
     if (value.typeId() == QMetaType::QDateTime)
         return value.toDateTime().toString(u"yyyy.MM.dd HH:mm:ss");
-    return u'"' + value.toString() + u'"';
+    return QCoreApplication::translate("kartella::ChangedRowPrompt", "\"%1\"").arg(value.toString());
 }
 
 QString captionOf(const QString& field, const QList<QPair<QString, QString>>& captions)
@@ -30,6 +31,32 @@ QString captionOf(const QString& field, const QList<QPair<QString, QString>>& ca
             return caption;
     }
     return field;
+}
+
+// Whole sentences for the rows the dialogs name, so that a language can decline the noun.
+QString changedRowText(const QString& what)
+{
+    static const std::pair<const char*, const char*> known[] = {
+        {"document",
+            QT_TRANSLATE_NOOP("kartella::ChangedRowPrompt",
+                "This document was changed by another user since you opened it.")},
+        {"related document",
+            QT_TRANSLATE_NOOP("kartella::ChangedRowPrompt",
+                "This related document was changed by another user since you opened it.")},
+        {"contact",
+            QT_TRANSLATE_NOOP("kartella::ChangedRowPrompt",
+                "This contact was changed by another user since you opened it.")},
+        {"category",
+            QT_TRANSLATE_NOOP("kartella::ChangedRowPrompt",
+                "This category was changed by another user since you opened it.")},
+    };
+    for (const auto& [noun, text] : known) {
+        if (what == QLatin1String(noun))
+            return QCoreApplication::translate("kartella::ChangedRowPrompt", text);
+    }
+    return QCoreApplication::translate(
+        "kartella::ChangedRowPrompt", "This %1 was changed by another user since you opened it.")
+        .arg(what);
 }
 
 } // namespace
@@ -49,22 +76,25 @@ ChangedRowChoice resolveChangedRow(Recordset& recordset, const QString& what,
             const Field field = recordset.fields(index);
             if (field.isChapter() || !field.isChanged())
                 continue;
-            lines << captionOf(field.name(), captions) + QStringLiteral(": stored ")
-                    + shownValue(field.underlyingValue()) + QStringLiteral(", yours ")
-                    + shownValue(field.value());
+            lines << QCoreApplication::translate("kartella::ChangedRowPrompt", "%1: stored %2, yours %3")
+                         .arg(captionOf(field.name(), captions), shownValue(field.underlyingValue()),
+                             shownValue(field.value()));
         }
     } catch (const Error& error) {
         // The row could not be read again: the choice is still the user's, without the list.
         lines << error.description();
     }
-    QString prompt = QStringLiteral("This ") + what
-        + QStringLiteral(" was changed by another user since you opened it.");
+    QString prompt = changedRowText(what);
     if (!lines.isEmpty())
         prompt += QStringLiteral("\n\n") + lines.join(u'\n');
-    prompt += QStringLiteral("\n\nReload shows what is stored now, and you may type again. Keep Mine stores "
-                             "yours over it. Cancel goes back to what you typed.");
+    prompt += QStringLiteral("\n\n")
+        + QCoreApplication::translate("kartella::ChangedRowPrompt",
+            "Reload shows what is stored now, and you may type again. Keep Mine "
+            "stores yours over it. Cancel goes back to what you typed.");
     const int answer = Prompter::instance().choose(prompt,
-        {QStringLiteral("&Reload"), QStringLiteral("&Keep Mine"), QStringLiteral("Cancel")},
+        {QCoreApplication::translate("kartella::ChangedRowPrompt", "&Reload"),
+            QCoreApplication::translate("kartella::ChangedRowPrompt", "&Keep Mine"),
+            QCoreApplication::translate("kartella::ChangedRowPrompt", "Cancel")},
         MsgBoxStyle::Exclamation, title);
     if (answer == 0) {
         try {

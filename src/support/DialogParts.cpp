@@ -4,6 +4,7 @@
 #include "platform/Prompter.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QGroupBox>
 #include <QGuiApplication>
 #include <QLabel>
@@ -38,7 +39,7 @@ QLineEdit* makeFieldBox(int index, QWidget* parent)
 
 CategoryFrame makeCategoryFrame(QWidget* parent)
 {
-    auto* frame = new QGroupBox(QStringLiteral("Category"), parent);
+    auto* frame = new QGroupBox(QCoreApplication::translate("kartella::DialogParts", "Category"), parent);
     frame->setObjectName(QStringLiteral("fraCategory"));
     auto* category = new QComboBox(frame);
     category->setObjectName(QStringLiteral("cmbCategory"));
@@ -54,7 +55,7 @@ CategoryFrame makeCategoryFrame(QWidget* parent)
 
 DirectionFrame makeDirectionFrame(QWidget* parent, const std::function<void(int code)>& chosen)
 {
-    auto* frame = new QGroupBox(QStringLiteral("Direction"), parent);
+    auto* frame = new QGroupBox(QCoreApplication::translate("kartella::DialogParts", "Direction"), parent);
     frame->setObjectName(QStringLiteral("fraDirection"));
     auto* layout = new QVBoxLayout(frame);
     const auto addDirection = [&](const QString& caption, int code) {
@@ -67,16 +68,18 @@ DirectionFrame makeDirectionFrame(QWidget* parent, const std::function<void(int 
         layout->addWidget(option);
         return option;
     };
-    QRadioButton* inner = addDirection(QStringLiteral("Inner"), 1);
-    QRadioButton* outgoing = addDirection(QStringLiteral("Outgoing"), 2);
-    QRadioButton* incoming = addDirection(QStringLiteral("Incoming"), 3);
-    QRadioButton* other = addDirection(QStringLiteral("Other"), 4);
+    QRadioButton* inner = addDirection(QCoreApplication::translate("kartella::DialogParts", "Inner"), 1);
+    QRadioButton* outgoing
+        = addDirection(QCoreApplication::translate("kartella::DialogParts", "Outgoing"), 2);
+    QRadioButton* incoming
+        = addDirection(QCoreApplication::translate("kartella::DialogParts", "Incoming"), 3);
+    QRadioButton* other = addDirection(QCoreApplication::translate("kartella::DialogParts", "Other"), 4);
     return {frame, inner, outgoing, incoming, other};
 }
 
 QGroupBox* makeCreateWithFrame(QWidget* parent, const CreateWithActions& actions)
 {
-    auto* frame = new QGroupBox(QStringLiteral("Create With"), parent);
+    auto* frame = new QGroupBox(QCoreApplication::translate("kartella::DialogParts", "Create With"), parent);
     frame->setObjectName(QStringLiteral("fraCreateWith"));
     auto* layout = new QVBoxLayout(frame);
     const auto addButton
@@ -88,15 +91,18 @@ QGroupBox* makeCreateWithFrame(QWidget* parent, const CreateWithActions& actions
     addButton(QStringLiteral("cmdWord"), QStringLiteral("&Word"), actions.word);
     addButton(QStringLiteral("cmdExcel"), QStringLiteral("&Excel"), actions.excel);
     addButton(QStringLiteral("cmdPower"), QStringLiteral("&PowerPoint"), actions.powerPoint);
-    addButton(QStringLiteral("cmdAddExisting"), QStringLiteral("&Add Existing"), actions.addExisting);
+    addButton(QStringLiteral("cmdAddExisting"),
+        QCoreApplication::translate("kartella::DialogParts", "&Add Existing"), actions.addExisting);
     return frame;
 }
 
 int askToApplyChanges()
 {
-    return msgBox(QStringLiteral("You have details changes that have not applied.\n\n"
-                                 "Do you want to apply these now?"),
-        MsgBoxStyle::YesNoCancel | MsgBoxStyle::Exclamation, QStringLiteral("Warning"));
+    return msgBox(QCoreApplication::translate("kartella::DialogParts",
+                      "You have details changes that have not applied.\n\n"
+                      "Do you want to apply these now?"),
+        MsgBoxStyle::YesNoCancel | MsgBoxStyle::Exclamation,
+        QCoreApplication::translate("kartella::DialogParts", "Warning"));
 }
 
 void restoreDefaultCursor()
@@ -107,7 +113,8 @@ void restoreDefaultCursor()
 
 void reportStoreError(long number, const QString& description, const QString& title)
 {
-    msgBox(QStringLiteral("Error: ") + QString::number(number) + u' ' + description,
+    msgBox(QCoreApplication::translate("kartella::DialogParts", "Error: %1 %2")
+               .arg(QString::number(number), description),
         MsgBoxStyle::OkOnly | MsgBoxStyle::Critical, title);
 }
 
@@ -116,11 +123,39 @@ bool rowWasDeleted(const Error& error)
     return error.number() == ErrorNumber::RowDeleted;
 }
 
+namespace {
+
+// Whole sentences for the rows the dialogs name, so that a language can decline the noun.
+QString deletedRowText(const QString& what)
+{
+    static const std::pair<const char*, const char*> known[] = {
+        {"document",
+            QT_TRANSLATE_NOOP("kartella::DialogParts",
+                "This document was deleted by another user; your changes were not saved.")},
+        {"related document",
+            QT_TRANSLATE_NOOP("kartella::DialogParts",
+                "This related document was deleted by another user; your changes were not saved.")},
+        {"contact",
+            QT_TRANSLATE_NOOP("kartella::DialogParts",
+                "This contact was deleted by another user; your changes were not saved.")},
+        {"category",
+            QT_TRANSLATE_NOOP("kartella::DialogParts",
+                "This category was deleted by another user; your changes were not saved.")},
+    };
+    for (const auto& [noun, text] : known) {
+        if (what == QLatin1String(noun))
+            return QCoreApplication::translate("kartella::DialogParts", text);
+    }
+    return QCoreApplication::translate(
+        "kartella::DialogParts", "This %1 was deleted by another user; your changes were not saved.")
+        .arg(what);
+}
+
+} // namespace
+
 void reportDeletedRow(const QString& what, const QString& title)
 {
-    msgBox(QStringLiteral("This ") + what
-            + QStringLiteral(" was deleted by another user; your changes were not saved."),
-        MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, title);
+    msgBox(deletedRowText(what), MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, title);
 }
 
 } // namespace kartella

@@ -184,9 +184,8 @@ void FieldBinder::write(Binding& binding)
     if (binding.kind == Binding::Kind::Date && !text.trimmed().isEmpty()) {
         const QDate date = readDate(text, binding.format);
         if (!date.isValid()) {
-            binding.problem = QStringLiteral("\"") % text % QStringLiteral("\" in \"")
-                % labelOf(binding.widget()) % QStringLiteral("\" isn't a date. Type the date as ")
-                % binding.format % QStringLiteral(", please.");
+            binding.problem = tr("\"%1\" in \"%2\" isn't a date. Type the date as %3, please.")
+                                  .arg(text, labelOf(binding.widget()), binding.format);
             Q_EMIT changed();
             return;
         }

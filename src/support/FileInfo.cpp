@@ -163,8 +163,9 @@ void FileInfo::setItem(const QString& path)
         denormalizePath(searched);
         const QFileInfo info(searched);
         if (!info.exists())
-            msgBox(QStringLiteral("API Error"), MsgBoxStyle::OkOnly | MsgBoxStyle::Critical,
-                QStringLiteral("Operating System Error"));
+            msgBox(QCoreApplication::translate("kartella::FileInfo", "API Error"),
+                MsgBoxStyle::OkOnly | MsgBoxStyle::Critical,
+                QCoreApplication::translate("kartella::FileInfo", "Operating System Error"));
         describe(info, false);
     }
     m_item = path;

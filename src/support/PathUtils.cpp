@@ -2,6 +2,7 @@
 
 #include "base/Error.h"
 
+#include <QCoreApplication>
 #include <QDir>
 
 namespace kartella {
@@ -126,17 +127,20 @@ QString apiErrorText(qint32 code)
 {
     switch (code) {
     case 2:
-        return QStringLiteral("The system cannot find the file specified.");
+        return QCoreApplication::translate(
+            "kartella::PathUtils", "The system cannot find the file specified.");
     case PathNotFound:
-        return QStringLiteral("The system cannot find the path specified.");
+        return QCoreApplication::translate(
+            "kartella::PathUtils", "The system cannot find the path specified.");
     case 5:
-        return QStringLiteral("Access is denied.");
+        return QCoreApplication::translate("kartella::PathUtils", "Access is denied.");
     case 123:
-        return QStringLiteral("The filename, directory name, or volume label syntax is incorrect.");
+        return QCoreApplication::translate(
+            "kartella::PathUtils", "The filename, directory name, or volume label syntax is incorrect.");
     case BadPathName:
-        return QStringLiteral("The specified path is invalid.");
+        return QCoreApplication::translate("kartella::PathUtils", "The specified path is invalid.");
     case 206:
-        return QStringLiteral("The filename or extension is too long.");
+        return QCoreApplication::translate("kartella::PathUtils", "The filename or extension is too long.");
     default:
         return {};
     }

@@ -234,7 +234,7 @@ bool RecordsetModel::setCell(int row, int column, const QVariant& value)
             }
             m_self = false;
             Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
-            msgBox(QStringLiteral("This row was deleted by another user; your change was not saved."),
+            msgBox(tr("This row was deleted by another user; your change was not saved."),
                 MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, QString());
             return false;
         }

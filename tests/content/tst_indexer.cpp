@@ -1,14 +1,18 @@
 #include "TestFiles.h"
+#include "capture/TextRecognition.h"
 #include "content/ReadingQueue.h"
 #include "content/TextIndexer.h"
+#include "content/TextRecognitionPass.h"
 #include "content/TextStore.h"
 #include "harness/ServerDatabase.h"
 #include "harness/TestRegister.h"
+#include "history/Lithuanian.h"
 #include "store/engine/Connection.h"
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QImage>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -101,6 +105,10 @@ private Q_SLOTS:
     void queueReadsInTheBackgroundAndPicksUpNewDocuments();
     void progressGroupsThousandsWithASpace_data();
     void progressGroupsThousandsWithASpace();
+    void aMissingLanguageIsTriedAgainWhateverLanguageSaidSo_data();
+    void aMissingLanguageIsTriedAgainWhateverLanguageSaidSo();
+    void statusAndProgressInLithuanian_data();
+    void statusAndProgressInLithuanian();
 };
 
 void IndexerTest::recordsEveryFileAndNeverStopsAtABadOne_data()
@@ -286,6 +294,78 @@ void IndexerTest::progressGroupsThousandsWithASpace()
     QFETCH(int, total);
     QFETCH(QString, text);
     QCOMPARE(readingProgressText(done, total), text);
+}
+
+// The recognition takes up a scanned page that failed for want of a language's data once the
+// data is there, whether the reason was stored by an English or a Lithuanian desktop; a page
+// that failed for another reason stays as it was.
+void IndexerTest::aMissingLanguageIsTriedAgainWhateverLanguageSaidSo_data()
+{
+    QTest::addColumn<QString>("reason");
+    QTest::addColumn<bool>("triedAgain");
+    QTest::newRow("English") << "Text recognition has no data for the language \"xqz\" in /usr/share/"
+                                "tesseract-ocr/5/tessdata. Install the Debian package tesseract-ocr-xqz."
+                             << true;
+    QTest::newRow("Lithuanian") << "Teksto atpažinimas neturi kalbos „xqz“ duomenų aplanke /usr/share/"
+                                   "tesseract-ocr/5/tessdata. Įdiekite Debian paketą tesseract-ocr-xqz."
+                                << true;
+    QTest::newRow("damaged") << "damaged" << false;
+    QTest::newRow("a folder of that name") << "file not found: /srv/tesseract-ocr/5/page.png" << false;
+}
+
+void IndexerTest::aMissingLanguageIsTriedAgainWhateverLanguageSaidSo()
+{
+    QFETCH(QString, reason);
+    QFETCH(bool, triedAgain);
+    TestRegister reg;
+    const QString path = reg.dir() + QStringLiteral("/page.png");
+    QImage page(120, 60, QImage::Format_Grayscale8);
+    page.fill(Qt::white);
+    QVERIFY(page.save(path));
+    const qint32 id = reg.insert(QStringLiteral("tbl_Documents"),
+        {{QStringLiteral("DokAntraste"), QStringLiteral("Nuskaitytas")}, {QStringLiteral("RastoKel"), path}});
+    Connection connection(reg.connectionString());
+    connection.open();
+    storeDocumentText(connection,
+        {id, TextIndexer::currentStamp(path), TextState::Failed, reason, {}, QStringLiteral("x")});
+    useCNumericLocale();
+    TextRecognitionPass(connection, QStringLiteral("eng")).run();
+    const std::optional<DocumentText> stored = storedDocumentText(connection, id);
+    QVERIFY(stored);
+    QVERIFY2((stored->state != TextState::Failed) == triedAgain, qPrintable(stored->reason));
+    if (!triedAgain)
+        QCOMPARE(stored->reason, reason);
+}
+
+// The register keeps a reason in English; the details show the readers' own reasons in the
+// interface's language and the system's as they came.
+void IndexerTest::statusAndProgressInLithuanian_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::addColumn<QString>("reason");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("read") << int(TextState::Read) << ""
+                          << "Perskaitytas";
+    QTest::newRow("not yet") << int(TextState::NotRead) << ""
+                             << "Dar neperskaitytas";
+    QTest::newRow("damaged") << int(TextState::Failed) << "damaged"
+                             << "Neperskaitytas: pažeistas";
+    QTest::newRow("too large") << int(TextState::Failed) << "larger than 50 MB"
+                               << "Neperskaitytas: didesnis nei 50 MB";
+    QTest::newRow("no reason") << int(TextState::Failed) << ""
+                               << "Neperskaitytas: priežastis nežinoma";
+    QTest::newRow("the system's") << int(TextState::Failed) << "Permission denied"
+                                  << "Neperskaitytas: Permission denied";
+}
+
+void IndexerTest::statusAndProgressInLithuanian()
+{
+    QFETCH(int, state);
+    QFETCH(QString, reason);
+    const Lithuanian lithuanian;
+    QTEST(textStatusText(TextState(state), reason), "shown");
+    QCOMPARE(readingProgressText(1234, 5000), QStringLiteral("Skaitomi failai: 1 234 iš 5 000"));
+    QCOMPARE(recognitionProgressText(3, 12), QStringLiteral("Atpažįstamas tekstas: 3 iš 12"));
 }
 
 int runIndexerTest(int argc, char** argv)

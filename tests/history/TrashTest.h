@@ -27,4 +27,5 @@ private Q_SLOTS:
     void aServerRegisterAsksForTheSharedFolderOnce();
     void contactFromTheAddressBookComesBackWhole();
     void restoreInTheWindowTellsOfATakenPath();
+    void deletedItemsWindowSpeaksLithuanian();
 };

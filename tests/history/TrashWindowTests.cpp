@@ -1,6 +1,7 @@
 // The windows of the trash and the versions: the Deleted items node, New Version, the
 // settings' tab, and what a register without a trash or on a server does.
 
+#include "Lithuanian.h"
 #include "TrashFixture.h"
 #include "TrashTest.h"
 #include "addressbook/AddressBookFixture.h"
@@ -24,6 +25,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QHeaderView>
+#include <QLabel>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTest>
@@ -300,4 +303,49 @@ void TrashTest::restoreInTheWindowTellsOfATakenPath()
     QCOMPARE(TrashFixture::bytes(fx.file["rel2"]), QByteArray("a newcomer"));
     QCOMPARE(window.itemList()->topLevelItemCount(), 0);
     QVERIFY(window.changed());
+}
+
+// In Lithuanian the window, its kinds and its questions speak Lithuanian, while the register
+// keeps the kinds in English.
+void TrashTest::deletedItemsWindowSpeaksLithuanian()
+{
+    TrashFixture fx;
+    ScriptedPrompter prompter;
+    Trash trash(fx.connection, trashFolderFor(fx.reg.path()));
+    trash.deleteRelatedDocument(fx.id["rel2"]);
+    trash.deleteDocument(fx.id["doc"]);
+    const Lithuanian lithuanian;
+    DeletedItemsWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCOMPARE(window.windowTitle(), QString("Pašalinti elementai"));
+    QTreeWidget* list = window.itemList();
+    QStringList headers;
+    for (int column = 0; column < list->columnCount(); ++column)
+        headers << list->headerItem()->text(column);
+    QCOMPARE(headers, (QStringList {"Elementas", "Rūšis", "Pašalino", "Kada"}));
+    QCOMPARE(window.findChild<QLabel*>()->text(), QString("&Pašalinti elementai:"));
+    QCOMPARE(window.findChild<QPushButton*>("cmdRestore")->text(), QString("&Atkurti"));
+    QCOMPARE(window.findChild<QPushButton*>("cmdDelete")->text(), QString("Ša&linti"));
+    QCOMPARE(window.findChild<QPushButton*>("cmdEmptyTrash")->text(), QString("&Išvalyti šiukšlinę"));
+    QCOMPARE(clashingAccessKeys(window), QStringList());
+    QCOMPARE(list->topLevelItem(0)->text(1), QString("dokumentas"));
+    QCOMPARE(list->topLevelItem(1)->text(1), QString("susijęs dokumentas"));
+    QCOMPARE(
+        fx.reg.scalar("SELECT Kind FROM tbl_Trash ORDER BY TrashID").toString(), QString("related document"));
+
+    list->setFocus();
+    prompter.answer(MsgBoxResult::No);
+    QTest::keyClick(list, Qt::Key_Delete);
+    QCOMPARE(prompter.prompts().size(), 1);
+    QCOMPARE(prompter.prompts().first().title, QString("Šalinimo patvirtinimas"));
+    QCOMPARE(prompter.prompts().first().text,
+        QString("Pašalinti „Nuomos sutartis (SUT-7)“ visam laikui? Vėliau jo nebus galima atkurti."));
+    QCOMPARE(list->topLevelItemCount(), 2);
+
+    // Enter restores the document, then its related document.
+    QTest::keyClick(list, Qt::Key_Return);
+    QTest::keyClick(list, Qt::Key_Return);
+    QCOMPARE(list->topLevelItemCount(), 0);
+    QVERIFY(prompter.allAnswered());
 }

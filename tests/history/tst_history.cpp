@@ -1,6 +1,7 @@
 // The history of every change: what each write records, with whom and which command; a
 // failed change and another program's writes; an older register; the History tab and
 // kartella-db history.
+#include "Lithuanian.h"
 #include "addressbook/ContactEditor.h"
 #include "base/Error.h"
 #include "harness/OldRegister.h"
@@ -9,6 +10,7 @@
 #include "history/HistoryLog.h"
 #include "history/HistorySchema.h"
 #include "history/HistoryText.h"
+#include "history/Trash.h"
 #include "registration/DocumentDetailsDialog.h"
 #include "store/SchemaSteps.h"
 #include "store/engine/Connection.h"
@@ -18,6 +20,8 @@
 #include <QApplication>
 #include <QDate>
 #include <QDateTime>
+#include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
@@ -487,6 +491,72 @@ private Q_SLOTS:
             QStringLiteral("UPDATE tbl_Documents SET DokAntraste = 'Again' WHERE RastasID = 1"));
         QCOMPARE(changes(documentHistory(connection, 1)),
             QStringList {QStringLiteral("Details update tbl_Documents.DokAntraste: Changed -> Again")});
+    }
+
+    // In Lithuanian the tab speaks Lithuanian, the command names included, though the register
+    // keeps them in English.
+    void historyTabSpeaksLithuanian()
+    {
+        TestRegister reg;
+        const qint32 document = reg.insert(QStringLiteral("tbl_Documents"),
+            {{QStringLiteral("DokAntraste"), QStringLiteral("Lease")}, {QStringLiteral("KryptisID"), 2}});
+        {
+            Connection connection(reg.connectionString());
+            connection.open();
+            Trash trash(connection, reg.dir() + QStringLiteral("/trash"));
+            trash.deleteDocument(document);
+            trash.restore(trash.items().first().id);
+        }
+        const Lithuanian lithuanian;
+        QCOMPARE(lithuanian.installed().left(2), QStringLiteral("lt"));
+        DocumentDetailsDialog dialog(document);
+        dialog.show();
+        auto* description = dialog.findChild<QLineEdit*>(QStringLiteral("txtFields_7"));
+        description->setFocus();
+        description->selectAll();
+        QTest::keyClicks(description, QStringLiteral("Lease, signed"));
+        QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("cmdButton_2")), Qt::LeftButton);
+        auto* tabs = dialog.findChild<QTabWidget*>(QStringLiteral("SSTab1"));
+        tabs->setFocus();
+        for (int i = 1; i < tabs->count(); ++i)
+            QTest::keyClick(tabs, Qt::Key_Tab, Qt::ControlModifier);
+        QCOMPARE(tabs->currentWidget()->objectName(), QStringLiteral("tabHistory"));
+
+        auto* table = dialog.findChild<QTableWidget*>(QStringLiteral("lstHistory"));
+        QStringList headers;
+        for (int column = 0; column < table->columnCount(); ++column)
+            headers << table->horizontalHeaderItem(column)->text();
+        QCOMPARE(headers,
+            (QStringList {QStringLiteral("Kada"), QStringLiteral("Kas"), QStringLiteral("Komanda"),
+                QStringLiteral("Kas pakeista"), QStringLiteral("Pakeitimas")}));
+        const QLabel* label = nullptr;
+        for (const QLabel* each : tabs->currentWidget()->findChildren<QLabel*>()) {
+            if (each->buddy() == table)
+                label = each;
+        }
+        QVERIFY(label);
+        QCOMPARE(label->text(), QStringLiteral("&Pakeitimai:"));
+        QStringList rows;
+        for (int row = 0; row < table->rowCount(); ++row)
+            rows << table->item(row, 2)->text() + u'|' + table->item(row, 3)->text() + u'|'
+                    + table->item(row, 4)->text();
+        QVERIFY2(
+            rows.contains(QStringLiteral(
+                "Išsami informacija|Pakeistas dokumentas|Aprašymas: pakeista iš „Lease“ į „Lease, signed“")),
+            qPrintable(rows.join(u'\n')));
+        QVERIFY2(rows.contains(QStringLiteral("Atkurti|Pridėtas dokumentas|Aprašymas: „Lease“")),
+            qPrintable(rows.join(u'\n')));
+        QVERIFY2(rows.contains(QStringLiteral("Atkurti|Pridėtas dokumentas|Kryptis: „Siunčiamas“")),
+            qPrintable(rows.join(u'\n')));
+        // What the register keeps stays English.
+        QVERIFY(
+            reg.scalar(QStringLiteral("SELECT COUNT(*) FROM tbl_History WHERE Command = 'Restore'")).toInt()
+            > 0);
+        QCOMPARE(
+            reg.scalar(QStringLiteral("SELECT COUNT(*) FROM tbl_History WHERE Command = 'Atkurti'")).toInt(),
+            0);
+        QVERIFY(clashingAccessKeys(*tabs->currentWidget()).isEmpty());
+        dialog.reject();
     }
 
     void contactEditorShowsTheContactsHistory()

@@ -1,13 +1,16 @@
 #include "harness/ScriptedPrompter.h"
 #include "harness/ScriptedShell.h"
+#include "history/Lithuanian.h"
 #include "platform/DesktopShell.h"
 #include "platform/FilePropertiesDialog.h"
 #include "registration/ShellFiles.h"
+#include "support/FileInfo.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMimeDatabase>
 #include <QProgressDialog>
@@ -337,6 +340,45 @@ private Q_SLOTS:
         QCOMPARE(close->text(), "Close");
         QTest::mouseClick(close, Qt::LeftButton);
         QVERIFY(!dialog.isVisible());
+    }
+
+    // In Lithuanian the shell's questions and notices and the properties dialog speak Lithuanian;
+    // FileInfo still names a launcher "Shortcut", as the code that compares it expects.
+    void shellAndPropertiesInLithuanian()
+    {
+        QTemporaryDir dir;
+        const QString path = dir.filePath("Pastabos.txt");
+        writeFile(path, "hello");
+        QVERIFY(QFile::setPermissions(
+            path, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadGroup));
+        const QString launcher = dir.filePath("Kartella.desktop");
+        writeFile(launcher, "[Desktop Entry]\nType=Application\nName=Kartella\nExec=kartella\n");
+        const kartella::test::Lithuanian lithuanian;
+        ScriptedPrompter prompter;
+        prompter.answer(MsgBoxResult::No).answer(MsgBoxResult::Ok).answer(MsgBoxResult::Ok);
+        QVERIFY(!Shell::instance().deleteFile(path));
+        QVERIFY(!Shell::instance().deleteFile(dir.filePath("nėra.txt")));
+        QVERIFY(!Shell::instance().copyFile(path, dir.filePath("nėra/Pastabos.txt")));
+        QCOMPARE(prompter.prompts().size(), 3);
+        QCOMPARE(prompter.prompts().at(0).title, "Failo šalinimas");
+        QCOMPARE(prompter.prompts().at(0).text, "Ar tikrai visam laikui pašalinti failą „Pastabos.txt“?");
+        QCOMPARE(prompter.prompts().at(1).title, "Klaida šalinant failą");
+        QCOMPARE(prompter.prompts().at(1).text, "Nepavyko pašalinti „nėra.txt“: failas nerastas.");
+        QCOMPARE(prompter.prompts().at(2).title, "Klaida kopijuojant failą");
+        QVERIFY2(prompter.prompts().at(2).text.startsWith("Nepavyko nukopijuoti „Pastabos.txt“: aplanko „"),
+            qPrintable(prompter.prompts().at(2).text));
+
+        FilePropertiesDialog dialog(path);
+        dialog.show();
+        QCOMPARE(dialog.windowTitle(), "Pastabos.txt – savybės");
+        QCOMPARE(dialog.findChild<QLineEdit*>("txtSize")->text(), "5 B");
+        QCOMPARE(dialog.findChild<QLineEdit*>("txtPermissions")->text(), "Skaityti ir rašyti (rw-r-----)");
+        QCOMPARE(dialog.findChild<QPushButton*>("cmdClose")->text(), "Uždaryti");
+        QCOMPARE(kartella::test::clashingAccessKeys(dialog), QStringList());
+        FileInfo info;
+        info.createFromFile(launcher);
+        QCOMPARE(info.typeName(), "Shortcut");
+        QCOMPARE(FilePropertiesDialog(launcher).findChild<QLineEdit*>("txtType")->text(), "Nuoroda");
     }
 
     // The three routines go through the installed shell; the scripted one records what it is

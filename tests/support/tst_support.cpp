@@ -1,6 +1,8 @@
 #include "base/Error.h"
 #include "harness/ScriptedPrompter.h"
+#include "history/Lithuanian.h"
 #include "support/DataFiles.h"
+#include "support/DialogParts.h"
 #include "support/FileInfo.h"
 #include "support/PathUtils.h"
 #include "support/ShellDialogs.h"
@@ -276,6 +278,35 @@ private Q_SLOTS:
         QVERIFY(dataFolders().indexOf(QDir::cleanPath(data.filePath("kartella")))
             > dataFolders().indexOf(QCoreApplication::applicationDirPath()));
         qunsetenv("XDG_DATA_HOME");
+    }
+
+    // The notice that another user deleted a row is one sentence per row the dialogs name, so
+    // that Lithuanian declines the noun; a row it doesn't know is named in brackets.
+    void deletedRowNoticeInLithuanian_data()
+    {
+        QTest::addColumn<QString>("what");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("document") << "document"
+                                  << "Dokumentą pašalino kitas naudotojas; jūsų pakeitimai neįrašyti.";
+        QTest::newRow("related document")
+            << "related document"
+            << "Susijusį dokumentą pašalino kitas naudotojas; jūsų pakeitimai neįrašyti.";
+        QTest::newRow("contact") << "contact"
+                                 << "Kontaktą pašalino kitas naudotojas; jūsų pakeitimai neįrašyti.";
+        QTest::newRow("category") << "category"
+                                  << "Kategoriją pašalino kitas naudotojas; jūsų pakeitimai neįrašyti.";
+        QTest::newRow("another") << "phone"
+                                 << "Šį įrašą (phone) pašalino kitas naudotojas; jūsų pakeitimai neįrašyti.";
+    }
+    void deletedRowNoticeInLithuanian()
+    {
+        QFETCH(QString, what);
+        QFETCH(QString, text);
+        const kartella::test::Lithuanian lithuanian;
+        ScriptedPrompter prompter;
+        prompter.answer(MsgBoxResult::Ok);
+        reportDeletedRow(what, QStringLiteral("Kontaktai"));
+        QCOMPARE(prompter.texts(), QStringList {text});
     }
 
     void noFileIcon()
