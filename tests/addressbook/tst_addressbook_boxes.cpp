@@ -2,7 +2,7 @@
 // where Tab, Ctrl+Delete and the access keys go.
 
 #include "AddressBookFixture.h"
-#include "LithuanianScreen.h"
+#include "harness/Lithuanian.h"
 #include "addressbook/AddressBookWindow.h"
 #include "addressbook/ContactEditor.h"
 #include "options/OptionStore.h"
@@ -256,7 +256,7 @@ private Q_SLOTS:
         QFETCH(int, urlKey);
         QFETCH(QString, phoneButton);
         AddressBookFixture fx(false);
-        std::optional<LithuanianScreen> language;
+        std::optional<Lithuanian> language;
         if (lithuanian)
             QVERIFY(language.emplace().installed());
         ContactEditor editor;
@@ -290,7 +290,7 @@ private Q_SLOTS:
     void addressBookInLithuanian()
     {
         AddressBookFixture fx;
-        LithuanianScreen language;
+        Lithuanian language;
         QVERIFY(language.installed());
         AddressBookWindow window;
         Shown w(&window);

@@ -1,6 +1,6 @@
 // Scanning through SANE's test backend, and the searchable PDF the pages become.
 #include "TestPages.h"
-#include "addressbook/LithuanianScreen.h"
+#include "harness/Lithuanian.h"
 #include "base/Error.h"
 #include "capture/PageImages.h"
 #include "capture/SaneScanner.h"
@@ -450,7 +450,7 @@ void ScanTest::scanWindowInLithuanian()
 {
     writeBackends("test\n");
     ScriptedPrompter prompter;
-    LithuanianScreen language;
+    Lithuanian language;
     QVERIFY(language.installed());
     ScanDialog dialog([] { return QString(); });
     dialog.show();

@@ -1,7 +1,7 @@
 #include "CategoryFixture.h"
 #include "categories/CategoryDialog.h"
 #include "categories/NewCategoryDialog.h"
-#include "dialogs/InLithuanian.h"
+#include "harness/Lithuanian.h"
 #include "platform/Prompter.h"
 
 #include <QDir>
@@ -173,7 +173,7 @@ private Q_SLOTS:
         QFETCH(QString, title);
         QFETCH(QString, firstLine);
         Fixture fx;
-        const InLithuanian lithuanian;
+        const Lithuanian lithuanian;
         QVERIFY(lithuanian.language().startsWith("lt"));
         std::unique_ptr<QDialog> d;
         if (details)

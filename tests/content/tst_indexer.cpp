@@ -6,7 +6,7 @@
 #include "content/TextStore.h"
 #include "harness/ServerDatabase.h"
 #include "harness/TestRegister.h"
-#include "history/Lithuanian.h"
+#include "harness/Lithuanian.h"
 #include "store/engine/Connection.h"
 
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "dialogs/InLithuanian.h"
+#include "harness/Lithuanian.h"
 #include "dialogs/SettingsDialog.h"
 #include "dialogs/SettingsFixture.h"
 #include "dialogs/SettingsStore.h"
@@ -459,7 +459,7 @@ private Q_SLOTS:
     {
         TestRegister reg;
         ScriptedPrompter prompter;
-        const InLithuanian lithuanian;
+        const Lithuanian lithuanian;
         QVERIFY(lithuanian.language().startsWith("lt"));
         Settings s;
         QCOMPARE(s.dialog.windowTitle(), "Programos nuostatos");

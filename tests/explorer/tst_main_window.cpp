@@ -3,7 +3,7 @@
 #include "explorer/ExplorerList.h"
 #include "explorer/IconCache.h"
 #include "explorer/ListModel.h"
-#include "explorer/LithuanianTexts.h"
+#include "harness/Lithuanian.h"
 #include "explorer/MainWindow.h"
 #include "explorer/NavigationTree.h"
 #include "harness/ScriptedPrompter.h"
@@ -406,7 +406,7 @@ private Q_SLOTS:
     // empty state still work by what they mean, not by the words shown.
     void mainWindowInLithuanian()
     {
-        const LithuanianTexts lithuanian;
+        const Lithuanian lithuanian;
         QVERIFY(lithuanian.language().startsWith("lt"));
         {
             TestRegister empty;

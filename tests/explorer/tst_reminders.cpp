@@ -2,7 +2,7 @@
 // register made before it could be), the Reminders window and its place in the main window.
 #include "dialogs/SettingsDialog.h"
 #include "explorer/ExplorerList.h"
-#include "explorer/LithuanianTexts.h"
+#include "harness/Lithuanian.h"
 #include "explorer/MainWindow.h"
 #include "explorer/RemindersCommand.h"
 #include "explorer/RemindersWindow.h"
@@ -513,7 +513,7 @@ private Q_SLOTS:
     // still follow the register.
     void remindersWindowInLithuanian()
     {
-        const LithuanianTexts lithuanian;
+        const Lithuanian lithuanian;
         QVERIFY(lithuanian.language().startsWith("lt"));
         const QDate today(2024, 3, 1);
         {

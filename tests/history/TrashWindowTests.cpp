@@ -1,7 +1,7 @@
 // The windows of the trash and the versions: the Deleted items node, New Version, the
 // settings' tab, and what a register without a trash or on a server does.
 
-#include "Lithuanian.h"
+#include "harness/Lithuanian.h"
 #include "TrashFixture.h"
 #include "TrashTest.h"
 #include "addressbook/AddressBookFixture.h"

@@ -1,7 +1,7 @@
 // The history of every change: what each write records, with whom and which command; a
 // failed change and another program's writes; an older register; the History tab and
 // kartella-db history.
-#include "Lithuanian.h"
+#include "harness/Lithuanian.h"
 #include "addressbook/ContactEditor.h"
 #include "base/Error.h"
 #include "harness/OldRegister.h"
@@ -508,7 +508,7 @@ private Q_SLOTS:
             trash.restore(trash.items().first().id);
         }
         const Lithuanian lithuanian;
-        QCOMPARE(lithuanian.installed().left(2), QStringLiteral("lt"));
+        QVERIFY(lithuanian.installed());
         DocumentDetailsDialog dialog(document);
         dialog.show();
         auto* description = dialog.findChild<QLineEdit*>(QStringLiteral("txtFields_7"));

@@ -1,6 +1,6 @@
 #include "harness/ScriptedPrompter.h"
 #include "harness/ScriptedShell.h"
-#include "history/Lithuanian.h"
+#include "harness/Lithuanian.h"
 #include "platform/DesktopShell.h"
 #include "platform/FilePropertiesDialog.h"
 #include "registration/ShellFiles.h"

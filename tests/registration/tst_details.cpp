@@ -1,5 +1,5 @@
 #include "RegisterFixture.h"
-#include "dialogs/InLithuanian.h"
+#include "harness/Lithuanian.h"
 #include "explorer/DocumentFills.h"
 #include "explorer/ListModel.h"
 #include "explorer/MainWindow.h"
@@ -161,7 +161,7 @@ private Q_SLOTS:
     void showsLithuanian()
     {
         Fixture fx;
-        const InLithuanian lithuanian;
+        const Lithuanian lithuanian;
         QVERIFY(lithuanian.language().startsWith("lt"));
         DocumentDetailsDialog dialog;
         showActive(dialog);

@@ -1,5 +1,5 @@
 #include "NewDocumentFixture.h"
-#include "dialogs/InLithuanian.h"
+#include "harness/Lithuanian.h"
 #include "explorer/ExplorerList.h"
 #include "explorer/MainWindow.h"
 #include "options/OptionStore.h"
@@ -25,7 +25,7 @@ private Q_SLOTS:
     void showsLithuanian()
     {
         Fixture fx;
-        const InLithuanian lithuanian;
+        const Lithuanian lithuanian;
         QVERIFY(lithuanian.language().startsWith("lt"));
         Dialog d;
         QCOMPARE(d.dialog.windowTitle(), "Naujas dokumentas");

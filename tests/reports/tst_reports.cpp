@@ -1,5 +1,5 @@
 #include "ReportFixture.h"
-#include "addressbook/LithuanianScreen.h"
+#include "harness/Lithuanian.h"
 #include "base/Error.h"
 #include "explorer/MainWindow.h"
 #include "harness/ScriptedPrompter.h"
@@ -421,7 +421,7 @@ private Q_SLOTS:
         const QLocale systemLocale;
         QLocale::setDefault(QLocale(QLocale::Lithuanian, QLocale::Lithuania));
         const auto restoreLocale = qScopeGuard([&] { QLocale::setDefault(systemLocale); });
-        LithuanianScreen language;
+        Lithuanian language;
         QVERIFY(language.installed());
 
         ReportCommands commands;

@@ -1,6 +1,6 @@
 #include "base/Error.h"
 #include "harness/ScriptedPrompter.h"
-#include "history/Lithuanian.h"
+#include "harness/Lithuanian.h"
 #include "support/DataFiles.h"
 #include "support/DialogParts.h"
 #include "support/FileInfo.h"
