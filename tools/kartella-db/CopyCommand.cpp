@@ -1,6 +1,7 @@
 #include "CopyCommand.h"
 
 #include "RegisterArgument.h"
+#include "ToolText.h"
 #include "store/RegisterCopy.h"
 
 #include <QElapsedTimer>
@@ -28,7 +29,9 @@ int copyCommand(const QString& from, const QString& to, QTextStream& out, QTextS
               if (clock.elapsed() - lastShown < ProgressMilliseconds)
                   return;
               lastShown = clock.elapsed();
-              err << "kartella-db: copying " << table << ": " << written << " of " << rows << " rows"
+              err << "kartella-db: "
+                  << ToolText::tr("copying %1: %2 of %3 rows")
+                         .arg(table, QString::number(written), QString::number(rows))
                   << Qt::endl;
           });
 
@@ -36,10 +39,10 @@ int copyCommand(const QString& from, const QString& to, QTextStream& out, QTextS
         out << line << '\n';
     if (!report.complete()) {
         out.flush();
-        err << "kartella-db: the row counts differ. " << report.undone << Qt::endl;
+        err << "kartella-db: " << ToolText::tr("the row counts differ. %1").arg(report.undone) << Qt::endl;
         return 1;
     }
-    out << "Copied " << source << " to " << target << Qt::endl;
+    out << ToolText::tr("Copied %1 to %2").arg(source, target) << Qt::endl;
     return 0;
 }
 

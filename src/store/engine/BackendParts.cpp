@@ -1,7 +1,10 @@
 #include "store/engine/BackendParts.h"
 
+#include "store/StoreText.h"
 #include "store/engine/EngineErrors.h"
 #include "store/engine/SqlLexer.h"
+
+#include <QLocale>
 
 namespace kartella::engine {
 
@@ -70,8 +73,8 @@ QString originalDateTimeText(const QDateTime& dateTime)
 QString waitText(int milliseconds)
 {
     if (milliseconds == 1000)
-        return QStringLiteral("1 second");
-    return QString::number(milliseconds / 1000.0) + QStringLiteral(" seconds");
+        return kartella::StoreText::tr("1 second");
+    return kartella::StoreText::tr("%1 seconds").arg(QLocale().toString(milliseconds / 1000.0));
 }
 
 void findKeyColumn(QueryResult& result, const TableSchema& schema)
