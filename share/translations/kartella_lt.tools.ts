@@ -282,6 +282,22 @@
         <source>&quot;%1&quot; was made by a newer Kartella (schema version %2; this program knows versions up to %3). It is left as it is.</source>
         <translation>„%1“ sukūrė naujesnė Kartella (schemos versija %2, ši programa žino versijas iki %3). Jis paliktas koks buvo.</translation>
     </message>
+    <message>
+        <source>Row cannot be located for updating: another user may have deleted it (%1)</source>
+        <translation>Eilutės, kurią reikia atnaujinti, nepavyksta rasti: gal ją pašalino kitas naudotojas (%1)</translation>
+    </message>
+    <message>
+        <source>Row cannot be located for updating. Some values may have been changed since it was last read. (%1)</source>
+        <translation>Eilutės, kurią reikia atnaujinti, nepavyksta rasti. Kai kurios reikšmės galėjo būti pakeistos po paskutinio skaitymo. (%1)</translation>
+    </message>
+    <message>
+        <source>The changes were not stored: the register server rolled the transaction back instead of committing it (after an earlier error), and nothing written in it was kept.</source>
+        <translation>Pakeitimai neįrašyti: registro serveris atšaukė transakciją, užuot ją patvirtinęs (po ankstesnės klaidos), ir niekas, kas joje įrašyta, neišsaugota.</translation>
+    </message>
+    <message>
+        <source>The changes were not stored: the register ended the transaction before its commit (after an earlier error), and nothing written in it was kept.</source>
+        <translation>Pakeitimai neįrašyti: registras užbaigė transakciją prieš ją patvirtinant (po ankstesnės klaidos), ir niekas, kas joje įrašyta, neišsaugota.</translation>
+    </message>
 </context>
 <context>
     <name>kartella::tool::ToolText</name>

@@ -51,17 +51,17 @@ QString singleSourceTable(const std::vector<ColumnInfo>& columns)
 void failRowGone(const TableSchema& table, const QString& keyName, const QVariant& key)
 {
     throwError(ErrorNumber::RowDeleted,
-        QStringLiteral("Row cannot be located for updating: another user may have deleted it (") + table.name
-            + u' ' + keyName + u'=' + key.toString() + u')',
+        kartella::StoreText::tr("Row cannot be located for updating: another user may have deleted it (%1)")
+            .arg(table.name + u' ' + keyName + u'=' + key.toString()),
         ConnectionSource);
 }
 
 void failRowChanged(const TableSchema& table, const QString& keyName, const QVariant& key)
 {
     throwError(ErrorNumber::RowChanged,
-        QStringLiteral("Row cannot be located for updating. Some values may have been changed since it was "
-                       "last read. (")
-            + table.name + u' ' + keyName + u'=' + key.toString() + u')',
+        kartella::StoreText::tr("Row cannot be located for updating. Some values may have been changed since "
+                                "it was last read. (%1)")
+            .arg(table.name + u' ' + keyName + u'=' + key.toString()),
         ConnectionSource);
 }
 
