@@ -298,6 +298,10 @@
         <source>The changes were not stored: the register ended the transaction before its commit (after an earlier error), and nothing written in it was kept.</source>
         <translation>Pakeitimai neįrašyti: registras užbaigė transakciją prieš ją patvirtinant (po ankstesnės klaidos), ir niekas, kas joje įrašyta, neišsaugota.</translation>
     </message>
+    <message>
+        <source>The register has no table &apos;%1&apos;</source>
+        <translation>Registre nėra lentelės „%1“</translation>
+    </message>
 </context>
 <context>
     <name>kartella::tool::ToolText</name>
@@ -383,13 +387,14 @@
            reminders, newest first: when, who, the command, what and the
            change, tab-separated
 </source>
-        <translation>  create   sukuria naują tuščią registrą VIETOJE: faile (esamas failas
-           atmetamas) arba tuščioje serverio duomenų bazėje
-  sample   sukuria naują registrą KELIU ir užpildo jį pavyzdiniais duomenimis;
-           jo failai dedami į šalia esantį aplanką „&lt;pavadinimas&gt; files“
-           (N dokumentų, numatyta 400; ta pati sėkla S duoda tuos pačius duomenis)
-  info     suskaičiuoja kiekvienos registro KELIU lentelės eilutes
-  upgrade  perkelia ankstesnės Kartellos sukurtą registrą KELIU į šios
+        <translation>  create   sukuria naują tuščią registrą VIETA: failą (esamas failas
+           atmetamas) arba tuščią serverio duomenų bazę
+  sample   sukuria naują registrą KELIAS ir užpildo jį pavyzdiniais
+           duomenimis; jo failai dedami į šalia esantį aplanką
+           „&lt;pavadinimas&gt; files“ (N dokumentų, numatyta 400; ta pati sėkla S
+           duoda tuos pačius duomenis)
+  info     suskaičiuoja kiekvienos registro KELIAS lentelės eilutes
+  upgrade  ankstesnės Kartellos sukurtą registrą KELIAS perkelia į šios
            versijos formą, išsaugodama kiekvieną eilutę
   copy     nukopijuoja visą registrą IŠ su raktais į naują registrą Į
            (dar neesantį failą arba tuščią serverio duomenų bazę), tada
@@ -398,26 +403,26 @@
   migrate  nukopijuoja kiekvieną Jet registro SENAS.mdb eilutę su raktais
            į naują registrą NAUJAS; Jet 3 failo tekstas skaitomas koduote
            KP (numatyta CP1257, Baltijos; Vakarų – CP1252)
-  report   įrašo ataskaitą PAVADINIMAS į PDF failą KELIAS iš FAILO arba
-           nuostatose nurodyto registro; --list išvardija ataskaitas.
+  report   įrašo ataskaitą PAVADINIMAS į PDF failą KELIAS iš registro FAILAS
+           arba nuostatose nurodyto registro; --list išvardija ataskaitas.
            Esamas KELIAS pakeičiamas tik su --overwrite, registras – niekada
-  import   prideda FAILO kontaktus (vCard ar Outlook CSV eksportą) į registrą
-           KELIU, praleisdama jame jau esančius vardus; ne UTF-8 tekstas
-           skaitomas koduote KODUOTĖ (numatyta: atspėjama)
-  search   išspausdina registro KELIU dokumentus, kuriuose yra kiekvienas
+  import   prideda failo FAILAS kontaktus (vCard ar Outlook CSV eksportą)
+           į registrą KELIAS, praleisdama jame jau esančius vardus; ne UTF-8
+           tekstas skaitomas koduote KODUOTĖ (numatyta: atspėjama)
+  search   išspausdina registro KELIAS dokumentus, kuriuose yra kiekvienas
            ŽODIS (aprašyme, indekse, pastabose, kontakte ar failo kelyje;
            neskiriant raidžių dydžio ir diakritikų): indeksą, datą ir
            aprašymą, atskirtus tabuliacija
-  index    perskaito registro KELIU dokumentų failų, naujų ar pakeistų po
+  index    perskaito registro KELIAS dokumentų failų, naujų ar pakeistų po
            paskutinio skaitymo, tekstą, rodydama eigą, tada suskaičiuoja
            perskaitytus ir praleistus failus bei nurodo priežastis
-  trash    išvardija registro KELIU pašalintus elementus, naujausius pirma:
+  trash    išvardija registro KELIAS pašalintus elementus, naujausius pirma:
            rūšį, registracijos indeksą ar pavadinimą, kas ir kada (UTC) pašalino
   restore  grąžina pašalintą dokumentą su registracijos indeksu INDEKSAS
            kartu su susijusiais dokumentais, priminimais ir failais
   purge    pašalina visam laikui elementus, pašalintus prieš daugiau nei
            DIENOS dienų
-  history  išspausdina registro KELIU arba dokumento su registracijos
+  history  išspausdina registro KELIAS arba dokumento su registracijos
            indeksu INDEKSAS, jo susijusių dokumentų ir priminimų pakeitimus,
            naujausius pirma: kada, kas, komanda, kas pakeista ir pakeitimas,
            atskirtus tabuliacija
@@ -613,11 +618,11 @@ failai dedami į aplanką „&lt;duomenų bazė&gt; files“ dabartiniame aplank
     </message>
     <message>
         <source>--register needs a FILE</source>
-        <translation>--register reikia FAILO</translation>
+        <translation>--register reikia FAILAS</translation>
     </message>
     <message>
         <source>report needs a NAME and a PATH.pdf (or --list)</source>
-        <translation>report reikia PAVADINIMO ir KELIO.pdf (arba --list)</translation>
+        <translation>report reikia PAVADINIMAS ir KELIAS.pdf (arba --list)</translation>
     </message>
     <message>
         <source>no report named &quot;%1&quot; (kartella-db report --list names them)</source>

@@ -237,7 +237,7 @@ private Q_SLOTS:
             << "kartella-db: nurodytas daugiau nei vienas KELIAS\nNaudojimas: kartella-db create VIETA\n";
         QTest::newRow("report usage error in Lithuanian")
             << "lt" << QStringList {"report", "phones"} << 2 << "" << QStringList {}
-            << "kartella-db: report reikia PAVADINIMO ir KELIO.pdf (arba --list)\nNaudojimas: kartella-db "
+            << "kartella-db: report reikia PAVADINIMAS ir KELIAS.pdf (arba --list)\nNaudojimas: kartella-db "
                "report --list\n";
         QTest::newRow("no register in Lithuanian")
             << "lt" << QStringList {"info", "{dir}/nera.mdb"} << 1 << "" << QStringList {}

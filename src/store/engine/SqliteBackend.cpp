@@ -406,8 +406,8 @@ const TableSchema& SqliteBackend::tableSchema(const QString& table)
     if (code != SQLITE_DONE)
         fail(code, sql);
     if (schema.columns.empty())
-        throwError(ErrorNumber::CommandFailed, QStringLiteral("The register has no table '") + table + u'\'',
-            ConnectionSource);
+        throwError(ErrorNumber::CommandFailed,
+            kartella::StoreText::tr("The register has no table '%1'").arg(table), ConnectionSource);
     if (keys.size() == 1) {
         schema.key = keys.front();
         schema.keyGenerated = integerKey;
