@@ -331,6 +331,7 @@
        kartella-db history PATH [INDEX]
        kartella-db --help
 </source>
+        <extracomment>The commands and options stay as they are; the words in capitals name what is given and are the same in the help, the usage lines and the usage errors.</extracomment>
         <translation>Naudojimas: kartella-db create VIETA
             kartella-db sample KELIAS [--documents N] [--seed S]
             kartella-db info KELIAS

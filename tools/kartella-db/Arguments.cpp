@@ -37,6 +37,8 @@ std::optional<Invocation> parseSearch(const QStringList& arguments, QString& pro
 QString usageText()
 {
     // In blocks, so that a translation can follow the lines of each.
+    //: The commands and options stay as they are; the words in capitals name what is given
+    //: and are the same in the help, the usage lines and the usage errors.
     return ToolText::tr(
                "Usage: kartella-db create LOCATION\n"
                "       kartella-db sample PATH [--documents N] [--seed S]\n"
