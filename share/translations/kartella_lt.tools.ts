@@ -591,7 +591,7 @@ failai dedami į aplanką „&lt;duomenų bazė&gt; files“ dabartiniame aplank
     </message>
     <message>
         <source>a value of %1 is too long to be read whole</source>
-        <translation>reikšmė %1 per ilga, kad būtų perskaityta visa</translation>
+        <translation>lauko %1 reikšmė per ilga, kad ją būtų galima perskaityti visą</translation>
     </message>
     <message>
         <source>Read %1 (%2)</source>
@@ -675,7 +675,7 @@ failai dedami į aplanką „&lt;duomenų bazė&gt; files“ dabartiniame aplank
     </message>
     <message>
         <source>The register is up to date (schema version %1).</source>
-        <translation>Registras naujausias (schemos versija %1).</translation>
+        <translation>Registras jau atnaujintas (schemos versija %1).</translation>
     </message>
     <message>
         <source>Step %1: %2</source>

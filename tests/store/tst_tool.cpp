@@ -297,7 +297,7 @@ private Q_SLOTS:
                                     << "2 žingsnis: pavadinimų stulpeliai, kuriuos skaito bet kuri SQLite "
                                        "priemonė"
                                     << "Registro schemos versija dabar %1."
-                                    << "Registras naujausias (schemos versija %1).";
+                                    << "Registras jau atnaujintas (schemos versija %1).";
     }
 
     void upgradeInTheDesktopsLanguage()
