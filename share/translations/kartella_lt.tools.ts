@@ -302,6 +302,26 @@
         <source>The register has no table &apos;%1&apos;</source>
         <translation>Registre nėra lentelės „%1“</translation>
     </message>
+    <message>
+        <source>Type mismatch: &apos;%1&apos; is not %2 (field %3).</source>
+        <translation>Tipų neatitikimas: „%1“ nėra %2 (laukas %3).</translation>
+    </message>
+    <message>
+        <source>Overflow: %1 doesn&apos;t fit field %2.</source>
+        <translation>Perpildymas: %1 netelpa lauke %2.</translation>
+    </message>
+    <message>
+        <source>a whole number</source>
+        <translation>sveikasis skaičius</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>skaičius</translation>
+    </message>
+    <message>
+        <source>a date</source>
+        <translation>data</translation>
+    </message>
 </context>
 <context>
     <name>kartella::tool::ToolText</name>
