@@ -240,18 +240,24 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("location");
         QTest::addColumn<QString>("described");
+        QTest::addColumn<QString>("inLithuanian");
         QTest::newRow("no server at the port") << "postgresql://nobody@127.0.0.1:1/none"
-                                               << "Could not connect to the register server";
+                                               << "Could not connect to the register server"
+                                               << "Nepavyko prisijungti prie registro serverio";
         QTest::newRow("no such database") << "{server}/kartella_no_such_database"
-                                          << "kartella_no_such_database";
+                                          << "kartella_no_such_database"
+                                          << "Nepavyko prisijungti prie registro serverio „{server}/"
+                                             "kartella_no_such_database“";
         QTest::newRow("database of another program") << "{other}"
-                                                     << "has no table tbl_Documents";
+                                                     << "has no table tbl_Documents"
+                                                     << "„{other}“ yra duomenų bazė, bet ne registras";
     }
 
     void serverOpenFailures()
     {
         QFETCH(QString, location);
         QFETCH(QString, described);
+        QFETCH(QString, inLithuanian);
         if (!testsOnServer())
             QSKIP("server registers only");
         ServerDatabase other;
@@ -264,10 +270,20 @@ private Q_SLOTS:
         QString server = other.location();
         server.truncate(server.lastIndexOf(u'/'));
         location.replace("{server}", server).replace("{other}", other.location());
-        const auto [number, description]
-            = openError(plainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"), location));
+        inLithuanian.replace("{server}", server).replace("{other}", other.location());
+        const QString connectionString
+            = plainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"), location);
+        const auto [number, description] = openError(connectionString);
         QCOMPARE(number, ErrorNumber::ConnectionFailed);
         QVERIFY2(description.contains(described), qPrintable(description));
+
+        // The same failure on a Lithuanian desktop; the server's own words stay as they come.
+        const auto [numberInLithuanian, lithuanian] = [&] {
+            const LithuanianTexts texts;
+            return openError(connectionString);
+        }();
+        QCOMPARE(numberInLithuanian, ErrorNumber::ConnectionFailed);
+        QVERIFY2(lithuanian.contains(inLithuanian), qPrintable(lithuanian));
     }
 
     // A writer that finds the file locked by another connection's transaction waits for it;
