@@ -3,6 +3,7 @@
 #include "base/Error.h"
 #include "options/OptionStore.h"
 #include "platform/Clock.h"
+#include "store/StoreText.h"
 #include "store/engine/Connection.h"
 #include "store/engine/DateText.h"
 #include "store/engine/Recordset.h"
@@ -241,8 +242,9 @@ void markReminderDone(Connection& connection, qint32 reminderId)
 {
     if (!hasReminderDoneColumn(connection))
         throw Error(ErrorNumber::CommandFailed,
-            QStringLiteral("This register was made by an older Kartella and has no place to keep a reminder "
-                           "done. Upgrade it first."));
+            kartella::StoreText::tr(
+                "This register was made by an older Kartella and has no place to keep a reminder "
+                "done. Upgrade it first."));
     connection.execute(QStringLiteral("UPDATE tbl_Tickler SET ") + QLatin1String(ReminderDoneColumn)
         + QStringLiteral(" = 1 WHERE TicklerID = ") + QString::number(reminderId));
 }

@@ -6,6 +6,7 @@
 #include "store/Schema.h"
 #include "store/SchemaSteps.h"
 #include "store/Store.h"
+#include "store/StoreText.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
 #include "store/migration/TableMapping.h"
@@ -34,20 +35,21 @@ void requireNewestSchema(Connection& source, const QString& from)
     const int newest = newestSchemaVersion();
     if (version <= 0)
         throw Error(ErrorNumber::CommandFailed,
-            QStringLiteral(
+            kartella::StoreText::tr(
                 "\"%1\" is no Kartella register: it carries no schema version. Nothing was copied.")
                 .arg(shown(from)));
     if (version < newest)
         throw Error(ErrorNumber::CommandFailed,
-            QStringLiteral("The register \"%1\" has an older form (schema version %2; this program's is %3). "
-                           "Bring it up to date with \"kartella-db upgrade\" first, then copy it. Nothing "
-                           "was copied.")
+            kartella::StoreText::tr(
+                "The register \"%1\" has an older form (schema version %2; this program's is %3). "
+                "Bring it up to date with \"kartella-db upgrade\" first, then copy it. Nothing "
+                "was copied.")
                 .arg(shown(from))
                 .arg(version)
                 .arg(newest));
     if (version > newest)
         throw Error(ErrorNumber::CommandFailed,
-            QStringLiteral(
+            kartella::StoreText::tr(
                 "The register \"%1\" was made by a newer Kartella (schema version %2; this program "
                 "knows versions up to %3). Nothing was copied.")
                 .arg(shown(from))
@@ -101,7 +103,8 @@ TableCopyCount copyTable(Connection& source, Connection& target, const migration
     }
     if (!columns.contains(key, Qt::CaseInsensitive))
         throw Error(ErrorNumber::CommandFailed,
-            QStringLiteral("The table %1 of the source has no key column %2.").arg(mapping.table, key));
+            kartella::StoreText::tr("The table %1 of the source has no key column %2.")
+                .arg(mapping.table, key));
 
     // The date fields, when the target keeps days only.
     QList<bool> dayOnly;
@@ -129,7 +132,8 @@ TableCopyCount copyTable(Connection& source, Connection& target, const migration
             // A register holds no binary data; written as text it would not be the same value.
             if (value.typeId() == QMetaType::QByteArray)
                 throw Error(ErrorNumber::TypeMismatch,
-                    QStringLiteral("%1, row %2, field %3 holds binary data, which a register doesn't keep.")
+                    kartella::StoreText::tr(
+                        "%1, row %2, field %3 holds binary data, which a register doesn't keep.")
                         .arg(mapping.table, rows.rowValue(row, int(columns.indexOf(key))).toString(),
                             columns.at(column)));
             if (dayOnly.at(column) && value.typeId() == QMetaType::QDateTime) {
@@ -168,12 +172,14 @@ void rollbackQuietly(Connection& connection)
 QString undoTarget(const QString& to)
 {
     if (isServerLocation(to))
-        return QStringLiteral(
+        return kartella::StoreText::tr(
             "Nothing was copied: the database \"%1\" holds the register's tables without rows.")
             .arg(to);
     if (QFile::remove(to))
-        return QStringLiteral("Nothing was copied: the new register \"%1\" is removed again.").arg(shown(to));
-    return QStringLiteral("Nothing was copied, but the new register \"%1\" could not be removed; delete it.")
+        return kartella::StoreText::tr("Nothing was copied: the new register \"%1\" is removed again.")
+            .arg(shown(to));
+    return kartella::StoreText::tr(
+        "Nothing was copied, but the new register \"%1\" could not be removed; delete it.")
         .arg(shown(to));
 }
 
@@ -195,19 +201,19 @@ QStringList RegisterCopyReport::lines() const
     QStringList lines;
     for (const TableCopyCount& table : tables) {
         if (table.matches())
-            lines << table.table + QStringLiteral(": ") + QString::number(table.sourceRows)
-                    + QStringLiteral(" copied");
+            lines << kartella::StoreText::tr("%1: %2 copied")
+                         .arg(table.table, QString::number(table.sourceRows));
         else
-            lines << table.table + QStringLiteral(": ") + QString::number(table.sourceRows)
-                    + QStringLiteral(" in the source, ") + QString::number(table.targetRows)
-                    + QStringLiteral(" in the copy: the counts differ");
+            lines << kartella::StoreText::tr("%1: %2 in the source, %3 in the copy: the counts differ")
+                         .arg(table.table, QString::number(table.sourceRows),
+                             QString::number(table.targetRows));
         if (!table.columnsLeftOut.isEmpty())
-            lines << QStringLiteral("  columns the new register lacks, not copied: ")
-                    + table.columnsLeftOut.join(QStringLiteral(", "));
+            lines << kartella::StoreText::tr("  columns the new register lacks, not copied: %1")
+                         .arg(table.columnsLeftOut.join(QStringLiteral(", ")));
         if (table.timesOfDayDropped > 0)
-            lines << QStringLiteral(
-                         "  dates that lost their time of day (a register on a server keeps the day): ")
-                    + QString::number(table.timesOfDayDropped);
+            lines << kartella::StoreText::tr(
+                "  dates that lost their time of day (a register on a server keeps the day): %1")
+                         .arg(table.timesOfDayDropped);
     }
     return lines;
 }
@@ -224,8 +230,8 @@ RegisterCopyReport copyRegister(const QString& from, const QString& to, const Re
         createRegister(to);
     } catch (const Error& error) {
         throw Error(error.number(),
-            error.description()
-                + QStringLiteral(" A copy goes into a new register only. Nothing was copied."),
+            error.description() + u' '
+                + kartella::StoreText::tr("A copy goes into a new register only. Nothing was copied."),
             error.source());
     }
     const QString target = isServerLocation(to) ? to : QFileInfo(to).absoluteFilePath();

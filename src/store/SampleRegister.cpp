@@ -6,6 +6,7 @@
 #include "store/SampleData.h"
 #include "store/SampleFiles.h"
 #include "store/Store.h"
+#include "store/StoreText.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
 
@@ -438,15 +439,16 @@ void fillSampleRegister(const QString& registerPath, const SampleOptions& option
 {
     if (!options.today.isValid())
         throw Error(ErrorNumber::IllegalOperation,
-            QStringLiteral("The sample needs a valid day to count back from."));
+            kartella::StoreText::tr("The sample needs a valid day to count back from."));
     const QString path
         = isServerLocation(registerPath) ? registerPath : QFileInfo(registerPath).absoluteFilePath();
     Connection connection;
     connection.open(plainConnectionString(JetProvider, path));
     if (!registerIsEmpty(connection))
         throw Error(ErrorNumber::IllegalOperation,
-            QStringLiteral("The register \"") + path
-                + QStringLiteral("\" already holds data; a sample goes into an empty one."));
+            kartella::StoreText::tr(
+                "The register \"%1\" already holds data; a sample goes into an empty one.")
+                .arg(path));
 
     SampleWriter writer(connection, options, sampleFilesFolder(path));
     connection.beginTrans();
@@ -467,13 +469,13 @@ void fillSampleRegister(const QString& registerPath, const SampleOptions& option
     folders.prepend(sampleFilesFolder(path));
     for (const QString& folder : std::as_const(folders)) {
         if (!QDir().mkpath(folder))
-            throw Error(
-                ErrorNumber::PathFileAccess, QStringLiteral("Can't create the folder \"") + folder + u'"');
+            throw Error(ErrorNumber::PathFileAccess,
+                kartella::StoreText::tr("Can't create the folder \"%1\"").arg(folder));
     }
     for (const PendingFile& file : writer.files()) {
         if (!writeSampleFile(file.path, file.content))
-            throw Error(
-                ErrorNumber::PathFileAccess, QStringLiteral("Can't write the file \"") + file.path + u'"');
+            throw Error(ErrorNumber::PathFileAccess,
+                kartella::StoreText::tr("Can't write the file \"%1\"").arg(file.path));
     }
 }
 

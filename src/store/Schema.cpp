@@ -3,6 +3,7 @@
 #include "base/Error.h"
 #include "store/SchemaSteps.h"
 #include "store/Store.h"
+#include "store/StoreText.h"
 #include "store/engine/Connection.h"
 
 #include <QFile>
@@ -21,8 +22,10 @@ void createServerRegister(const QString& location)
     connection.open(plainConnectionString(JetProvider, location));
     if (!databaseIsEmpty(connection))
         throw Error(ErrorNumber::PathFileAccess,
-            QStringLiteral("The database \"") + location
-                + QStringLiteral("\" already holds tables. A register is made only in an empty database."));
+            kartella::StoreText::tr(
+                "The database \"%1\" already holds tables. A register is made only in an empty "
+                "database.")
+                .arg(location));
     connection.beginTrans();
     createRegisterSchema(connection);
     connection.commitTrans();
@@ -45,13 +48,13 @@ void createRegister(const QString& path)
     const QString nativePath = QFileInfo(path).absoluteFilePath();
     if (QFileInfo::exists(nativePath))
         throw Error(ErrorNumber::PathFileAccess,
-            QStringLiteral("A file named \"") + nativePath + QStringLiteral("\" already exists."));
+            kartella::StoreText::tr("A file named \"%1\" already exists.").arg(nativePath));
 
     // The engine opens only files that exist; the register starts as an empty file.
     QFile file(nativePath);
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
         throw Error(ErrorNumber::PathFileAccess,
-            QStringLiteral("Can't create \"") + nativePath + QStringLiteral("\": ") + file.errorString());
+            kartella::StoreText::tr("Can't create \"%1\": %2").arg(nativePath, file.errorString()));
     file.close();
 
     try {

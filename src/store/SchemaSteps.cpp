@@ -5,6 +5,7 @@
 #include "store/DueReminders.h"
 #include "store/SearchIndex.h"
 #include "store/Store.h"
+#include "store/StoreText.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
 
@@ -64,25 +65,41 @@ void addServerNodeListIndexes(Connection& connection);
 const std::vector<SchemaStep>& schemaSteps()
 {
     static const std::vector<SchemaStep> steps = {
-        {1, QStringLiteral("tables, indexes, views and triggers of the register"), createFirstForm,
-            createServerFirstForm},
-        {2, QStringLiteral("name columns readable by any SQLite tool"), plainNameColumns,
-            keepServerNameColumns},
-        {3, QStringLiteral("search index of the documents' texts"), createSearchIndex,
-            createServerSearchIndex},
-        {4, QStringLiteral("reminders that can be marked done"), addReminderDoneColumn,
-            addServerReminderDoneColumn},
-        {5, QStringLiteral("one counter of the day's registration indexes for every user"), addDayCounter,
-            addServerDayCounter},
-        {6, QStringLiteral("an index for the lists of one direction"), addDirectionIndex,
-            addServerDirectionIndex},
-        {7, QStringLiteral("the text read from the documents' files"), addDocumentTextStore,
-            addServerDocumentTextStore},
-        {8, QStringLiteral("search index of the words of the documents' files"), createContentIndex,
-            createServerContentIndex},
-        {9, QStringLiteral("the history of every change"), addHistory, addServerHistory},
-        {10, QStringLiteral("the trash of deleted items"), addTrash, addServerTrash},
-        {11, QStringLiteral("indexes for the lists of a category's directions and subcategories"),
+        {1,
+            QStringLiteral(QT_TRANSLATE_NOOP(
+                "kartella::SchemaStep", "tables, indexes, views and triggers of the register")),
+            createFirstForm, createServerFirstForm},
+        {2,
+            QStringLiteral(
+                QT_TRANSLATE_NOOP("kartella::SchemaStep", "name columns readable by any SQLite tool")),
+            plainNameColumns, keepServerNameColumns},
+        {3, QStringLiteral(QT_TRANSLATE_NOOP("kartella::SchemaStep", "search index of the documents' texts")),
+            createSearchIndex, createServerSearchIndex},
+        {4, QStringLiteral(QT_TRANSLATE_NOOP("kartella::SchemaStep", "reminders that can be marked done")),
+            addReminderDoneColumn, addServerReminderDoneColumn},
+        {5,
+            QStringLiteral(QT_TRANSLATE_NOOP(
+                "kartella::SchemaStep", "one counter of the day's registration indexes for every user")),
+            addDayCounter, addServerDayCounter},
+        {6,
+            QStringLiteral(
+                QT_TRANSLATE_NOOP("kartella::SchemaStep", "an index for the lists of one direction")),
+            addDirectionIndex, addServerDirectionIndex},
+        {7,
+            QStringLiteral(
+                QT_TRANSLATE_NOOP("kartella::SchemaStep", "the text read from the documents' files")),
+            addDocumentTextStore, addServerDocumentTextStore},
+        {8,
+            QStringLiteral(QT_TRANSLATE_NOOP(
+                "kartella::SchemaStep", "search index of the words of the documents' files")),
+            createContentIndex, createServerContentIndex},
+        {9, QStringLiteral(QT_TRANSLATE_NOOP("kartella::SchemaStep", "the history of every change")),
+            addHistory, addServerHistory},
+        {10, QStringLiteral(QT_TRANSLATE_NOOP("kartella::SchemaStep", "the trash of deleted items")),
+            addTrash, addServerTrash},
+        {11,
+            QStringLiteral(QT_TRANSLATE_NOOP("kartella::SchemaStep",
+                "indexes for the lists of a category's directions and subcategories")),
             addNodeListIndexes, addServerNodeListIndexes},
     };
     return steps;
@@ -199,13 +216,14 @@ std::vector<const SchemaStep*> upgradeRegister(const QString& path)
     const int version = schemaVersion(connection);
     if (version <= 0)
         throw Error(ErrorNumber::CommandFailed,
-            QStringLiteral("\"") + path
-                + QStringLiteral("\" was not made by Kartella: it carries no schema version. It is left "
-                                 "as it is."));
+            kartella::StoreText::tr(
+                "\"%1\" was not made by Kartella: it carries no schema version. It is left as it is.")
+                .arg(path));
     if (version > newestSchemaVersion())
         throw Error(ErrorNumber::CommandFailed,
-            QStringLiteral("\"%1\" was made by a newer Kartella (schema version %2; this program knows "
-                           "versions up to %3). It is left as it is.")
+            kartella::StoreText::tr(
+                "\"%1\" was made by a newer Kartella (schema version %2; this program knows "
+                "versions up to %3). It is left as it is.")
                 .arg(path)
                 .arg(version)
                 .arg(newestSchemaVersion()));

@@ -1,15 +1,18 @@
 #include "EngineFixture.h"
 #include "base/Error.h"
+#include "platform/Translations.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QSemaphore>
 #include <QTest>
 #include <QThread>
+#include <QTranslator>
 
 using namespace kartella;
 using namespace kartella::test;
@@ -27,6 +30,31 @@ std::pair<long, QString> openError(const QString& connectionString)
         return {error.number(), error.description()};
     }
 }
+
+// The program's Lithuanian texts while it lives; English again after.
+class LithuanianTexts
+{
+public:
+    LithuanianTexts()
+        : m_before(QCoreApplication::instance()->findChildren<QTranslator*>())
+    {
+        installTranslations({QStringLiteral("lt")});
+    }
+    ~LithuanianTexts()
+    {
+        for (QTranslator* translator : QCoreApplication::instance()->findChildren<QTranslator*>()) {
+            if (!m_before.contains(translator)) {
+                QCoreApplication::removeTranslator(translator);
+                delete translator;
+            }
+        }
+    }
+    LithuanianTexts(const LithuanianTexts&) = delete;
+    LithuanianTexts& operator=(const LithuanianTexts&) = delete;
+
+private:
+    const QList<QTranslator*> m_before;
+};
 
 void writeFile(const QString& path, const QByteArray& bytes)
 {
@@ -80,31 +108,43 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("connectionString");
         QTest::addColumn<QString>("described");
+        QTest::addColumn<QString>("inLithuanian");
 
         // Paths are relative to the test's folder, written as {dir}.
         const QString jet = QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source= {dir}/");
         QTest::newRow("missing file") << jet + "none.mdb"
-                                      << "Could not find file '{dir}/none.mdb'.";
+                                      << "Could not find file '{dir}/none.mdb'."
+                                      << "Nerastas failas „{dir}/none.mdb“.";
         QTest::newRow("folder") << jet + "folder"
-                                << "is a folder";
+                                << "is a folder"
+                                << "„{dir}/folder“ yra aplankas";
         QTest::newRow("text file") << jet + "notes.txt"
-                                   << "is not a register";
+                                   << "is not a register"
+                                   << "„{dir}/notes.txt“ nėra registras";
         QTest::newRow("damaged") << jet + "damaged.mdb"
-                                 << "may be damaged";
+                                 << "may be damaged"
+                                 << "gali būti sugadintas";
         QTest::newRow("other database") << jet + "other.db"
-                                        << "has no table tbl_Documents";
+                                        << "has no table tbl_Documents"
+                                        << "nėra lentelės tbl_Documents";
         QTest::newRow("jet file") << jet + "old.mdb"
-                                  << "kartella-db migrate";
+                                  << "kartella-db migrate"
+                                  << "registru komanda „kartella-db migrate“";
         QTest::newRow("ace file") << jet + "new.accdb"
-                                  << "Microsoft Access database";
+                                  << "Microsoft Access database"
+                                  << "Microsoft Access duomenų bazė";
         QTest::newRow("unknown provider")
             << "Provider=SQLOLEDB;Data Source= {dir}/good.mdb"
             << "'SQLOLEDB'. Set the Provider option to Microsoft.Jet.OLEDB.4.0 or "
+               "Microsoft.Jet.OLEDB.3.51."
+            << "„SQLOLEDB“. Nuostatai Provider nurodykite Microsoft.Jet.OLEDB.4.0 arba "
                "Microsoft.Jet.OLEDB.3.51.";
         QTest::newRow("shape without data provider") << "Provider=MSDataShape;Data Source= {dir}/good.mdb"
-                                                     << "names no provider";
+                                                     << "names no provider"
+                                                     << "nenurodytas tiekėjas";
         QTest::newRow("no data source") << "Provider=Microsoft.Jet.OLEDB.4.0"
-                                        << "no Data Source";
+                                        << "no Data Source"
+                                        << "nėra Data Source";
     }
 
     void openFailures()
@@ -140,6 +180,15 @@ private Q_SLOTS:
         QCOMPARE(number, ErrorNumber::ConnectionFailed);
         QVERIFY2(description.contains(QString(described).replace("{dir}", dir)), qPrintable(description));
         QVERIFY(!QFileInfo::exists(dir + "/none.mdb"));
+
+        // The same failure on a Lithuanian desktop.
+        QFETCH(QString, inLithuanian);
+        const auto [numberInLithuanian, lithuanian] = [&] {
+            const LithuanianTexts texts;
+            return openError(QString(connectionString).replace("{dir}", dir));
+        }();
+        QCOMPARE(numberInLithuanian, ErrorNumber::ConnectionFailed);
+        QVERIFY2(lithuanian.contains(QString(inLithuanian).replace("{dir}", dir)), qPrintable(lithuanian));
     }
 
     void commandFailure()
@@ -191,18 +240,24 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("location");
         QTest::addColumn<QString>("described");
+        QTest::addColumn<QString>("inLithuanian");
         QTest::newRow("no server at the port") << "postgresql://nobody@127.0.0.1:1/none"
-                                               << "Could not connect to the register server";
+                                               << "Could not connect to the register server"
+                                               << "Nepavyko prisijungti prie registro serverio";
         QTest::newRow("no such database") << "{server}/kartella_no_such_database"
-                                          << "kartella_no_such_database";
+                                          << "kartella_no_such_database"
+                                          << "Nepavyko prisijungti prie registro serverio „{server}/"
+                                             "kartella_no_such_database“";
         QTest::newRow("database of another program") << "{other}"
-                                                     << "has no table tbl_Documents";
+                                                     << "has no table tbl_Documents"
+                                                     << "„{other}“ yra duomenų bazė, bet ne registras";
     }
 
     void serverOpenFailures()
     {
         QFETCH(QString, location);
         QFETCH(QString, described);
+        QFETCH(QString, inLithuanian);
         if (!testsOnServer())
             QSKIP("server registers only");
         ServerDatabase other;
@@ -215,10 +270,20 @@ private Q_SLOTS:
         QString server = other.location();
         server.truncate(server.lastIndexOf(u'/'));
         location.replace("{server}", server).replace("{other}", other.location());
-        const auto [number, description]
-            = openError(plainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"), location));
+        inLithuanian.replace("{server}", server).replace("{other}", other.location());
+        const QString connectionString
+            = plainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"), location);
+        const auto [number, description] = openError(connectionString);
         QCOMPARE(number, ErrorNumber::ConnectionFailed);
         QVERIFY2(description.contains(described), qPrintable(description));
+
+        // The same failure on a Lithuanian desktop; the server's own words stay as they come.
+        const auto [numberInLithuanian, lithuanian] = [&] {
+            const LithuanianTexts texts;
+            return openError(connectionString);
+        }();
+        QCOMPARE(numberInLithuanian, ErrorNumber::ConnectionFailed);
+        QVERIFY2(lithuanian.contains(inLithuanian), qPrintable(lithuanian));
     }
 
     // A writer that finds the file locked by another connection's transaction waits for it;

@@ -21,13 +21,15 @@ struct ToolRun
 };
 
 // Runs the tool; with a small disk every write past a few kilobytes fails as on a full disk.
-// A locale other than the tests' own is given as its name ("lt_LT").
+// A locale other than the tests' own is given as its name ("lt_LT"): its dates and numbers,
+// with the texts in English as the tests read them.
 ToolRun runTool(const QStringList& arguments, bool smallDisk = false, const QString& locale = {})
 {
     QProcess tool;
     if (!locale.isEmpty()) {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("LC_ALL", locale + ".UTF-8");
+        environment.insert("LANGUAGE", "en");
         tool.setProcessEnvironment(environment);
     }
     if (smallDisk) {

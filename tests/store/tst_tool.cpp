@@ -1,9 +1,11 @@
 #include "harness/OldRegister.h"
+#include "store/SchemaSteps.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -16,9 +18,24 @@ struct Run
     QString err;
 };
 
-Run runTool(const QStringList& arguments)
+// The environment of a desktop in a language ("lt"), or the tests' own for an empty one.
+QProcessEnvironment desktopIn(const QString& language)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    if (language == u"lt") {
+        environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("lt_LT.UTF-8"));
+        environment.insert(QStringLiteral("LANGUAGE"), QStringLiteral("lt"));
+    } else if (language == u"en") {
+        environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+        environment.remove(QStringLiteral("LANGUAGE"));
+    }
+    return environment;
+}
+
+Run runTool(const QStringList& arguments, const QString& language = {})
 {
     QProcess process;
+    process.setProcessEnvironment(desktopIn(language));
     process.start(QStringLiteral(KARTELLA_DB_PATH), arguments);
     Run run;
     if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit)
@@ -203,6 +220,120 @@ private Q_SLOTS:
         QVERIFY(run.err.startsWith("kartella-db: "));
         QVERIFY(run.err.contains("Usage: kartella-db create LOCATION"));
         QVERIFY(!QFile::exists(m_dir.filePath("x.mdb")));
+    }
+
+    // The tool speaks the desktop's language: its help, its usage errors (also those of the
+    // report command) and its errors, the register's own among them. English is as it was,
+    // in the same blocks.
+    void speaksTheDesktopsLanguage_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("exitCode");
+        QTest::addColumn<QString>("outStart");
+        QTest::addColumn<QStringList>("outHolds");
+        QTest::addColumn<QString>("errHolds");
+        QTest::newRow("help in English")
+            << "en" << QStringList {"--help"} << 0 << "Usage: kartella-db create LOCATION\n"
+            << QStringList {"       kartella-db --help\n\n  create   makes a new, empty register at LOCATION",
+                   "           change, tab-separated\n\nEvery register named (LOCATION, FROM, TO, NEW",
+                   "in the current folder.\n\nExit codes: 0 success, 1 failure, 2 usage error.\n"}
+            << "";
+        QTest::newRow("help in Lithuanian")
+            << "lt" << QStringList {"--help"} << 0 << "Naudojimas: kartella-db create VIETA\n"
+            << QStringList {"            kartella-db --help\n\n  create   sukuria naują tuščią registrą",
+                   "atskirtus tabuliacija\n\nKiekvienas nurodytas registras",
+                   "dabartiniame aplanke.\n\nIšėjimo kodai: 0 – pavyko, 1 – nepavyko, 2 – neteisingas "
+                   "naudojimas.\n"}
+            << "";
+        QTest::newRow("usage error in Lithuanian")
+            << "lt" << QStringList {"info", "a.mdb", "b.mdb"} << 2 << "" << QStringList {}
+            << "kartella-db: nurodytas daugiau nei vienas KELIAS\nNaudojimas: kartella-db create VIETA\n";
+        QTest::newRow("report usage error in Lithuanian")
+            << "lt" << QStringList {"report", "phones"} << 2 << "" << QStringList {}
+            << "kartella-db: report reikia PAVADINIMAS ir KELIAS.pdf (arba --list)\nNaudojimas: kartella-db "
+               "report --list\n";
+        QTest::newRow("no register in Lithuanian")
+            << "lt" << QStringList {"info", "{dir}/nera.mdb"} << 1 << "" << QStringList {}
+            << "kartella-db: nėra registro „{dir}/nera.mdb“\n";
+        QTest::newRow("existing file in Lithuanian")
+            << "lt" << QStringList {"create", "{dir}/yra.txt"} << 1 << "" << QStringList {}
+            << "kartella-db: Failas „{dir}/yra.txt“ jau yra.\n";
+        QTest::newRow("existing file in English")
+            << "en" << QStringList {"create", "{dir}/yra.txt"} << 1 << "" << QStringList {}
+            << "kartella-db: A file named \"{dir}/yra.txt\" already exists.\n";
+    }
+
+    void speaksTheDesktopsLanguage()
+    {
+        QFETCH(QString, language);
+        QFETCH(QStringList, arguments);
+        QFETCH(int, exitCode);
+        QFETCH(QString, outStart);
+        QFETCH(QStringList, outHolds);
+        QFETCH(QString, errHolds);
+        QTemporaryDir dir;
+        QFile existing(dir.filePath("yra.txt"));
+        QVERIFY(existing.open(QIODevice::WriteOnly));
+        existing.close();
+        for (QString& argument : arguments)
+            argument.replace("{dir}", dir.path());
+
+        const Run run = runTool(arguments, language);
+        QCOMPARE(run.exitCode, exitCode);
+        // (An empty start matches any output, also none.)
+        QVERIFY2(outStart.isEmpty() || run.out.startsWith(outStart), qPrintable(run.out));
+        for (const QString& part : outHolds)
+            QVERIFY2(run.out.contains(part), qPrintable(part));
+        if (!outHolds.isEmpty())
+            QVERIFY(run.out.endsWith(outHolds.last()));
+        // (Qt may warn on its own lines before.)
+        QVERIFY2(errHolds.isEmpty() || run.err.contains(QString(errHolds).replace("{dir}", dir.path())),
+            qPrintable(run.err));
+        if (errHolds.isEmpty())
+            QVERIFY2(run.err.isEmpty(), qPrintable(run.err));
+        QCOMPARE(QFileInfo(dir.filePath("yra.txt")).size(), 0);
+    }
+
+    // An upgrade tells its steps in the desktop's language, also those listed before any
+    // translation was installed.
+    void upgradeInTheDesktopsLanguage_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("firstStep");
+        QTest::addColumn<QString>("lastLine");
+        QTest::addColumn<QString>("upToDate");
+        QTest::newRow("English") << "en"
+                                 << "Step 2: name columns readable by any SQLite tool"
+                                 << "The register is at schema version %1."
+                                 << "The register is up to date (schema version %1).";
+        QTest::newRow("Lithuanian") << "lt"
+                                    << "2 žingsnis: pavadinimų stulpeliai, kuriuos skaito bet kuri SQLite "
+                                       "priemonė"
+                                    << "Registro schemos versija dabar %1."
+                                    << "Registras jau atnaujintas (schemos versija %1).";
+    }
+
+    void upgradeInTheDesktopsLanguage()
+    {
+        QFETCH(QString, language);
+        QFETCH(QString, firstStep);
+        QFETCH(QString, lastLine);
+        QFETCH(QString, upToDate);
+        QTemporaryDir dir;
+        const QString path = dir.filePath("Senas.mdb");
+        kartella::test::makeOldRegister(path);
+        const QString newest = QString::number(kartella::newestSchemaVersion());
+
+        Run run = runTool({"upgrade", path}, language);
+        QCOMPARE(run.exitCode, 0);
+        const QStringList lines = run.out.split('\n', Qt::SkipEmptyParts);
+        QCOMPARE(lines.size(), kartella::newestSchemaVersion());
+        QCOMPARE(lines.first(), firstStep);
+        QCOMPARE(lines.last(), lastLine.arg(newest));
+        run = runTool({"upgrade", path}, language);
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.out, upToDate.arg(newest) + '\n');
     }
 
     void help()

@@ -1,6 +1,7 @@
 #include "Arguments.h"
 
 #include "HistoryCommand.h"
+#include "ToolText.h"
 
 namespace kartella::tool {
 
@@ -21,7 +22,7 @@ std::optional<QString> optionValue(const QStringList& arguments, int& i, const Q
 std::optional<Invocation> parseSearch(const QStringList& arguments, QString& problem)
 {
     if (arguments.size() < 3) {
-        problem = arguments.size() < 2 ? QStringLiteral("no PATH given") : QStringLiteral("no WORD given");
+        problem = arguments.size() < 2 ? ToolText::tr("no PATH given") : ToolText::tr("no WORD given");
         return std::nullopt;
     }
     Invocation invocation;
@@ -35,73 +36,76 @@ std::optional<Invocation> parseSearch(const QStringList& arguments, QString& pro
 
 QString usageText()
 {
-    return QStringLiteral("Usage: kartella-db create LOCATION\n"
-                          "       kartella-db sample PATH [--documents N] [--seed S]\n"
-                          "       kartella-db info PATH\n"
-                          "       kartella-db upgrade PATH\n"
-                          "       kartella-db copy FROM TO\n"
-                          "       kartella-db migrate OLD.mdb NEW [--codepage CP]\n"
-                          "       kartella-db report --list\n"
-                          "       kartella-db report NAME PATH.pdf [--register FILE] [--previous-month] [--overwrite]\n"
-                          "       kartella-db import PATH FILE [--codepage NAME]\n"
-                          "       kartella-db search PATH WORD...\n"
-                          "       kartella-db index PATH\n"
-                          "       kartella-db trash PATH\n"
-                          "       kartella-db restore PATH INDEX\n"
-                          "       kartella-db purge PATH --older-than DAYS\n"
-                          "       kartella-db history PATH [INDEX]\n"
-                          "       kartella-db --help\n"
-                          "\n"
-                          "  create   makes a new, empty register at LOCATION: a file (an existing file\n"
-                          "           is refused) or an empty database on a server\n"
-                          "  sample   makes a new register at PATH and fills it with sample data;\n"
-                          "           its files go into the folder \"<name> files\" beside it\n"
-                          "           (N documents, default 400; the same seed S gives the same data)\n"
-                          "  info     counts the rows of each table of the register at PATH\n"
-                          "  upgrade  brings the register at PATH, made by an earlier Kartella, to this\n"
-                          "           version's form, keeping every row\n"
-                          "  copy     copies the whole register FROM, keys kept, into a new register\n"
-                          "           at TO (a file that doesn't exist yet, or an empty database on a\n"
-                          "           server), then counts the rows of each table in both; FROM must\n"
-                          "           be up to date (see upgrade). On a failure nothing is kept at TO\n"
-                          "  migrate  copies every row of the Jet register OLD.mdb into a new register\n"
-                          "           at NEW, keys kept; the text of a Jet 3 file is read in the code\n"
-                          "           page CP (default CP1257, the Baltic one; CP1252 for Western)\n"
-                          "  report   writes the report NAME to the PDF file PATH, from FILE or the\n"
-                          "           register the options name; --list names the reports. An\n"
-                          "           existing PATH is replaced only with --overwrite, never the register\n"
-                          "  import   adds the contacts of FILE (vCard or Outlook CSV export) to the\n"
-                          "           register at PATH, skipping names it holds already; text that\n"
-                          "           is not UTF-8 is read in code page NAME (default: guessed)\n"
-                          "  search   prints the documents of the register at PATH that hold every WORD\n"
-                          "           (in description, index, notes, contact or file path; case and\n"
-                          "           accents aside): index, date and description, tab-separated\n"
-                          "  index    reads the text of the files of the documents of the register at\n"
-                          "           PATH that are new or changed since they were last read, showing\n"
-                          "           its progress, then counts the files read and those skipped, and why\n"
-                          "  trash    lists the deleted items of the register at PATH, newest first:\n"
-                          "           kind, registration index or name, who deleted it and when (UTC)\n"
-                          "  restore  puts the deleted document of the registration index INDEX back,\n"
-                          "           with its related documents, reminders and files\n"
-                          "  purge    deletes for good the items deleted more than DAYS days ago\n"
-                          "  history  prints the changes of the register at PATH, or of the document\n"
-                          "           whose registration index is INDEX with its related documents and\n"
-                          "           reminders, newest first: when, who, the command, what and the\n"
-                          "           change, tab-separated\n"
-                          "\n"
-                          "Every register named (LOCATION, FROM, TO, NEW, the register's PATH or FILE)\n"
-                          "is a file or a database on a PostgreSQL server, written\n"
-                          "postgresql://USER@HOST:PORT/DATABASE; the password comes from ~/.pgpass or\n"
-                          "the environment variable PGPASSWORD. The sample files of a register on a\n"
-                          "server go into \"<database> files\" in the current folder.\n"
-                          "\n"
-                          "Exit codes: 0 success, 1 failure, 2 usage error.\n");
+    // In blocks, so that a translation can follow the lines of each.
+    //: The commands and options stay as they are; the words in capitals name what is given
+    //: and are the same in the help, the usage lines and the usage errors.
+    return ToolText::tr(
+               "Usage: kartella-db create LOCATION\n"
+               "       kartella-db sample PATH [--documents N] [--seed S]\n"
+               "       kartella-db info PATH\n"
+               "       kartella-db upgrade PATH\n"
+               "       kartella-db copy FROM TO\n"
+               "       kartella-db migrate OLD.mdb NEW [--codepage CP]\n"
+               "       kartella-db report --list\n"
+               "       kartella-db report NAME PATH.pdf [--register FILE] [--previous-month] [--overwrite]\n"
+               "       kartella-db import PATH FILE [--codepage NAME]\n"
+               "       kartella-db search PATH WORD...\n"
+               "       kartella-db index PATH\n"
+               "       kartella-db trash PATH\n"
+               "       kartella-db restore PATH INDEX\n"
+               "       kartella-db purge PATH --older-than DAYS\n"
+               "       kartella-db history PATH [INDEX]\n"
+               "       kartella-db --help\n")
+        + u'\n'
+        + ToolText::tr("  create   makes a new, empty register at LOCATION: a file (an existing file\n"
+                       "           is refused) or an empty database on a server\n"
+                       "  sample   makes a new register at PATH and fills it with sample data;\n"
+                       "           its files go into the folder \"<name> files\" beside it\n"
+                       "           (N documents, default 400; the same seed S gives the same data)\n"
+                       "  info     counts the rows of each table of the register at PATH\n"
+                       "  upgrade  brings the register at PATH, made by an earlier Kartella, to this\n"
+                       "           version's form, keeping every row\n"
+                       "  copy     copies the whole register FROM, keys kept, into a new register\n"
+                       "           at TO (a file that doesn't exist yet, or an empty database on a\n"
+                       "           server), then counts the rows of each table in both; FROM must\n"
+                       "           be up to date (see upgrade). On a failure nothing is kept at TO\n"
+                       "  migrate  copies every row of the Jet register OLD.mdb into a new register\n"
+                       "           at NEW, keys kept; the text of a Jet 3 file is read in the code\n"
+                       "           page CP (default CP1257, the Baltic one; CP1252 for Western)\n"
+                       "  report   writes the report NAME to the PDF file PATH, from FILE or the\n"
+                       "           register the options name; --list names the reports. An\n"
+                       "           existing PATH is replaced only with --overwrite, never the register\n"
+                       "  import   adds the contacts of FILE (vCard or Outlook CSV export) to the\n"
+                       "           register at PATH, skipping names it holds already; text that\n"
+                       "           is not UTF-8 is read in code page NAME (default: guessed)\n"
+                       "  search   prints the documents of the register at PATH that hold every WORD\n"
+                       "           (in description, index, notes, contact or file path; case and\n"
+                       "           accents aside): index, date and description, tab-separated\n"
+                       "  index    reads the text of the files of the documents of the register at\n"
+                       "           PATH that are new or changed since they were last read, showing\n"
+                       "           its progress, then counts the files read and those skipped, and why\n"
+                       "  trash    lists the deleted items of the register at PATH, newest first:\n"
+                       "           kind, registration index or name, who deleted it and when (UTC)\n"
+                       "  restore  puts the deleted document of the registration index INDEX back,\n"
+                       "           with its related documents, reminders and files\n"
+                       "  purge    deletes for good the items deleted more than DAYS days ago\n"
+                       "  history  prints the changes of the register at PATH, or of the document\n"
+                       "           whose registration index is INDEX with its related documents and\n"
+                       "           reminders, newest first: when, who, the command, what and the\n"
+                       "           change, tab-separated\n")
+        + u'\n'
+        + ToolText::tr("Every register named (LOCATION, FROM, TO, NEW, the register's PATH or FILE)\n"
+                       "is a file or a database on a PostgreSQL server, written\n"
+                       "postgresql://USER@HOST:PORT/DATABASE; the password comes from ~/.pgpass or\n"
+                       "the environment variable PGPASSWORD. The sample files of a register on a\n"
+                       "server go into \"<database> files\" in the current folder.\n")
+        + u'\n' + ToolText::tr("Exit codes: 0 success, 1 failure, 2 usage error.\n");
 }
 
 std::optional<Invocation> parseArguments(const QStringList& arguments, QString& problem)
 {
     if (arguments.isEmpty()) {
-        problem = QStringLiteral("no command given");
+        problem = ToolText::tr("no command given");
         return std::nullopt;
     }
     Invocation invocation;
@@ -109,7 +113,7 @@ std::optional<Invocation> parseArguments(const QStringList& arguments, QString& 
     if (command == u"--help" || command == u"-h" || command == u"help") {
         if (arguments.size() == 1)
             return invocation;
-        problem = QStringLiteral("--help takes no arguments");
+        problem = ToolText::tr("--help takes no arguments");
         return std::nullopt;
     }
     if (command == u"create")
@@ -139,7 +143,7 @@ std::optional<Invocation> parseArguments(const QStringList& arguments, QString& 
     else if (command == u"history")
         return parseHistory(arguments, problem);
     else {
-        problem = QStringLiteral("unknown command \"") + command + u'"';
+        problem = ToolText::tr("unknown command \"%1\"").arg(command);
         return std::nullopt;
     }
 
@@ -154,7 +158,7 @@ std::optional<Invocation> parseArguments(const QStringList& arguments, QString& 
             || invocation.command == Invocation::Command::Import) {
             const auto codePage = optionValue(arguments, i, QStringLiteral("--codepage"));
             if (!codePage || codePage->isEmpty()) {
-                problem = QStringLiteral("unknown option or missing value: \"") + argument + u'"';
+                problem = ToolText::tr("unknown option or missing value: \"%1\"").arg(argument);
                 return std::nullopt;
             }
             invocation.codePage = *codePage;
@@ -165,68 +169,67 @@ std::optional<Invocation> parseArguments(const QStringList& arguments, QString& 
             bool ok = false;
             invocation.olderThanDays = days ? days->toInt(&ok) : -1;
             if (!ok || invocation.olderThanDays < 0) {
-                problem = QStringLiteral("--older-than needs a whole number of days, 0 or more");
+                problem = ToolText::tr("--older-than needs a whole number of days, 0 or more");
                 return std::nullopt;
             }
             continue;
         }
         if (invocation.command != Invocation::Command::Sample) {
-            problem = QStringLiteral("unknown option \"") + argument + u'"';
+            problem = ToolText::tr("unknown option \"%1\"").arg(argument);
             return std::nullopt;
         }
         bool ok = false;
         if (const auto value = optionValue(arguments, i, QStringLiteral("--documents"))) {
             invocation.documents = value->toInt(&ok);
             if (!ok || invocation.documents < 0) {
-                problem = QStringLiteral("--documents needs a whole number of 0 or more");
+                problem = ToolText::tr("--documents needs a whole number of 0 or more");
                 return std::nullopt;
             }
         } else if (const auto seed = optionValue(arguments, i, QStringLiteral("--seed"))) {
             invocation.seed = seed->toUInt(&ok);
             if (!ok) {
-                problem = QStringLiteral("--seed needs a whole number from 0 to 4294967295");
+                problem = ToolText::tr("--seed needs a whole number from 0 to 4294967295");
                 return std::nullopt;
             }
         } else {
-            problem = QStringLiteral("unknown option or missing value: \"") + argument + u'"';
+            problem = ToolText::tr("unknown option or missing value: \"%1\"").arg(argument);
             return std::nullopt;
         }
     }
     if (invocation.command == Invocation::Command::Migrate) {
         if (paths.size() != 2) {
-            problem = QStringLiteral("migrate needs OLD.mdb and NEW");
+            problem = ToolText::tr("migrate needs OLD.mdb and NEW");
             return std::nullopt;
         }
         invocation.target = paths.takeLast();
     }
     if (invocation.command == Invocation::Command::Copy) {
         if (paths.size() != 2) {
-            problem = QStringLiteral("copy needs FROM and TO");
+            problem = ToolText::tr("copy needs FROM and TO");
             return std::nullopt;
         }
         invocation.target = paths.takeLast();
     }
     if (invocation.command == Invocation::Command::Purge && invocation.olderThanDays < 0) {
-        problem = QStringLiteral("purge needs --older-than DAYS");
+        problem = ToolText::tr("purge needs --older-than DAYS");
         return std::nullopt;
     }
     if (invocation.command == Invocation::Command::Restore) {
         if (paths.size() != 2) {
-            problem = QStringLiteral("restore needs PATH and INDEX");
+            problem = ToolText::tr("restore needs PATH and INDEX");
             return std::nullopt;
         }
         invocation.registrationIndex = paths.takeLast();
     }
     if (invocation.command == Invocation::Command::Import) {
         if (paths.size() != 2) {
-            problem = QStringLiteral("import needs PATH and FILE");
+            problem = ToolText::tr("import needs PATH and FILE");
             return std::nullopt;
         }
         invocation.contactFile = paths.takeLast();
     }
     if (paths.size() != 1) {
-        problem
-            = paths.isEmpty() ? QStringLiteral("no PATH given") : QStringLiteral("more than one PATH given");
+        problem = paths.isEmpty() ? ToolText::tr("no PATH given") : ToolText::tr("more than one PATH given");
         return std::nullopt;
     }
     invocation.path = paths.first();

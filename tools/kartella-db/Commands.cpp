@@ -1,6 +1,7 @@
 #include "Commands.h"
 
 #include "RegisterArgument.h"
+#include "ToolText.h"
 #include "base/Error.h"
 #include "store/SampleRegister.h"
 #include "store/Schema.h"
@@ -47,8 +48,9 @@ void sampleCommand(const QString& path, int documents, quint32 seed, QTextStream
             QFile::remove(location);
         throw;
     }
-    out << "Created " << location << " with " << documents << " documents; files in "
-        << sampleFilesFolder(location) << Qt::endl;
+    out << ToolText::tr("Created %1 with %2 documents; files in %3")
+               .arg(location, QString::number(documents), sampleFilesFolder(location))
+        << Qt::endl;
 }
 
 void infoCommand(const QString& path, QTextStream& out)

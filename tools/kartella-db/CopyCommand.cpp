@@ -1,6 +1,7 @@
 #include "CopyCommand.h"
 
 #include "RegisterArgument.h"
+#include "ToolText.h"
 #include "history/KeptFilesCopy.h"
 #include "store/RegisterCopy.h"
 
@@ -19,13 +20,17 @@ int copyKeptFilesOf(const QString& source, const QString& target, QTextStream& o
 {
     const KeptFilesCopy kept = copyKeptFiles(source, target);
     if (kept.files > 0)
-        out << "Copied " << kept.files << " files of deleted items and earlier versions" << Qt::endl;
+        out << ToolText::tr("Copied %1 files of deleted items and earlier versions").arg(kept.files)
+            << Qt::endl;
     if (!kept.notice.isEmpty())
         err << "kartella-db: " << kept.notice << Qt::endl;
     if (kept.problem.isEmpty())
         return 0;
-    err << "kartella-db: " << kept.problem << " The register was copied; the files of its deleted items "
-        << "and earlier versions are not all there." << Qt::endl;
+    err << "kartella-db: " << kept.problem << u' '
+        << ToolText::tr(
+               "The register was copied; the files of its deleted items and earlier versions are not "
+               "all there.")
+        << Qt::endl;
     return 1;
 }
 
@@ -44,7 +49,9 @@ int copyCommand(const QString& from, const QString& to, QTextStream& out, QTextS
               if (clock.elapsed() - lastShown < ProgressMilliseconds)
                   return;
               lastShown = clock.elapsed();
-              err << "kartella-db: copying " << table << ": " << written << " of " << rows << " rows"
+              err << "kartella-db: "
+                  << ToolText::tr("copying %1: %2 of %3 rows")
+                         .arg(table, QString::number(written), QString::number(rows))
                   << Qt::endl;
           });
 
@@ -52,10 +59,10 @@ int copyCommand(const QString& from, const QString& to, QTextStream& out, QTextS
         out << line << '\n';
     if (!report.complete()) {
         out.flush();
-        err << "kartella-db: the row counts differ. " << report.undone << Qt::endl;
+        err << "kartella-db: " << ToolText::tr("the row counts differ. %1").arg(report.undone) << Qt::endl;
         return 1;
     }
-    out << "Copied " << source << " to " << target << Qt::endl;
+    out << ToolText::tr("Copied %1 to %2").arg(source, target) << Qt::endl;
     return copyKeptFilesOf(source, target, out, err);
 }
 

@@ -1,6 +1,7 @@
 #include "HistoryCommand.h"
 
 #include "RegisterArgument.h"
+#include "ToolText.h"
 #include "base/Error.h"
 #include "history/HistoryLog.h"
 #include "history/HistoryText.h"
@@ -25,8 +26,8 @@ QString cell(QString text)
 std::optional<Invocation> parseHistory(const QStringList& arguments, QString& problem)
 {
     if (arguments.size() < 2 || arguments.size() > 3) {
-        problem = arguments.size() < 2 ? QStringLiteral("no PATH given")
-                                       : QStringLiteral("history takes PATH and at most one INDEX");
+        problem = arguments.size() < 2 ? ToolText::tr("no PATH given")
+                                       : ToolText::tr("history takes PATH and at most one INDEX");
         return std::nullopt;
     }
     Invocation invocation;
@@ -48,7 +49,7 @@ void historyCommand(const QString& path, const QStringList& index, QTextStream& 
         const qint64 document = documentWithRegIndex(connection, index.first());
         if (document == 0)
             throw Error(ErrorNumber::CommandFailed,
-                QStringLiteral("no document has the registration index \"") + index.first() + u'"');
+                ToolText::tr("no document has the registration index \"%1\"").arg(index.first()));
         entries = documentHistory(connection, document);
     }
     const HistoryNames names = historyNames(connection, entries);

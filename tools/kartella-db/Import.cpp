@@ -1,6 +1,7 @@
 #include "Import.h"
 
 #include "RegisterArgument.h"
+#include "ToolText.h"
 #include "addressbook/import/ContactFile.h"
 #include "addressbook/import/ContactImporter.h"
 #include "addressbook/import/TextDecoding.h"
@@ -15,12 +16,12 @@ int importCommand(const QString& registerPath, const QString& file, const QStrin
     QTextStream& err)
 {
     if (!codePage.isEmpty() && !isKnownCodePage(codePage))
-        throw Error(ErrorNumber::PathFileAccess, QStringLiteral("unknown code page \"%1\"").arg(codePage));
+        throw Error(ErrorNumber::PathFileAccess, ToolText::tr("unknown code page \"%1\"").arg(codePage));
     const QString location = existingRegister(registerPath);
     const QList<ContactItem> items = readContactFile(file, codePage);
     if (items.isEmpty())
         throw Error(ErrorNumber::PathFileAccess,
-            QStringLiteral("the contact file \"%1\" holds no contacts").arg(QDir::toNativeSeparators(file)));
+            ToolText::tr("the contact file \"%1\" holds no contacts").arg(QDir::toNativeSeparators(file)));
 
     // A register that can't be opened (a server out of reach) fails the command here rather
     // than each contact's steps one by one.
@@ -29,13 +30,17 @@ int importCommand(const QString& registerPath, const QString& file, const QStrin
     probe.close();
 
     ContactImporter importer(registerConnectionString(location), [&err](const Error& error) {
-        err << "kartella-db: error " << error.number() << ": "
-            << QString(error.description()).replace(u'\n', u' ') << Qt::endl;
+        err << "kartella-db: "
+            << ToolText::tr("error %1: %2")
+                   .arg(QString::number(error.number()), QString(error.description()).replace(u'\n', u' '))
+            << Qt::endl;
         return true;
     });
     importer.run(items);
     const ContactImportCounts& counts = importer.counts();
-    out << counts.added << " contacts added, " << counts.skipped << " skipped, " << counts.failed << " failed"
+    out << ToolText::tr("%1 contacts added, %2 skipped, %3 failed")
+               .arg(QString::number(counts.added), QString::number(counts.skipped),
+                   QString::number(counts.failed))
         << Qt::endl;
     return counts.errors == 0 ? 0 : 1;
 }

@@ -1,6 +1,7 @@
 #include "IndexCommand.h"
 
 #include "RegisterArgument.h"
+#include "ToolText.h"
 #include "content/TextIndexer.h"
 #include "options/TextOptions.h"
 #include "store/engine/Connection.h"
@@ -24,11 +25,11 @@ void indexCommand(const QString& path, QTextStream& out, QTextStream& progress)
         return true;
     });
     progress << Qt::endl;
-    out << "Files read: " << summary.read << '\n'
-        << "Unchanged since last read: " << summary.unchanged << '\n'
-        << "No text in their kind: " << summary.noText << '\n'
-        << "Needing OCR (PDF without text): " << summary.needsOcr << '\n'
-        << "Not read: " << summary.failed << '\n';
+    out << ToolText::tr("Files read: %1").arg(summary.read) << '\n'
+        << ToolText::tr("Unchanged since last read: %1").arg(summary.unchanged) << '\n'
+        << ToolText::tr("No text in their kind: %1").arg(summary.noText) << '\n'
+        << ToolText::tr("Needing OCR (PDF without text): %1").arg(summary.needsOcr) << '\n'
+        << ToolText::tr("Not read: %1").arg(summary.failed) << '\n';
     for (auto reason = summary.failures.cbegin(); reason != summary.failures.cend(); ++reason)
         out << "  " << reason.key() << ": " << reason.value() << '\n';
     out.flush();

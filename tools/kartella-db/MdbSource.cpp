@@ -1,5 +1,6 @@
 #include "MdbSource.h"
 
+#include "ToolText.h"
 #include "base/Error.h"
 
 #include <QFileInfo>
@@ -29,8 +30,7 @@ bool knownCodePage(const QString& codePage)
 
 Error readError(const QString& path, const QString& what)
 {
-    return Error(
-        ErrorNumber::PathFileAccess, QStringLiteral("Can't read \"") + path + QStringLiteral("\": ") + what);
+    return Error(ErrorNumber::PathFileAccess, ToolText::tr("Can't read \"%1\": %2").arg(path, what));
 }
 
 } // namespace
@@ -46,18 +46,18 @@ MdbSource::MdbSource(const QString& path, const QString& codePage)
 {
     if (!QFileInfo(m_path).isFile()) {
         delete m_handle;
-        throw Error(ErrorNumber::PathFileAccess, QStringLiteral("no file at \"") + m_path + u'"');
+        throw Error(ErrorNumber::PathFileAccess, ToolText::tr("no file at \"%1\"").arg(m_path));
     }
     if (codePage.isEmpty() || !knownCodePage(codePage)) {
         delete m_handle;
-        throw Error(ErrorNumber::IllegalOperation, QStringLiteral("unknown code page \"") + codePage + u'"');
+        throw Error(ErrorNumber::IllegalOperation, ToolText::tr("unknown code page \"%1\"").arg(codePage));
     }
     // mdbtools reads the code page of a Jet 3 file from the environment when it opens it.
     qputenv("MDB_JET3_CHARSET", codePage.toLatin1());
     m_handle->mdb = mdb_open(QFile::encodeName(m_path).constData(), MDB_NOFLAGS);
     if (!m_handle->mdb) {
         delete m_handle;
-        throw readError(m_path, QStringLiteral("it is not a Jet (Access) database"));
+        throw readError(m_path, ToolText::tr("it is not a Jet (Access) database"));
     }
     mdb_set_bind_size(m_handle->mdb, BindSize);
     mdb_set_date_fmt(m_handle->mdb, "%Y-%m-%d %H:%M:%S");
@@ -66,7 +66,7 @@ MdbSource::MdbSource(const QString& path, const QString& codePage)
     if (!mdb_read_catalog(m_handle->mdb, MDB_TABLE)) {
         mdb_close(m_handle->mdb);
         delete m_handle;
-        throw readError(m_path, QStringLiteral("its list of tables is unreadable"));
+        throw readError(m_path, ToolText::tr("its list of tables is unreadable"));
     }
 }
 
@@ -84,7 +84,7 @@ QString MdbSource::version() const
     case MDB_VER_JET4:
         return QStringLiteral("Jet 4");
     default:
-        return QStringLiteral("Access 2007 or later");
+        return ToolText::tr("Access 2007 or later");
     }
 }
 
@@ -116,7 +116,7 @@ std::optional<migration::SourceTable> MdbSource::readTable(const QString& name)
     const std::unique_ptr<MdbTableDef, decltype(&mdb_free_tabledef)> table(
         mdb_read_table(found), &mdb_free_tabledef);
     if (!table || !mdb_read_columns(table.get()) || mdb_rewind_table(table.get()) != 0)
-        throw readError(m_path, QStringLiteral("the table ") + name + QStringLiteral(" is unreadable"));
+        throw readError(m_path, ToolText::tr("the table %1 is unreadable").arg(name));
 
     migration::SourceTable result;
     result.name = QString::fromUtf8(table->name);
@@ -139,8 +139,8 @@ std::optional<migration::SourceTable> MdbSource::readTable(const QString& name)
                 row << QVariant();
             else if (size_t(lengths[i]) + 1 >= BindSize)
                 throw readError(m_path,
-                    QStringLiteral("a value of ") + result.name + u'.' + result.columns.at(int(i))
-                        + QStringLiteral(" is too long to be read whole"));
+                    ToolText::tr("a value of %1 is too long to be read whole")
+                        .arg(result.name + u'.' + result.columns.at(int(i))));
             else
                 row << QString::fromUtf8(buffers[i].data(), lengths[i]);
         }

@@ -2,6 +2,7 @@
 
 #include "MdbSource.h"
 #include "RegisterArgument.h"
+#include "ToolText.h"
 #include "store/Schema.h"
 #include "store/engine/Connection.h"
 #include "store/migration/RegisterMigration.h"
@@ -27,10 +28,12 @@ int migrateCommand(
             QFile::remove(newPath);
         throw;
     }
-    out << "Read " << QFileInfo(oldPath).absoluteFilePath() << " (" << source.version() << ")\n";
+    out << ToolText::tr("Read %1 (%2)").arg(QFileInfo(oldPath).absoluteFilePath(), source.version()) << '\n';
     for (const QString& line : report.lines())
         out << line << '\n';
-    out << (report.complete() ? "Everything arrived in " : "Not everything arrived in ") << newPath
+    out << (report.complete() ? ToolText::tr("Everything arrived in %1")
+                              : ToolText::tr("Not everything arrived in %1"))
+               .arg(newPath)
         << Qt::endl;
     return report.complete() ? 0 : 1;
 }

@@ -1,5 +1,6 @@
 #include "RegisterArgument.h"
 
+#include "ToolText.h"
 #include "base/Error.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
@@ -21,7 +22,7 @@ QString existingRegister(const QString& argument)
     const QString location = registerLocation(argument);
     if (!isServerLocation(location) && !QFileInfo(location).isFile())
         throw Error(ErrorNumber::PathFileAccess,
-            QStringLiteral("no register at \"") + QDir::toNativeSeparators(location) + u'"');
+            ToolText::tr("no register at \"%1\"").arg(QDir::toNativeSeparators(location)));
     return location;
 }
 

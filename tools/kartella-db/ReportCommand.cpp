@@ -1,13 +1,17 @@
 #include "ReportCommand.h"
 
 #include "RegisterArgument.h"
+#include "ToolText.h"
 #include "base/Error.h"
+#include "options/LanguageOption.h"
+#include "platform/Translations.h"
 #include "reports/ReportCommands.h"
 #include "reports/ReportLayouts.h"
 #include "reports/ReportPdf.h"
 
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QLocale>
 #include <QTextStream>
 
 #include <cstring>
@@ -23,10 +27,10 @@ constexpr int ExitUsage = 2;
 
 int usageError(const QString& problem)
 {
-    QTextStream(stderr)
-        << "kartella-db: " << problem << '\n'
-        << "Usage: kartella-db report --list\n"
-           "       kartella-db report NAME PATH.pdf [--register FILE] [--previous-month] [--overwrite]\n";
+    QTextStream(stderr) << "kartella-db: " << problem << '\n'
+                        << ToolText::tr("Usage: kartella-db report --list\n"
+                                        "       kartella-db report NAME PATH.pdf [--register FILE] "
+                                        "[--previous-month] [--overwrite]\n");
     return ExitUsage;
 }
 
@@ -49,6 +53,7 @@ int runReportCommand(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv);
+    installTranslations(interfaceLanguages(interfaceLanguage(), QLocale::system().uiLanguages()));
     QStringList arguments = QCoreApplication::arguments().mid(2);
 
     if (arguments == QStringList {QStringLiteral("--list")}) {
@@ -69,22 +74,22 @@ int runReportCommand(int argc, char** argv)
             registerPath = argument.mid(11);
         } else if (argument == u"--register") {
             if (i + 1 >= arguments.size())
-                return usageError(QStringLiteral("--register needs a FILE"));
+                return usageError(ToolText::tr("--register needs a FILE"));
             registerPath = arguments.at(++i);
         } else if (argument.startsWith(QStringLiteral("--"))) {
-            return usageError(QStringLiteral("unknown option \"") + argument + u'"');
+            return usageError(ToolText::tr("unknown option \"%1\"").arg(argument));
         } else {
             positional << argument;
         }
     }
     if (positional.size() != 2)
-        return usageError(QStringLiteral("report needs a NAME and a PATH.pdf (or --list)"));
+        return usageError(ToolText::tr("report needs a NAME and a PATH.pdf (or --list)"));
     const ReportLayout* layout = findReportLayout(positional.at(0));
     if (!layout || layout->scriptName != positional.at(0))
-        return usageError(QStringLiteral("no report named \"") + positional.at(0)
-            + QStringLiteral("\" (kartella-db report --list names them)"));
+        return usageError(ToolText::tr("no report named \"%1\" (kartella-db report --list names them)")
+                              .arg(positional.at(0)));
     if (previousMonth && layout->scriptName != u"this-month")
-        return usageError(QStringLiteral("--previous-month goes with the this-month report only"));
+        return usageError(ToolText::tr("--previous-month goes with the this-month report only"));
 
     try {
         const QString& target = positional.at(1);
@@ -93,14 +98,15 @@ int runReportCommand(int argc, char** argv)
             commands.setConnectionString(registerConnectionString(existingRegister(registerPath)));
         refuseRegisterAsReport(target, commands.connectionString());
         if (!overwrite && QFileInfo::exists(target)) {
-            QTextStream(stderr) << "kartella-db: \"" << target
-                                << "\" exists; --overwrite replaces it with the report\n";
+            QTextStream(stderr)
+                << "kartella-db: "
+                << ToolText::tr("\"%1\" exists; --overwrite replaces it with the report").arg(target) << '\n';
             return ExitFailure;
         }
         if (previousMonth)
             commands.usePreviousMonth();
         const int pages = writeReportPdf(*layout, commands.run(*layout), target);
-        QTextStream(stdout) << "pages: " << pages << '\n';
+        QTextStream(stdout) << ToolText::tr("pages: %1").arg(pages) << '\n';
         return ExitSuccess;
     } catch (const Error& error) {
         QTextStream(stderr) << "kartella-db: " << QString(error.description()).replace(u'\n', u' ') << '\n';

@@ -1,6 +1,7 @@
 #include "SearchCommand.h"
 
 #include "RegisterArgument.h"
+#include "ToolText.h"
 #include "base/Error.h"
 #include "explorer/DocumentPaging.h"
 #include "explorer/DocumentSearch.h"
@@ -34,7 +35,7 @@ void searchCommand(const QString& path, const QStringList& words, QTextStream& o
     const QString location = existingRegister(path);
     const QList<SearchTerm> terms = searchTerms(words.join(u' '));
     if (terms.isEmpty())
-        throw Error(ErrorNumber::CommandFailed, QStringLiteral("no word to search for"));
+        throw Error(ErrorNumber::CommandFailed, ToolText::tr("no word to search for"));
     Connection connection;
     connection.open(registerConnectionString(location));
     const SearchIndexes indexes = searchIndexes(connection);

@@ -1,6 +1,7 @@
 #include "TrashCommand.h"
 
 #include "RegisterArgument.h"
+#include "ToolText.h"
 #include "base/Error.h"
 #include "history/Trash.h"
 #include "options/TrashOptions.h"
@@ -22,7 +23,7 @@ void withTrash(const QString& path, Work work)
     connection.open();
     if (!Trash::inRegister(connection))
         throw Error(ErrorNumber::CommandFailed,
-            QStringLiteral(
+            ToolText::tr(
                 "the register at %1 has no trash: it was made by an earlier Kartella (see kartella-db "
                 "upgrade)")
                 .arg(path));
@@ -38,7 +39,7 @@ void trashCommand(const QString& path, QTextStream& out)
     withTrash(path, [&out](Trash& trash) {
         const QList<TrashItem> items = trash.items();
         if (items.isEmpty())
-            out << "The trash is empty.\n";
+            out << ToolText::tr("The trash is empty.") << '\n';
         for (const TrashItem& item : items) {
             out << item.kind << '\t'
                 << (item.registrationIndex.isEmpty() ? item.title : item.registrationIndex) << '\t'
@@ -54,14 +55,15 @@ void restoreCommand(const QString& path, const QString& registrationIndex, QText
         const qint64 item = trash.findDocument(registrationIndex);
         if (item == 0)
             throw Error(ErrorNumber::ItemNotFound,
-                QStringLiteral("the trash holds no document with the registration index \"%1\"")
+                ToolText::tr("the trash holds no document with the registration index \"%1\"")
                     .arg(registrationIndex));
         const RestoreOutcome outcome = trash.restore(item);
         for (const TrashItem& restored : outcome.restored)
-            out << "Restored " << restored.kind << " \"" << restored.title << "\"\n";
+            out << ToolText::tr("Restored %1 \"%2\"").arg(restored.kind, restored.title) << '\n';
         for (const auto& [taken, renamed] : outcome.renamed)
-            out << "The path " << QDir::toNativeSeparators(taken) << " was taken; the file is now "
-                << QDir::toNativeSeparators(renamed) << '\n';
+            out << ToolText::tr("The path %1 was taken; the file is now %2")
+                       .arg(QDir::toNativeSeparators(taken), QDir::toNativeSeparators(renamed))
+                << '\n';
     });
 }
 
@@ -69,7 +71,10 @@ void purgeCommand(const QString& path, int days, QTextStream& out)
 {
     withTrash(path, [&](Trash& trash) {
         const int purged = trash.purgeOlderThan(days, Clock::instance().now().toUTC());
-        out << "Deleted for good: " << purged << (purged == 1 ? " item" : " items") << '\n';
+        out << (purged == 1 ? ToolText::tr("Deleted for good: %1 item")
+                            : ToolText::tr("Deleted for good: %1 items"))
+                   .arg(purged)
+            << '\n';
     });
 }
 

@@ -11,8 +11,11 @@
 #include "TrashCommand.h"
 #include "UpgradeCommand.h"
 #include "base/Error.h"
+#include "options/LanguageOption.h"
+#include "platform/Translations.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QTextStream>
 
 #include <exception>
@@ -93,6 +96,7 @@ int main(int argc, char** argv)
     if (isReportCommand(argc, argv))
         return runReportCommand(argc, argv);
     QCoreApplication app(argc, argv);
+    installTranslations(interfaceLanguages(interfaceLanguage(), QLocale::system().uiLanguages()));
     QStringList arguments = QCoreApplication::arguments();
     arguments.removeFirst();
 

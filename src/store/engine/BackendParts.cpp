@@ -1,7 +1,10 @@
 #include "store/engine/BackendParts.h"
 
+#include "store/StoreText.h"
 #include "store/engine/EngineErrors.h"
 #include "store/engine/SqlLexer.h"
+
+#include <QLocale>
 
 namespace kartella::engine {
 
@@ -48,17 +51,17 @@ QString singleSourceTable(const std::vector<ColumnInfo>& columns)
 void failRowGone(const TableSchema& table, const QString& keyName, const QVariant& key)
 {
     throwError(ErrorNumber::RowDeleted,
-        QStringLiteral("Row cannot be located for updating: another user may have deleted it (") + table.name
-            + u' ' + keyName + u'=' + key.toString() + u')',
+        kartella::StoreText::tr("Row cannot be located for updating: another user may have deleted it (%1)")
+            .arg(table.name + u' ' + keyName + u'=' + key.toString()),
         ConnectionSource);
 }
 
 void failRowChanged(const TableSchema& table, const QString& keyName, const QVariant& key)
 {
     throwError(ErrorNumber::RowChanged,
-        QStringLiteral("Row cannot be located for updating. Some values may have been changed since it was "
-                       "last read. (")
-            + table.name + u' ' + keyName + u'=' + key.toString() + u')',
+        kartella::StoreText::tr("Row cannot be located for updating. Some values may have been changed since "
+                                "it was last read. (%1)")
+            .arg(table.name + u' ' + keyName + u'=' + key.toString()),
         ConnectionSource);
 }
 
@@ -70,8 +73,8 @@ QString originalDateTimeText(const QDateTime& dateTime)
 QString waitText(int milliseconds)
 {
     if (milliseconds == 1000)
-        return QStringLiteral("1 second");
-    return QString::number(milliseconds / 1000.0) + QStringLiteral(" seconds");
+        return kartella::StoreText::tr("1 second");
+    return kartella::StoreText::tr("%1 seconds").arg(QLocale().toString(milliseconds / 1000.0));
 }
 
 void findKeyColumn(QueryResult& result, const TableSchema& schema)

@@ -1,5 +1,6 @@
 #include "store/engine/Connection.h"
 
+#include "store/StoreText.h"
 #include "store/engine/Backend.h"
 #include "store/engine/ConnectionString.h"
 #include "store/engine/EngineErrors.h"
@@ -24,10 +25,11 @@ std::unique_ptr<Backend> openBackend(const QString& connectionString)
         return PostgresBackend::open(target.dataSource);
     if (!isJetProvider(target.provider)) {
         const QString named = target.provider.isEmpty()
-            ? QStringLiteral("The connection string names no provider.")
-            : QStringLiteral("Provider cannot be found: '") + target.provider + QStringLiteral("'.");
-        failToConnect(named + QStringLiteral(" Set the Provider option to ") + Jet40Provider
-            + QStringLiteral(" or ") + Jet351Provider + u'.');
+            ? kartella::StoreText::tr("The connection string names no provider.")
+            : kartella::StoreText::tr("Provider cannot be found: '%1'.").arg(target.provider);
+        failToConnect(named + u' '
+            + kartella::StoreText::tr("Set the Provider option to %1 or %2.")
+                  .arg(Jet40Provider, Jet351Provider));
     }
     return SqliteBackend::open(target.dataSource);
 }

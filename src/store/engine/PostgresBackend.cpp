@@ -1,5 +1,6 @@
 #include "store/engine/PostgresBackend.h"
 
+#include "store/StoreText.h"
 #include "store/engine/BackendParts.h"
 #include "store/engine/DateText.h"
 #include "store/engine/EngineErrors.h"
@@ -110,12 +111,12 @@ std::unique_ptr<PostgresBackend> PostgresBackend::open(const QString& location)
     const int lockWait = Connection::lockWaitMs();
     pg_conn* connection = connectTo(location, lockWait);
     if (connection == nullptr)
-        failToOpen(QStringLiteral("Could not connect to '") + shown + QStringLiteral("': out of memory."));
+        failToOpen(kartella::StoreText::tr("Could not connect to '%1': out of memory.").arg(shown));
     if (PQstatus(connection) != CONNECTION_OK) {
         const QString message = QString::fromUtf8(PQerrorMessage(connection)).trimmed();
         PQfinish(connection);
-        failToOpen(QStringLiteral("Could not connect to the register server '") + shown
-            + QStringLiteral("': ") + message);
+        failToOpen(
+            kartella::StoreText::tr("Could not connect to the register server '%1': %2").arg(shown, message));
     }
     // The server's notices ("... does not exist, skipping") are no news to a user.
     PQsetNoticeProcessor(
@@ -129,8 +130,9 @@ std::unique_ptr<PostgresBackend> PostgresBackend::open(const QString& location)
         PQclear(PQexec(connection, ("SET TimeZone = " + literal(zone)).toUtf8().constData()));
     backend->loadCatalog();
     if (!backend->m_relations.empty() && backend->m_relations.count(QStringLiteral("tbl_documents")) == 0)
-        failToOpen(QStringLiteral("'") + shown
-            + QStringLiteral("' is a database but not a register: it has no table tbl_Documents."));
+        failToOpen(
+            kartella::StoreText::tr("'%1' is a database but not a register: it has no table tbl_Documents.")
+                .arg(shown));
     return backend;
 }
 
@@ -150,14 +152,16 @@ void PostgresBackend::fail(pg_result* result, const QString& shownSql) const
     const char* state = result ? PQresultErrorField(result, PG_DIAG_SQLSTATE) : nullptr;
     if (state && qstrcmp(state, LockNotAvailable) == 0) {
         const QString holders = lockHolders();
-        message = QStringLiteral("The register is in use by %1, which kept it locked for %2; try again.")
-                      .arg(holders.isEmpty() ? QStringLiteral("another program") : holders,
-                          waitText(m_lockWaitMs));
+        message
+            = kartella::StoreText::tr("The register is in use by %1, which kept it locked for %2; try again.")
+                  .arg(holders.isEmpty() ? kartella::StoreText::tr("another program") : holders,
+                      waitText(m_lockWaitMs));
     } else if (state && qstrcmp(state, DeadlockDetected) == 0) {
-        message = QStringLiteral("Another program was changing the same rows at the same moment; try again.");
+        message = kartella::StoreText::tr(
+            "Another program was changing the same rows at the same moment; try again.");
     } else if (PQstatus(m_connection) != CONNECTION_OK) {
-        message = QStringLiteral("The connection to the register server was lost: ")
-            + QString::fromUtf8(PQerrorMessage(m_connection)).trimmed();
+        message = kartella::StoreText::tr("The connection to the register server was lost: %1")
+                      .arg(QString::fromUtf8(PQerrorMessage(m_connection)).trimmed());
     } else {
         const char* primary = result ? PQresultErrorField(result, PG_DIAG_MESSAGE_PRIMARY) : nullptr;
         message = QString::fromUtf8(primary ? primary : PQerrorMessage(m_connection)).trimmed();

@@ -1,5 +1,6 @@
 // The PostgreSQL back end's knowledge of the database: the names and keys it declares,
 // and the key generators that rows written with their keys given leave behind.
+#include "store/StoreText.h"
 #include "store/engine/BackendParts.h"
 #include "store/engine/EngineErrors.h"
 #include "store/engine/PostgresBackend.h"
@@ -166,8 +167,8 @@ const TableSchema& PostgresBackend::tableSchema(const QString& table)
         found = m_relations.find(table.toLower());
     }
     if (found == m_relations.end())
-        throwError(ErrorNumber::CommandFailed, QStringLiteral("The register has no table '") + table + u'\'',
-            ConnectionSource);
+        throwError(ErrorNumber::CommandFailed,
+            kartella::StoreText::tr("The register has no table '%1'").arg(table), ConnectionSource);
     return found->second.schema;
 }
 

@@ -3,6 +3,7 @@
 // failed statement only. So that both keep what was written before a failure, every
 // statement inside a transaction here runs after a save point of its own, and a failure
 // rolls back to it.
+#include "store/StoreText.h"
 #include "store/engine/EngineErrors.h"
 #include "store/engine/PostgresBackend.h"
 
@@ -13,9 +14,13 @@ namespace kartella::engine {
 
 namespace {
 
-const QString NotCommitted = QStringLiteral(
-    "The changes were not stored: the register server rolled the transaction back instead of "
-    "committing it (after an earlier error), and nothing written in it was kept.");
+// Translated when it is told, not before: a translation may come after the start.
+QString notCommitted()
+{
+    return kartella::StoreText::tr(
+        "The changes were not stored: the register server rolled the transaction back instead of "
+        "committing it (after an earlier error), and nothing written in it was kept.");
+}
 
 } // namespace
 
@@ -100,14 +105,14 @@ void PostgresBackend::commitTransaction()
     }
     try {
         if (PQtransactionStatus(m_connection) != PQTRANS_INTRANS)
-            throwError(ErrorNumber::CommandFailed, NotCommitted + QStringLiteral("\nStatement: COMMIT"),
+            throwError(ErrorNumber::CommandFailed, notCommitted() + QStringLiteral("\nStatement: COMMIT"),
                 ConnectionSource);
         advanceKeyGenerators();
         const QString sql = QStringLiteral("COMMIT");
         const Result result = runText(sql, sql);
         // In a transaction the server has aborted, COMMIT succeeds and says ROLLBACK.
         if (qstrcmp(PQcmdStatus(result.get()), "COMMIT") != 0)
-            throwError(ErrorNumber::CommandFailed, NotCommitted + QStringLiteral("\nStatement: COMMIT"),
+            throwError(ErrorNumber::CommandFailed, notCommitted() + QStringLiteral("\nStatement: COMMIT"),
                 ConnectionSource);
     } catch (const Error&) {
         endTransaction();

@@ -1,5 +1,6 @@
 #include "store/engine/SqliteBackend.h"
 
+#include "store/StoreText.h"
 #include "store/engine/BackendParts.h"
 #include "store/engine/DateText.h"
 #include "store/engine/EngineErrors.h"
@@ -98,25 +99,29 @@ OpeningWait::~OpeningWait()
 std::unique_ptr<SqliteBackend> SqliteBackend::open(const QString& path)
 {
     if (path.isEmpty())
-        failToOpen(QStringLiteral("No register file is named: the connection string has no Data Source."));
+        failToOpen(
+            kartella::StoreText::tr("No register file is named: the connection string has no Data Source."));
     const QFileInfo info(path);
     if (!info.exists())
-        failToOpen(QStringLiteral("Could not find file '") + path + QStringLiteral("'."));
+        failToOpen(kartella::StoreText::tr("Could not find file '%1'.").arg(path));
     if (info.isDir())
-        failToOpen(QStringLiteral("'") + path
-            + QStringLiteral("' is a folder, not a register file. Choose the register file itself."));
+        failToOpen(
+            kartella::StoreText::tr("'%1' is a folder, not a register file. Choose the register file itself.")
+                .arg(path));
     QString readError;
     const FileKind kind = fileKind(path, readError);
     if (!readError.isEmpty())
-        failToOpen(QStringLiteral("Could not read file '") + path + QStringLiteral("': ") + readError);
+        failToOpen(kartella::StoreText::tr("Could not read file '%1': %2").arg(path, readError));
     if (kind == FileKind::Access)
-        failToOpen(QStringLiteral("'") + path
-            + QStringLiteral("' is a Microsoft Access database, not a register. Convert it into a "
-                             "register with \"kartella-db migrate\" and open the new register."));
+        failToOpen(
+            kartella::StoreText::tr("'%1' is a Microsoft Access database, not a register. Convert it into a "
+                                    "register with \"kartella-db migrate\" and open the new register.")
+                .arg(path));
     if (kind == FileKind::Other)
-        failToOpen(QStringLiteral("'") + path
-            + QStringLiteral("' is not a register: it isn't a database file that Kartella can read, "
-                             "or it is damaged."));
+        failToOpen(kartella::StoreText::tr(
+            "'%1' is not a register: it isn't a database file that Kartella can read, "
+            "or it is damaged.")
+                       .arg(path));
 
     sqlite3* db = nullptr;
     const int code
@@ -125,12 +130,12 @@ std::unique_ptr<SqliteBackend> SqliteBackend::open(const QString& path)
         const QString message
             = db ? QString::fromUtf8(sqlite3_errmsg(db)) : QString::fromUtf8(sqlite3_errstr(code));
         sqlite3_close_v2(db);
-        failToOpen(QStringLiteral("Could not open the register '") + path + QStringLiteral("': ") + message);
+        failToOpen(kartella::StoreText::tr("Could not open the register '%1': %2").arg(path, message));
     }
     std::unique_ptr<SqliteBackend> backend(new SqliteBackend(db));
     if (!registerTextFunctions(db))
-        failToOpen(QStringLiteral("Could not prepare the register '") + path + QStringLiteral("': ")
-            + QString::fromUtf8(sqlite3_errmsg(db)));
+        failToOpen(kartella::StoreText::tr("Could not prepare the register '%1': %2")
+                       .arg(path, QString::fromUtf8(sqlite3_errmsg(db))));
     backend->m_busyTimeoutMs = Connection::lockWaitMs();
     sqlite3_busy_timeout(db, g_openingWait >= 0 ? g_openingWait : backend->m_busyTimeoutMs);
     // The register relies on no cascade but its own trigger.
@@ -149,15 +154,18 @@ std::unique_ptr<SqliteBackend> SqliteBackend::open(const QString& path)
     const QString message = QString::fromUtf8(sqlite3_errmsg(db));
     sqlite3_finalize(check);
     if (status == SQLITE_BUSY || status == SQLITE_LOCKED)
-        failToOpen(QStringLiteral("The register '") + path
-            + QStringLiteral("' is in use by another program, which kept it locked; try again once it is "
-                             "done."));
+        failToOpen(kartella::StoreText::tr(
+            "The register '%1' is in use by another program, which kept it locked; try "
+            "again once it is done.")
+                       .arg(path));
     if (status != SQLITE_ROW)
-        failToOpen(QStringLiteral("The register '") + path + QStringLiteral("' can't be read: ") + message
-            + QStringLiteral(". The file may be damaged, or locked by another program."));
+        failToOpen(kartella::StoreText::tr(
+            "The register '%1' can't be read: %2. The file may be damaged, or locked by another program.")
+                       .arg(path, message));
     if (!isRegister)
-        failToOpen(QStringLiteral("'") + path
-            + QStringLiteral("' is a database but not a register: it has no table tbl_Documents."));
+        failToOpen(
+            kartella::StoreText::tr("'%1' is a database but not a register: it has no table tbl_Documents.")
+                .arg(path));
     sqlite3_busy_timeout(db, backend->m_busyTimeoutMs);
     return backend;
 }
@@ -180,21 +188,25 @@ void SqliteBackend::fail(int code, const QString& shownSql) const
     const int primary = code & 0xFF;
     QString message;
     if (primary == SQLITE_BUSY || primary == SQLITE_LOCKED)
-        message = QStringLiteral("The register is in use by another program, which kept it locked for %1; "
-                                 "try again.")
+        message = kartella::StoreText::tr(
+            "The register is in use by another program, which kept it locked for %1; "
+            "try again.")
                       .arg(waitText(m_busyTimeoutMs));
     else if (primary == SQLITE_FULL)
-        message = QStringLiteral("The disk that holds the register is full, and the change was not stored. "
-                                 "Make room on it and try again.");
+        message = kartella::StoreText::tr(
+            "The disk that holds the register is full, and the change was not stored. "
+            "Make room on it and try again.");
     else if (primary == SQLITE_READONLY || primary == SQLITE_CANTOPEN || primary == SQLITE_PERM)
         // A statement that can't open a file could not make the register's journal beside it.
-        message = QStringLiteral("The register can't be written: its file or its folder is read-only, or you "
-                                 "may not change them. The change was not stored (")
-            + QString::fromUtf8(sqlite3_errmsg(m_db)) + QStringLiteral(").");
+        message = kartella::StoreText::tr(
+            "The register can't be written: its file or its folder is read-only, or you "
+            "may not change them. The change was not stored (%1).")
+                      .arg(QString::fromUtf8(sqlite3_errmsg(m_db)));
     else if (primary == SQLITE_IOERR)
-        message = QStringLiteral("The disk that holds the register failed to read or write, and the change "
-                                 "was not stored (")
-            + QString::fromUtf8(sqlite3_errmsg(m_db)) + QStringLiteral(").");
+        message = kartella::StoreText::tr(
+            "The disk that holds the register failed to read or write, and the change "
+            "was not stored (%1).")
+                      .arg(QString::fromUtf8(sqlite3_errmsg(m_db)));
     else
         // Only a failure the register can't explain in a user's words names its statement.
         message = QString::fromUtf8(sqlite3_errmsg(m_db)) + QStringLiteral("\nStatement: ") + shownSql;
@@ -394,8 +406,8 @@ const TableSchema& SqliteBackend::tableSchema(const QString& table)
     if (code != SQLITE_DONE)
         fail(code, sql);
     if (schema.columns.empty())
-        throwError(ErrorNumber::CommandFailed, QStringLiteral("The register has no table '") + table + u'\'',
-            ConnectionSource);
+        throwError(ErrorNumber::CommandFailed,
+            kartella::StoreText::tr("The register has no table '%1'").arg(table), ConnectionSource);
     if (keys.size() == 1) {
         schema.key = keys.front();
         schema.keyGenerated = integerKey;

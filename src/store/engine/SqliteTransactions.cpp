@@ -1,4 +1,5 @@
 // The SQLite back end's transactions and key counters.
+#include "store/StoreText.h"
 #include "store/engine/EngineErrors.h"
 #include "store/engine/SqliteBackend.h"
 
@@ -8,9 +9,13 @@ namespace kartella::engine {
 
 namespace {
 
-const QString NotCommitted
-    = QStringLiteral("The changes were not stored: the register ended the transaction before its commit "
-                     "(after an earlier error), and nothing written in it was kept.");
+// Translated when it is told, not before: a translation may come after the start.
+QString notCommitted()
+{
+    return kartella::StoreText::tr(
+        "The changes were not stored: the register ended the transaction before its "
+        "commit (after an earlier error), and nothing written in it was kept.");
+}
 
 } // namespace
 
@@ -85,7 +90,7 @@ void SqliteBackend::commitTransaction()
     if (sqlite3_get_autocommit(m_db) != 0) {
         m_depth = 0;
         m_contextWritten = false;
-        throwError(ErrorNumber::CommandFailed, NotCommitted, ConnectionSource);
+        throwError(ErrorNumber::CommandFailed, notCommitted(), ConnectionSource);
     }
     if (m_depth > 1) {
         execute(QStringLiteral("RELEASE level") + QString::number(m_depth - 1));

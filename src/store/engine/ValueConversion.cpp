@@ -1,5 +1,6 @@
 #include "store/engine/ValueConversion.h"
 
+#include "store/StoreText.h"
 #include "store/engine/DateText.h"
 #include "store/engine/EngineErrors.h"
 
@@ -17,8 +18,8 @@ namespace {
 [[noreturn]] void mismatch(const QVariant& value, const QString& expected, const QString& fieldName)
 {
     throwError(ErrorNumber::TypeMismatch,
-        QStringLiteral("Type mismatch: '") + value.toString() + QStringLiteral("' is not ") + expected
-            + QStringLiteral(" (field ") + fieldName + QStringLiteral(")."));
+        kartella::StoreText::tr("Type mismatch: '%1' is not %2 (field %3).")
+            .arg(value.toString(), expected, fieldName));
 }
 
 bool isText(const QVariant& value)
@@ -62,15 +63,15 @@ QVariant toInteger(const QVariant& value, const QString& fieldName)
         const double number = std::nearbyint(value.toDouble());
         if (!std::isfinite(number) || std::abs(number) > 9.2e18)
             throwError(ErrorNumber::Overflow,
-                QStringLiteral("Overflow: ") + value.toString() + QStringLiteral(" doesn't fit field ")
-                    + fieldName + u'.');
+                kartella::StoreText::tr("Overflow: %1 doesn't fit field %2.")
+                    .arg(value.toString(), fieldName));
         return wholeNumber(qint64(number));
     }
     default:
         break;
     }
     if (!isText(value))
-        mismatch(value, QStringLiteral("a whole number"), fieldName);
+        mismatch(value, kartella::StoreText::tr("a whole number"), fieldName);
     const QString text = value.toString().trimmed();
     if (text.isEmpty())
         return {};
@@ -80,7 +81,7 @@ QVariant toInteger(const QVariant& value, const QString& fieldName)
         return wholeNumber(number);
     double real = 0;
     if (!readReal(text, real))
-        mismatch(value, QStringLiteral("a whole number"), fieldName);
+        mismatch(value, kartella::StoreText::tr("a whole number"), fieldName);
     return toInteger(real, fieldName);
 }
 
@@ -92,13 +93,13 @@ QVariant toReal(const QVariant& value, const QString& fieldName)
             return {};
         double number = 0;
         if (!readReal(text, number))
-            mismatch(value, QStringLiteral("a number"), fieldName);
+            mismatch(value, kartella::StoreText::tr("a number"), fieldName);
         return number;
     }
     bool ok = false;
     const double number = value.toDouble(&ok);
     if (!ok || value.typeId() == QMetaType::QDate || value.typeId() == QMetaType::QDateTime)
-        mismatch(value, QStringLiteral("a number"), fieldName);
+        mismatch(value, kartella::StoreText::tr("a number"), fieldName);
     return number;
 }
 
@@ -106,21 +107,21 @@ QVariant toDate(const QVariant& value, const QString& fieldName)
 {
     if (value.typeId() == QMetaType::QDate) {
         if (!value.toDate().isValid())
-            mismatch(value, QStringLiteral("a date"), fieldName);
+            mismatch(value, kartella::StoreText::tr("a date"), fieldName);
         return value;
     }
     if (value.typeId() == QMetaType::QDateTime) {
         if (!value.toDateTime().isValid())
-            mismatch(value, QStringLiteral("a date"), fieldName);
+            mismatch(value, kartella::StoreText::tr("a date"), fieldName);
         return value;
     }
     if (!isText(value))
-        mismatch(value, QStringLiteral("a date"), fieldName);
+        mismatch(value, kartella::StoreText::tr("a date"), fieldName);
     if (value.toString().trimmed().isEmpty())
         return {};
     const QVariant date = parseUserDate(value.toString());
     if (!date.isValid())
-        mismatch(value, QStringLiteral("a date"), fieldName);
+        mismatch(value, kartella::StoreText::tr("a date"), fieldName);
     return date;
 }
 

@@ -3,6 +3,7 @@
 #include "history/HistorySchema.h"
 #include "store/InsertBatch.h"
 #include "store/Store.h"
+#include "store/StoreText.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
 #include "store/migration/TableMapping.h"
@@ -62,24 +63,23 @@ QStringList MigrationReport::lines() const
     QStringList lines;
     for (const TableReport& table : tables) {
         if (table.missing) {
-            lines << table.table + QStringLiteral(": missing from the old file");
+            lines << kartella::StoreText::tr("%1: missing from the old file").arg(table.table);
             continue;
         }
-        lines << table.table + QStringLiteral(": ") + QString::number(table.read) + QStringLiteral(" read, ")
-                + QString::number(table.written) + QStringLiteral(" written");
+        lines << kartella::StoreText::tr("%1: %2 read, %3 written")
+                     .arg(table.table, QString::number(table.read), QString::number(table.written));
         if (table.stated >= 0 && table.stated != table.read)
-            lines << QStringLiteral("  the old file counts ") + QString::number(table.stated)
-                    + QStringLiteral(" rows in this table");
+            lines << kartella::StoreText::tr("  the old file counts %1 rows in this table").arg(table.stated);
         if (!table.missingFields.isEmpty())
-            lines << QStringLiteral("  fields missing from the old file (left empty): ")
-                    + table.missingFields.join(QStringLiteral(", "));
+            lines << kartella::StoreText::tr("  fields missing from the old file (left empty): %1")
+                         .arg(table.missingFields.join(QStringLiteral(", ")));
         if (!table.extraColumns.isEmpty())
-            lines << QStringLiteral("  fields of the old file not migrated: ")
-                    + table.extraColumns.join(QStringLiteral(", "));
+            lines << kartella::StoreText::tr("  fields of the old file not migrated: %1")
+                         .arg(table.extraColumns.join(QStringLiteral(", ")));
     }
     if (!otherTables.isEmpty())
-        lines << QStringLiteral("Other tables of the old file, not migrated: ")
-                + otherTables.join(QStringLiteral(", "));
+        lines << kartella::StoreText::tr("Other tables of the old file, not migrated: %1")
+                     .arg(otherTables.join(QStringLiteral(", ")));
     return lines;
 }
 

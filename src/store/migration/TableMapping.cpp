@@ -1,6 +1,7 @@
 #include "store/migration/TableMapping.h"
 
 #include "base/Error.h"
+#include "store/StoreText.h"
 #include "store/engine/DateText.h"
 #include "store/engine/Value.h"
 
@@ -108,12 +109,12 @@ QVariant convertValue(const QVariant& raw, FieldKind kind, QString& problem)
     case FieldKind::Integer:
         value = convertInteger(text);
         if (!value.isValid())
-            problem = QStringLiteral("\"") + text + QStringLiteral("\" is no whole number");
+            problem = kartella::StoreText::tr("\"%1\" is no whole number").arg(text);
         return value;
     case FieldKind::Date:
         value = convertDate(text);
         if (!value.isValid())
-            problem = QStringLiteral("\"") + text + QStringLiteral("\" is no date");
+            problem = kartella::StoreText::tr("\"%1\" is no date").arg(text);
         return value;
     }
     return value;
@@ -155,9 +156,9 @@ QVariantList mapRow(const TableMapping& mapping, const QList<int>& positions, co
         if (!problem.isEmpty()) {
             const QVariant key = positions.at(0) >= 0 ? row.value(positions.at(0)) : QVariant();
             throw Error(ErrorNumber::IllegalOperation,
-                mapping.table + QStringLiteral(", row ")
-                    + (isNull(key) ? QStringLiteral("?") : key.toString()) + QStringLiteral(", field ")
-                    + mapping.fields.at(i).name + QStringLiteral(": ") + problem + u'.');
+                kartella::StoreText::tr("%1, row %2, field %3: %4.")
+                    .arg(mapping.table, isNull(key) ? QStringLiteral("?") : key.toString(),
+                        mapping.fields.at(i).name, problem));
         }
         values << value;
     }
