@@ -1,6 +1,7 @@
 #include "capture/ScanSession.h"
 
 #include "capture/ScanProtocol.h"
+#include "platform/Translations.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -38,7 +39,10 @@ ScanSession::ScanSession(QObject* parent)
     qRegisterMetaType<kartella::ScannerChoices>();
     qRegisterMetaType<QList<kartella::ScannerDevice>>();
     // A library named in this process (a test's) is the one the scanning process loads.
-    QStringList arguments;
+    // It speaks the program's language, whatever the options say now.
+    const QString language = installedInterfaceLanguage();
+    QStringList arguments {
+        QStringLiteral("--language"), language.isEmpty() ? QStringLiteral("en") : language};
     if (!SaneScanner::libraryName().isEmpty())
         arguments << QStringLiteral("--sane-library") << SaneScanner::libraryName();
     m_process->start(scanningProgram(), arguments);

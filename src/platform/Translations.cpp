@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QRegularExpression>
 #include <QTranslator>
 
 namespace kartella {
@@ -25,7 +26,8 @@ QTranslator* loadOwnTranslation(const QLocale& locale)
         }
         QCoreApplication::installTranslator(ours);
         const QString mainFile = QFileInfo(ours->filePath()).completeBaseName();
-        for (const QString& part : QDir(folder).entryList({mainFile + QStringLiteral(".*.qm")}, QDir::Files)) {
+        for (const QString& part :
+            QDir(folder).entryList({mainFile + QStringLiteral(".*.qm")}, QDir::Files)) {
             auto* more = new QTranslator(QCoreApplication::instance());
             if (more->load(part, folder))
                 QCoreApplication::installTranslator(more);
@@ -46,6 +48,17 @@ QStringList translationFolders()
         folders << data + QStringLiteral("/translations");
     folders << BuiltInTranslationsFolder;
     return folders;
+}
+
+QString installedInterfaceLanguage()
+{
+    const QRegularExpression ownMainFile(QStringLiteral("^kartella_[A-Za-z_]+\\.qm$"));
+    for (const QTranslator* translator : QCoreApplication::instance()->findChildren<QTranslator*>()) {
+        if (!translator->isEmpty()
+            && ownMainFile.match(QFileInfo(translator->filePath()).fileName()).hasMatch())
+            return translator->language();
+    }
+    return {};
 }
 
 QString installTranslations(const QStringList& languages)

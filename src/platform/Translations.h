@@ -12,6 +12,10 @@ namespace kartella {
 // empty text when the texts stay English.
 QString installTranslations(const QStringList& languages);
 
+// The language of the program's own translation installed now ("lt_LT"), empty while its
+// texts are English; a process the program starts is told it, to speak as the program does.
+QString installedInterfaceLanguage();
+
 // The translations compiled into the program.
 inline const QString BuiltInTranslationsFolder = QStringLiteral(":/i18n");
 

@@ -36,7 +36,11 @@ grep -q '<summary xml:lang="lt">' "$prefix/share/metainfo/org.kartella.Kartella.
 
 # Every subcommand of the usage text has its place in the manual page.
 man=$prefix/share/man/man1/kartella-db.1
-subcommands=$("$prefix/bin/kartella-db" --help | sed -nE 's/^(Usage:)? *kartella-db ([a-z][a-z-]*).*/\2/p' | sort -u)
+home=$work/home
+mkdir -p "$home"
+# The tool in a clean environment: English, with no options of the user who runs the check.
+tool() { env -i PATH=/usr/bin:/bin HOME="$home" LC_ALL=C.UTF-8 "$@" "$prefix/bin/kartella-db" --help; }
+subcommands=$(tool | sed -nE 's/^(Usage:)? *kartella-db ([a-z][a-z-]*).*/\2/p' | sort -u)
 [[ -n $subcommands ]] || fail "no subcommand in the usage text"
 for command in $subcommands; do
     grep -qxF ".B kartella-db $command" "$man" || fail "the manual's synopsis lacks $command"
@@ -45,9 +49,10 @@ done
 documented=$(sed -nE 's/^\.B kartella-db ([a-z][a-z-]*)$/\1/p' "$man" | sort -u)
 [[ $documented == "$subcommands" ]] || fail "the manual names subcommands the tool lacks: $documented"
 
+# A Lithuanian desktop reads the tool's help in Lithuanian.
+tool LANGUAGE=lt LC_ALL=lt_LT.UTF-8 | grep -q 'nukopijuoja visą registrą' || fail "kartella-db --help is not in Lithuanian on a Lithuanian desktop"
+
 # The installed program from an empty home folder.
-home=$work/home
-mkdir -p "$home"
 env -i PATH=/usr/bin:/bin HOME="$home" QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 \
     "$prefix/bin/kartella" >"$work/out.log" 2>&1 &
 pid=$!

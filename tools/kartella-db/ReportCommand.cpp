@@ -38,7 +38,7 @@ void listReports()
 {
     QTextStream out(stdout);
     for (const ReportLayout& layout : reportLayouts())
-        out << layout.scriptName.leftJustified(16) << u' ' << layout.caption << '\n';
+        out << layout.scriptName.leftJustified(16) << u' ' << shownCaption(layout) << '\n';
 }
 
 } // namespace
