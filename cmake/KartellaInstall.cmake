@@ -40,5 +40,5 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins, shared-mime-info")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
     "libreoffice-writer, libreoffice-calc, libreoffice-impress, cups-client, adwaita-icon-theme, xdg-utils, \
-libsane1, tesseract-ocr-lit, tesseract-ocr-eng, catdoc")
+libsane1, tesseract-ocr-lit, tesseract-ocr-eng, catdoc, qt6-translations-l10n")
 include(CPack)
