@@ -3851,7 +3851,7 @@ Ar norite juos įrašyti dabar?</translation>
     </message>
     <message>
         <source>The sample needs a valid day to count back from.</source>
-        <translation>Pavyzdžiui reikia tinkamos dienos, nuo kurios skaičiuoti atgal.</translation>
+        <translation>Pavyzdiniam registrui reikia tinkamos dienos, nuo kurios skaičiuojama atgal.</translation>
     </message>
     <message>
         <source>The register &quot;%1&quot; already holds data; a sample goes into an empty one.</source>
