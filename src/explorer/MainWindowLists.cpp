@@ -119,6 +119,8 @@ void MainWindow::onDocumentListPressed(Qt::MouseButton button, const QPoint& glo
         return;
     // Beside the rows, or in an empty list, the menu offers what needs no document.
     enablePopupCommands();
+    setCommandEnabled(
+        QStringLiteral("mnuPopNewVersion"), action(QStringLiteral("mnuPopDetails"))->isEnabled());
     action(QStringLiteral("mnuPopRelated"))->setVisible(true);
     action(QStringLiteral("mnuhypen14"))->setVisible(true);
     popupMenu(m_documentMenu, globalPos);
@@ -130,6 +132,8 @@ void MainWindow::onRelatedListPressed(Qt::MouseButton button, const QPoint& glob
     if (button != Qt::RightButton)
         return;
     enablePopupCommands();
+    // A related document's file is no document's own: it keeps no versions.
+    setCommandEnabled(QStringLiteral("mnuPopNewVersion"), false);
     action(QStringLiteral("mnuPopRelated"))->setVisible(false);
     action(QStringLiteral("mnuhypen14"))->setVisible(false);
     popupMenu(m_documentMenu, globalPos);

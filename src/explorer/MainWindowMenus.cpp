@@ -357,6 +357,9 @@ void MainWindow::buildPopups()
     m_documentMenu->addSeparator()->setObjectName(QStringLiteral("mnuhypen11"));
     addCommand(m_documentMenu, QStringLiteral("mnuPopCopy"), tr("&Copy/Move"), &MainWindow::copyDocument, {},
         QStringLiteral("frmCopyFile"));
+    // The document's file replaced by another, the one it had kept as an earlier version.
+    addCommand(
+        m_documentMenu, QStringLiteral("mnuPopNewVersion"), tr("New &Version..."), &MainWindow::newVersion);
     addCommand(m_documentMenu, QStringLiteral("mnuPopDelete"), tr("&Delete"), &MainWindow::deleteSelected);
     m_documentMenu->addSeparator()->setObjectName(QStringLiteral("mnuhypen12"));
     addCommand(m_documentMenu, QStringLiteral("mnuPopPrint"), tr("&Print"), &MainWindow::printDocument);

@@ -233,16 +233,16 @@ private Q_SLOTS:
         fx.rightClick(documents->viewport(), below);
         QCOMPARE(fx.popups, QList<QMenu*> {w.documentContextMenu()});
         QVERIFY(fx.enabled("mnuPopNew"));
-        for (const char* name : {"mnuPopOpen", "mnuPopCopy", "mnuPopDelete", "mnuPopPrint", "mnuPopRelated",
-                 "mnuPopDetails", "mnuPopProperties"})
+        for (const char* name : {"mnuPopOpen", "mnuPopCopy", "mnuPopNewVersion", "mnuPopDelete",
+                 "mnuPopPrint", "mnuPopRelated", "mnuPopDetails", "mnuPopProperties"})
             QVERIFY2(!fx.enabled(name), name);
         // The right button highlights the row under it, and the menu acts on that row.
         fx.clickDocument("contract");
         fx.rightClick(documents->viewport(), rowCenter("letter"));
         QCOMPARE(selection().selectedDocumentId, fx.id["letter"]);
         QCOMPARE(fx.popups.size(), 2);
-        for (const char* name : {"mnuPopNew", "mnuPopOpen", "mnuPopCopy", "mnuPopDelete", "mnuPopPrint",
-                 "mnuPopRelated", "mnuPopDetails", "mnuPopProperties"})
+        for (const char* name : {"mnuPopNew", "mnuPopOpen", "mnuPopCopy", "mnuPopNewVersion", "mnuPopDelete",
+                 "mnuPopPrint", "mnuPopRelated", "mnuPopDetails", "mnuPopProperties"})
             QVERIFY2(fx.enabled(name), name);
         QVERIFY(w.action("mnuPopRelated")->isVisible());
         w.action("mnuPopNew")->trigger();
@@ -258,6 +258,7 @@ private Q_SLOTS:
         fx.rightClick(related);
         QCOMPARE(fx.popups.size(), 3);
         QVERIFY(!w.action("mnuPopRelated")->isVisible());
+        QVERIFY(!fx.enabled("mnuPopNewVersion"));
         QVERIFY(!w.action("mnuhypen14")->isVisible());
 
         // The tree: no menu while no category is current; the category menu otherwise.
