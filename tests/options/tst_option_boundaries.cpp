@@ -122,6 +122,27 @@ private Q_SLOTS:
             again.value(QStringLiteral("Options"), QStringLiteral("DbLocation")), QStringLiteral("/a.mdb"));
     }
 
+    // A backslash escapes the character after it in a value of many lines; the last one,
+    // with nothing after it, is itself.
+    void backslashesOfAValueOfLines_data()
+    {
+        QTest::addColumn<QByteArray>("line");
+        QTest::addColumn<QString>("value");
+        QTest::newRow("line break") << QByteArray("@Lines(a\\nb)") << QStringLiteral("a\nb");
+        QTest::newRow("escaped backslash") << QByteArray("@Lines(a\\\\n)") << QStringLiteral("a\\n");
+        QTest::newRow("backslash last") << QByteArray("@Lines(a\\)") << QStringLiteral("a\\");
+    }
+    void backslashesOfAValueOfLines()
+    {
+        QFETCH(QByteArray, line);
+        QFETCH(QString, value);
+        const QString path = m_config->filePath(QStringLiteral("lines.ini"));
+        writeFile(path, "[Options]\nNote=" + line + "\n");
+        SectionFile file;
+        QCOMPARE(file.load(path), SectionFile::Status::Ok);
+        QCOMPARE(file.value(QStringLiteral("Options"), QStringLiteral("Note")), value);
+    }
+
     void iniSectionInAnotherCase()
     {
         writeFile(iniFilePath(), "[doccontr]\nALLDOCS=/docs\n[DOCCONTR2]\nCompany=Other\n");
