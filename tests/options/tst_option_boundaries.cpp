@@ -1,9 +1,11 @@
 // The options file at its edges: sections and names written in another case, numbers as
 // truth values, and the ends of the range of a whole-number option.
 #include "base/Error.h"
+#include "options/CaptureOptions.h"
 #include "options/FirstRun.h"
 #include "options/OptionStore.h"
 #include "options/SectionFile.h"
+#include "options/TrashOptions.h"
 
 #include <QDir>
 #include <QFile>
@@ -141,6 +143,51 @@ private Q_SLOTS:
         SectionFile file;
         QCOMPARE(file.load(path), SectionFile::Status::Ok);
         QCOMPARE(file.value(QStringLiteral("Options"), QStringLiteral("Note")), value);
+    }
+
+    // The scan window's choices come back as saved, a second save over the first; a
+    // resolution outside 25 to 4800 dpi reads as the default.
+    void scanSettingsAndTheirResolutionRange_data()
+    {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<int>("resolution");
+        QTest::newRow("lowest") << "25" << 25;
+        QTest::newRow("below") << "24" << DefaultScanResolution;
+        QTest::newRow("highest") << "4800" << 4800;
+        QTest::newRow("above") << "4801" << DefaultScanResolution;
+        QTest::newRow("not a number") << "300dpi" << DefaultScanResolution;
+    }
+    void scanSettingsAndTheirResolutionRange()
+    {
+        QFETCH(QString, stored);
+        QFETCH(int, resolution);
+        saveScanSettings({QStringLiteral("test:0"), QStringLiteral("Flatbed"), QStringLiteral("Gray"), 150});
+        saveScanSettings({QStringLiteral("test:1"), QStringLiteral("Automatic Document Feeder"),
+            QStringLiteral("Color"), 600});
+        const ScanSettings saved = scanSettings();
+        QCOMPARE(saved.device, QStringLiteral("test:1"));
+        QCOMPARE(saved.source, QStringLiteral("Automatic Document Feeder"));
+        QCOMPARE(saved.mode, QStringLiteral("Color"));
+        QCOMPARE(saved.resolution, 600);
+        setRegValue(QStringLiteral("ScanResolution"), stored);
+        QCOMPARE(scanSettings().resolution, resolution);
+    }
+
+    // Beside a register file its trash and versions folders; a register on a server keeps them
+    // in the shared folder, and has none while no shared folder is named.
+    void trashAndVersionsFolders()
+    {
+        seedOptionsIfMissing();
+        QCOMPARE(trashFolderFor(QStringLiteral("/srv/docs/Kartella.mdb")),
+            QStringLiteral("/srv/docs/Kartella.mdb.trash"));
+        QCOMPARE(versionsFolderFor(QStringLiteral("/srv/docs/Kartella.mdb")),
+            QStringLiteral("/srv/docs/Kartella.mdb.versions"));
+        const QString server = QStringLiteral("postgresql://kartella@db.example:5432/registras");
+        QCOMPARE(trashFolderFor(server), QString());
+        QCOMPARE(versionsFolderFor(server), QString());
+        setSharedTrashFolder(QStringLiteral("/srv/shared"));
+        QCOMPARE(trashFolderFor(server), QStringLiteral("/srv/shared/trash"));
+        QCOMPARE(versionsFolderFor(server), QStringLiteral("/srv/shared/versions"));
     }
 
     void iniSectionInAnotherCase()
