@@ -185,6 +185,15 @@ private Q_SLOTS:
         const QString server = QStringLiteral("postgresql://kartella@db.example:5432/registras");
         QCOMPARE(trashFolderFor(server), QString());
         QCOMPARE(versionsFolderFor(server), QString());
+        // One day and one version are the least; anything less reads as the default.
+        setTrashDays(1);
+        setVersionsPerDocument(1);
+        QCOMPARE(trashDays(), 1);
+        QCOMPARE(versionsPerDocument(), 1);
+        setTrashDays(0);
+        setVersionsPerDocument(0);
+        QCOMPARE(trashDays(), DefaultTrashDays);
+        QCOMPARE(versionsPerDocument(), DefaultVersionsPerDocument);
         setSharedTrashFolder(QStringLiteral("/srv/shared"));
         QCOMPARE(trashFolderFor(server), QStringLiteral("/srv/shared/trash"));
         QCOMPARE(versionsFolderFor(server), QStringLiteral("/srv/shared/versions"));
