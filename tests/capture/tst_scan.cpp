@@ -1,6 +1,5 @@
 // Scanning through SANE's test backend, and the searchable PDF the pages become.
 #include "TestPages.h"
-#include "harness/Lithuanian.h"
 #include "base/Error.h"
 #include "capture/PageImages.h"
 #include "capture/SaneScanner.h"
@@ -10,6 +9,7 @@
 #include "content/FileText.h"
 #include "explorer/ExplorerFixture.h"
 #include "explorer/MainWindow.h"
+#include "harness/Lithuanian.h"
 #include "harness/ScriptedPrompter.h"
 #include "options/CaptureOptions.h"
 #include "options/OptionStore.h"
@@ -67,6 +67,14 @@ void waitForScanner(const QWidget& dialog, const QString& source = QStringLitera
     auto* resolutions = child<QComboBox>(dialog, "cboResolution");
     QVERIFY(resolutions->findData(dpi) >= 0);
     resolutions->setCurrentIndex(resolutions->findData(dpi));
+}
+
+// Scan Page, until the page is listed as the count-th and the scanner is free again.
+void scanPage(const QWidget& dialog, int count)
+{
+    click(dialog, "cmdScanPage");
+    QTRY_COMPARE_WITH_TIMEOUT(pageCountOf(dialog), count, 10000);
+    QTRY_VERIFY(child<QPushButton>(dialog, "cmdScanPage")->isEnabled());
 }
 
 } // namespace
@@ -155,12 +163,8 @@ void ScanTest::pagesArriveAndBecomeOnePdf()
 
     // 80 by 100 mm, the test scanner's page, at 75 dpi.
     const QSize page(236, 295);
-    click(dialog, "cmdScanPage");
-    QTRY_COMPARE_WITH_TIMEOUT(pageCountOf(dialog), 1, 10000);
-    QTRY_VERIFY(child<QPushButton>(dialog, "cmdScanPage")->isEnabled());
-    click(dialog, "cmdScanPage");
-    QTRY_COMPARE_WITH_TIMEOUT(pageCountOf(dialog), 2, 10000);
-    QTRY_VERIFY(child<QPushButton>(dialog, "cmdScanPage")->isEnabled());
+    scanPage(dialog, 1);
+    scanPage(dialog, 2);
     QCOMPARE(dialog.pages().at(0).size(), page);
     QCOMPARE(pageResolution(dialog.pages().at(0), 0), 75);
 
@@ -270,9 +274,7 @@ void ScanTest::scanningProcessGoneIsToldAndPagesKept()
     ScanDialog dialog([] { return QString(); });
     dialog.show();
     waitForScanner(dialog);
-    click(dialog, "cmdScanPage");
-    QTRY_COMPARE_WITH_TIMEOUT(pageCountOf(dialog), 1, 10000);
-    QTRY_VERIFY(child<QPushButton>(dialog, "cmdScanPage")->isEnabled());
+    scanPage(dialog, 1);
 
     // A slow page, and the process ends under it.
     dialog.setScannerOption(QStringLiteral("read-delay"), QStringLiteral("true"));
@@ -298,9 +300,7 @@ void ScanTest::scannerFailingMidPageKeepsEarlierPages()
     ScanDialog dialog([] { return QString(); });
     dialog.show();
     waitForScanner(dialog);
-    click(dialog, "cmdScanPage");
-    QTRY_COMPARE_WITH_TIMEOUT(pageCountOf(dialog), 1, 10000);
-    QTRY_VERIFY(child<QPushButton>(dialog, "cmdScanPage")->isEnabled());
+    scanPage(dialog, 1);
 
     dialog.setScannerOption(QStringLiteral("read-return-value"), QStringLiteral("SANE_STATUS_IO_ERROR"));
     prompter.answer(MsgBoxResult::Ok);
@@ -472,9 +472,7 @@ void ScanTest::scanWindowInLithuanian()
     QTest::keyClick(&dialog, Qt::Key_K, Qt::AltModifier);
     QCOMPARE(QApplication::focusWidget(), child<QComboBox>(dialog, "cboScanner"));
 
-    click(dialog, "cmdScanPage");
-    QTRY_COMPARE_WITH_TIMEOUT(pageCountOf(dialog), 1, 10000);
-    QTRY_VERIFY(child<QPushButton>(dialog, "cmdScanPage")->isEnabled());
+    scanPage(dialog, 1);
     QCOMPARE(child<QListWidget>(dialog, "lstPages")->item(0)->text(), QStringLiteral("Puslapis 1"));
     QCOMPARE(child<QLabel>(dialog, "lblStatus")->text(), QStringLiteral("Puslapių: 1"));
 
