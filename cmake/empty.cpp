@@ -1,0 +1,1 @@
+// Nothing: the target that compiles this file makes the precompiled header its group shares.
