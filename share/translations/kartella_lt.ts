@@ -2451,6 +2451,18 @@ Susijęs dokumentas šalinamas kartu su jo failu.</translation>
         <source>New Version</source>
         <translation>Nauja versija</translation>
     </message>
+    <message>
+        <source>Scan New Vers&amp;ion...</source>
+        <translation>Skenuoti naują ve&amp;rsiją...</translation>
+    </message>
+    <message>
+        <source>Scanned pages make a PDF file, so they can replace only a PDF file; %1 is not one.</source>
+        <translation>Nuskenuoti puslapiai sudaro PDF failą, todėl jie gali pakeisti tik PDF failą; %1 nėra PDF failas.</translation>
+    </message>
+    <message>
+        <source>No temporary folder could be made for the scanned pages: %1</source>
+        <translation>Nepavyko sukurti laikinojo aplanko nuskenuotiems puslapiams: %1</translation>
+    </message>
 </context>
 <context>
     <name>kartella::MissingRegister</name>
@@ -4325,6 +4337,10 @@ Ar norite juos įrašyti dabar?</translation>
     <message>
         <source>The version %1 could not be read.</source>
         <translation>Versijos %1 nepavyko perskaityti.</translation>
+    </message>
+    <message>
+        <source>Put %1 in place of %2, keeping %2 as an earlier version?</source>
+        <translation>Įdėti %1 vietoj %2, o %2 išlaikyti kaip ankstesnę versiją?</translation>
     </message>
 </context>
 <context>

@@ -292,7 +292,12 @@ bool ExplorerList::eventFilter(QObject* watched, QEvent* event)
         }
         drop->setDropAction(Qt::CopyAction);
         drop->accept();
-        if (!paths.isEmpty())
+        const QModelIndex target = watched == currentView()->viewport()
+            ? currentView()->indexAt(drop->position().toPoint())
+            : QModelIndex();
+        if (paths.size() == 1 && target.isValid() && drop->modifiers().testFlag(Qt::ShiftModifier))
+            Q_EMIT fileDroppedOnItem(paths.first(), target.row());
+        else if (!paths.isEmpty())
             Q_EMIT filesDropped(paths);
         return true;
     }

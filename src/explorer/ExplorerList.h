@@ -42,7 +42,8 @@ public:
     // Remembers the list's sort (column and order) in the option optionName, across runs,
     // and gives the list the sort stored there.
     void rememberSort(const QString& optionName);
-    // Whether files dropped on the list are taken (emitted as filesDropped).
+    // Whether files dropped on the list are taken (emitted as filesDropped, or as
+    // fileDroppedOnItem for one file dropped on an item with Shift held).
     void setAcceptFileDrops(bool accept);
     // Whether an item's file can be dragged out of the list.
     void setDragFilesOut(bool enabled);
@@ -67,6 +68,8 @@ Q_SIGNALS:
     // button first highlights the row under it.
     void pressed(Qt::MouseButton button, const QPoint& globalPos);
     void filesDropped(const QStringList& paths);
+    // One file was dropped with Shift held on the item in row: it is meant for that item.
+    void fileDroppedOnItem(const QString& path, int row);
     // A drag of the selected item's file is starting: the receiver gives the file to offer.
     void dragRequested();
 

@@ -161,6 +161,7 @@ void MainWindow::buildWindow()
     connect(m_documents, &ExplorerList::columnClicked, this, &MainWindow::onDocumentColumnClicked);
     connect(m_documents, &ExplorerList::pressed, this, &MainWindow::onDocumentListPressed);
     connect(m_documents, &ExplorerList::filesDropped, this, &MainWindow::onFilesDropped);
+    connect(m_documents, &ExplorerList::fileDroppedOnItem, this, &MainWindow::onFileDroppedOnDocument);
     connect(m_related, &ExplorerList::itemClicked, this, &MainWindow::onRelatedClicked);
     connect(m_related, &ExplorerList::filesDropped, this, &MainWindow::onRelatedFilesDropped);
     connect(m_documents, &ExplorerList::highlightCleared, this, &MainWindow::onDocumentHighlightCleared);

@@ -136,6 +136,10 @@ public Q_SLOTS:
     void openDocument();
     void copyDocument();
     void newVersion();
+    // Document > Scan New Version...: scanned pages in place of the document's PDF file.
+    void scanNewVersion();
+    // A file dropped with Shift on a document's row: offered as that document's new version.
+    void onFileDroppedOnDocument(const QString& path, int row);
     void deleteSelected();
     void deleteSelectedCategory();
     void printSetup();

@@ -163,6 +163,8 @@ void MainWindow::buildMenus()
     addCommand(file, QStringLiteral("mnuMove"), tr("&Move Document"), &MainWindow::copyDocument,
         QKeySequence(Qt::CTRL | Qt::Key_M), QStringLiteral("frmCopyFile"));
     addCommand(file, QStringLiteral("mnuNewVersion"), tr("New &Version..."), &MainWindow::newVersion);
+    addCommand(
+        file, QStringLiteral("mnuScanNewVersion"), tr("Scan New Vers&ion..."), &MainWindow::scanNewVersion);
     addCommand(file, QStringLiteral("mnuDelete"), tr("&Delete Document"), &MainWindow::deleteSelected,
         QKeySequence(Qt::Key_Delete));
     file->addSeparator()->setObjectName(QStringLiteral("mnuHyper4"));

@@ -11,8 +11,10 @@
 #include "explorer/MainWindow.h"
 #include "harness/Lithuanian.h"
 #include "harness/ScriptedPrompter.h"
+#include "history/Versions.h"
 #include "options/CaptureOptions.h"
 #include "options/OptionStore.h"
+#include "options/TrashOptions.h"
 #include "platform/Prompter.h"
 #include "registration/NewDocumentFixture.h"
 
@@ -95,6 +97,7 @@ private Q_SLOTS:
     void searchablePdfHoldsThePagesAndTheirWords();
     void scanButtonAttachesThePdfNamedAsTheCategoryNames();
     void scanNewDocumentOpensTheScanOverNewDocument();
+    void scanNewVersionReplacesOnlyAPdf();
     void scanWindowInLithuanian();
 
 private:
@@ -442,6 +445,66 @@ void ScanTest::scanNewDocumentOpensTheScanOverNewDocument()
     QVERIFY(scanOverNewDocument);
     QCOMPARE(category, QStringLiteral("Sutartys"));
     QVERIFY(!window.findChild<ScanDialog*>());
+}
+
+// Document > Scan New Version...: the pages scanned take the place of the document's PDF, the
+// earlier file kept as a version; a document whose file is no PDF is told so and keeps it.
+void ScanTest::scanNewVersionReplacesOnlyAPdf()
+{
+    writeBackends("test\n");
+    ScriptedPrompter prompter;
+    ExplorerFixture fx;
+    const auto fileOf = [&](const QString& name, const QString& document) {
+        const QString path = fx.reg.dir() + "/" + name;
+        QFile file(path);
+        file.open(QIODevice::WriteOnly);
+        file.write("earlier");
+        file.close();
+        fx.reg.exec(QString("UPDATE tbl_Documents SET RastoKel = '%1' WHERE RastasID = %2")
+                        .arg(path)
+                        .arg(fx.id[document]));
+        return path;
+    };
+    const QString letter = fileOf("letter.doc", "letter");
+    const QString contract = fileOf("contract.pdf", "contract");
+    MainWindow& window = fx.window();
+    QAction* scanVersion = window.action(QStringLiteral("mnuScanNewVersion"));
+    QVERIFY(scanVersion);
+
+    fx.clickNode("a" + QString::number(fx.id["Raštai"]));
+    fx.clickDocument("letter");
+    scanVersion->trigger();
+    QCOMPARE(prompter.take().size(), 1);
+    QVERIFY(!window.findChild<ScanDialog*>());
+
+    fx.clickNode("a" + QString::number(fx.id["Sutartys"]));
+    fx.clickDocument("contract");
+    QTimer watch;
+    watch.setInterval(10);
+    connect(&watch, &QTimer::timeout, &window, [&] {
+        ScanDialog* scan = window.findChild<ScanDialog*>();
+        if (!scan || !scan->isVisible())
+            return;
+        watch.stop();
+        waitForScanner(*scan);
+        scanPage(*scan, 1);
+        click(*scan, "cmdDone");
+    });
+    watch.start();
+    scanVersion->trigger();
+    QVERIFY(prompter.texts().isEmpty());
+    QFile scanned(contract);
+    QVERIFY(scanned.open(QIODevice::ReadOnly));
+    QVERIFY(scanned.read(5) == "%PDF-");
+    const QList<FileVersion> kept
+        = Versions(versionsFolderFor(fx.reg.path()), DefaultVersionsPerDocument).list(fx.id["contract"]);
+    QCOMPARE(kept.size(), 1);
+    QFile earlier(kept.first().path);
+    QVERIFY(earlier.open(QIODevice::ReadOnly));
+    QCOMPARE(earlier.readAll(), QByteArray("earlier"));
+    QFile untouched(letter);
+    QVERIFY(untouched.open(QIODevice::ReadOnly));
+    QCOMPARE(untouched.readAll(), QByteArray("earlier"));
 }
 
 // A Lithuanian desktop: the window's buttons, labels, pages and messages are Lithuanian; what

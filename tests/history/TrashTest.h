@@ -22,6 +22,7 @@ private Q_SLOTS:
     void deletedItemsNodeByKeysAndMouse();
     void versionsKeepReplaceRestoreAndLimit();
     void newVersionFromTheMenu();
+    void newVersionByDroppingWithShift();
     void settingsTabStoresTheLimits();
     void anOlderRegisterDeletesAsBeforeUntilUpgraded();
     void aServerRegisterAsksForTheSharedFolderOnce();

@@ -1,7 +1,6 @@
 // The windows of the trash and the versions: the Deleted items node, New Version, the
 // settings' tab, and what a register without a trash or on a server does.
 
-#include "harness/Lithuanian.h"
 #include "TrashFixture.h"
 #include "TrashTest.h"
 #include "addressbook/AddressBookFixture.h"
@@ -9,8 +8,12 @@
 #include "dialogs/SettingsDialog.h"
 #include "explorer/CommandsFixture.h"
 #include "explorer/DeletedItemsNode.h"
+#include "explorer/DocumentFills.h"
+#include "explorer/ExplorerList.h"
+#include "explorer/ListModel.h"
 #include "explorer/MainWindow.h"
 #include "explorer/NavigationTree.h"
+#include "harness/Lithuanian.h"
 #include "harness/ScriptedPrompter.h"
 #include "history/DeletedItemsWindow.h"
 #include "history/KeepVersion.h"
@@ -27,6 +30,7 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMimeData>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTest>
@@ -162,6 +166,61 @@ void TrashTest::newVersionFromTheMenu()
     QVERIFY(keepVersionBeforeReplacing(replacement));
     list.fill();
     QCOMPARE(list.list()->topLevelItemCount(), 3);
+}
+
+// A file dropped with Shift on a document's row is offered as its new version; No keeps the
+// document's file, Yes replaces it and keeps the earlier one. Without Shift the drop still
+// registers a new document.
+void TrashTest::newVersionByDroppingWithShift()
+{
+    CommandsFixture fx;
+    ScriptedPrompter prompter;
+    const QString own = fx.makeFile("contract.doc");
+    fx.setPath("tbl_Documents", "RastasID", fx.id["contract"], "RastoKel", own);
+    const QString replacement = fx.reg.dir() + "/signed.doc";
+    QFile file(replacement);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("signed");
+    file.close();
+    MainWindow& w = fx.load();
+    fx.clickNode("a" + QString::number(fx.id["Sutartys"]));
+    QTreeView* view = w.documentList()->detailsView();
+    const QModelIndex target
+        = fx.documents().index(fx.documents().rowOfKey(DocumentFills::itemKey(fx.id["contract"])), 0);
+    QVERIFY(target.isValid());
+    view->scrollTo(target);
+    const QPoint pos = view->visualRect(target).center();
+    const auto drop = [&](Qt::KeyboardModifiers modifiers) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(replacement)});
+        QDropEvent event(QPointF(pos), Qt::CopyAction, &data, Qt::LeftButton, modifiers);
+        QApplication::sendEvent(view->viewport(), &event);
+        QVERIFY(event.isAccepted());
+    };
+
+    prompter.answer(MsgBoxResult::No);
+    drop(Qt::ShiftModifier);
+    QCOMPARE(prompter.take().size(), 1);
+    QCOMPARE(TrashFixture::bytes(own), QByteArray("x"));
+    QVERIFY(fx.opened.isEmpty());
+
+    prompter.answer(MsgBoxResult::Yes);
+    drop(Qt::ShiftModifier);
+    const QList<ScriptedPrompter::Prompt> asked = prompter.take();
+    QCOMPARE(asked.size(), 1);
+    QCOMPARE(asked.first().text,
+        "Put signed.doc in place of contract.doc, keeping contract.doc as an earlier version?");
+    QCOMPARE(TrashFixture::bytes(own), QByteArray("signed"));
+    QCOMPARE(TrashFixture::bytes(replacement), QByteArray("signed"));
+    const QList<FileVersion> kept
+        = Versions(versionsFolderFor(fx.reg.path()), DefaultVersionsPerDocument).list(fx.id["contract"]);
+    QCOMPARE(kept.size(), 1);
+    QCOMPARE(TrashFixture::bytes(kept.first().path), QByteArray("x"));
+    QVERIFY(fx.opened.isEmpty());
+
+    drop(Qt::NoModifier);
+    QCOMPARE(fx.opened, QStringList {"frmNewDocument:" + replacement});
+    QVERIFY(prompter.allAnswered());
 }
 
 // The settings' tab stores the limits and the shared folder.
