@@ -3391,6 +3391,10 @@ Susijęs dokumentas šalinamas kartu su jo failu.</translation>
         <source>The scanning program %1 stopped or could not be started. Reinstalling Kartella puts it back.</source>
         <translation>Skenavimo programa %1 sustojo arba nepasileido. Iš naujo įdiegus Kartella, ji bus atkurta.</translation>
     </message>
+    <message>
+        <source>The scanner sent nothing for %1 seconds and was stopped. The pages scanned before are kept; close the scan window and open it again to go on scanning.</source>
+        <translation>Skeneris %1 s nieko nesiuntė ir buvo sustabdytas. Anksčiau nuskenuoti puslapiai lieka; norėdami skenuoti toliau, uždarykite skenavimo langą ir atverkite jį iš naujo.</translation>
+    </message>
 </context>
 <context>
     <name>kartella::SchemaStep</name>

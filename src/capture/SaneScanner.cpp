@@ -380,8 +380,8 @@ bool SaneScanner::setOption(const QString& name, const QString& value)
     return status == SANE_STATUS_GOOD;
 }
 
-SaneScanner::Outcome SaneScanner::scanPage(
-    QImage* page, QString* message, const std::atomic_bool& cancel, bool moreToCome)
+SaneScanner::Outcome SaneScanner::scanPage(QImage* page, QString* message, const std::atomic_bool& cancel,
+    bool moreToCome, const std::function<void()>& reading)
 {
     if (!m_handle) {
         *message = noScannerOpenMessage();
@@ -438,6 +438,8 @@ SaneScanner::Outcome SaneScanner::scanPage(
             return Outcome::Failed;
         }
         data.insert(data.end(), buffer.begin(), buffer.begin() + length);
+        if (reading && length > 0)
+            reading();
     }
     if (!moreToCome)
         finishBatch();

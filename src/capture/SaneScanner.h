@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include <atomic>
+#include <functional>
 
 namespace kartella {
 
@@ -77,8 +78,10 @@ public:
     bool setOption(const QString& name, const QString& value);
 
     // Scans one page (a feeder: the next sheet). Ends the scanner's batch unless
-    // moreToCome. cancel, set from any thread, stops the scanner within one read.
-    Outcome scanPage(QImage* page, QString* message, const std::atomic_bool& cancel, bool moreToCome);
+    // moreToCome. cancel, set from any thread, stops the scanner within one read. reading,
+    // when given, is called after each part of the page the scanner sends.
+    Outcome scanPage(QImage* page, QString* message, const std::atomic_bool& cancel, bool moreToCome,
+        const std::function<void()>& reading = {});
     // Ends a batch that scanPage left open.
     void finishBatch();
 

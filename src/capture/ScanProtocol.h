@@ -26,6 +26,7 @@ enum class ScanMessage : quint8 {
     Opened, // choices, message
     Page, // image
     Ended, // cancelled, message
+    Reading, // the scanner is sending a page: sent now and then while it does
 };
 
 QByteArray scanFrame(ScanMessage message, const QByteArray& values = {});

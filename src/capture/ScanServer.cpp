@@ -1,5 +1,6 @@
 #include "capture/ScanProtocol.h"
 
+#include <QElapsedTimer>
 #include <QMutex>
 #include <QWaitCondition>
 
@@ -109,11 +110,20 @@ void scan(SaneScanner& scanner, const QByteArray& values, const std::atomic_bool
         return;
     }
     scanner.apply(settings);
+    // Tells the program, twice a second at most, that the scanner is still sending.
+    QElapsedTimer sinceTold;
+    sinceTold.start();
+    const auto reading = [&sinceTold] {
+        if (sinceTold.elapsed() >= 500) {
+            answer(ScanMessage::Reading, {});
+            sinceTold.restart();
+        }
+    };
     int pages = 0;
     for (;;) {
         QImage page;
         QString message;
-        switch (scanner.scanPage(&page, &message, cancel, wholeFeeder)) {
+        switch (scanner.scanPage(&page, &message, cancel, wholeFeeder, reading)) {
         case SaneScanner::Outcome::Page: {
             ++pages;
             QByteArray image;

@@ -19,6 +19,20 @@ QString& chosenProgram()
     return program;
 }
 
+int& stallLimit()
+{
+    static int limit = 120000;
+    return limit;
+}
+
+QString stalledMessage()
+{
+    return QCoreApplication::translate("kartella::ScanSession",
+        "The scanner sent nothing for %1 seconds and was stopped. The pages scanned before are kept; "
+        "close the scan window and open it again to go on scanning.")
+        .arg((stallLimit() + 999) / 1000);
+}
+
 QString stoppedMessage()
 {
     return QCoreApplication::translate("kartella::ScanSession",
@@ -31,7 +45,10 @@ QString stoppedMessage()
 ScanSession::ScanSession(QObject* parent)
     : QObject(parent)
     , m_process(new QProcess(this))
+    , m_stall(new QTimer(this))
 {
+    m_stall->setSingleShot(true);
+    connect(m_stall, &QTimer::timeout, this, &ScanSession::stopStalledScanner);
     m_process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
     connect(m_process, &QProcess::readyReadStandardOutput, this, &ScanSession::readAnswers);
     connect(m_process, &QProcess::errorOccurred, this, &ScanSession::processEnded);
@@ -78,6 +95,24 @@ void ScanSession::setScanningProgram(const QString& path)
     chosenProgram() = path;
 }
 
+int ScanSession::stallLimitMs()
+{
+    return stallLimit();
+}
+
+void ScanSession::setStallLimitMs(int milliseconds)
+{
+    stallLimit() = milliseconds;
+}
+
+void ScanSession::stopStalledScanner()
+{
+    if (!m_scanning || m_process->state() == QProcess::NotRunning)
+        return;
+    m_stalled = true;
+    m_process->kill();
+}
+
 void ScanSession::findScanners()
 {
     m_finding = true;
@@ -95,6 +130,7 @@ void ScanSession::scan(const ScanSettings& settings, bool wholeFeeder)
     if (m_scanning)
         return;
     m_scanning = true;
+    m_stall->start(stallLimit());
     send(int(ScanMessage::Scan), scanValues(settings, wholeFeeder));
 }
 
@@ -121,6 +157,8 @@ void ScanSession::send(int message, const QByteArray& values)
 void ScanSession::readAnswers()
 {
     m_received.append(m_process->readAllStandardOutput());
+    if (m_scanning)
+        m_stall->start(stallLimit());
     ScanMessage message {};
     QByteArray values;
     while (takeScanFrame(&m_received, &message, &values)) {
@@ -153,6 +191,7 @@ void ScanSession::readAnswers()
             QString text;
             stream >> cancelled >> text;
             m_scanning = false;
+            m_stall->stop();
             Q_EMIT scanEnded(cancelled, text);
             break;
         }
@@ -177,7 +216,9 @@ void ScanSession::processEnded()
 
 void ScanSession::reportStopped()
 {
-    const QString message = stoppedMessage();
+    m_stall->stop();
+    const QString message = m_stalled ? stalledMessage() : stoppedMessage();
+    m_stalled = false;
     if (m_finding) {
         m_finding = false;
         Q_EMIT scannersFound({}, message);

@@ -7,6 +7,7 @@
 #include <QObject>
 
 class QProcess;
+class QTimer;
 
 namespace kartella {
 
@@ -14,7 +15,9 @@ namespace kartella {
 // requests go to it and its answers come back as signals, so that the window keeps painting
 // while a page is read, and a scanner backend that hangs or crashes never takes the program
 // with it. cancel() stops the scanner within one read; destroying the session cancels, lets
-// the process end, and ends it when it does not within two seconds.
+// the process end, and ends it when it does not within two seconds. A scanner that sends
+// nothing of a page for the stall limit (two minutes) is taken to hang: its process is ended
+// and the scan reported as stopped, the pages before it kept by the window.
 class ScanSession : public QObject
 {
     Q_OBJECT
@@ -27,6 +30,9 @@ public:
     // <prefix>/libexec/kartella beside <prefix>/bin. A test names the one it built.
     static QString scanningProgram();
     static void setScanningProgram(const QString& path);
+    // How long a scan may go without a word from the scanner (a test shortens it).
+    static int stallLimitMs();
+    static void setStallLimitMs(int milliseconds);
 
     void findScanners();
     void openScanner(const QString& device);
@@ -49,13 +55,16 @@ private:
     void readAnswers();
     void processEnded();
     void reportStopped();
+    void stopStalledScanner();
 
     QProcess* m_process = nullptr;
+    QTimer* m_stall = nullptr;
     QByteArray m_received;
     bool m_finding = false;
     bool m_opening = false;
     bool m_scanning = false;
     bool m_ended = false;
+    bool m_stalled = false;
 };
 
 } // namespace kartella

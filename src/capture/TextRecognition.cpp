@@ -7,8 +7,11 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSemaphore>
 #include <QTemporaryDir>
+#include <QThread>
 
+#include <algorithm>
 #include <clocale>
 #include <cstring>
 #include <dlfcn.h>
@@ -96,7 +99,33 @@ bool askCancel(void* data, int)
     return (*check->cancelled)();
 }
 
+QSemaphore& recognitionSlots()
+{
+    static QSemaphore slots(RecognitionSlot::count());
+    return slots;
+}
+
 } // namespace
+
+RecognitionSlot::RecognitionSlot(const std::function<bool()>& cancelled)
+{
+    while (!recognitionSlots().tryAcquire(1, 100)) {
+        if (cancelled && cancelled())
+            return;
+    }
+    m_held = true;
+}
+
+RecognitionSlot::~RecognitionSlot()
+{
+    if (m_held)
+        recognitionSlots().release();
+}
+
+int RecognitionSlot::count()
+{
+    return std::max(1, QThread::idealThreadCount());
+}
 
 TextRecognizer::TextRecognizer(const QString& languages)
     : m_languages(languages)
@@ -128,6 +157,10 @@ TextRecognizer::~TextRecognizer()
 
 QString TextRecognizer::recognise(const QImage& page, int dotsPerInch, const std::function<bool()>& cancelled)
 {
+    const RecognitionSlot slot(cancelled);
+    if (!slot.held())
+        throw Error(RecognitionError::Cancelled,
+            QCoreApplication::translate("kartella::TextRecognition", "Text recognition was cancelled."));
     const QImage grey = page.convertToFormat(QImage::Format_Grayscale8);
     m_api->SetImage(grey.constBits(), grey.width(), grey.height(), 1, int(grey.bytesPerLine()));
     m_api->SetSourceResolution(dotsPerInch);
@@ -222,8 +255,11 @@ void writeSearchablePdf(const QList<QImage>& pages, int dotsPerInch, const QStri
                     "kartella::TextRecognition", "A scanned page could not be read back."));
         const int pageDpi = pageResolution(pages.at(number), dotsPerInch);
         pixSetResolution(pix, pageDpi, pageDpi);
-        const bool added
-            = recognizer.api().ProcessPage(pix, number, image.constData(), nullptr, 0, renderer.get());
+        bool added = false;
+        {
+            const RecognitionSlot slot;
+            added = recognizer.api().ProcessPage(pix, number, image.constData(), nullptr, 0, renderer.get());
+        }
         pixDestroy(&pix);
         if (!added)
             throw Error(RecognitionError::PdfFailed,

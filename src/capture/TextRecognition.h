@@ -41,6 +41,25 @@ inline constexpr long Cancelled = 0x4f435203;
 inline constexpr long PdfFailed = 0x4f435204;
 } // namespace RecognitionError
 
+// One page read at a time per core, across the whole program (the background reading's pool
+// and a scan window writing its PDF): a recognition holds a slot while it reads its page,
+// waiting for one when every core has its page. A wait that cancelled ends leaves it unheld.
+class RecognitionSlot
+{
+public:
+    explicit RecognitionSlot(const std::function<bool()>& cancelled = {});
+    ~RecognitionSlot();
+    RecognitionSlot(const RecognitionSlot&) = delete;
+    RecognitionSlot& operator=(const RecognitionSlot&) = delete;
+
+    bool held() const { return m_held; }
+    // How many slots there are: the machine's cores.
+    static int count();
+
+private:
+    bool m_held = false;
+};
+
 // One Tesseract engine with its languages loaded (loading takes a good part of a second,
 // so a worker keeps one). Belongs to one thread at a time.
 class TextRecognizer

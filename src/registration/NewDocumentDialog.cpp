@@ -134,7 +134,8 @@ void NewDocumentDialog::buildWidgets()
         m_incoming, m_otherDirection, findChild<QPushButton*>(QStringLiteral("cmdWord")),
         findChild<QPushButton*>(QStringLiteral("cmdExcel")),
         findChild<QPushButton*>(QStringLiteral("cmdPower")),
-        findChild<QPushButton*>(QStringLiteral("cmdAddExisting")), m_ok, m_cancel};
+        findChild<QPushButton*>(QStringLiteral("cmdAddExisting")),
+        findChild<QPushButton*>(QStringLiteral("cmdScan")), m_ok, m_cancel};
     for (qsizetype i = 1; i < order.size(); ++i)
         setTabOrder(order[i - 1], order[i]);
 

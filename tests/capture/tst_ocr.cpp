@@ -14,6 +14,7 @@
 #include "store/engine/Recordset.h"
 
 #include <QDate>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QLabel>
 #include <QMainWindow>
@@ -26,6 +27,8 @@
 
 #include <atomic>
 #include <leptonica/allheaders.h>
+#include <memory>
+#include <vector>
 
 using namespace kartella;
 using namespace kartella::test;
@@ -138,6 +141,7 @@ private Q_SLOTS:
     void largerThanTheLimitIsNotRecognised();
     void missingLanguageNamesItsPackageUntilInstalled();
     void cancelledRecognitionWritesNothing();
+    void aPageWaitsForAFreeCore();
     void backgroundReadingRecognisesScansAfterItsWalk();
 };
 
@@ -265,6 +269,31 @@ void OcrTest::cancelledRecognitionWritesNothing()
     QCOMPARE(after->state, TextState::NeedsOcr);
     QCOMPARE(after->readAt, before->readAt);
     QVERIFY(after->body.isEmpty());
+}
+
+// While every core reads a page (a scan window's PDF, the background pool), another page
+// waits for one: a cancel ends its wait with nothing read; a core freed reads it.
+void OcrTest::aPageWaitsForAFreeCore()
+{
+    TextRecognizer recognizer(QStringLiteral("lit+eng"));
+    const QImage page = smallPage(PageText);
+    std::vector<std::unique_ptr<RecognitionSlot>> busy;
+    for (int core = 0; core < RecognitionSlot::count(); ++core) {
+        busy.push_back(std::make_unique<RecognitionSlot>());
+        QVERIFY(busy.back()->held());
+    }
+    QElapsedTimer waited;
+    waited.start();
+    try {
+        recognizer.recognise(page, Dpi, [&waited] { return waited.elapsed() > 300; });
+        QFAIL("a page was read while every core had one");
+    } catch (const Error& error) {
+        QCOMPARE(error.number(), RecognitionError::Cancelled);
+    }
+    QVERIFY(waited.elapsed() >= 300);
+    busy.pop_back();
+    QVERIFY2(
+        recognizer.recognise(page, Dpi).contains(QStringLiteral("Šiaulių")), "the freed core read nothing");
 }
 
 // The background reading of the program: after its walk over the files, the scans are

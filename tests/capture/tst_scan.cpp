@@ -94,6 +94,7 @@ private Q_SLOTS:
     void cancelStopsTheScannerInTheMiddleOfAPage();
     void scannerFailingMidPageKeepsEarlierPages();
     void scanningProcessGoneIsToldAndPagesKept();
+    void scannerSendingNothingIsStoppedAndPagesKept();
     void searchablePdfHoldsThePagesAndTheirWords();
     void scanButtonAttachesThePdfNamedAsTheCategoryNames();
     void scanNewDocumentOpensTheScanOverNewDocument();
@@ -296,6 +297,33 @@ void ScanTest::scanningProcessGoneIsToldAndPagesKept()
     QVERIFY(child<QPushButton>(dialog, "cmdDone")->isEnabled());
 }
 
+// A scanner that stops sending in the middle of a page, without an error, is taken to hang
+// once the stall limit passes: its process is ended, the window says so and keeps its pages.
+void ScanTest::scannerSendingNothingIsStoppedAndPagesKept()
+{
+    writeBackends("test\n");
+    ScriptedPrompter prompter;
+    ScanDialog dialog([] { return QString(); });
+    dialog.show();
+    waitForScanner(dialog);
+    scanPage(dialog, 1);
+
+    // Each part of the page now comes 0.2 s after the one before: longer than the limit.
+    const int limit = ScanSession::stallLimitMs();
+    ScanSession::setStallLimitMs(100);
+    dialog.setScannerOption(QStringLiteral("read-delay"), QStringLiteral("true"));
+    dialog.setScannerOption(QStringLiteral("read-delay-duration"), QStringLiteral("200000"));
+    prompter.answer(MsgBoxResult::Ok);
+    click(dialog, "cmdScanPage");
+    QTRY_COMPARE_WITH_TIMEOUT(prompter.prompts().size(), 1, 10000);
+    ScanSession::setStallLimitMs(limit);
+    QVERIFY2(prompter.texts().value(0).startsWith(QStringLiteral("The scanner sent nothing for 1 seconds")),
+        qPrintable(prompter.texts().value(0)));
+    QCOMPARE(dialog.findChild<QProcess*>()->state(), QProcess::NotRunning);
+    QCOMPARE(dialog.pages().size(), 1);
+    QVERIFY(child<QPushButton>(dialog, "cmdDone")->isEnabled());
+}
+
 void ScanTest::scannerFailingMidPageKeepsEarlierPages()
 {
     writeBackends("test\n");
@@ -473,8 +501,12 @@ void ScanTest::scanNewVersionReplacesOnlyAPdf()
 
     fx.clickNode("a" + QString::number(fx.id["Raštai"]));
     fx.clickDocument("letter");
+    prompter.answer(MsgBoxResult::Ok);
     scanVersion->trigger();
-    QCOMPARE(prompter.take().size(), 1);
+    const QList<ScriptedPrompter::Prompt> refused = prompter.take();
+    QCOMPARE(refused.size(), 1);
+    QVERIFY2(refused.first().text.contains(QStringLiteral("letter.doc is not one")),
+        qPrintable(refused.first().text));
     QVERIFY(!window.findChild<ScanDialog*>());
 
     fx.clickNode("a" + QString::number(fx.id["Sutartys"]));

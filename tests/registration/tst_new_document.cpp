@@ -314,7 +314,8 @@ private Q_SLOTS:
         Fixture fx(m_templatePaths);
         ScriptedOfficeSuite scripted;
         Dialog d;
-        const QStringList names = {"cmdWord", "cmdExcel", "cmdPower", "cmdAddExisting", "cmdOK", "cmdCancel"};
+        const QStringList names
+            = {"cmdWord", "cmdExcel", "cmdPower", "cmdAddExisting", "cmdScan", "cmdOK", "cmdCancel"};
         QStringList enabledMeanwhile;
         scripted.whileCreating = [&] {
             for (const QString& name : names) {
