@@ -129,8 +129,9 @@ void CategoryDialog::deleteSubCategory()
         if (m_subCategories->editMode() != EditModeEnum::None)
             m_subCategories->cancelUpdate();
     });
-    if (!moveToRegisterTrash(*m_connection, TrashKind::SubCategory, key))
-        return;
+    // Told when it fails; the grid shows the rows as they are either way (another user may
+    // have deleted the row meanwhile).
+    moveToRegisterTrash(*m_connection, TrashKind::SubCategory, key);
     refreshSubCategories();
     const int count = m_subCategories->isOpen() ? m_subCategories->recordCount() : 0;
     if (count == 0)

@@ -162,6 +162,23 @@ private Q_SLOTS:
         QCOMPARE(fx.categories(), categories);
     }
 
+    // A subcategory another user deleted meanwhile: Delete says so, and the grid shows the
+    // rows the register has.
+    void deleteSubCategoryGoneMeanwhile()
+    {
+        Fixture fx;
+        CategoryDialog d;
+        activate(&d);
+        fx.reg.exec("DELETE FROM tbl_Sub_Categories WHERE SubKategID=" + QString::number(fx.leases));
+        fx.prompter.answer(MsgBoxResult::Ok);
+        click(&d, "cmdDelete");
+        QCOMPARE(fx.prompter.take().first().title, "Unable to delete as requested");
+        QTableView* view = grid(&d);
+        QCOMPARE(view->model()->rowCount(), 1);
+        QCOMPARE(view->model()->index(view->currentIndex().row(), 2).data().toString(), "Sales");
+        QCOMPARE(fx.reg.scalar("SELECT COUNT(*) FROM tbl_Trash").toInt(), 0);
+    }
+
     // The current subcategory shows highlighted from the start, and Delete acts on it; on an
     // empty grid Delete is disabled.
     void currentRowAndDelete()
