@@ -193,6 +193,10 @@ void TrashTest::newVersionByDroppingWithShift()
     const auto drop = [&](Qt::KeyboardModifiers modifiers) {
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(replacement)});
+        // A drop goes where the drag entered, as from a file manager.
+        QDragEnterEvent enter(pos, Qt::CopyAction, &data, Qt::LeftButton, modifiers);
+        QApplication::sendEvent(view->viewport(), &enter);
+        QVERIFY(enter.isAccepted());
         QDropEvent event(QPointF(pos), Qt::CopyAction, &data, Qt::LeftButton, modifiers);
         QApplication::sendEvent(view->viewport(), &event);
         QVERIFY(event.isAccepted());
