@@ -2,11 +2,14 @@
 
 #include "base/Error.h"
 #include "categories/CategoryTexts.h"
+#include "history/Trash.h"
+#include "history/TrashCommands.h"
 #include "options/OptionStore.h"
 #include "platform/Prompter.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
+#include "store/engine/Value.h"
 #include "support/BusyCursor.h"
 #include "support/ChangedRowPrompt.h"
 #include "support/DialogParts.h"
@@ -15,6 +18,7 @@
 #include "support/SelectionState.h"
 
 #include <QDir>
+#include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableView>
@@ -99,6 +103,44 @@ void CategoryDialog::addSubCategory()
         m_grid->setFocus(Qt::OtherFocusReason);
         m_grid->setCurrentIndex(m_subCategoryModel->index(m_subCategories->currentRow(), 2));
     });
+}
+
+void CategoryDialog::deleteSubCategory()
+{
+    if (!m_subCategories->isOpen() || m_subCategories->recordCount() == 0
+        || m_subCategories->currentRow() < 0)
+        return;
+    qint64 key = 0;
+    bool trash = false;
+    reportErrors([this, &key, &trash] {
+        if (m_subCategories->editMode() == EditModeEnum::Add)
+            return;
+        const QVariant stored = m_subCategories->fields(QStringLiteral("SubKategID")).value();
+        key = isNull(stored) ? 0 : stored.toLongLong();
+        trash = key != 0 && Trash::inRegister(*m_connection);
+    });
+    if (!trash) {
+        CategoryDialogBase::deleteSubCategory();
+        return;
+    }
+    const int row = m_subCategories->currentRow();
+    // What was typed into the row goes with it.
+    reportErrors([this] {
+        if (m_subCategories->editMode() != EditModeEnum::None)
+            m_subCategories->cancelUpdate();
+    });
+    // Told when it fails; the grid shows the rows as they are either way (another user may
+    // have deleted the row meanwhile).
+    moveToRegisterTrash(*m_connection, TrashKind::SubCategory, key);
+    refreshSubCategories();
+    const int count = m_subCategories->isOpen() ? m_subCategories->recordCount() : 0;
+    if (count == 0)
+        return;
+    const int next = qMin(row, count - 1);
+    reportErrors([this, next] { m_subCategories->setAbsolutePosition(next + 1); });
+    const int column = m_grid->currentIndex().isValid() ? m_grid->currentIndex().column() : 2;
+    m_grid->selectionModel()->setCurrentIndex(m_subCategoryModel->index(next, column),
+        QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 void CategoryDialog::writeCell(int row, int column, const QString& value)

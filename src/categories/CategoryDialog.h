@@ -33,6 +33,10 @@ public:
 
 public Q_SLOTS:
     void addSubCategory() override;
+    // A stored subcategory of a register with a trash goes to the trash, to be restored from
+    // Deleted items with its key; a row not stored yet, or one of an older register, goes for
+    // good as before.
+    void deleteSubCategory() override;
     void save() override;
 
 protected:

@@ -38,7 +38,9 @@ public:
 
 public Q_SLOTS:
     virtual void addSubCategory() = 0;
-    void deleteSubCategory();
+    // Takes the grid's current row away at once, without a question; the next row (or the
+    // last) becomes current.
+    virtual void deleteSubCategory();
     virtual void save() = 0;
     void cancel();
     void chooseCategoryFolder();

@@ -5,6 +5,7 @@
 #include "explorer/RemindersCommand.h"
 #include "platform/Prompter.h"
 #include "registration/NewDocumentDialog.h"
+#include "store/engine/WriteContext.h"
 #include "support/SelectionState.h"
 
 #include <QDropEvent>
@@ -106,6 +107,7 @@ void FileDrops::registerFiles(const QStringList& paths, qint32 category, qint32 
         }
         bool stop = false;
         {
+            const CommandScope command(QStringLiteral("New Document"));
             NewDocumentDialog dialog(m_window);
             dialog.attachIncomingFile(path, Intake::Copy);
             if (dialog.exec() == QDialog::Accepted && !dialog.placedFile().isEmpty())

@@ -11,6 +11,7 @@
 #include "options/CaptureOptions.h"
 #include "platform/Prompter.h"
 #include "registration/NewDocumentDialog.h"
+#include "store/engine/WriteContext.h"
 #include "support/SelectionState.h"
 
 #include <QCoreApplication>
@@ -161,6 +162,7 @@ void InboxView::registerSelectedFile()
         return;
     }
     {
+        const CommandScope command(QStringLiteral("New Document"));
         NewDocumentDialog dialog(m_window);
         dialog.attachIncomingFile(path, Intake::Move);
         dialog.exec();

@@ -3,6 +3,7 @@
 #include "explorer/InboxView.h"
 #include "explorer/ListModel.h"
 #include "explorer/MainWindow.h"
+#include "store/engine/WriteContext.h"
 #include "support/SelectionState.h"
 
 #include <QAction>
@@ -157,6 +158,7 @@ void MainWindow::onFilesDropped(const QStringList& paths)
     // Each file opens the New Document dialog with its path in the Location box, one after another.
     if (!hasDialog(QStringLiteral("frmNewDocument")))
         return;
+    const CommandScope command(QStringLiteral("New Document"));
     for (const QString& path : paths)
         openDialog(QStringLiteral("frmNewDocument"), path);
 }
@@ -166,6 +168,7 @@ void MainWindow::onRelatedFilesDropped(const QStringList& paths)
     // Each file opens the New Related Document dialog the same way.
     if (!hasDialog(QStringLiteral("frmRelated")))
         return;
+    const CommandScope command(QStringLiteral("Related"));
     for (const QString& path : paths)
         openDialog(QStringLiteral("frmRelated"), path);
 }

@@ -3,6 +3,7 @@
 #include "explorer/ContentProgress.h"
 #include "explorer/MainWindow.h"
 #include "registration/NewDocumentDialog.h"
+#include "store/engine/WriteContext.h"
 #include "support/SelectionState.h"
 
 #include <QAction>
@@ -144,6 +145,7 @@ void MainWindow::buildMenus()
         {}, QStringLiteral("frmNewDocument"));
     disconnect(scanNew, &QAction::triggered, this, nullptr);
     connect(scanNew, &QAction::triggered, this, [this] {
+        const CommandScope command(QStringLiteral("New Document"));
         QTimer pressScan;
         pressScan.setInterval(10);
         connect(&pressScan, &QTimer::timeout, this, [this, &pressScan] {

@@ -1,5 +1,6 @@
 #include "history/HistoryLog.h"
 
+#include "history/Trash.h"
 #include "store/SchemaSteps.h"
 #include "store/engine/Backend.h"
 #include "store/engine/Connection.h"
@@ -90,7 +91,14 @@ qint64 documentWithRegIndex(Connection& connection, const QString& regIndex)
     const engine::QueryResult result = connection.backend().query(
         QStringLiteral("SELECT RastasID FROM tbl_Documents WHERE DokRegistracIndeksas = '") + quoted
         + QStringLiteral("' ORDER BY RastasID"));
-    return result.rows.rowCount() == 0 ? 0 : result.rows.value(0, 0).toLongLong();
+    if (result.rows.rowCount() > 0)
+        return result.rows.value(0, 0).toLongLong();
+    if (!Trash::inRegister(connection))
+        return 0;
+    const engine::QueryResult deleted = connection.backend().query(QStringLiteral(
+        "SELECT ItemKey FROM tbl_Trash WHERE Kind = '%1' AND ItemIndex = '%2' ORDER BY TrashID DESC")
+                                                                       .arg(TrashKind::Document, quoted));
+    return deleted.rows.rowCount() == 0 ? 0 : deleted.rows.value(0, 0).toLongLong();
 }
 
 } // namespace kartella

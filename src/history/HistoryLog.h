@@ -38,7 +38,8 @@ std::vector<HistoryEntry> documentHistory(Connection& connection, qint64 documen
 std::vector<HistoryEntry> contactHistory(Connection& connection, qint64 contactId);
 std::vector<HistoryEntry> registerHistory(Connection& connection);
 
-// The document whose registration index is regIndex, or 0 when none has it.
+// The document whose registration index is regIndex; when none in the register has it, the
+// newest deleted one in the trash (its history stays in the register); 0 when none has it.
 qint64 documentWithRegIndex(Connection& connection, const QString& regIndex);
 
 } // namespace kartella

@@ -12,7 +12,7 @@
 
 namespace kartella {
 
-bool keepVersionBeforeReplacing(const QString& path)
+bool keepVersionBeforeReplacing(const QString& path, QString* reason)
 {
     if (!QFileInfo(path).isFile())
         return true;
@@ -32,7 +32,9 @@ bool keepVersionBeforeReplacing(const QString& path)
             return true;
         Versions(folder, versionsPerDocument()).keep(id, path);
         return true;
-    } catch (const Error&) {
+    } catch (const Error& error) {
+        if (reason)
+            *reason = error.description();
         return false;
     }
 }

@@ -23,6 +23,12 @@ Shell*& installed()
     return current;
 }
 
+ReplaceCheck*& newestReplaceCheck()
+{
+    static ReplaceCheck* newest = nullptr;
+    return newest;
+}
+
 std::filesystem::path fsPath(const QString& path)
 {
 #ifdef Q_OS_WIN
@@ -262,7 +268,7 @@ bool FileShell::transfer(const QString& source, const QString& target, bool movi
         }
         const int answer
             = ask(replaceQuestion(to), MsgBoxStyle::YesNo | MsgBoxStyle::Exclamation, replaceTitle());
-        if (answer != MsgBoxResult::Yes)
+        if (answer != MsgBoxResult::Yes || !ReplaceCheck::allows(to))
             return false;
     }
 
@@ -283,6 +289,24 @@ bool FileShell::transfer(const QString& source, const QString& target, bool movi
     if (!done && !error.isEmpty())
         fail(cant(error), title);
     return done;
+}
+
+ReplaceCheck::ReplaceCheck(std::function<bool(const QString&)> check)
+    : m_check(std::move(check))
+    , m_outer(newestReplaceCheck())
+{
+    newestReplaceCheck() = this;
+}
+
+ReplaceCheck::~ReplaceCheck()
+{
+    newestReplaceCheck() = m_outer;
+}
+
+bool ReplaceCheck::allows(const QString& replaced)
+{
+    const ReplaceCheck* check = newestReplaceCheck();
+    return !check || !check->m_check || check->m_check(replaced);
 }
 
 int FileShell::ask(const QString& prompt, int style, const QString& title)

@@ -38,6 +38,26 @@ public:
     static void setInstance(Shell* shell);
 };
 
+// While one lives, a copy or move of the shell over an existing file asks it, once the user
+// agreed to replace the file, whether the file may go: a false answer stops the copy or move
+// and leaves both files as they are (the check tells the user why). Checks nest; the newest
+// one alive answers.
+class ReplaceCheck
+{
+public:
+    explicit ReplaceCheck(std::function<bool(const QString& replaced)> check);
+    ~ReplaceCheck();
+    ReplaceCheck(const ReplaceCheck&) = delete;
+    ReplaceCheck& operator=(const ReplaceCheck&) = delete;
+
+    // What the newest check alive says of replaced; true when none is.
+    static bool allows(const QString& replaced);
+
+private:
+    std::function<bool(const QString&)> m_check;
+    ReplaceCheck* m_outer = nullptr;
+};
+
 // A sign of a copy's progress, alive while the copy runs.
 class CopyProgress
 {

@@ -133,6 +133,17 @@ QString CopyFileDialog::destinationOrAsk() const
     return folder;
 }
 
+bool CopyFileDialog::keepEarlierVersion(const QString& replaced)
+{
+    QString reason;
+    if (keepVersionBeforeReplacing(replaced, &reason))
+        return true;
+    msgBox(tr("The file %1 was not replaced: an earlier version of it could not be kept.\n\n%2")
+               .arg(QDir::toNativeSeparators(replaced), reason),
+        MsgBoxStyle::OkOnly | MsgBoxStyle::Exclamation, windowTitle());
+    return false;
+}
+
 void CopyFileDialog::copyFile()
 {
     const QString folder = destinationOrAsk();
@@ -140,7 +151,7 @@ void CopyFileDialog::copyFile()
         return;
     const SelectionState& state = selection();
     QString target = targetInFolder(folder, state.selectedFilePath);
-    keepVersionBeforeReplacing(target);
+    const ReplaceCheck keepVersion([this](const QString& replaced) { return keepEarlierVersion(replaced); });
     shellCopyFile(state.selectedFilePath, target);
 }
 
@@ -161,9 +172,12 @@ void CopyFileDialog::moveFile()
         return;
     }
     QString moved = target;
-    keepVersionBeforeReplacing(target);
-    if (!shellMoveFile(source, moved))
-        return;
+    {
+        const ReplaceCheck keepVersion(
+            [this](const QString& replaced) { return keepEarlierVersion(replaced); });
+        if (!shellMoveFile(source, moved))
+            return;
+    }
     moved = QFileInfo(moved).absoluteFilePath();
     const bool related = state.activeListName == RelatedList;
     try {

@@ -13,7 +13,8 @@ namespace kartella {
 // copy leaves the register alone; a move stores the file's new absolute path in the row and
 // in the selection, or moves the file back when the row can't be written, so that the row
 // always leads to the file. The shell asks before replacing a file and shows the progress;
-// its refusal leaves everything as it was.
+// its refusal leaves everything as it was. A document's file the user agreed to replace is
+// kept as a version of that document first, and stays when it can't be.
 class CopyFileDialog : public QDialog
 {
     Q_OBJECT
@@ -39,6 +40,9 @@ private:
     void buildWidgets();
     bool load();
     QString destinationOrAsk() const;
+    // Keeps the earlier version of a document's file about to be replaced; when it can't be
+    // kept, tells the user and gives false, so that the file stays.
+    bool keepEarlierVersion(const QString& replaced);
 
     bool m_hasFile = false;
     QLineEdit* m_document = nullptr;

@@ -1,8 +1,10 @@
 #include "CategoryFixture.h"
 #include "categories/CategoryDialog.h"
+#include "history/DeletedItemsWindow.h"
 #include "platform/Prompter.h"
 
 #include <QHeaderView>
+#include <QTreeWidget>
 
 using namespace kartella;
 using namespace kartella::test;
@@ -98,26 +100,36 @@ private Q_SLOTS:
         QCOMPARE(d.findChild<QTableView*>("grdDataGrid")->model()->rowCount(), 2);
     }
 
-    // "Delete SubCategory" removes the current row at once, without a question, and
-    // the next row (or the last) becomes current; Cancel doesn't bring it back.
+    // "Delete SubCategory" takes the current row away at once, without a question, and the
+    // next row (or the last) becomes current; Cancel doesn't bring it back. A register with
+    // a trash keeps the row there, and Enter in Deleted items gives it back with its key and
+    // values; an older register loses it for good.
     void deleteSubCategory_data()
     {
         QTest::addColumn<int>("row");
+        QTest::addColumn<bool>("withTrash");
         QTest::addColumn<QString>("left");
         QTest::addColumn<QString>("current");
-        QTest::newRow("first") << 0 << "Sales"
+        QTest::newRow("first") << 0 << true << "Sales"
                                << "Sales";
-        QTest::newRow("last") << 1 << "Leases"
+        QTest::newRow("last") << 1 << true << "Leases"
                               << "Leases";
+        QTest::newRow("first, register without a trash") << 0 << false << "Sales"
+                                                         << "Sales";
     }
 
     void deleteSubCategory()
     {
         QFETCH(int, row);
+        QFETCH(bool, withTrash);
         QFETCH(QString, left);
         QFETCH(QString, current);
         Fixture fx;
+        if (!withTrash)
+            fx.reg.exec("DROP TABLE tbl_Trash");
         const QString categories = fx.categories();
+        const QString columns = "SubKategID,KategID,DokSubKategorija,SubPathToFiles,SubDokTemplates";
+        const QString before = fx.rows("tbl_Sub_Categories", "SubKategID", columns);
         CategoryDialog d;
         activate(&d);
         QTableView* view = grid(&d);
@@ -131,6 +143,40 @@ private Q_SLOTS:
         QCOMPARE(
             fx.reg.scalar("SELECT GROUP_CONCAT(DokSubKategorija) FROM tbl_Sub_Categories").toString(), left);
         QCOMPARE(fx.categories(), categories);
+        if (!withTrash)
+            return;
+
+        const qint32 deleted = row == 0 ? fx.leases : fx.sales;
+        QCOMPARE(fx.reg.scalar("SELECT Kind || ':' || ItemKey FROM tbl_Trash").toString(),
+            "subcategory:" + QString::number(deleted));
+        DeletedItemsWindow trash;
+        activate(&trash);
+        QTreeWidget* items = trash.itemList();
+        QCOMPARE(items->topLevelItemCount(), 1);
+        QCOMPARE(items->topLevelItem(0)->text(0), row == 0 ? "Leases" : "Sales");
+        items->setFocus();
+        QTest::keyClick(items, Qt::Key_Return);
+        QCOMPARE(items->topLevelItemCount(), 0);
+        QVERIFY(fx.prompter.prompts().isEmpty());
+        QCOMPARE(fx.rows("tbl_Sub_Categories", "SubKategID", columns), before);
+        QCOMPARE(fx.categories(), categories);
+    }
+
+    // A subcategory another user deleted meanwhile: Delete says so, and the grid shows the
+    // rows the register has.
+    void deleteSubCategoryGoneMeanwhile()
+    {
+        Fixture fx;
+        CategoryDialog d;
+        activate(&d);
+        fx.reg.exec("DELETE FROM tbl_Sub_Categories WHERE SubKategID=" + QString::number(fx.leases));
+        fx.prompter.answer(MsgBoxResult::Ok);
+        click(&d, "cmdDelete");
+        QCOMPARE(fx.prompter.take().first().title, "Unable to delete as requested");
+        QTableView* view = grid(&d);
+        QCOMPARE(view->model()->rowCount(), 1);
+        QCOMPARE(view->model()->index(view->currentIndex().row(), 2).data().toString(), "Sales");
+        QCOMPARE(fx.reg.scalar("SELECT COUNT(*) FROM tbl_Trash").toInt(), 0);
     }
 
     // The current subcategory shows highlighted from the start, and Delete acts on it; on an

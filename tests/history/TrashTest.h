@@ -29,4 +29,5 @@ private Q_SLOTS:
     void contactFromTheAddressBookComesBackWhole();
     void restoreInTheWindowTellsOfATakenPath();
     void deletedItemsWindowSpeaksLithuanian();
+    void startPurgesItemsOlderThanTheLimit();
 };

@@ -193,6 +193,10 @@ void TrashTest::newVersionByDroppingWithShift()
     const auto drop = [&](Qt::KeyboardModifiers modifiers) {
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(replacement)});
+        // A drop goes where the drag entered, as from a file manager.
+        QDragEnterEvent enter(pos, Qt::CopyAction, &data, Qt::LeftButton, modifiers);
+        QApplication::sendEvent(view->viewport(), &enter);
+        QVERIFY(enter.isAccepted());
         QDropEvent event(QPointF(pos), Qt::CopyAction, &data, Qt::LeftButton, modifiers);
         QApplication::sendEvent(view->viewport(), &event);
         QVERIFY(event.isAccepted());
@@ -407,4 +411,39 @@ void TrashTest::deletedItemsWindowSpeaksLithuanian()
     QTest::keyClick(list, Qt::Key_Return);
     QCOMPARE(list->topLevelItemCount(), 0);
     QVERIFY(prompter.allAnswered());
+}
+
+// The main window's start purges the items deleted longer ago than the options' days, with
+// their files, and keeps those deleted since.
+void TrashTest::startPurgesItemsOlderThanTheLimit()
+{
+    CommandsFixture fx;
+    setTrashDays(30);
+    const QString own = fx.makeFile("contract.doc");
+    fx.setPath("tbl_Documents", "RastasID", fx.id["contract"], "RastoKel", own);
+    const QDateTime now(QDate(2026, 3, 1), QTime(12, 0));
+    {
+        Connection connection(fx.reg.connectionString());
+        connection.open();
+        Trash trash(connection, trashFolderFor(fx.reg.path()));
+        {
+            const SettableClock then(now.addDays(-31));
+            trash.deleteDocument(fx.id["contract"]);
+        }
+        const SettableClock then(now.addDays(-29));
+        trash.deleteDocument(fx.id["work"]);
+    }
+    const QDir folder(trashFolderFor(fx.reg.path()));
+    QCOMPARE(folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);
+
+    const SettableClock today(now);
+    fx.load();
+    Connection connection(fx.reg.connectionString());
+    connection.open();
+    const QList<TrashItem> left = Trash(connection, trashFolderFor(fx.reg.path())).items();
+    QCOMPARE(left.size(), 1);
+    QCOMPARE(left.first().key, qint64(fx.id["work"]));
+    QCOMPARE(folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList());
+    QVERIFY(!QFileInfo::exists(own));
+    QVERIFY(!fx.documentExists("contract"));
 }

@@ -1,9 +1,9 @@
 // The history of every change: what each write records, with whom and which command; a
 // failed change and another program's writes; an older register; the History tab and
 // kartella-db history.
-#include "harness/Lithuanian.h"
 #include "addressbook/ContactEditor.h"
 #include "base/Error.h"
+#include "harness/Lithuanian.h"
 #include "harness/OldRegister.h"
 #include "harness/ServerDatabase.h"
 #include "harness/TestRegister.h"
@@ -370,6 +370,15 @@ private Q_SLOTS:
         QVERIFY(run.lines.isEmpty());
         QCOMPARE(
             run.err.trimmed(), QStringLiteral("kartella-db: no document has the registration index \"B-2\""));
+
+        // A document in the trash keeps its history, the delete's lines first.
+        Connection connection(reg.connectionString());
+        connection.open();
+        Trash(connection, QString()).deleteDocument(document);
+        run = runHistoryTool({reg.path(), QStringLiteral("A-1")});
+        QCOMPARE(run.exitCode, 0);
+        QVERIFY(run.lines.size() > expected.size());
+        QCOMPARE(run.lines.mid(run.lines.size() - expected.size()), expected);
     }
 
     void lineSaysTheChangeInPlainWords_data()
@@ -478,9 +487,14 @@ private Q_SLOTS:
         QVERIFY(!registerHasHistory(connection));
         QVERIFY(documentHistory(connection, 1).empty());
         QVERIFY(registerHistory(connection).empty());
+        // The tool says why it prints nothing.
         const ToolRun run = runHistoryTool({path});
-        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.exitCode, 1);
         QVERIFY(run.lines.isEmpty());
+        QCOMPARE(run.err.trimmed(),
+            QStringLiteral("kartella-db: the register at %1 has no history: it was made by an earlier "
+                           "Kartella (see kartella-db upgrade)")
+                .arg(path));
         connection.close();
 
         // The upgrade brings the history, and the next change is in it.

@@ -2,6 +2,8 @@
 #include "explorer/DocumentFills.h"
 #include "explorer/ListModel.h"
 #include "explorer/MainWindow.h"
+#include "history/Versions.h"
+#include "options/TrashOptions.h"
 #include "registration/CopyFileDialog.h"
 #include "registration/StoredPaths.h"
 
@@ -94,6 +96,70 @@ private Q_SLOTS:
         QCOMPARE(fx.document("RastoKel", fx.lease).toString(), fx.leaseFile);
         QCOMPARE(selection().selectedFilePath, fx.leaseFile);
         QCOMPARE(dialog.findChild<QLabel*>("txtPathNow")->text(), fx.leaseFile);
+    }
+
+    // Copy or Move over another document's file: once the user says Yes, the file replaced is
+    // kept as that document's version first; No keeps no version and changes nothing; a
+    // version that can't be kept is told, and both files and the rows stay as they were.
+    void replacingADocumentsFileKeepsItsVersion_data()
+    {
+        QTest::addColumn<bool>("move");
+        QTest::addColumn<bool>("yes");
+        QTest::addColumn<bool>("versionsUnwritable");
+        QTest::newRow("copy, Yes") << false << true << false;
+        QTest::newRow("copy, No") << false << false << false;
+        QTest::newRow("copy, no version can be kept") << false << true << true;
+        QTest::newRow("move, Yes") << true << true << false;
+        QTest::newRow("move, No") << true << false << false;
+        QTest::newRow("move, no version can be kept") << true << true << true;
+    }
+
+    void replacingADocumentsFileKeepsItsVersion()
+    {
+        QFETCH(bool, move);
+        QFETCH(bool, yes);
+        QFETCH(bool, versionsUnwritable);
+        Fixture fx;
+        const QString folder = fx.files.filePath("taken");
+        QDir().mkpath(folder);
+        const QString taken = QDir(folder).filePath("lease.doc");
+        writeFile(taken, "older");
+        fx.reg.exec(
+            "UPDATE tbl_Documents SET RastoKel='" + taken + "' WHERE RastasID=" + QString::number(fx.other));
+        const QString versionsFolder = versionsFolderFor(fx.reg.path());
+        if (versionsUnwritable)
+            writeFile(versionsFolder, "a file where the folder would be");
+        CopyFileDialog dialog;
+        showActive(dialog);
+        retype(dialog.findChild<QLineEdit*>("txtDestination"), folder);
+        if (yes)
+            fx.shell.confirm();
+        else
+            fx.shell.refuse();
+        if (versionsUnwritable)
+            fx.prompter.answer(MsgBoxResult::Ok);
+        click(dialog, move ? "cmdMove" : "cmdCopy");
+        QVERIFY(fx.shell.allAnswered());
+        QVERIFY(fx.prompter.allAnswered());
+
+        const bool replaced = yes && !versionsUnwritable;
+        QCOMPARE(readFile(taken), replaced ? "lease" : "older");
+        QCOMPARE(readFile(fx.leaseFile), replaced && move ? "" : "lease");
+        QCOMPARE(fx.document("RastoKel", fx.lease).toString(), replaced && move ? taken : fx.leaseFile);
+        QCOMPARE(fx.document("RastoKel", fx.other).toString(), taken);
+        const auto prompts = fx.prompter.take();
+        QCOMPARE(prompts.size(), versionsUnwritable ? 1 : 0);
+        if (versionsUnwritable) {
+            QVERIFY2(prompts.first().text.startsWith("The file " + QDir::toNativeSeparators(taken)
+                         + " was not replaced: an earlier version of it could not be kept.\n\n"),
+                qPrintable(prompts.first().text));
+            return;
+        }
+        QStringList kept;
+        for (const FileVersion& version : Versions(versionsFolder, 20).list(fx.other))
+            kept << QString::fromUtf8(readFile(version.path));
+        QCOMPARE(kept, yes ? QStringList {"older"} : QStringList());
+        QVERIFY(!QFileInfo::exists(QDir(versionsFolder).filePath(QString::number(fx.lease))));
     }
 
     // Nothing clicked, or a file that has gone: told, and the dialog isn't to be shown.

@@ -195,6 +195,59 @@ private Q_SLOTS:
         QCOMPARE(shown, QStringList({"frmNew", "frmRelDescr"}));
     }
 
+    // A file dropped on the document list or on the related list is registered under the
+    // command of the dialog it opens, and the history says so for every column of the new row.
+    void droppedFileIsRecordedUnderItsCommand_data()
+    {
+        QTest::addColumn<bool>("related");
+        QTest::addColumn<QString>("table");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("command");
+        QTest::newRow("document list") << false << "tbl_Documents"
+                                       << "RastasID"
+                                       << "New Document";
+        QTest::newRow("related list") << true << "tbl_Sub_Documents"
+                                      << "SubRastasID"
+                                      << "Related";
+    }
+
+    void droppedFileIsRecordedUnderItsCommand()
+    {
+        QFETCH(bool, related);
+        QFETCH(QString, table);
+        QFETCH(QString, key);
+        QFETCH(QString, command);
+        Fixture fx;
+        const QString dropped = fx.files.filePath("dropped.pdf");
+        writeFile(dropped, "dropped");
+        const int before = fx.reg.scalar("SELECT MAX(" + key + ") FROM " + table).toInt();
+        MainWindow window;
+        window.load();
+        window.listCategory(fx.contracts, 0);
+        window.onDocumentClicked(window.documentModel()->rowOfKey(DocumentFills::itemKey(fx.lease)));
+        QStringList seen;
+        QTimer responder;
+        connect(&responder, &QTimer::timeout, this, [&] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (!dialog || !dialog->isVisible())
+                return;
+            seen << dialog->objectName();
+            QTest::mouseClick(dialog->findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
+        });
+        responder.start(20);
+        Q_EMIT(related ? window.relatedList() : window.documentList())->filesDropped({dropped});
+        responder.stop();
+        QCOMPARE(seen, QStringList {related ? "frmRelated" : "frmNewDocument"});
+        const int added = fx.reg.scalar("SELECT MAX(" + key + ") FROM " + table).toInt();
+        QVERIFY(added > before);
+        QCOMPARE(fx.reg
+                     .scalar("SELECT GROUP_CONCAT(DISTINCT COALESCE(Command, '-')) FROM tbl_History WHERE "
+                             "lower(TableName)=lower('"
+                         + table + "') AND RowKey=" + QString::number(added))
+                     .toString(),
+            command);
+    }
+
     // A new related document needs the document it hangs on: without one OK says so and
     // stores nothing, and the dialog stays.
     void newRelatedNeedsItsDocument()

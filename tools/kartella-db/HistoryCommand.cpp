@@ -42,6 +42,12 @@ void historyCommand(const QString& path, const QStringList& index, QTextStream& 
     const QString location = existingRegister(path);
     Connection connection;
     connection.open(registerConnectionString(location));
+    if (!registerHasHistory(connection))
+        throw Error(ErrorNumber::CommandFailed,
+            ToolText::tr(
+                "the register at %1 has no history: it was made by an earlier Kartella (see kartella-db "
+                "upgrade)")
+                .arg(path));
     std::vector<HistoryEntry> entries;
     if (index.isEmpty()) {
         entries = registerHistory(connection);
