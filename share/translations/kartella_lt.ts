@@ -742,6 +742,14 @@ The file could not be moved back; it is now at %1.</source>
 
 Failo nepavyko perkelti atgal; dabar jis yra %1.</translation>
     </message>
+    <message>
+        <source>The file %1 was not replaced: an earlier version of it could not be kept.
+
+%2</source>
+        <translation>Failas %1 nepakeistas: nepavyko išsaugoti ankstesnės jo versijos.
+
+%2</translation>
+    </message>
 </context>
 <context>
     <name>kartella::DeletedItemsNode</name>
@@ -4736,6 +4744,10 @@ failai dedami į aplanką „&lt;duomenų bazė&gt; files“ dabartiniame aplank
     <message>
         <source>The register was copied; the files of its deleted items and earlier versions are not all there.</source>
         <translation>Registras nukopijuotas, tačiau ne visi jo pašalintų elementų ir ankstesnių versijų failai.</translation>
+    </message>
+    <message>
+        <source>the register at %1 has no history: it was made by an earlier Kartella (see kartella-db upgrade)</source>
+        <translation>registras %1 neturi keitimų istorijos: jį sukūrė ankstesnė Kartella (žr. kartella-db upgrade)</translation>
     </message>
 </context>
 </TS>
