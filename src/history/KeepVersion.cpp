@@ -1,8 +1,8 @@
 #include "history/KeepVersion.h"
 
 #include "base/Error.h"
+#include "history/TrashCommands.h"
 #include "history/Versions.h"
-#include "options/OptionStore.h"
 #include "options/TrashOptions.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
@@ -27,10 +27,9 @@ bool keepVersionBeforeReplacing(const QString& path, QString* reason)
             return true;
         const qint64 id = owner.collect(QStringLiteral("RastasID")).toLongLong();
         owner.close();
-        const QString folder = versionsFolderFor(getRegValue(QStringLiteral("DbLocation")).trimmed());
-        if (folder.isEmpty())
-            return true;
-        Versions(folder, versionsPerDocument()).keep(id, path);
+        // A server register without its shared folder yet asks for it; cancelled, the version
+        // can't be kept and Versions says so.
+        Versions(askRegisterVersionsFolder(), versionsPerDocument()).keep(id, path);
         return true;
     } catch (const Error& error) {
         if (reason)

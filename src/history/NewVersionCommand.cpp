@@ -1,8 +1,8 @@
 #include "history/NewVersionCommand.h"
 
 #include "base/Error.h"
+#include "history/TrashCommands.h"
 #include "history/Versions.h"
-#include "options/OptionStore.h"
 #include "options/TrashOptions.h"
 #include "platform/Prompter.h"
 
@@ -44,8 +44,7 @@ bool putNewVersion(qint64 documentId, const QString& currentPath, const QString&
         return false;
     }
     try {
-        Versions versions(
-            versionsFolderFor(getRegValue(QStringLiteral("DbLocation")).trimmed()), versionsPerDocument());
+        Versions versions(askRegisterVersionsFolder(), versionsPerDocument());
         versions.replace(documentId, currentPath, newFile);
     } catch (const Error& error) {
         msgBox(error.description(), MsgBoxStyle::OkOnly + MsgBoxStyle::Critical, newVersionTitle());

@@ -30,6 +30,14 @@ QString askRegisterTrashFolder()
     return trashFolderFor(location);
 }
 
+QString askRegisterVersionsFolder()
+{
+    const QString location = getRegValue(QStringLiteral("DbLocation")).trimmed();
+    if (versionsFolderFor(location).isEmpty())
+        askRegisterTrashFolder();
+    return versionsFolderFor(location);
+}
+
 bool moveToRegisterTrash(Connection& connection, const QString& kind, qint64 key)
 {
     try {

@@ -14,6 +14,9 @@ QString registerTrashFolder();
 // The same, but a shared folder not named yet is asked for (through the Prompter) and kept;
 // empty when the user cancels.
 QString askRegisterTrashFolder();
+// The folder of the earlier versions of the register's files, asked for as the trash's is
+// (one shared folder holds both); empty when the user cancels.
+QString askRegisterVersionsFolder();
 
 // Moves the item of kind and key to the register's trash on connection, as the delete
 // commands do; a failure is told to the user ("Unable to delete as requested") and leaves

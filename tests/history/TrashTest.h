@@ -26,6 +26,7 @@ private Q_SLOTS:
     void settingsTabStoresTheLimits();
     void anOlderRegisterDeletesAsBeforeUntilUpgraded();
     void aServerRegisterAsksForTheSharedFolderOnce();
+    void aServerRegisterAsksForTheVersionsFolder();
     void contactFromTheAddressBookComesBackWhole();
     void restoreInTheWindowTellsOfATakenPath();
     void deletedItemsWindowSpeaksLithuanian();

@@ -17,6 +17,7 @@
 #include "harness/ScriptedPrompter.h"
 #include "history/DeletedItemsWindow.h"
 #include "history/KeepVersion.h"
+#include "history/NewVersionCommand.h"
 #include "history/Trash.h"
 #include "history/TrashCommands.h"
 #include "history/VersionList.h"
@@ -304,6 +305,43 @@ void TrashTest::aServerRegisterAsksForTheSharedFolderOnce()
     QCOMPARE(QDir(shared + "/trash").entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 2);
     QVERIFY(!QFileInfo::exists(fx.file["doc"]));
     QCOMPARE(Trash(fx.connection, registerTrashFolder()).items().size(), 3);
+}
+
+// A server register keeps versions in the shared folder too: a new version asks for it while
+// none is named; cancelled, nothing is replaced and the user is told; named, the earlier file
+// is kept there, and Copy/Move over a file keeps its version there without asking again.
+void TrashTest::aServerRegisterAsksForTheVersionsFolder()
+{
+    if (!ServerDatabase::available())
+        QSKIP(qPrintable(ServerDatabase::skipReason()));
+    TrashFixture fx {TestRegister::Server};
+    ScriptedPrompter prompter;
+    const QString own = fx.file["doc"];
+    const QByteArray earlier = TrashFixture::bytes(own);
+    const QString replacement = fx.reg.dir() + "/signed.doc";
+    QFile file(replacement);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("signed");
+    file.close();
+
+    prompter.answerFolder(QString());
+    prompter.answer(MsgBoxResult::Ok);
+    QVERIFY(!putNewVersion(fx.id["doc"], own, replacement));
+    QCOMPARE(prompter.texts(), QStringList {"No folder is named for the versions of this register's files."});
+    QCOMPARE(TrashFixture::bytes(own), earlier);
+
+    const QString shared = fx.reg.dir() + "/shared";
+    prompter.answerFolder(shared);
+    QVERIFY(putNewVersion(fx.id["doc"], own, replacement));
+    QCOMPARE(TrashFixture::bytes(own), QByteArray("signed"));
+    QCOMPARE(sharedTrashFolder(), shared);
+    QVERIFY(keepVersionBeforeReplacing(own));
+    QVERIFY(prompter.allAnswered());
+    const QList<FileVersion> kept
+        = Versions(shared + "/versions", DefaultVersionsPerDocument).list(fx.id["doc"]);
+    QCOMPARE(kept.size(), 2);
+    QCOMPARE(TrashFixture::bytes(kept.first().path), QByteArray("signed"));
+    QCOMPARE(TrashFixture::bytes(kept.last().path), earlier);
 }
 
 // Ctrl+Delete in the address book moves the contact with its phones and web pages to the
