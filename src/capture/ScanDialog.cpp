@@ -5,6 +5,7 @@
 #include "capture/TextRecognition.h"
 #include "options/CaptureOptions.h"
 #include "platform/Prompter.h"
+#include "support/BusyCursor.h"
 #include "support/DialogParts.h"
 
 #include <QAction>
@@ -50,11 +51,15 @@ ScanDialog::ScanDialog(std::function<QString()> pathForPdf, QWidget* parent)
 
 ScanDialog::~ScanDialog()
 {
+    // Ending the scanning process can take seconds when its scanner hangs, and a page being
+    // written finishes first: the user sees the wait.
+    const BusyCursor busy;
     *m_stopWriting = true;
     if (m_writer) {
         m_writer->wait();
         delete m_writer;
     }
+    delete m_session;
 }
 
 void ScanDialog::buildWidgets()
