@@ -32,6 +32,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include <functional>
+
 using namespace kartella;
 using namespace kartella::test;
 
@@ -77,6 +79,21 @@ void scanPage(const QWidget& dialog, int count)
     click(dialog, "cmdScanPage");
     QTRY_COMPARE_WITH_TIMEOUT(pageCountOf(dialog), count, 10000);
     QTRY_VERIFY(child<QPushButton>(dialog, "cmdScanPage")->isEnabled());
+}
+
+// Acts on the scan window once it shows over window. The window runs modal, so a timer the
+// test keeps finds it without holding up the events of the dialogs that open it.
+void onScanWindow(QTimer& watch, QWidget& window, const std::function<void(ScanDialog&)>& act)
+{
+    watch.setInterval(10);
+    QObject::connect(&watch, &QTimer::timeout, &window, [&watch, &window, act] {
+        ScanDialog* scan = window.findChild<ScanDialog*>();
+        if (!scan || !scan->isVisible())
+            return;
+        watch.stop();
+        act(*scan);
+    });
+    watch.start();
 }
 
 } // namespace
@@ -446,16 +463,10 @@ void ScanTest::scanNewDocumentOpensTheScanOverNewDocument()
 
     bool scanOverNewDocument = false;
     QString category;
-    // Watches for the scan window without holding the events up: the New Document dialog
-    // loads (and runs events) before it shows.
+    // The New Document dialog loads (and runs events) before it shows.
     QTimer watch;
-    watch.setInterval(10);
-    connect(&watch, &QTimer::timeout, &window, [&] {
-        ScanDialog* scan = window.findChild<ScanDialog*>();
-        if (!scan || !scan->isVisible())
-            return;
-        watch.stop();
-        auto* newDocument = qobject_cast<QDialog*>(scan->parentWidget());
+    onScanWindow(watch, window, [&](ScanDialog& scan) {
+        auto* newDocument = qobject_cast<QDialog*>(scan.parentWidget());
         scanOverNewDocument = newDocument && newDocument->objectName() == QLatin1String("frmNewDocument")
             && newDocument->isVisible();
         if (newDocument) {
@@ -466,9 +477,8 @@ void ScanTest::scanNewDocumentOpensTheScanOverNewDocument()
             }
             QTimer::singleShot(0, newDocument, &QDialog::reject);
         }
-        click(*scan, "cmdCancel");
+        click(scan, "cmdCancel");
     });
-    watch.start();
     scanNew->trigger();
     QVERIFY(scanOverNewDocument);
     QCOMPARE(category, QStringLiteral("Sutartys"));
@@ -512,17 +522,11 @@ void ScanTest::scanNewVersionReplacesOnlyAPdf()
     fx.clickNode("a" + QString::number(fx.id["Sutartys"]));
     fx.clickDocument("contract");
     QTimer watch;
-    watch.setInterval(10);
-    connect(&watch, &QTimer::timeout, &window, [&] {
-        ScanDialog* scan = window.findChild<ScanDialog*>();
-        if (!scan || !scan->isVisible())
-            return;
-        watch.stop();
-        waitForScanner(*scan);
-        scanPage(*scan, 1);
-        click(*scan, "cmdDone");
+    onScanWindow(watch, window, [](ScanDialog& scan) {
+        waitForScanner(scan);
+        scanPage(scan, 1);
+        click(scan, "cmdDone");
     });
-    watch.start();
     scanVersion->trigger();
     QVERIFY(prompter.texts().isEmpty());
     QFile scanned(contract);

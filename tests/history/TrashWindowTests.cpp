@@ -41,6 +41,21 @@
 using namespace kartella;
 using namespace kartella::test;
 
+namespace {
+
+// A file "signed.doc" in folder holding "signed", to stand in as a document's new version;
+// empty when it can't be written.
+QString signedCopy(const QString& folder)
+{
+    const QString path = folder + "/signed.doc";
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write("signed") != 6)
+        return {};
+    return path;
+}
+
+} // namespace
+
 // The tree's last node lists the deleted items; Enter restores one, the Delete key asks
 // and deletes it for good, Empty Trash asks once.
 void TrashTest::deletedItemsNodeByKeysAndMouse()
@@ -135,11 +150,8 @@ void TrashTest::newVersionFromTheMenu()
     ScriptedPrompter prompter;
     const QString own = fx.makeFile("contract.doc");
     fx.setPath("tbl_Documents", "RastasID", fx.id["contract"], "RastoKel", own);
-    const QString replacement = fx.reg.dir() + "/signed.doc";
-    QFile file(replacement);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("signed");
-    file.close();
+    const QString replacement = signedCopy(fx.reg.dir());
+    QVERIFY(!replacement.isEmpty());
     MainWindow& w = fx.load();
     fx.clickNode("a" + QString::number(fx.id["Sutartys"]));
     fx.clickDocument("contract");
@@ -178,11 +190,8 @@ void TrashTest::newVersionByDroppingWithShift()
     ScriptedPrompter prompter;
     const QString own = fx.makeFile("contract.doc");
     fx.setPath("tbl_Documents", "RastasID", fx.id["contract"], "RastoKel", own);
-    const QString replacement = fx.reg.dir() + "/signed.doc";
-    QFile file(replacement);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("signed");
-    file.close();
+    const QString replacement = signedCopy(fx.reg.dir());
+    QVERIFY(!replacement.isEmpty());
     MainWindow& w = fx.load();
     fx.clickNode("a" + QString::number(fx.id["Sutartys"]));
     QTreeView* view = w.documentList()->detailsView();
@@ -318,11 +327,8 @@ void TrashTest::aServerRegisterAsksForTheVersionsFolder()
     ScriptedPrompter prompter;
     const QString own = fx.file["doc"];
     const QByteArray earlier = TrashFixture::bytes(own);
-    const QString replacement = fx.reg.dir() + "/signed.doc";
-    QFile file(replacement);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("signed");
-    file.close();
+    const QString replacement = signedCopy(fx.reg.dir());
+    QVERIFY(!replacement.isEmpty());
 
     prompter.answerFolder(QString());
     prompter.answer(MsgBoxResult::Ok);
