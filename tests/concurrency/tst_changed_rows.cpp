@@ -5,6 +5,7 @@
 #include "addressbook/AddressBookWindow.h"
 #include "addressbook/ContactEditor.h"
 #include "categories/CategoryDialog.h"
+#include "explorer/RemindersWindow.h"
 #include "harness/ScriptedPrompter.h"
 #include "platform/Prompter.h"
 #include "registration/DocumentDetailsDialog.h"
@@ -17,6 +18,7 @@
 #include <QRegularExpression>
 #include <QScopeGuard>
 #include <QSysInfo>
+#include <QTreeView>
 #include <QTreeWidget>
 
 using namespace kartella;
@@ -271,6 +273,71 @@ private Q_SLOTS:
             QCOMPARE(description->toPlainText(), "Annex A");
             dialog.reject();
         }
+        QVERIFY(prompter.allAnswered());
+    }
+
+    // Done in the Reminders window on a reminder another program changed or deleted since the
+    // window read it: nothing is written over it, the user is told, and the window reads its
+    // rows again. The other reminder, unchanged, is done as before.
+    void reminderDoneAfterAnotherProgram_data()
+    {
+        QTest::addColumn<int>("where");
+        QTest::addColumn<QString>("change");
+        QTest::addColumn<QString>("told");
+        QTest::addColumn<QStringList>("shown");
+        QTest::addColumn<QString>("stored");
+        for (const int where : {int(TestRegister::File), int(TestRegister::Server)}) {
+            const char* place = where == TestRegister::File ? "file" : "server";
+            QTest::addRow("%s, changed", place)
+                << where << "UPDATE tbl_Tickler SET TicklerText='call on Monday' WHERE TicklerText='call'"
+                << "A reminder was changed by another user since the list was shown; it is not marked "
+                   "done. The list shows it as it is now."
+                << QStringList {"call on Monday"} << "call on Monday=0,send=1";
+            QTest::addRow("%s, deleted", place)
+                << where << "DELETE FROM tbl_Tickler WHERE TicklerText='call'"
+                << "A reminder was deleted by another user since the list was shown; it has left the "
+                   "list."
+                << QStringList {} << "send=1";
+        }
+    }
+    void reminderDoneAfterAnotherProgram()
+    {
+        QFETCH(QString, change);
+        QFETCH(QString, told);
+        QFETCH(QStringList, shown);
+        QFETCH(QString, stored);
+        REGISTER_OR_SKIP(reg);
+        ScriptedPrompter prompter;
+        const qint32 lease = reg->insert("tbl_Documents", {{"DokAntraste", "Lease"}});
+        reg->insert("tbl_Tickler",
+            {{"RastasID", lease}, {"TicklerDate", QDate(2024, 2, 28)}, {"TicklerText", "call"}});
+        reg->insert("tbl_Tickler",
+            {{"RastasID", lease}, {"TicklerDate", QDate(2024, 2, 29)}, {"TicklerText", "send"}});
+        RemindersWindow window(QDate(2024, 3, 1));
+        showActive(&window);
+        auto* lines = child<QTreeView>(&window, "lstReminders");
+        const auto texts = [lines] {
+            QStringList cells;
+            for (int row = 0; row < lines->model()->rowCount(); ++row)
+                cells << lines->model()->index(row, 4).data().toString();
+            return cells;
+        };
+        QCOMPARE(texts(), (QStringList {"call", "send"}));
+        reg->exec(change);
+        prompter.answer(MsgBoxResult::Ok);
+        lines->setFocus();
+        QTest::keyClick(lines, Qt::Key_Down, Qt::ShiftModifier);
+        QTest::mouseClick(child<QPushButton>(&window, "cmdDone"), Qt::LeftButton);
+        QCOMPARE(prompter.texts(), QStringList {told});
+        QCOMPARE(texts(), shown);
+        QStringList rows;
+        for (const QString& text : {QStringLiteral("call on Monday"), QStringLiteral("send")}) {
+            const QVariant mark
+                = reg->scalar("SELECT TicklerDone FROM tbl_Tickler WHERE TicklerText='" + text + "'");
+            if (mark.isValid() && !mark.isNull())
+                rows << text + '=' + QString::number(mark.toInt() != 0 ? 1 : 0);
+        }
+        QCOMPARE(rows.join(','), stored);
         QVERIFY(prompter.allAnswered());
     }
 
