@@ -21,6 +21,8 @@
 #include <QTreeView>
 #include <QTreeWidget>
 
+#include <cstring>
+
 using namespace kartella;
 using namespace kartella::test;
 
@@ -91,58 +93,82 @@ private Q_SLOTS:
         QVERIFY(prompter.allAnswered());
     }
 
-    // The address book's phone grid writes a cell at once: a number another program changed
-    // meanwhile asks Reload (the cell shows what is stored), Keep Mine (the typed number is
-    // stored) or Cancel (nothing stored; the cell keeps what was typed, and the next write of
-    // the row stores it). The other program's phone name stays either way.
-    void phoneCellChanged_data()
+    // The address book's phone and web-page grids write a cell at once: a value another
+    // program changed meanwhile asks Reload (the cell shows what is stored), Keep Mine (the
+    // typed value is stored) or Cancel (nothing stored; the cell keeps what was typed, and the
+    // next write of the row stores it). The other program's name of the row stays either way.
+    void gridCellChanged_data()
     {
         QTest::addColumn<int>("where");
+        QTest::addColumn<QString>("grid");
         QTest::addColumn<int>("answer");
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QString>("shown");
+        QTest::addColumn<bool>("typedKept");
+        struct Grid
+        {
+            const char* name;
+            const char* object;
+        };
         for (const int where : {int(TestRegister::File), int(TestRegister::Server)}) {
             const char* place = where == TestRegister::File ? "file" : "server";
-            QTest::addRow("%s, Reload", place) << where << int(MsgBoxResult::Yes) << "8 600 22222"
-                                               << "8 600 22222";
-            QTest::addRow("%s, Keep Mine", place) << where << int(MsgBoxResult::No) << "8 600 33333"
-                                                  << "8 600 33333";
-            QTest::addRow("%s, Cancel", place) << where << int(MsgBoxResult::Cancel) << "8 600 22222"
-                                               << "8 600 33333";
+            for (const Grid grid : {Grid {"phone", "grdDataGrid"}, Grid {"web page", "dgrHP"}}) {
+                QTest::addRow("%s, %s, Cancel", place, grid.name)
+                    << where << grid.object << int(MsgBoxResult::Cancel) << true;
+                // The web-page grid answers as the phone grid does: one answer is enough.
+                if (std::strcmp(grid.name, "phone") != 0)
+                    continue;
+                QTest::addRow("%s, %s, Reload", place, grid.name)
+                    << where << grid.object << int(MsgBoxResult::Yes) << false;
+                QTest::addRow("%s, %s, Keep Mine", place, grid.name)
+                    << where << grid.object << int(MsgBoxResult::No) << true;
+            }
         }
     }
-    void phoneCellChanged()
+    void gridCellChanged()
     {
+        QFETCH(QString, grid);
         QFETCH(int, answer);
-        QFETCH(QString, stored);
-        QFETCH(QString, shown);
+        QFETCH(bool, typedKept);
         REGISTER_OR_SKIP(reg);
         ScriptedPrompter prompter;
+        const bool phones = grid == "grdDataGrid";
+        // The table, its key, the row's name and its value, and the values of the case.
+        const QString table = phones ? "tbl_Phones" : "tbl_HomePages";
+        const QString key = phones ? "PhoneID" : "HomeID";
+        const QString nameField = phones ? "PhoneName" : "Description";
+        const QString valueField = phones ? "PhoneNumber" : "HomeWWW";
+        const QString what = phones ? "phone" : "web page";
+        const QStringList values = phones ? QStringList {"8 600 11111", "8 600 22222", "8 600 33333"}
+                                          : QStringList {"www.ona.lt", "www.ona.eu", "www.petraitis.lt"};
+        const QString theirs = values.at(1);
+        const QString mine = values.at(2);
         const qint32 ona = reg->insert("tbl_Contacts", {{"FullName", "Ona Petraitiene"}});
-        const qint32 phone = reg->insert(
-            "tbl_Phones", {{"ContactID", ona}, {"PhoneName", "Mobile"}, {"PhoneNumber", "8 600 11111"}});
+        const qint32 row
+            = reg->insert(table, {{"ContactID", ona}, {nameField, "Mobile"}, {valueField, values.at(0)}});
+        const QString where = " FROM " + table + " WHERE " + key + "=" + idText(row);
         AddressBookWindow window;
         Shown w(&window);
         w.clickLine("Ona Petraitiene");
-        reg->exec("UPDATE tbl_Phones SET PhoneName='Work', PhoneNumber='8 600 22222' WHERE PhoneID="
-            + idText(phone));
+        reg->exec("UPDATE " + table + " SET " + nameField + "='Work', " + valueField + "='" + theirs + "'"
+            + " WHERE " + key + "=" + idText(row));
         prompter.answer(answer);
-        w.typeCell("grdDataGrid", 0, 3, "8 600 33333");
+        const QByteArray gridName = grid.toLatin1();
+        w.typeCell(gridName.constData(), 0, 3, mine);
         const QStringList texts = prompter.texts();
         QCOMPARE(texts.size(), 1);
-        QVERIFY2(texts.first().startsWith("This phone was changed by another user since you opened it.\n\n")
-                && texts.first().contains("stored \"8 600 22222\", yours \"8 600 33333\""),
+        QVERIFY2(
+            texts.first().startsWith("This " + what + " was changed by another user since you opened it.\n\n")
+                && texts.first().contains("stored \"" + theirs + "\", yours \"" + mine + "\""),
             qPrintable(texts.first()));
-        const QString number = "SELECT PhoneNumber FROM tbl_Phones WHERE PhoneID=" + idText(phone);
-        QCOMPARE(reg->scalar(number), stored);
-        QCOMPARE(w.column("grdDataGrid", 3), QStringList {shown});
-        QCOMPARE(reg->scalar("SELECT PhoneName FROM tbl_Phones WHERE PhoneID=" + idText(phone)), "Work");
+        const QString value = "SELECT " + valueField + where;
+        QCOMPARE(reg->scalar(value), answer == MsgBoxResult::No ? mine : theirs);
+        QCOMPARE(w.column(gridName.constData(), 3), QStringList {typedKept ? mine : theirs});
+        QCOMPARE(reg->scalar("SELECT " + nameField + where), "Work");
         if (answer == MsgBoxResult::Cancel) {
-            // Typing on in the row writes it, the kept number with it, over what was shown.
-            w.typeCell("grdDataGrid", 0, 2, "Home");
+            // Typing on in the row writes it, the kept value with it, over what was shown.
+            w.typeCell(gridName.constData(), 0, 2, "Home");
             QCOMPARE(prompter.texts().size(), 1);
-            QCOMPARE(reg->scalar(number), "8 600 33333");
-            QCOMPARE(reg->scalar("SELECT PhoneName FROM tbl_Phones WHERE PhoneID=" + idText(phone)), "Home");
+            QCOMPARE(reg->scalar(value), mine);
+            QCOMPARE(reg->scalar("SELECT " + nameField + where), "Home");
         }
         QVERIFY(prompter.allAnswered());
     }
