@@ -14,6 +14,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QStringList>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -191,22 +192,31 @@ void RemindersWindow::markDone()
             connection.open(plainConnectionString());
         }
         // From the last line up, so that a failure leaves the lines done so far off the list.
-        // A reminder another user changed since it was shown is left as it is, and the list
-        // shows it as it is now.
+        // A reminder another user changed or deleted since it was shown is left as it is: the
+        // user is told, and the list is read again to show the reminders as they are now.
         bool changed = false;
+        bool gone = false;
         for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
             const ReminderMark mark = markReminderDoneAsShown(connection, m_model->reminder(*row));
             if (mark == ReminderMark::Changed)
                 changed = true;
-            else
+            else if (mark == ReminderMark::Gone)
+                gone = true;
+            if (mark != ReminderMark::Changed)
                 m_model->removeLine(*row);
         }
-        if (changed) {
+        if (changed || gone) {
             reload();
             Q_EMIT remindersDone();
-            msgBox(tr("A reminder was changed by another user since the list was shown; it is "
-                      "not marked done. The list shows it as it is now."),
-                MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation, tr("Reminders"));
+            QStringList told;
+            if (changed)
+                told << tr("A reminder was changed by another user since the list was shown; it is "
+                           "not marked done. The list shows it as it is now.");
+            if (gone)
+                told << tr("A reminder was deleted by another user since the list was shown; it has "
+                           "left the list.");
+            msgBox(told.join(QStringLiteral("\r\r")), MsgBoxStyle::OkOnly + MsgBoxStyle::Exclamation,
+                tr("Reminders"));
             return;
         }
     } catch (const Error& error) {

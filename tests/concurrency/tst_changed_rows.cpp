@@ -5,6 +5,7 @@
 #include "addressbook/AddressBookWindow.h"
 #include "addressbook/ContactEditor.h"
 #include "categories/CategoryDialog.h"
+#include "explorer/RemindersWindow.h"
 #include "harness/ScriptedPrompter.h"
 #include "platform/Prompter.h"
 #include "registration/DocumentDetailsDialog.h"
@@ -17,7 +18,10 @@
 #include <QRegularExpression>
 #include <QScopeGuard>
 #include <QSysInfo>
+#include <QTreeView>
 #include <QTreeWidget>
+
+#include <cstring>
 
 using namespace kartella;
 using namespace kartella::test;
@@ -89,58 +93,82 @@ private Q_SLOTS:
         QVERIFY(prompter.allAnswered());
     }
 
-    // The address book's phone grid writes a cell at once: a number another program changed
-    // meanwhile asks Reload (the cell shows what is stored), Keep Mine (the typed number is
-    // stored) or Cancel (nothing stored; the cell keeps what was typed, and the next write of
-    // the row stores it). The other program's phone name stays either way.
-    void phoneCellChanged_data()
+    // The address book's phone and web-page grids write a cell at once: a value another
+    // program changed meanwhile asks Reload (the cell shows what is stored), Keep Mine (the
+    // typed value is stored) or Cancel (nothing stored; the cell keeps what was typed, and the
+    // next write of the row stores it). The other program's name of the row stays either way.
+    void gridCellChanged_data()
     {
         QTest::addColumn<int>("where");
+        QTest::addColumn<QString>("grid");
         QTest::addColumn<int>("answer");
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QString>("shown");
+        QTest::addColumn<bool>("typedKept");
+        struct Grid
+        {
+            const char* name;
+            const char* object;
+        };
         for (const int where : {int(TestRegister::File), int(TestRegister::Server)}) {
             const char* place = where == TestRegister::File ? "file" : "server";
-            QTest::addRow("%s, Reload", place) << where << int(MsgBoxResult::Yes) << "8 600 22222"
-                                               << "8 600 22222";
-            QTest::addRow("%s, Keep Mine", place) << where << int(MsgBoxResult::No) << "8 600 33333"
-                                                  << "8 600 33333";
-            QTest::addRow("%s, Cancel", place) << where << int(MsgBoxResult::Cancel) << "8 600 22222"
-                                               << "8 600 33333";
+            for (const Grid grid : {Grid {"phone", "grdDataGrid"}, Grid {"web page", "dgrHP"}}) {
+                QTest::addRow("%s, %s, Cancel", place, grid.name)
+                    << where << grid.object << int(MsgBoxResult::Cancel) << true;
+                // The web-page grid answers as the phone grid does: one answer is enough.
+                if (std::strcmp(grid.name, "phone") != 0)
+                    continue;
+                QTest::addRow("%s, %s, Reload", place, grid.name)
+                    << where << grid.object << int(MsgBoxResult::Yes) << false;
+                QTest::addRow("%s, %s, Keep Mine", place, grid.name)
+                    << where << grid.object << int(MsgBoxResult::No) << true;
+            }
         }
     }
-    void phoneCellChanged()
+    void gridCellChanged()
     {
+        QFETCH(QString, grid);
         QFETCH(int, answer);
-        QFETCH(QString, stored);
-        QFETCH(QString, shown);
+        QFETCH(bool, typedKept);
         REGISTER_OR_SKIP(reg);
         ScriptedPrompter prompter;
+        const bool phones = grid == "grdDataGrid";
+        // The table, its key, the row's name and its value, and the values of the case.
+        const QString table = phones ? "tbl_Phones" : "tbl_HomePages";
+        const QString key = phones ? "PhoneID" : "HomeID";
+        const QString nameField = phones ? "PhoneName" : "Description";
+        const QString valueField = phones ? "PhoneNumber" : "HomeWWW";
+        const QString what = phones ? "phone" : "web page";
+        const QStringList values = phones ? QStringList {"8 600 11111", "8 600 22222", "8 600 33333"}
+                                          : QStringList {"www.ona.lt", "www.ona.eu", "www.petraitis.lt"};
+        const QString theirs = values.at(1);
+        const QString mine = values.at(2);
         const qint32 ona = reg->insert("tbl_Contacts", {{"FullName", "Ona Petraitiene"}});
-        const qint32 phone = reg->insert(
-            "tbl_Phones", {{"ContactID", ona}, {"PhoneName", "Mobile"}, {"PhoneNumber", "8 600 11111"}});
+        const qint32 row
+            = reg->insert(table, {{"ContactID", ona}, {nameField, "Mobile"}, {valueField, values.at(0)}});
+        const QString where = " FROM " + table + " WHERE " + key + "=" + idText(row);
         AddressBookWindow window;
         Shown w(&window);
         w.clickLine("Ona Petraitiene");
-        reg->exec("UPDATE tbl_Phones SET PhoneName='Work', PhoneNumber='8 600 22222' WHERE PhoneID="
-            + idText(phone));
+        reg->exec("UPDATE " + table + " SET " + nameField + "='Work', " + valueField + "='" + theirs + "'"
+            + " WHERE " + key + "=" + idText(row));
         prompter.answer(answer);
-        w.typeCell("grdDataGrid", 0, 3, "8 600 33333");
+        const QByteArray gridName = grid.toLatin1();
+        w.typeCell(gridName.constData(), 0, 3, mine);
         const QStringList texts = prompter.texts();
         QCOMPARE(texts.size(), 1);
-        QVERIFY2(texts.first().startsWith("This phone was changed by another user since you opened it.\n\n")
-                && texts.first().contains("stored \"8 600 22222\", yours \"8 600 33333\""),
+        QVERIFY2(
+            texts.first().startsWith("This " + what + " was changed by another user since you opened it.\n\n")
+                && texts.first().contains("stored \"" + theirs + "\", yours \"" + mine + "\""),
             qPrintable(texts.first()));
-        const QString number = "SELECT PhoneNumber FROM tbl_Phones WHERE PhoneID=" + idText(phone);
-        QCOMPARE(reg->scalar(number), stored);
-        QCOMPARE(w.column("grdDataGrid", 3), QStringList {shown});
-        QCOMPARE(reg->scalar("SELECT PhoneName FROM tbl_Phones WHERE PhoneID=" + idText(phone)), "Work");
+        const QString value = "SELECT " + valueField + where;
+        QCOMPARE(reg->scalar(value), answer == MsgBoxResult::No ? mine : theirs);
+        QCOMPARE(w.column(gridName.constData(), 3), QStringList {typedKept ? mine : theirs});
+        QCOMPARE(reg->scalar("SELECT " + nameField + where), "Work");
         if (answer == MsgBoxResult::Cancel) {
-            // Typing on in the row writes it, the kept number with it, over what was shown.
-            w.typeCell("grdDataGrid", 0, 2, "Home");
+            // Typing on in the row writes it, the kept value with it, over what was shown.
+            w.typeCell(gridName.constData(), 0, 2, "Home");
             QCOMPARE(prompter.texts().size(), 1);
-            QCOMPARE(reg->scalar(number), "8 600 33333");
-            QCOMPARE(reg->scalar("SELECT PhoneName FROM tbl_Phones WHERE PhoneID=" + idText(phone)), "Home");
+            QCOMPARE(reg->scalar(value), mine);
+            QCOMPARE(reg->scalar("SELECT " + nameField + where), "Home");
         }
         QVERIFY(prompter.allAnswered());
     }
@@ -271,6 +299,71 @@ private Q_SLOTS:
             QCOMPARE(description->toPlainText(), "Annex A");
             dialog.reject();
         }
+        QVERIFY(prompter.allAnswered());
+    }
+
+    // Done in the Reminders window on a reminder another program changed or deleted since the
+    // window read it: nothing is written over it, the user is told, and the window reads its
+    // rows again. The other reminder, unchanged, is done as before.
+    void reminderDoneAfterAnotherProgram_data()
+    {
+        QTest::addColumn<int>("where");
+        QTest::addColumn<QString>("change");
+        QTest::addColumn<QString>("told");
+        QTest::addColumn<QStringList>("shown");
+        QTest::addColumn<QString>("stored");
+        for (const int where : {int(TestRegister::File), int(TestRegister::Server)}) {
+            const char* place = where == TestRegister::File ? "file" : "server";
+            QTest::addRow("%s, changed", place)
+                << where << "UPDATE tbl_Tickler SET TicklerText='call on Monday' WHERE TicklerText='call'"
+                << "A reminder was changed by another user since the list was shown; it is not marked "
+                   "done. The list shows it as it is now."
+                << QStringList {"call on Monday"} << "call on Monday=0,send=1";
+            QTest::addRow("%s, deleted", place)
+                << where << "DELETE FROM tbl_Tickler WHERE TicklerText='call'"
+                << "A reminder was deleted by another user since the list was shown; it has left the "
+                   "list."
+                << QStringList {} << "send=1";
+        }
+    }
+    void reminderDoneAfterAnotherProgram()
+    {
+        QFETCH(QString, change);
+        QFETCH(QString, told);
+        QFETCH(QStringList, shown);
+        QFETCH(QString, stored);
+        REGISTER_OR_SKIP(reg);
+        ScriptedPrompter prompter;
+        const qint32 lease = reg->insert("tbl_Documents", {{"DokAntraste", "Lease"}});
+        reg->insert("tbl_Tickler",
+            {{"RastasID", lease}, {"TicklerDate", QDate(2024, 2, 28)}, {"TicklerText", "call"}});
+        reg->insert("tbl_Tickler",
+            {{"RastasID", lease}, {"TicklerDate", QDate(2024, 2, 29)}, {"TicklerText", "send"}});
+        RemindersWindow window(QDate(2024, 3, 1));
+        showActive(&window);
+        auto* lines = child<QTreeView>(&window, "lstReminders");
+        const auto texts = [lines] {
+            QStringList cells;
+            for (int row = 0; row < lines->model()->rowCount(); ++row)
+                cells << lines->model()->index(row, 4).data().toString();
+            return cells;
+        };
+        QCOMPARE(texts(), (QStringList {"call", "send"}));
+        reg->exec(change);
+        prompter.answer(MsgBoxResult::Ok);
+        lines->setFocus();
+        QTest::keyClick(lines, Qt::Key_Down, Qt::ShiftModifier);
+        QTest::mouseClick(child<QPushButton>(&window, "cmdDone"), Qt::LeftButton);
+        QCOMPARE(prompter.texts(), QStringList {told});
+        QCOMPARE(texts(), shown);
+        QStringList rows;
+        for (const QString& text : {QStringLiteral("call on Monday"), QStringLiteral("send")}) {
+            const QVariant mark
+                = reg->scalar("SELECT TicklerDone FROM tbl_Tickler WHERE TicklerText='" + text + "'");
+            if (mark.isValid() && !mark.isNull())
+                rows << text + '=' + QString::number(mark.toInt() != 0 ? 1 : 0);
+        }
+        QCOMPARE(rows.join(','), stored);
         QVERIFY(prompter.allAnswered());
     }
 

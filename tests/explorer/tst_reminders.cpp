@@ -2,10 +2,10 @@
 // register made before it could be), the Reminders window and its place in the main window.
 #include "dialogs/SettingsDialog.h"
 #include "explorer/ExplorerList.h"
-#include "harness/Lithuanian.h"
 #include "explorer/MainWindow.h"
 #include "explorer/RemindersCommand.h"
 #include "explorer/RemindersWindow.h"
+#include "harness/Lithuanian.h"
 #include "harness/ScriptedPrompter.h"
 #include "harness/TestRegister.h"
 #include "options/OptionStore.h"
@@ -401,7 +401,7 @@ private Q_SLOTS:
     }
 
     // Done on a reminder another user changed since the list was shown leaves it as it is and
-    // shows it anew; one another user deleted just leaves the list.
+    // shows it anew; one another user deleted leaves the list; both are told in one message.
     void doneOnARemindersChangedMeanwhile()
     {
         TestRegister reg;
@@ -422,7 +422,10 @@ private Q_SLOTS:
         auto* done = window.findChild<QPushButton*>("cmdDone");
         QTest::mouseClick(done, Qt::LeftButton);
         QCOMPARE(prompter.texts().size(), 1);
-        QVERIFY2(prompter.texts().first().startsWith("A reminder was changed by another user"),
+        QVERIFY2(prompter.texts().first().startsWith("A reminder was changed by another user")
+                && prompter.texts().first().endsWith(
+                    "\r\rA reminder was deleted by another user since the list was shown; it has "
+                    "left the list."),
             qPrintable(prompter.texts().first()));
         QCOMPARE(doneColumn(reg), QString("call back on Monday=0"));
         QCOMPARE(column(window, 4), QStringList {"call back on Monday"});
