@@ -3110,6 +3110,10 @@ Susijęs dokumentas šalinamas kartu su jo failu.</translation>
         <source>A reminder was changed by another user since the list was shown; it is not marked done. The list shows it as it is now.</source>
         <translation>Kitas naudotojas pakeitė priminimą po to, kai sąrašas buvo parodytas; jis nepažymėtas atliktu. Sąraše jis rodomas toks, koks yra dabar.</translation>
     </message>
+    <message>
+        <source>A reminder was deleted by another user since the list was shown; it has left the list.</source>
+        <translation>Kitas naudotojas ištrynė priminimą po to, kai sąrašas buvo parodytas; jis pašalintas iš sąrašo.</translation>
+    </message>
 </context>
 <context>
     <name>kartella::ReportLayouts</name>
