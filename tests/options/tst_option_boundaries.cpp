@@ -3,8 +3,11 @@
 #include "base/Error.h"
 #include "options/CaptureOptions.h"
 #include "options/FirstRun.h"
+#include "options/LanguageOption.h"
 #include "options/OptionStore.h"
+#include "options/PreviewOptions.h"
 #include "options/SectionFile.h"
+#include "options/TextOptions.h"
 #include "options/TrashOptions.h"
 
 #include <QDir>
@@ -197,6 +200,61 @@ private Q_SLOTS:
         setSharedTrashFolder(QStringLiteral("/srv/shared"));
         QCOMPARE(trashFolderFor(server), QStringLiteral("/srv/shared/trash"));
         QCOMPARE(versionsFolderFor(server), QStringLiteral("/srv/shared/versions"));
+    }
+
+    // Users and README name the options by these names in the options file, under [Options].
+    void optionsKeepTheirNamesInTheFile()
+    {
+        QVERIFY(seedOptionsIfMissing());
+        setInboxFolder(QStringLiteral("/srv/inbox"));
+        setOcrLanguages(QStringLiteral("lit"));
+        saveScanSettings({QStringLiteral("test:0"), QStringLiteral("Flatbed"), QStringLiteral("Gray"), 150});
+        setInterfaceLanguage(InterfaceLanguage::Lithuanian);
+        setTrashDays(30);
+        setVersionsPerDocument(5);
+        setSharedTrashFolder(QStringLiteral("/srv/shared"));
+        const QString text = fileText(optionsFilePath());
+        QVERIFY2(text.startsWith(QStringLiteral("[Options]")), qPrintable(text));
+        for (const char* line : {"InboxFolder=/srv/inbox", "OcrLanguages=lit", "ScanDevice=test:0",
+                 "ScanSource=Flatbed", "ScanMode=Gray", "ScanResolution=150", "Language=lt", "TrashDays=30",
+                 "VersionsPerDocument=5", "TrashFolder=/srv/shared"})
+            QVERIFY2(text.contains(QLatin1String("\n") + QLatin1String(line) + QLatin1String("\n")), line);
+    }
+
+    // The size limits read from the file: a whole number of megabytes within their range, else
+    // the default.
+    void sizeLimitsAtTheirEnds_data()
+    {
+        QTest::addColumn<QString>("option");
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<qint64>("megabytes");
+        QTest::newRow("preview 0") << "PreviewCacheMB"
+                                   << "0" << qint64(DefaultPreviewCacheMb);
+        QTest::newRow("preview 1") << "PreviewCacheMB"
+                                   << "1" << qint64(1);
+        QTest::newRow("preview 100000") << "PreviewCacheMB"
+                                        << "100000" << qint64(100000);
+        QTest::newRow("preview 100001") << "PreviewCacheMB"
+                                        << "100001" << qint64(DefaultPreviewCacheMb);
+        QTest::newRow("preview word") << "PreviewCacheMB"
+                                      << "big" << qint64(DefaultPreviewCacheMb);
+        QTest::newRow("text 0") << "TextSizeLimitMB"
+                                << "0" << qint64(DefaultTextSizeLimitMB);
+        QTest::newRow("text 1") << "TextSizeLimitMB"
+                                << "1" << qint64(1);
+        QTest::newRow("text word") << "TextSizeLimitMB"
+                                   << "big" << qint64(DefaultTextSizeLimitMB);
+    }
+    void sizeLimitsAtTheirEnds()
+    {
+        QFETCH(QString, option);
+        QFETCH(QString, stored);
+        QFETCH(qint64, megabytes);
+        QVERIFY(seedOptionsIfMissing());
+        setRegValue(option, stored);
+        const qint64 read
+            = option == QLatin1String("PreviewCacheMB") ? previewCacheLimitBytes() : textSizeLimitBytes();
+        QCOMPARE(read, megabytes * 1024 * 1024);
     }
 
     void iniSectionInAnotherCase()
