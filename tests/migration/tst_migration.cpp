@@ -226,6 +226,11 @@ private Q_SLOTS:
         QTest::newRow("leap day") << date << QVariant("2000-02-29 00:00:00") << QVariant(QDate(2000, 2, 29))
                                   << true;
         QTest::newRow("no such day") << date << QVariant("2100-02-29 00:00:00") << QVariant() << false;
+        QTest::newRow("year 100") << date << QVariant("0100-01-01 00:00:01")
+                                  << QVariant("0100-01-01 00:00:01") << true;
+        QTest::newRow("year 99") << date << QVariant("0099-12-31 00:00:00") << QVariant() << false;
+        QTest::newRow("year 9999") << date << QVariant("9999-12-31") << QVariant(QDate(9999, 12, 31)) << true;
+        QTest::newRow("minus year") << date << QVariant("-2024-03-05 14:30:01") << QVariant() << false;
         QTest::newRow("month first") << date << QVariant("03/05/24 00:00:00") << QVariant() << false;
         QTest::newRow("null date") << date << QVariant() << QVariant() << true;
         QTest::newRow("text kept") << text << QVariant("  Šiauliai ") << QVariant("  Šiauliai ") << true;

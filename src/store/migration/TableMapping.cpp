@@ -41,17 +41,26 @@ QVariant convertInteger(const QString& text)
     return {};
 }
 
+// Jet keeps the dates of the years 100 to 9999; Qt also reads a year with a minus sign, which
+// no old register holds and the register's date text can't carry.
+bool inJetYears(const QDate& day)
+{
+    return day.isValid() && day.year() >= 100 && day.year() <= 9999;
+}
+
 QVariant convertDate(const QString& text)
 {
     const QString trimmed = text.trimmed();
     const QDateTime dateTime = QDateTime::fromString(trimmed, QStringLiteral("yyyy-MM-dd HH:mm:ss"));
     if (dateTime.isValid()) {
+        if (!inJetYears(dateTime.date()))
+            return {};
         if (dateTime.time() == QTime(0, 0))
             return dateTime.date();
         return engine::isoText(dateTime);
     }
     const QDate day = QDate::fromString(trimmed, Qt::ISODate);
-    if (day.isValid())
+    if (inJetYears(day))
         return day;
     return {};
 }
