@@ -257,6 +257,27 @@ private Q_SLOTS:
         QCOMPARE(read, megabytes * 1024 * 1024);
     }
 
+    // A line before the first section belongs to none: it is neither read nor written as an
+    // option of a section. A value that only half looks like lines is kept as written.
+    void linesOutsideSectionsAndHalfEncodedValues()
+    {
+        const QString path = m_config->filePath(QStringLiteral("edge.ini"));
+        writeFile(path, "Stray=before\n[Options]\nOpen=@Lines(a\\nb\nClosed=a\\nb)\nBoth=@Lines(a\\nb)\n");
+        SectionFile file;
+        QCOMPARE(file.load(path), SectionFile::Status::Ok);
+        QCOMPARE(file.value(QStringLiteral("Options"), QStringLiteral("Stray")), std::nullopt);
+        QCOMPARE(
+            file.value(QStringLiteral("Options"), QStringLiteral("Open")), QStringLiteral("@Lines(a\\nb"));
+        QCOMPARE(file.value(QStringLiteral("Options"), QStringLiteral("Closed")), QStringLiteral("a\\nb)"));
+        QCOMPARE(file.value(QStringLiteral("Options"), QStringLiteral("Both")), QStringLiteral("a\nb"));
+        file.setValue(QStringLiteral("Options"), QStringLiteral("Stray"), QStringLiteral("inside"));
+        QVERIFY(file.save(path));
+        const QString text = fileText(path);
+        QVERIFY2(text.startsWith(QStringLiteral("Stray=before\n[Options]\n")), qPrintable(text));
+        QVERIFY2(text.contains(QStringLiteral("\nStray=inside\n")), qPrintable(text));
+        QCOMPARE(file.value(QStringLiteral("Options"), QStringLiteral("Stray")), QStringLiteral("inside"));
+    }
+
     void iniSectionInAnotherCase()
     {
         writeFile(iniFilePath(), "[doccontr]\nALLDOCS=/docs\n[DOCCONTR2]\nCompany=Other\n");
