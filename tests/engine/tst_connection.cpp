@@ -56,6 +56,14 @@ private:
     const QList<QTranslator*> m_before;
 };
 
+// The server's process behind the connection.
+qint64 serverProcess(Connection& connection)
+{
+    Recordset row;
+    row.open(QStringLiteral("SELECT pg_backend_pid() AS pid"), connection);
+    return row.fields(QStringLiteral("pid")).value().toLongLong();
+}
+
 void writeFile(const QString& path, const QByteArray& bytes)
 {
     QFile file(path);
@@ -327,6 +335,62 @@ private Q_SLOTS:
         QVERIFY2(waited >= 500, qPrintable(QString::number(waited)));
         QCOMPARE(reg.joined("SELECT FullName FROM tbl_Contacts ORDER BY ContactID"),
             QString(reg.onServer() ? "none,first,second" : "first,second"));
+    }
+
+    // A closed connection's session with the server is used by the next connection, but never
+    // one still open, one in a transaction, one the server ended, or one that would not see
+    // a table changed since.
+    void serverSessionsAreKept()
+    {
+        EngineRegister reg;
+        if (!reg.onServer())
+            QSKIP("server registers only");
+        qint64 first = 0;
+        {
+            Connection connection(reg.connectionString());
+            connection.open();
+            first = serverProcess(connection);
+        }
+        Connection again(reg.connectionString());
+        again.open();
+        QCOMPARE(serverProcess(again), first);
+        Connection beside(reg.connectionString());
+        beside.open();
+        QVERIFY(serverProcess(beside) != first);
+
+        // Closed inside a transaction: its writes are undone with its session.
+        again.beginTrans();
+        again.execute("INSERT INTO tbl_Contacts (FullName) VALUES ('never stored')");
+        again.close();
+        {
+            Connection next(reg.connectionString());
+            next.open();
+            QVERIFY(serverProcess(next) != first);
+        }
+        QCOMPARE(reg.joined("SELECT FullName FROM tbl_Contacts"), QString());
+
+        // A column added by another connection is there for a kept session.
+        beside.close();
+        reg.execute("ALTER TABLE \"tbl_Contacts\" ADD COLUMN \"Nickname\" varchar(20)");
+        Connection kept(reg.connectionString());
+        kept.open();
+        Recordset contacts;
+        contacts.open(QStringLiteral("tbl_Contacts"), kept, CursorTypeEnum::Static, LockTypeEnum::Optimistic);
+        contacts.addNew();
+        contacts.fields(QStringLiteral("FullName")).setValue(QStringLiteral("Ona"));
+        contacts.fields(QStringLiteral("Nickname")).setValue(QStringLiteral("Onutė"));
+        contacts.update();
+        QCOMPARE(reg.joined("SELECT Nickname FROM tbl_Contacts"), QString("Onutė"));
+
+        // Ended by the server while kept: the next connection gets a session of its own.
+        const qint64 ended = serverProcess(kept);
+        contacts.close();
+        kept.close();
+        reg.scalar(QStringLiteral("SELECT pg_terminate_backend(%1)").arg(ended));
+        Connection after(reg.connectionString());
+        after.open();
+        QVERIFY(serverProcess(after) != ended);
+        QCOMPARE(reg.joined("SELECT FullName FROM tbl_Contacts"), QString("Ona"));
     }
 
     void transactions()

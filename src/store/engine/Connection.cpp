@@ -5,6 +5,7 @@
 #include "store/engine/ConnectionString.h"
 #include "store/engine/EngineErrors.h"
 #include "store/engine/PostgresBackend.h"
+#include "store/engine/PostgresSessions.h"
 #include "store/engine/SqliteBackend.h"
 
 namespace kartella {
@@ -49,7 +50,10 @@ Connection::Connection(const QString& connectionString)
     : m_connectionString(connectionString)
 { }
 
-Connection::~Connection() = default;
+Connection::~Connection()
+{
+    close();
+}
 
 void Connection::setConnectionString(const QString& connectionString)
 {
@@ -101,6 +105,11 @@ void Connection::setCarriesContext(bool carries)
 
 void Connection::close()
 {
+    if (auto* server = dynamic_cast<PostgresBackend*>(m_backend.get())) {
+        m_backend.release();
+        PostgresSessions::keep(std::unique_ptr<PostgresBackend>(server));
+        return;
+    }
     m_backend.reset();
 }
 

@@ -4,6 +4,7 @@
 #include "store/engine/BackendParts.h"
 #include "store/engine/DateText.h"
 #include "store/engine/EngineErrors.h"
+#include "store/engine/PostgresSessions.h"
 #include "store/engine/PostgresTypes.h"
 
 #include <QDate>
@@ -107,8 +108,22 @@ void PostgresBackend::ResultDeleter::operator()(pg_result* result) const
 
 std::unique_ptr<PostgresBackend> PostgresBackend::open(const QString& location)
 {
-    const QString shown = shownLocation(location);
     const int lockWait = Connection::lockWaitMs();
+    std::unique_ptr<PostgresBackend> backend = PostgresSessions::take(location, lockWait);
+    if (!backend)
+        backend = connect(location, lockWait);
+    // Read afresh on a kept session too: another program may have changed the tables.
+    backend->loadCatalog();
+    if (!backend->m_relations.empty() && backend->m_relations.count(QStringLiteral("tbl_documents")) == 0)
+        failToOpen(
+            kartella::StoreText::tr("'%1' is a database but not a register: it has no table tbl_Documents.")
+                .arg(shownLocation(location)));
+    return backend;
+}
+
+std::unique_ptr<PostgresBackend> PostgresBackend::connect(const QString& location, int lockWait)
+{
+    const QString shown = shownLocation(location);
     pg_conn* connection = connectTo(location, lockWait);
     if (connection == nullptr)
         failToOpen(kartella::StoreText::tr("Could not connect to '%1': out of memory.").arg(shown));
@@ -128,11 +143,6 @@ std::unique_ptr<PostgresBackend> PostgresBackend::open(const QString& location)
     const QString zone = QString::fromUtf8(QTimeZone::systemTimeZoneId());
     if (!zone.isEmpty())
         PQclear(PQexec(connection, ("SET TimeZone = " + literal(zone)).toUtf8().constData()));
-    backend->loadCatalog();
-    if (!backend->m_relations.empty() && backend->m_relations.count(QStringLiteral("tbl_documents")) == 0)
-        failToOpen(
-            kartella::StoreText::tr("'%1' is a database but not a register: it has no table tbl_Documents.")
-                .arg(shown));
     return backend;
 }
 
@@ -200,6 +210,18 @@ QString PostgresBackend::lockHolders() const
     }
     PQfinish(probe);
     return names.join(QStringLiteral(", "));
+}
+
+bool PostgresBackend::isIdle() const
+{
+    return m_depth == 0 && PQstatus(m_connection) == CONNECTION_OK
+        && PQtransactionStatus(m_connection) == PQTRANS_IDLE;
+}
+
+bool PostgresBackend::stillConnected()
+{
+    const Result result(PQexec(m_connection, ""));
+    return result && PQresultStatus(result.get()) == PGRES_EMPTY_QUERY && isIdle();
 }
 
 void PostgresBackend::reconnectIfLost()

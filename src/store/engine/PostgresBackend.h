@@ -21,14 +21,23 @@ namespace kartella::engine {
 class PostgresBackend final : public Backend
 {
 public:
-    // Connects, waiting at most ConnectTimeoutSeconds for the server unless the location
-    // sets connect_timeout itself. A database without tables opens, for the schema to be
+    // Connects, or takes a session a closed connection to the same location left (see
+    // PostgresSessions.h), waiting at most ConnectTimeoutSeconds for the server unless the
+    // location sets connect_timeout itself. A database without tables opens, for the schema to be
     // made in it; one with tables but no tbl_Documents is refused. Throws
     // ErrorNumber::ConnectionFailed.
     static std::unique_ptr<PostgresBackend> open(const QString& location);
     ~PostgresBackend() override;
 
     static constexpr int ConnectTimeoutSeconds = 5;
+
+    // For keeping the session after its connection closes (see PostgresSessions.h).
+    QString location() const { return m_location; }
+    int lockWaitMs() const { return m_lockWaitMs; }
+    // Connected, outside any transaction: a session another connection may use as it is.
+    bool isIdle() const;
+    // Asks the server whether the session is still there: a round trip.
+    bool stillConnected();
 
     SqlDialect dialect() const override { return SqlDialect::PostgreSql; }
     void execute(const QString& sql) override;
@@ -50,6 +59,8 @@ public:
 
 private:
     explicit PostgresBackend(pg_conn* connection, QString location);
+    // A new session with the server.
+    static std::unique_ptr<PostgresBackend> connect(const QString& location, int lockWait);
 
     // A result that clears itself.
     struct ResultDeleter
