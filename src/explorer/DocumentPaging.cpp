@@ -110,14 +110,48 @@ QString idsQueryAlone(const QString& condition)
     return {};
 }
 
+// The queries a union of queries q1 UNION q2 ... is made of, split where UNION stands outside
+// brackets and quotes; the query alone when it is no union.
+QStringList unionParts(const QString& query)
+{
+    static const QString Union = QStringLiteral(" UNION ");
+    QStringList parts;
+    int depth = 0;
+    bool quoted = false;
+    qsizetype from = 0;
+    for (qsizetype i = 0; i < query.size(); ++i) {
+        const QChar c = query[i];
+        if (c == u'\'')
+            quoted = !quoted;
+        else if (!quoted && c == u'(')
+            ++depth;
+        else if (!quoted && c == u')')
+            --depth;
+        else if (!quoted && depth == 0 && c == u' '
+            && QStringView(query).mid(i, Union.size()).compare(Union, Qt::CaseInsensitive) == 0) {
+            parts << query.mid(from, i - from);
+            from = i + Union.size();
+            i = from - 1;
+        }
+    }
+    parts << query.mid(from);
+    return parts;
+}
+
 } // namespace
 
 QString DocumentPaging::keepRowsSql(const QString& table) const
 {
     // The indexes hold no document that the register doesn't: their ids need no reading of
-    // the documents.
-    if (const QString ids = idsQueryAlone(m_condition); !ids.isEmpty())
-        return QStringLiteral("INSERT OR IGNORE INTO temp.") + table + QStringLiteral(" (RastasID) ") + ids;
+    // the documents. Each part of a union is kept by a statement of its own, so that no
+    // second set of ids is built only to drop what both parts found.
+    if (const QString ids = idsQueryAlone(m_condition); !ids.isEmpty()) {
+        QStringList statements;
+        for (const QString& part : unionParts(ids))
+            statements << QStringLiteral("INSERT OR IGNORE INTO temp.") + table
+                    + QStringLiteral(" (RastasID) ") + part;
+        return statements.join(QStringLiteral("; "));
+    }
     const bool contacts = m_condition.contains(QStringLiteral("tbl_Contacts."), Qt::CaseInsensitive);
     QString sql = QStringLiteral("INSERT INTO temp.") + table + QStringLiteral(" (RastasID) SELECT ") + Id
         + from(contacts);

@@ -40,9 +40,9 @@ public:
     void setRanking(const QString& join, const QString& key);
     // Whether the list is a search through the index of the documents' fields or files.
     bool searchesIndexes() const;
-    // Copies the ids of the list query's documents (before the letter's or the contact's
-    // condition) into the temporary table `table` (RastasID INTEGER PRIMARY KEY) of the
-    // connection that reads the list.
+    // Statements, separated by semicolons, that copy the ids of the list query's documents
+    // (before the letter's or the contact's condition) into the temporary table `table`
+    // (RastasID INTEGER PRIMARY KEY) of the connection that reads the list.
     QString keepRowsSql(const QString& table) const;
     // From now on the list's documents are those of that table: a search's indexes are
     // searched once, not again for the count and every page.

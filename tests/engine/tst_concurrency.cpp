@@ -302,6 +302,37 @@ private Q_SLOTS:
         mine.deleteRecord();
         QCOMPARE(reg.scalar(QStringLiteral("SELECT COUNT(*) FROM tbl_Contacts")).toInt(), 4);
     }
+
+    // A search keeps its found rows in a temporary table while another program holds the
+    // register file for writing: those rows are no rows of the register, and wait for no one.
+    void temporaryRowsWaitForNoWriter()
+    {
+        EngineRegister reg;
+        if (reg.onServer())
+            QSKIP("the lock of a register file");
+        reg.fillSmall();
+        const int lockWait = Connection::lockWaitMs();
+        Connection::setLockWaitMs(300);
+        Connection writer(reg.connectionString());
+        writer.open();
+        writer.beginTrans();
+        writer.execute("INSERT INTO tbl_Contacts (FullName) VALUES ('held')");
+        Connection reader(reg.connectionString());
+        reader.open();
+        Connection::setLockWaitMs(lockWait);
+        reader.execute("CREATE TEMP TABLE found (RastasID INTEGER PRIMARY KEY)");
+        reader.execute("INSERT OR IGNORE INTO temp.found (RastasID) SELECT ContactID FROM tbl_Contacts; "
+                       "INSERT OR IGNORE INTO temp.found (RastasID) SELECT ContactID + 3 FROM tbl_Contacts");
+        reader.execute("DELETE FROM temp.found WHERE RastasID = 8");
+        Recordset found;
+        found.open(QStringLiteral("SELECT COUNT(*) AS N FROM temp.found"), reader);
+        QCOMPARE(found.fields(QStringLiteral("N")).value().toInt(), 7);
+        found.close();
+        // A row of the register still waits, and is refused when the writer holds on.
+        QVERIFY_THROWS_EXCEPTION(
+            Error, reader.execute("INSERT INTO tbl_Contacts (FullName) VALUES ('waits')"));
+        writer.rollbackTrans();
+    }
 };
 
 int runConcurrencyTest(int argc, char** argv)

@@ -121,6 +121,9 @@ private Q_SLOTS:
             {"apmokejimas nerasta", {}},
             {"nerasta", {}},
             {"o'brien", {"letter"}},
+            // Words of the query language in the text searched for.
+            {"\"european union\"", {"letter"}},
+            {"union", {"letter"}},
             {"-", {}},
         };
         for (const auto& [place, where] : wheres) {
@@ -146,7 +149,8 @@ private Q_SLOTS:
         id["account"] = addDocument(reg, QStringLiteral("Banko sąskaita"));
         addText(reg, id["account"], QStringLiteral("Apmokėjimas grynaisiais"));
         id["letter"] = addDocument(reg, QStringLiteral("Letter"));
-        addText(reg, id["letter"], QStringLiteral("Dear Mr O'Brien - thank you"));
+        addText(
+            reg, id["letter"], QStringLiteral("Dear Mr O'Brien - thank you for the European Union grant"));
         id["none"] = addDocument(reg, QStringLiteral("Be failo"));
 
         Ids ids;

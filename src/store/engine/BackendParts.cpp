@@ -90,10 +90,27 @@ void findKeyColumn(QueryResult& result, const TableSchema& schema)
 
 bool writesRows(const QString& sql)
 {
-    const QStringView head = QStringView(sql).trimmed().left(7);
-    return head.startsWith(u"INSERT", Qt::CaseInsensitive) || head.startsWith(u"UPDATE", Qt::CaseInsensitive)
-        || head.startsWith(u"DELETE", Qt::CaseInsensitive)
-        || head.startsWith(u"REPLACE", Qt::CaseInsensitive);
+    const QStringList words = sql.simplified().split(u' ');
+    if (words.isEmpty())
+        return false;
+    const QString& verb = words.front();
+    const auto is
+        = [](const QString& word, QStringView name) { return word.compare(name, Qt::CaseInsensitive) == 0; };
+    if (!is(verb, u"INSERT") && !is(verb, u"UPDATE") && !is(verb, u"DELETE") && !is(verb, u"REPLACE"))
+        return false;
+    // The table written: after INTO or FROM, or UPDATE's own (past an OR clause).
+    qsizetype at = 1;
+    if (is(verb, u"UPDATE")) {
+        if (at < words.size() && is(words[at], u"OR"))
+            at += 2;
+    } else {
+        const QStringView marker = is(verb, u"DELETE") ? u"FROM" : u"INTO";
+        while (at < words.size() && !is(words[at], marker))
+            ++at;
+        ++at;
+    }
+    // A program's own temporary table (a search's found rows) is no row of the register.
+    return at >= words.size() || !words[at].startsWith(QLatin1String("temp."), Qt::CaseInsensitive);
 }
 
 } // namespace kartella::engine

@@ -42,7 +42,8 @@ QString waitText(int milliseconds);
 // Sets the result's key column and name when the table's key is among its visible columns.
 void findKeyColumn(QueryResult& result, const TableSchema& schema);
 
-// Whether a statement inserts, updates or deletes rows (and so is recorded in the history).
+// Whether a statement inserts, updates or deletes rows of the register (and so is recorded
+// in the history); a write to a temporary table named temp.name is not one.
 bool writesRows(const QString& sql);
 
 } // namespace kartella::engine
