@@ -27,8 +27,10 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 
 #include <functional>
 #include <memory>
@@ -262,6 +264,43 @@ private Q_SLOTS:
         QCOMPARE(asUser(first, [] { return getRegValue("FileNumber"); }), " 4");
         QCOMPARE(asUser(second, [] { return getRegValue("TodayNumber"); }), "1");
         QCOMPARE(asUser(first, [] { return getRegValue("TodayNumber"); }), "3");
+    }
+
+    // Users refused the same index at the same moment are each offered a number of their
+    // own: the reading of the held numbers and the raising of the counter are one step.
+    void numbersHeldAtOnce_data() { addPlaces(); }
+    void numbersHeldAtOnce()
+    {
+        REGISTER_OR_SKIP(reg);
+        const QDate today(2024, 3, 5);
+        constexpr int Each = 12;
+        QStringList offered[2];
+        QString failures[2];
+        std::vector<std::unique_ptr<QThread>> users;
+        for (int user = 0; user < 2; ++user) {
+            users.emplace_back(QThread::create([&, user] {
+                try {
+                    Connection connection(plainConnectionString());
+                    connection.open();
+                    for (int i = 0; i < Each; ++i)
+                        offered[user]
+                            << reserveFreeRegIndex(connection, QStringLiteral("AGR-20240305/1"), today);
+                } catch (const Error& error) {
+                    failures[user] = error.description();
+                }
+            }));
+        }
+        for (const auto& thread : users)
+            thread->start();
+        for (const auto& thread : users)
+            QVERIFY(thread->wait(60000));
+        QCOMPARE(failures[0], QString());
+        QCOMPARE(failures[1], QString());
+        const QStringList all = offered[0] + offered[1];
+        QCOMPARE(QSet<QString>(all.begin(), all.end()).size(), 2 * Each);
+        Connection connection(plainConnectionString());
+        connection.open();
+        QCOMPARE(dayCounterValue(connection, today), 2 * Each + 1);
     }
 
     // The category dialog open on a category another program deletes.
