@@ -302,9 +302,14 @@ private Q_SLOTS:
         held("AGR-20240305/8");
         releaseRegIndex(connection, "AGR-20240305/8", today);
         QCOMPARE(dayCounterValue(connection, today), 8);
+        // Nor one another user counted past meanwhile.
+        QCOMPARE(reserveFreeRegIndex(connection, "AGR-20240305/3", today), QString("AGR-20240305/9"));
+        raiseDayCounter(connection, today, 10);
+        releaseRegIndex(connection, "AGR-20240305/9", today);
+        QCOMPARE(dayCounterValue(connection, today), 10);
         // An index of no day reserves nothing.
         QCOMPARE(reserveFreeRegIndex(connection, "Sutartis 5", today), QString("Sutartis 6"));
-        QCOMPARE(dayCounterValue(connection, today), 8);
+        QCOMPARE(dayCounterValue(connection, today), 10);
     }
 
     void dayNumberOf_data()
