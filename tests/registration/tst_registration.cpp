@@ -8,6 +8,7 @@
 #include "registration/OfficeDocuments.h"
 #include "registration/RegIndex.h"
 #include "store/engine/Connection.h"
+#include "store/engine/Recordset.h"
 #include "store/engine/Value.h"
 
 #include <QDir>
@@ -310,6 +311,15 @@ private Q_SLOTS:
         // An index of no day reserves nothing.
         QCOMPARE(reserveFreeRegIndex(connection, "Sutartis 5", today), QString("Sutartis 6"));
         QCOMPARE(dayCounterValue(connection, today), 10);
+        // A draw that fails leaves no transaction open: what the connection writes next is stored.
+        connection.execute("DROP TABLE tbl_Day_Counter");
+        QVERIFY_THROWS_EXCEPTION(Error, reserveFreeRegIndex(connection, "AGR-20240305/3", today));
+        connection.execute("INSERT INTO tbl_Contacts (FullName) VALUES ('After')");
+        Connection other;
+        other.open(reg.connectionString());
+        Recordset after;
+        after.open(QString("SELECT COUNT(*) AS N FROM tbl_Contacts WHERE FullName = 'After'"), other);
+        QCOMPARE(after.fields(QString("N")).value().toInt(), 1);
     }
 
     void dayNumberOf_data()
