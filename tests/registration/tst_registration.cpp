@@ -311,6 +311,8 @@ private Q_SLOTS:
         // An index of no day reserves nothing.
         QCOMPARE(reserveFreeRegIndex(connection, "Sutartis 5", today), QString("Sutartis 6"));
         QCOMPARE(dayCounterValue(connection, today), 10);
+        QCOMPARE(reserveFreeRegIndex(connection, "Sutartis 5", today.addDays(5)), QString("Sutartis 6"));
+        QCOMPARE(dayCounterValue(connection, today.addDays(5)), -1);
         // A draw that fails leaves no transaction open: what the connection writes next is stored.
         connection.execute("DROP TABLE tbl_Day_Counter");
         QVERIFY_THROWS_EXCEPTION(Error, reserveFreeRegIndex(connection, "AGR-20240305/3", today));
@@ -320,6 +322,27 @@ private Q_SLOTS:
         Recordset after;
         after.open(QString("SELECT COUNT(*) AS N FROM tbl_Contacts WHERE FullName = 'After'"), other);
         QCOMPARE(after.fields(QString("N")).value().toInt(), 1);
+    }
+
+    // The register keeps the day's counter from the schema that made its table on.
+    void dayCounterFromItsSchema_data()
+    {
+        QTest::addColumn<int>("version");
+        QTest::addColumn<bool>("keeps");
+        QTest::newRow("before the counter") << 4 << false;
+        QTest::newRow("the counter's own") << 5 << true;
+        QTest::newRow("later") << 6 << true;
+    }
+
+    void dayCounterFromItsSchema()
+    {
+        QFETCH(int, version);
+        QFETCH(bool, keeps);
+        TestRegister reg;
+        reg.exec(QString("PRAGMA user_version = %1").arg(version));
+        Connection connection;
+        connection.open(reg.connectionString());
+        QCOMPARE(registerKeepsDayCounter(connection), keeps);
     }
 
     void dayNumberOf_data()
