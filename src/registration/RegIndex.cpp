@@ -19,6 +19,12 @@ namespace kartella {
 
 namespace {
 
+// The lock that every writer of registration indexes queues on, whichever way it writes.
+QString indexLock()
+{
+    return QStringLiteral("registration index");
+}
+
 QString option(const char* name)
 {
     return getRegValue(QLatin1String(name));
@@ -208,7 +214,7 @@ auto withIndexLock(Connection& connection, Work work)
 {
     connection.beginTrans();
     try {
-        connection.lockForWriting(QStringLiteral("registration index"));
+        connection.lockForWriting(indexLock());
         auto result = work();
         connection.commitTrans();
         return result;
@@ -255,7 +261,7 @@ void releaseRegIndex(Connection& connection, const QString& index, const QDate& 
 void guardRegIndex(Recordset& document, std::function<QString()> index, qint32 documentId)
 {
     auto check = [index, documentId](Connection& connection) {
-        connection.lockForWriting(QStringLiteral("registration index"));
+        connection.lockForWriting(indexLock());
         const QString text = index();
         if (!text.trimmed().isEmpty() && regIndexTaken(connection, text, documentId))
             throw Error(ErrorNumber::DuplicateValue,

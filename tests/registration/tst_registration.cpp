@@ -312,6 +312,11 @@ private Q_SLOTS:
         QCOMPARE(reserveFreeRegIndex(connection, "Sutartis 5", today), QString("Sutartis 6"));
         QCOMPARE(dayCounterValue(connection, today), 10);
         QCOMPARE(reserveFreeRegIndex(connection, "Sutartis 5", today.addDays(5)), QString("Sutartis 6"));
+        // Past the highest held with the same text before the number, and no other text.
+        held("Sutartis 9");
+        held("sutartis 10");
+        held("Sutartis A 12");
+        QCOMPARE(reserveFreeRegIndex(connection, "Sutartis 5", today), QString("Sutartis 11"));
         QCOMPARE(dayCounterValue(connection, today.addDays(5)), -1);
         // A draw that fails leaves no transaction open: what the connection writes next is stored.
         connection.execute("DROP TABLE tbl_Day_Counter");
@@ -500,6 +505,17 @@ private Q_SLOTS:
         const QVariant argument = categoryArgument(category, known);
         QCOMPARE(errorOf([&] { makeNewFileName("Sutartis", ".doc", Folder, argument, "A/1"); }), error);
         QCOMPARE(getRegValue("FileNumber"), fileNumber);
+        // The counter's own end is told in words of its own.
+        if (error == 6) {
+            QString told;
+            try {
+                makeFileNumberName(known);
+            } catch (const Error& failure) {
+                told = failure.description();
+            }
+            QVERIFY2(told.contains("FileNumber can't go past 32767") == (fileNumber == " 32767"),
+                qPrintable(told));
+        }
     }
 
     void descriptionsAndCleaning()
