@@ -312,6 +312,14 @@ private Q_SLOTS:
         QCOMPARE(reserveFreeRegIndex(connection, "Sutartis 5", today), QString("Sutartis 6"));
         QCOMPARE(dayCounterValue(connection, today), 10);
         QCOMPARE(reserveFreeRegIndex(connection, "Sutartis 5", today.addDays(5)), QString("Sutartis 6"));
+        // The first number of a day given back and drawn again.
+        const QDate later = today.addDays(9);
+        QCOMPARE(reserveFreeRegIndex(connection, "AGR-20240314/1", later), QString("AGR-20240314/2"));
+        releaseRegIndex(connection, "AGR-20240314/2", later);
+        releaseRegIndex(connection, "AGR-20240314/1", later);
+        QCOMPARE(dayCounterValue(connection, later), 0);
+        QCOMPARE(reserveFreeRegIndex(connection, "AGR-20240314/0", later), QString("AGR-20240314/1"));
+        QCOMPARE(dayCounterValue(connection, later), 1);
         // Past the highest held with the same text before the number, and no other text.
         held("Sutartis 9");
         held("sutartis 10");
