@@ -13,6 +13,7 @@
 #include <QTest>
 #include <QThread>
 
+#include <algorithm>
 #include <csignal>
 
 using namespace kartella;
@@ -170,15 +171,19 @@ void KilledTest::killedMigrationIsWholeOrNothing()
     whole.start(child, {m_dir.filePath("timed-migration.mdb"), count});
     QVERIFY(whole.waitForFinished(120000));
     QCOMPARE(whole.exitCode(), 0);
-    const int total = int(clock.elapsed());
+    int total = int(clock.elapsed());
     QCOMPARE(
         countThroughEngine(m_dir.filePath("timed-migration.mdb"), "tbl_Contacts"), qint64(MigratedContacts));
 
     int killed = 0;
     for (int point = 1; point <= KillPoints; ++point) {
         const QString target = m_dir.filePath(QStringLiteral("migration%1.mdb").arg(point));
+        QElapsedTimer run;
+        run.start();
         if (killAfter({target, count}, total * point / (KillPoints + 1), child))
             ++killed;
+        else // a busy machine timed the whole run slower than it runs now: aim by this one
+            total = std::min(total, int(run.elapsed()));
         const QByteArray where
             = "killed at " + QByteArray::number(point) + '/' + QByteArray::number(KillPoints);
         if (!QFile::exists(target) || QFile(target).size() == 0)
