@@ -85,11 +85,4 @@ void keep(std::unique_ptr<PostgresBackend> session)
     }
 }
 
-void closeAll()
-{
-    std::vector<Kept> closing;
-    const QMutexLocker lock(&g_mutex);
-    closing.swap(kept());
-}
-
 } // namespace kartella::engine::PostgresSessions

@@ -21,8 +21,6 @@ namespace PostgresSessions {
 std::unique_ptr<PostgresBackend> take(const QString& location, int lockWaitMs);
 // Keeps the session for later when it can be used again, else closes it.
 void keep(std::unique_ptr<PostgresBackend> session);
-// Closes every kept session (a test's server going away, the program's end).
-void closeAll();
 
 // How many sessions are kept at most, and for how long.
 constexpr int MaxKept = 4;
