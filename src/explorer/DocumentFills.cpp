@@ -93,7 +93,7 @@ void DocumentFills::fill(const QString& sql, Mode mode, qint16 letterCode, const
         : (mode == Mode::Letter ? DocumentPaging::Mode::Letter : DocumentPaging::Mode::Contact);
     // Counting first: a query that fails leaves the list as it was.
     auto pages = std::make_unique<DocumentPages>(
-        sql, paging, m_selection.currentContactId, QChar(char16_t(letterCode)));
+        sql, paging, m_selection.currentContactId, QChar(char16_t(letterCode)), terms);
     pages->setSearch(ranking, terms);
     if (!pages->queryHasRows()) {
         showEmptyList();

@@ -24,8 +24,8 @@ const QString FoundTable = QStringLiteral("search_found");
 
 } // namespace
 
-DocumentPages::DocumentPages(
-    const QString& listSql, DocumentPaging::Mode mode, qint32 contactId, QChar letter)
+DocumentPages::DocumentPages(const QString& listSql, DocumentPaging::Mode mode, qint32 contactId,
+    QChar letter, const QList<SearchTerm>& searchTerms)
     : m_paging(listSql, mode, contactId, letter)
     , m_connection(std::make_unique<Connection>())
 {
@@ -37,7 +37,7 @@ DocumentPages::DocumentPages(
         m_connection->execute(QStringLiteral("DROP TABLE IF EXISTS temp.") + FoundTable);
         m_connection->execute(QStringLiteral("CREATE TEMP TABLE ") + FoundTable
             + QStringLiteral(" (RastasID INTEGER PRIMARY KEY)"));
-        m_connection->execute(m_paging.keepRowsSql(FoundTable));
+        keepFoundRows(searchTerms);
         m_paging.readKeptRows(FoundTable);
     }
     Recordset rs;
@@ -47,6 +47,25 @@ DocumentPages::DocumentPages(
 }
 
 DocumentPages::~DocumentPages() = default;
+
+void DocumentPages::keepFoundRows(const QList<SearchTerm>& terms)
+{
+    if (!terms.isEmpty()) {
+        const SearchIndexes indexes = searchIndexes(*m_connection);
+        // The direction and the dates follow the terms' condition.
+        const QString byTerms = searchTermsCondition(terms, indexes);
+        const QString& condition = m_paging.condition();
+        const QString And = QStringLiteral(" AND ");
+        if (SearchHits::canKeep(indexes) && condition.startsWith(byTerms)
+            && (condition.size() == byTerms.size()
+                || QStringView(condition).mid(byTerms.size()).startsWith(And))) {
+            m_hits.keep(
+                *m_connection, FoundTable, terms, indexes, condition.mid(byTerms.size() + And.size()));
+            return;
+        }
+    }
+    m_connection->execute(m_paging.keepRowsSql(FoundTable));
+}
 
 void DocumentPages::setPageSize(int rows)
 {
@@ -63,7 +82,7 @@ void DocumentPages::setSearch(const SearchRanking& ranking, const QList<SearchTe
     m_passageTerms.clear();
     // On a register file the terms are counted as they are ranked: that tells whether any
     // file holds one.
-    const SearchRanking prepared = prepareRanking(*m_connection, ranking);
+    const SearchRanking prepared = prepareRanking(*m_connection, ranking, BroadHits, m_hits.contentHits());
     if (!prepared.anyHit.isEmpty() && ranking.fullTextQueries.isEmpty()) {
         Recordset rs;
         rs.open(prepared.anyHit, *m_connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);

@@ -3,6 +3,7 @@
 #include "explorer/DocumentPaging.h"
 #include "explorer/DocumentSearch.h"
 #include "explorer/ListModel.h"
+#include "explorer/SearchHits.h"
 
 #include <QHash>
 
@@ -26,7 +27,9 @@ class Recordset;
 class DocumentPages : public ListRowSource
 {
 public:
-    DocumentPages(const QString& listSql, DocumentPaging::Mode mode, qint32 contactId = 0, QChar letter = {});
+    // The terms of a search let a register file find its documents term by term.
+    DocumentPages(const QString& listSql, DocumentPaging::Mode mode, qint32 contactId = 0, QChar letter = {},
+        const QList<SearchTerm>& searchTerms = {});
     ~DocumentPages() override;
 
     // The rows of a search: in the ranking's order while the list has no sort of its own, each
@@ -66,9 +69,11 @@ private:
     void dropPages();
 
     void addPassages(std::vector<ListItem>& rows);
+    void keepFoundRows(const QList<SearchTerm>& terms);
 
     DocumentPaging m_paging;
     QList<SearchTerm> m_passageTerms;
+    SearchHits m_hits;
     std::unique_ptr<Connection> m_connection;
     int m_count = 0;
     int m_pagesRead = 0;

@@ -40,6 +40,8 @@ public:
     void setRanking(const QString& join, const QString& key);
     // Whether the list is a search through the index of the documents' fields or files.
     bool searchesIndexes() const;
+    // The list query's condition (its WHERE clause).
+    const QString& condition() const { return m_condition; }
     // Statements, separated by semicolons, that copy the ids of the list query's documents
     // (before the letter's or the contact's condition) into the temporary table `table`
     // (RastasID INTEGER PRIMARY KEY) of the connection that reads the list.

@@ -53,25 +53,32 @@ QString contains(const QString& text, const QString& piece)
         + QStringLiteral(") > 0");
 }
 
-// The documents whose fields hold the term, as a query of their ids; empty without an index.
-QString fieldIds(const SearchTerm& term, SearchIndexKind index)
+// The condition on the fields' index that finds the term there.
+QString fieldCondition(const SearchTerm& term, SearchIndexKind index)
 {
     switch (index) {
-    case SearchIndexKind::FullText: {
-        const QString table = QLatin1String(SearchTable);
-        const QString condition = indexable(term.text)
-            ? table + QStringLiteral(" MATCH ") + sqlString(ftsString(term.text))
+    case SearchIndexKind::FullText:
+        return indexable(term.text)
+            ? QLatin1String(SearchTable) + QStringLiteral(" MATCH ") + sqlString(ftsString(term.text))
             : contains(QStringLiteral("FoldedText"), term.text);
-        return QStringLiteral("SELECT rowid FROM ") + table + QStringLiteral(" WHERE ") + condition;
-    }
     case SearchIndexKind::Table:
         // Like finds the piece, through the trigram index where there is one.
-        return QStringLiteral("SELECT RastasID FROM ") + QLatin1String(SearchTable)
-            + QStringLiteral(" WHERE FoldedText LIKE ") + sqlLikeText(term.text, LikeMatch::Anywhere);
+        return QStringLiteral("FoldedText LIKE ") + sqlLikeText(term.text, LikeMatch::Anywhere);
     case SearchIndexKind::None:
         break;
     }
     return {};
+}
+
+// The documents whose fields hold the term, as a query of their ids; empty without an index.
+QString fieldIds(const SearchTerm& term, SearchIndexKind index)
+{
+    if (index == SearchIndexKind::None)
+        return {};
+    const QString id
+        = index == SearchIndexKind::FullText ? QStringLiteral("rowid") : QStringLiteral("RastasID");
+    return QStringLiteral("SELECT %1 FROM %2 WHERE ").arg(id, QLatin1String(SearchTable))
+        + fieldCondition(term, index);
 }
 
 // The term as an FTS5 query: a string is a phrase of the words the tokenizer finds in it.
@@ -92,6 +99,12 @@ QString textQuery(const SearchTerm& term)
     return QStringLiteral("phraseto_tsquery('simple', fold_search_text(%1))").arg(sqlString(term.text));
 }
 
+// The condition on the FTS5 index of the files' text that finds the term there.
+QString contentMatch(const SearchTerm& term)
+{
+    return QStringLiteral("%1 MATCH %2").arg(QLatin1String(ContentSearchTable), sqlString(ftsQuery(term)));
+}
+
 // The documents whose file's text holds the term, as a query of their ids; empty without
 // an index, or for a term without a word.
 QString contentIds(const SearchTerm& term, ContentIndexKind index)
@@ -100,8 +113,8 @@ QString contentIds(const SearchTerm& term, ContentIndexKind index)
         return {};
     switch (index) {
     case ContentIndexKind::FullText:
-        return QStringLiteral("SELECT rowid FROM %1 WHERE %1 MATCH %2")
-            .arg(QLatin1String(ContentSearchTable), sqlString(ftsQuery(term)));
+        return QStringLiteral("SELECT rowid FROM %1 WHERE ").arg(QLatin1String(ContentSearchTable))
+            + contentMatch(term);
     case ContentIndexKind::TextVector:
         return QStringLiteral("SELECT RastasID FROM tbl_Document_Text WHERE BodyWords @@ ") + textQuery(term);
     case ContentIndexKind::None:
@@ -193,14 +206,46 @@ SearchIndexes registerSearchIndexes()
     return indexes;
 }
 
-QString searchListSql(const QList<SearchTerm>& terms, const SearchIndexes& indexes, int direction,
-    bool withinDates, const QDate& start, const QDate& end)
+QString SearchPart::ids() const
+{
+    return QStringLiteral("SELECT rowid FROM ") + table + QStringLiteral(" WHERE ") + condition;
+}
+
+QString searchTermsCondition(const QList<SearchTerm>& terms, const SearchIndexes& indexes)
 {
     QStringList conditions;
     for (const SearchTerm& term : terms)
         conditions << termCondition(term, indexes);
-    QString sql = documentSql() + QStringLiteral("WHERE ");
-    sql += conditions.isEmpty() ? QStringLiteral("0 = 1") : conditions.join(QStringLiteral(" AND "));
+    return conditions.isEmpty() ? QStringLiteral("0 = 1") : conditions.join(QStringLiteral(" AND "));
+}
+
+QList<SearchPart> searchParts(const SearchTerm& term, const SearchIndexes& indexes)
+{
+    if (indexes.fields != SearchIndexKind::FullText)
+        return {};
+    SearchPart fields;
+    fields.table = QLatin1String(SearchTable);
+    fields.condition = fieldCondition(term, indexes.fields);
+    fields.scans = !indexable(term.text);
+    QList<SearchPart> parts {fields};
+    if (indexes.content == ContentIndexKind::FullText && hasWord(term)) {
+        SearchPart content;
+        content.table = QLatin1String(ContentSearchTable);
+        content.condition = contentMatch(term);
+        content.contentQuery = ftsQuery(term);
+        content.wholeAtOnce = term.prefix;
+        content.word = !term.prefix && std::all_of(term.text.cbegin(), term.text.cend(), [](QChar c) {
+            return c.isLetterOrNumber();
+        });
+        parts << content;
+    }
+    return parts;
+}
+
+QString searchListSql(const QList<SearchTerm>& terms, const SearchIndexes& indexes, int direction,
+    bool withinDates, const QDate& start, const QDate& end)
+{
+    QString sql = documentSql() + QStringLiteral("WHERE ") + searchTermsCondition(terms, indexes);
     if (direction != 0)
         sql += QStringLiteral(" AND tbl_Documents.KryptisID=") + QString::number(direction);
     if (withinDates)
@@ -248,22 +293,31 @@ SearchRanking searchRanking(const QList<SearchTerm>& terms, const SearchIndexes&
     return ranking;
 }
 
-SearchRanking prepareRanking(Connection& connection, const SearchRanking& ranking, qint64 broadHits)
+qint64 broadHitCount(Connection& connection, qint64 broadHits)
+{
+    // The index's own count of its rows (one per text) is small to read; the texts are not.
+    const qint64 texts = countOf(connection,
+        QStringLiteral("SELECT COUNT(*) AS N FROM %1_docsize").arg(QLatin1String(ContentSearchTable)));
+    return std::max(broadHits, (texts + 1) / 2);
+}
+
+SearchRanking prepareRanking(Connection& connection, const SearchRanking& ranking, qint64 broadHits,
+    const QHash<QString, qint64>& knownHits)
 {
     if (ranking.fullTextQueries.isEmpty())
         return ranking;
     const QString table = QLatin1String(ContentSearchTable);
-    // The index's own count of its rows (one per text) is small to read; the texts are not.
-    const qint64 texts
-        = countOf(connection, QStringLiteral("SELECT COUNT(*) AS N FROM %1_docsize").arg(table));
+    const qint64 broad = broadHitCount(connection, broadHits);
     QStringList ranked;
     bool anyHit = false;
     for (const QString& query : ranking.fullTextQueries) {
         // Counted only as far as it takes to know the term is broad.
-        const qint64 broad = std::max(broadHits, (texts + 1) / 2);
-        const qint64 hits = countOf(connection,
-            QStringLiteral("SELECT COUNT(*) AS N FROM (SELECT rowid FROM %1 WHERE %1 MATCH %2 LIMIT %3)")
-                .arg(table, sqlString(query), QString::number(broad)));
+        const auto known = knownHits.constFind(query);
+        const qint64 hits = known != knownHits.cend()
+            ? *known
+            : countOf(connection,
+                QStringLiteral("SELECT COUNT(*) AS N FROM (SELECT rowid FROM %1 WHERE %1 MATCH %2 LIMIT %3)")
+                    .arg(table, sqlString(query), QString::number(broad)));
         anyHit = anyHit || hits > 0;
         if (hits > 0 && hits < broad)
             ranked << query;

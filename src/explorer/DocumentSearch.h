@@ -3,6 +3,7 @@
 #include "store/SearchIndex.h"
 
 #include <QDate>
+#include <QHash>
 #include <QList>
 #include <QString>
 
@@ -57,6 +58,32 @@ SearchIndexes registerSearchIndexes();
 // clause; the date range applies when withinDates is true.
 QString searchListSql(const QList<SearchTerm>& terms, const SearchIndexes& indexes, int direction,
     bool withinDates, const QDate& start, const QDate& end);
+// The part of the list query's WHERE clause that finds the terms; the direction and the
+// dates follow it, after " AND ".
+QString searchTermsCondition(const QList<SearchTerm>& terms, const SearchIndexes& indexes);
+
+// One place where a term is looked for, on a register file whose fields have their FTS5
+// index: the rows of an index (whose rowid is the document's id) that meet a condition.
+struct SearchPart
+{
+    QString table;
+    QString condition;
+    // The FTS5 query of the files' text, as searchRanking() gives it; empty for the fields.
+    QString contentQuery;
+    // A word of the files' text alone: its documents are counted without reading its places.
+    bool word = false;
+    // A prefix of the files' words: the index reads every word it starts, for every
+    // document, at each use, so it is never looked up one document at a time.
+    bool wholeAtOnce = false;
+    // A piece too short for the trigrams: every document's fields are read to find it.
+    bool scans = false;
+
+    // SELECT rowid FROM the index WHERE the condition.
+    QString ids() const;
+};
+// The places of a term: its fields, then the files' text where the register has its index.
+// Empty when the fields have no FTS5 index.
+QList<SearchPart> searchParts(const SearchTerm& term, const SearchIndexes& indexes);
 
 // The order of the results: the documents whose file's text holds a term first, best first
 // (BM25 on a register file, ts_rank on a server), then the others by registration date (a
@@ -74,6 +101,9 @@ struct SearchRanking
 
 SearchRanking searchRanking(const QList<SearchTerm>& terms, const SearchIndexes& indexes);
 
+// The fewest hits that make a term broad, whatever the register's size.
+inline constexpr qint64 BroadHits = 5000;
+
 // The ranking of one search, made once on the connection that then reads its list. On a
 // register file the ranks of the hits are kept in a temporary table of that connection, so
 // that neither a page nor the position of a row ranks every hit again. A term found in the
@@ -81,7 +111,14 @@ SearchRanking searchRanking(const QList<SearchTerm>& terms, const SearchIndexes&
 // gives such a word no weight, and ranking nearly every document of a large register takes
 // seconds. A search of such words alone lists its results by date. Elsewhere the ranking is
 // given back as it is. Throws kartella::Error.
-SearchRanking prepareRanking(Connection& connection, const SearchRanking& ranking, qint64 broadHits = 5000);
+//
+// `knownHits` gives the hits of queries already counted (as far as broadHitCount() or whole),
+// which are then not counted again.
+SearchRanking prepareRanking(Connection& connection, const SearchRanking& ranking,
+    qint64 broadHits = BroadHits, const QHash<QString, qint64>& knownHits = {});
+// The hits from which a term of the files' text is broad: `broadHits`, or half of the texts
+// when that is more. Throws kartella::Error.
+qint64 broadHitCount(Connection& connection, qint64 broadHits = BroadHits);
 
 // The marks around the hit in a passage.
 inline constexpr char16_t PassageHitStart = u'\x02';

@@ -4,6 +4,7 @@
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
 
+#include <QHash>
 #include <QStringList>
 
 namespace kartella {
@@ -25,22 +26,44 @@ bool isWordCharacter(QChar c)
     return c.isLetterOrNumber() || c.isMark();
 }
 
-// A word as the index keeps it: diacritics dropped, case folded.
-QString foldWord(const QString& word)
+// A character as the index keeps it: its diacritics dropped, its case folded. Each one is
+// worked out once; NFD decomposes a character alone, so a word folds character by character.
+const QString& foldedCharacter(QChar c)
 {
-    bool plain = true;
-    for (const QChar c : word)
-        plain = plain && c.unicode() < 0x80;
-    if (plain)
-        return word.toLower();
-    QString folded;
-    const QString decomposed = word.normalized(QString::NormalizationForm_D);
-    folded.reserve(decomposed.size());
-    for (const QChar c : decomposed) {
-        if (!c.isMark())
-            folded += c;
+    thread_local QHash<char16_t, QString> folded;
+    auto found = folded.constFind(c.unicode());
+    if (found != folded.cend())
+        return *found;
+    QString base;
+    for (const QChar part : QString(c).normalized(QString::NormalizationForm_D)) {
+        if (!part.isMark())
+            base += part;
     }
-    return folded.toCaseFolded();
+    return *folded.insert(c.unicode(), base.toCaseFolded());
+}
+
+// A word as the index keeps it: diacritics dropped, case folded.
+QString foldWord(QStringView word)
+{
+    QString folded;
+    folded.reserve(word.size());
+    for (const QChar c : word) {
+        const char16_t u = c.unicode();
+        if (u < 0x80) {
+            folded += u >= u'A' && u <= u'Z' ? QChar(u + (u'a' - u'A')) : c;
+        } else if (c.isSurrogate()) {
+            // A character beyond the first plane: the word is folded whole.
+            QString whole;
+            for (const QChar part : word.toString().normalized(QString::NormalizationForm_D)) {
+                if (!part.isMark())
+                    whole += part;
+            }
+            return whole.toCaseFolded();
+        } else {
+            folded += foldedCharacter(c);
+        }
+    }
+    return folded;
 }
 
 // The words of a text from `from` on, as far as `count` of them (all when -1).
@@ -58,7 +81,7 @@ QList<Word> wordsOf(const QString& text, qsizetype from = 0, int count = -1)
         while (at < text.size() && isWordCharacter(text[at]))
             ++at;
         word.end = at;
-        word.folded = foldWord(text.mid(word.start, word.end - word.start));
+        word.folded = foldWord(QStringView(text).mid(word.start, word.end - word.start));
         words << word;
         if (count > 0)
             --count;

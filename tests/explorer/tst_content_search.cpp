@@ -4,6 +4,7 @@
 #include "base/Error.h"
 #include "explorer/DocumentPaging.h"
 #include "explorer/DocumentSearch.h"
+#include "explorer/SearchHits.h"
 #include "harness/ServerDatabase.h"
 #include "harness/TestRegister.h"
 #include "store/SchemaSteps.h"
@@ -84,6 +85,8 @@ bool indexIsWhole(const TestRegister& reg)
 class ContentSearchTest : public QObject
 {
     Q_OBJECT
+
+    std::unique_ptr<TestRegister> m_manyDocuments;
 
 private Q_SLOTS:
     static void places()
@@ -204,6 +207,93 @@ private Q_SLOTS:
         QCOMPARE(found(reg, QStringLiteral("sutartis"), broadHits),
             byDate ? Ids({earlier, once, often, later}) : Ids({often, once, earlier, later}));
         QCOMPARE(found(reg, QStringLiteral("planais"), broadHits), Ids({once}));
+    }
+
+    // The documents kept term by term, rarest first, are those the list query finds: whichever
+    // term comes first, whether few documents are kept (each looked up) or many (each term
+    // read once), with a prefix, a phrase, a piece too short for the trigrams, a direction and
+    // dates.
+    void keptRowsAreThoseTheQueryFinds_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("direction");
+        QTest::addColumn<bool>("withinDates");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("a word of the text") << "sutartis" << 0 << false << 1;
+        QTest::newRow("a word of every filler") << "apmokejimas" << 0 << false << 301;
+        QTest::newRow("the rare term second") << "saskaita 17" << 0 << false << 13;
+        QTest::newRow("the rare term first") << "17 saskaita" << 0 << false << 13;
+        QTest::newRow("fields and text, many kept") << "saskaita apmokejimas" << 0 << false << 301;
+        QTest::newRow("a prefix after a rare term") << "aktas siaul*" << 0 << false << 1;
+        QTest::newRow("a prefix after many") << "saskaita apmok*" << 0 << false << 301;
+        QTest::newRow("a prefix first") << "apmok* 250" << 0 << false << 1;
+        QTest::newRow("a phrase") << "\"banko paskolos\" siauliu" << 0 << false << 1;
+        QTest::newRow("a short piece") << "ir" << 0 << false << 300;
+        QTest::newRow("a short piece after a rarer term") << "2 ir" << 0 << false << 138;
+        QTest::newRow("a short piece of the fields only") << "ko" << 0 << false << 1;
+        QTest::newRow("no document") << "sutartis nerasta" << 0 << false << 0;
+        QTest::newRow("a direction") << "saskaita" << 2 << false << 100;
+        QTest::newRow("dates") << "apmokejimas" << 0 << true << 31;
+        QTest::newRow("a direction and dates") << "ir apmokejimas" << 3 << true << 10;
+    }
+
+    void keptRowsAreThoseTheQueryFinds()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, direction);
+        QFETCH(bool, withinDates);
+        QFETCH(int, expected);
+        // One register for every row: more documents than are looked up one by one.
+        if (!m_manyDocuments) {
+            m_manyDocuments = std::make_unique<TestRegister>();
+            const TestRegister& reg = *m_manyDocuments;
+            addText(reg, addDocument(reg, QStringLiteral("Dokumentas 1")),
+                QStringLiteral("SUTARTIS dėl Šiaulių banko paskolos grąžinimo."));
+            addText(reg, addDocument(reg, QStringLiteral("Aktas")),
+                QStringLiteral("Priėmimo aktas, pasirašytas Šiaulių mieste"));
+            addText(reg, addDocument(reg, QStringLiteral("Banko sąskaita")),
+                QStringLiteral("Apmokėjimas grynaisiais"));
+            for (int n = 1; n <= 300; ++n) {
+                const qint32 id = reg.insert(QStringLiteral("tbl_Documents"),
+                    {{"DokAntraste", QStringLiteral("Sąskaita %1").arg(n)}, {"KryptisID", 1 + n % 3},
+                        {"DokRegistracData", QDate(2024, 1, 1).addDays(n)}});
+                addText(reg, id, QStringLiteral("Apmokėjimas ir grąžinimas %1").arg(n));
+            }
+        }
+
+        Connection connection;
+        connection.open(m_manyDocuments->connectionString());
+        const SearchIndexes indexes = searchIndexes(connection);
+        QVERIFY(SearchHits::canKeep(indexes));
+        const QList<SearchTerm> terms = searchTerms(text);
+        const QDate start(2024, 2, 1);
+        const QDate end(2024, 3, 2);
+        Ids queried;
+        Recordset rs;
+        rs.open(searchListSql(terms, indexes, direction, withinDates, start, end), connection);
+        while (!rs.eof()) {
+            queried << rs.fields(QStringLiteral("RastasID")).value().toInt();
+            rs.moveNext();
+        }
+        rs.close();
+        QCOMPARE(queried.size(), expected);
+
+        // The direction and the dates as they follow the terms in the list query.
+        QStringList filter;
+        if (direction != 0)
+            filter << QStringLiteral("tbl_Documents.KryptisID=%1").arg(direction);
+        if (withinDates)
+            filter << QStringLiteral("tbl_Documents.DokRegistracData between #2024-02-01# and #2024-03-02#");
+        connection.execute(QStringLiteral("CREATE TEMP TABLE kept (RastasID INTEGER PRIMARY KEY)"));
+        SearchHits hits;
+        hits.keep(connection, QStringLiteral("kept"), terms, indexes, filter.join(QStringLiteral(" AND ")));
+        Ids kept;
+        rs.open(QStringLiteral("SELECT RastasID FROM temp.kept"), connection);
+        while (!rs.eof()) {
+            kept << rs.fields(QStringLiteral("RastasID")).value().toInt();
+            rs.moveNext();
+        }
+        QCOMPARE(sorted(kept), sorted(queried));
     }
 
     void changedAndDeletedTextsLeaveTheIndex_data() { places(); }
