@@ -4,6 +4,7 @@
 // searches, the address book's opening, and the memory after scrolling the whole list.
 // The register is made once and kept in the build folder. Prints "name: value" lines.
 #include "addressbook/AddressBookWindow.h"
+#include "explorer/DeletedItemsNode.h"
 #include "explorer/ExplorerList.h"
 #include "explorer/ListModel.h"
 #include "explorer/MainWindow.h"
@@ -198,8 +199,11 @@ int main(int argc, char* argv[])
         }
     };
     QList<QTreeWidgetItem*> categoryNodes;
-    for (int i = 1; tree->nodeByIndex(i); ++i)
-        categoryNodes << tree->nodeByIndex(i);
+    // The deleted items open a window of their own, not the list.
+    for (int i = 1; tree->nodeByIndex(i); ++i) {
+        if (NavigationTree::nodeKey(tree->nodeByIndex(i)) != DeletedItemsKey)
+            categoryNodes << tree->nodeByIndex(i);
+    }
     for (int pass = 0; pass < 4; ++pass) {
         setRegValue(QStringLiteral("Filter"), pass % 2 ? QStringLiteral("1") : QStringLiteral("0"));
         direction->setCurrentIndex(pass < 2 ? 0 : 1);

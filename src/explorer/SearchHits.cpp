@@ -2,6 +2,7 @@
 
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
+#include "store/engine/SqlText.h"
 
 #include <algorithm>
 
@@ -31,11 +32,17 @@ qint64 countUpTo(Connection& connection, const QString& ids, qint64 limit)
         QStringLiteral("SELECT COUNT(*) AS N FROM (%1 LIMIT %2)").arg(ids, QString::number(limit)));
 }
 
+// The part's condition for the one document whose id is `id`.
+QString holdsRow(const SearchPart& part, const QString& id)
+{
+    return QStringLiteral("EXISTS (SELECT 1 FROM %1 WHERE %2 AND rowid = %3)")
+        .arg(part.table, part.condition, id);
+}
+
 // The part's condition for the one document of the kept row.
 QString holdsKeptRow(const SearchPart& part, const QString& table)
 {
-    return QStringLiteral("EXISTS (SELECT 1 FROM %1 WHERE %2 AND rowid = temp.%3.RastasID)")
-        .arg(part.table, part.condition, table);
+    return holdsRow(part, QStringLiteral("temp.%1.RastasID").arg(table));
 }
 
 } // namespace
@@ -55,23 +62,74 @@ void SearchHits::keep(Connection& connection, const QString& table, const QList<
         = indexes.content == ContentIndexKind::FullText ? broadHitCount(connection) : EstimateLimit;
     std::vector<Term> ordered;
     for (const SearchTerm& term : terms) {
-        Term counted {searchParts(term, indexes), 0};
-        for (const SearchPart& part : counted.parts)
-            counted.estimate += estimate(connection, part, broad);
+        Term counted {searchParts(term, indexes)};
+        for (const SearchPart& part : counted.parts) {
+            const qint64 hits = estimate(connection, part, broad);
+            counted.estimate += hits;
+            if (part.contentQuery.isEmpty())
+                counted.fieldHits = hits;
+            else
+                counted.inText = true;
+        }
         ordered.push_back(counted);
     }
     std::stable_sort(
         ordered.begin(), ordered.end(), [](const Term& a, const Term& b) { return a.estimate < b.estimate; });
     if (ordered.empty())
         return;
-    copyFirst(connection, ordered.front());
-    for (auto term = ordered.begin() + 1; term != ordered.end(); ++term)
-        dropWithout(connection, *term);
+    if (!keepByTheTextsIndex(connection, ordered)) {
+        copyFirst(connection, ordered.front());
+        for (auto term = ordered.begin() + 1; term != ordered.end(); ++term)
+            dropWithout(connection, *term);
+    }
     if (!filter.isEmpty()) {
         connection.execute(QStringLiteral("DELETE FROM temp.%1 WHERE NOT EXISTS (SELECT 1 FROM tbl_Documents "
                                           "WHERE tbl_Documents.RastasID = temp.%1.RastasID AND (%2))")
                                .arg(table, filter));
     }
+}
+
+bool SearchHits::keepByTheTextsIndex(Connection& connection, const std::vector<Term>& terms)
+{
+    // Worth it for several terms that are all words of the texts and rare in the fields.
+    qint64 inFields = 0;
+    for (const Term& term : terms) {
+        if (!term.inText || term.parts.front().scans)
+            return false;
+        inFields += term.fieldHits;
+    }
+    if (terms.size() < 2 || inFields > LookUpMost)
+        return false;
+    // The texts that hold every term, as the index joins its own lists.
+    QStringList queries;
+    for (const Term& term : terms)
+        queries << term.parts.back().contentQuery;
+    const QString& texts = terms.front().parts.back().table;
+    connection.execute(QStringLiteral("INSERT INTO temp.%1 (RastasID) SELECT rowid FROM %2 WHERE %2 MATCH %3")
+                           .arg(m_table, texts, sqlString(queries.join(QStringLiteral(" AND ")))));
+    // Then the few documents whose fields hold a term, each looked up for the others.
+    for (const Term& term : terms) {
+        if (term.fieldHits == 0)
+            continue;
+        QStringList others;
+        for (const Term& other : terms) {
+            if (&other == &term)
+                continue;
+            QStringList places;
+            for (const SearchPart& part : other.parts) {
+                places << (part.wholeAtOnce ? QStringLiteral("candidate.id IN (") + part.ids() + u')'
+                                            : holdsRow(part, QStringLiteral("candidate.id")));
+            }
+            others << u'(' + places.join(QStringLiteral(" OR ")) + u')';
+        }
+        // The index of an inner look-up may be the candidates' own: they are named apart.
+        connection.execute(
+            QStringLiteral("INSERT OR IGNORE INTO temp.%1 (RastasID) SELECT candidate.id FROM (SELECT "
+                           "rowid AS id FROM %2 WHERE %3) AS candidate WHERE %4")
+                .arg(m_table, term.parts.front().table, term.parts.front().condition,
+                    others.join(QStringLiteral(" AND "))));
+    }
+    return true;
 }
 
 qint64 SearchHits::estimate(Connection& connection, const SearchPart& part, qint64 broad)

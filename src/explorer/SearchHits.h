@@ -6,6 +6,8 @@
 #include <QList>
 #include <QString>
 
+#include <vector>
+
 namespace kartella {
 
 class Connection;
@@ -37,7 +39,10 @@ private:
     {
         QList<SearchPart> parts;
         qint64 estimate = 0;
+        qint64 fieldHits = 0;
+        bool inText = false;
     };
+    bool keepByTheTextsIndex(Connection& connection, const std::vector<Term>& terms);
     qint64 estimate(Connection& connection, const SearchPart& part, qint64 broad);
     void copyFirst(Connection& connection, const Term& term);
     void dropWithout(Connection& connection, const Term& term);

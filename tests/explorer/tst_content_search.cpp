@@ -231,6 +231,8 @@ private Q_SLOTS:
         QTest::newRow("a short piece") << "ir" << 0 << false << 300;
         QTest::newRow("a short piece after a rarer term") << "2 ir" << 0 << false << 138;
         QTest::newRow("a short piece of the fields only") << "ko" << 0 << false << 1;
+        QTest::newRow("one term in the fields, the other in the text")
+            << "banko apmokejimas" << 0 << false << 1;
         QTest::newRow("no document") << "sutartis nerasta" << 0 << false << 0;
         QTest::newRow("a direction") << "saskaita" << 2 << false << 100;
         QTest::newRow("dates") << "apmokejimas" << 0 << true << 31;
