@@ -2,8 +2,9 @@
 // --documents N) whose files' text is two pages each, of Lithuanian and English words drawn
 // from a vocabulary of about 5 000, the frequent ones far more often (as in real text).
 // Each search runs as the window runs it: the indexes looked up, the list of results
-// counted and its first page read with the passages. The register is made once and kept in
-// the build folder. Prints "name: value" lines.
+// counted and its first page read with the passages, to the first page shown (a search whose
+// results come by date shows it before they are counted) and to the count. The register is made once and kept
+// in the build folder. Prints "name: value" lines.
 #include "ContentBench.h"
 #include "explorer/DocumentFills.h"
 #include "explorer/DocumentSearch.h"
@@ -223,6 +224,7 @@ void kartella::bench::benchSearch(const QString& folder, QTextStream& out)
     SelectionState selection;
     DocumentFills fills(model, selection);
     std::vector<double> times;
+    std::vector<double> counted;
     const bool verbose = qEnvironmentVariableIsSet("KARTELLA_BENCH_VERBOSE");
     for (int round = 0; round < 3; ++round) {
         for (const QString& search : searches) {
@@ -241,12 +243,18 @@ void kartella::bench::benchSearch(const QString& folder, QTextStream& out)
             }
             const double ms = double(timer.nsecsElapsed()) / 1e6;
             times.push_back(ms);
+            // A search listed by date is counted on a thread of its own after its first page.
+            while (fills.findingSearch())
+                QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 5);
+            counted.push_back(double(timer.nsecsElapsed()) / 1e6);
             if (verbose && round == 0)
-                QTextStream(stderr) << search << ": " << rows << " rows, " << qRound(ms) << " ms\n";
+                QTextStream(stderr) << search << ": " << model.itemCount() << " rows, " << qRound(ms)
+                                    << " ms, counted at " << qRound(counted.back()) << " ms\n";
         }
     }
     out << "documents: " << documents << '\n';
     out << "content_search_p50_ms: " << qRound(percentile(times, 0.5)) << '\n';
     out << "content_search_p90_ms: " << qRound(percentile(times, 0.9)) << '\n';
     out << "content_search_max_ms: " << qRound(percentile(times, 1.0)) << '\n';
+    out << "content_search_counted_p90_ms: " << qRound(percentile(counted, 0.9)) << '\n';
 }

@@ -1171,6 +1171,10 @@ Ar norite juos įrašyti dabar?</translation>
         <translation>Objektų: %1</translation>
     </message>
     <message>
+        <source>Searching…</source>
+        <translation>Ieškoma…</translation>
+    </message>
+    <message>
         <source>Doc. Description</source>
         <translation>Dok. aprašymas</translation>
     </message>

@@ -20,7 +20,10 @@ const QString DocumentFills::PassageCaption = QString::fromUtf8(PassageSource);
 DocumentFills::DocumentFills(ListModel& model, SelectionState& selection)
     : m_model(model)
     , m_selection(selection)
-{ }
+{
+    QObject::connect(&m_finder, &SearchFinder::found, &m_finder,
+        [this](const std::shared_ptr<FoundSearch>& search) { showFoundSearch(search); });
+}
 
 QString DocumentFills::itemKey(qint32 id)
 {
@@ -50,6 +53,7 @@ void DocumentFills::setContactColumns()
 
 void DocumentFills::showEmptyList()
 {
+    m_finder.drop();
     m_model.setColumns({{tr("Documents"), 9000}});
     ListItem empty;
     empty.text = tr(EmptySource);
@@ -72,7 +76,50 @@ void DocumentFills::fillDocumentList(const QString& sql)
 void DocumentFills::fillSearchList(
     const QString& sql, const SearchRanking& ranking, const QList<SearchTerm>& terms)
 {
+    m_finder.drop();
+    // The first page ahead is the whole list's only in the list's own order, by date.
+    constexpr int DateColumn = 3;
+    if (!m_model.isSorted()
+        || (m_model.sortKey() == DateColumn && m_model.sortOrder() == Qt::AscendingOrder)) {
+        QHash<QString, qint64> contentHits;
+        if (std::unique_ptr<DocumentPages> first = DocumentPages::firstPageAhead(sql, terms, contentHits)) {
+            setDocumentColumns(first->hasPassages());
+            m_model.setSource(std::move(first));
+            if (setCount)
+                setCount(tr("Searching…"));
+            m_selection.documentListFilled = true;
+            m_finder.find(sql, ranking, terms, contentHits);
+            return;
+        }
+    }
     fill(sql, Mode::Category, 0, ranking, terms);
+}
+
+void DocumentFills::showFoundSearch(const std::shared_ptr<FoundSearch>& search)
+{
+    if (search->failed) {
+        // The first page stays; its count is what it shows.
+        if (setCount)
+            setCount(tr("%1 object(s)").arg(m_model.itemCount()));
+        if (reportError)
+            reportError(search->errorNumber, search->errorDescription);
+        return;
+    }
+    const auto handOver = [this, search] {
+        if (!search->hasRows || !search->pages) {
+            showEmptyList();
+            return;
+        }
+        setDocumentColumns(search->pages->hasPassages());
+        const int count = search->pages->count();
+        m_model.setSource(std::move(search->pages));
+        if (setCount)
+            setCount(tr("%1 object(s)").arg(count));
+    };
+    if (handOverSearch)
+        handOverSearch(handOver);
+    else
+        handOver();
 }
 
 void DocumentFills::fillLetterList(const QString& sql, qint16 letterCode)
@@ -88,6 +135,7 @@ void DocumentFills::fillContactDocumentList(const QString& sql)
 void DocumentFills::fill(const QString& sql, Mode mode, qint16 letterCode, const SearchRanking& ranking,
     const QList<SearchTerm>& terms)
 {
+    m_finder.drop();
     const DocumentPaging::Mode paging = mode == Mode::Category
         ? DocumentPaging::Mode::Category
         : (mode == Mode::Letter ? DocumentPaging::Mode::Letter : DocumentPaging::Mode::Contact);

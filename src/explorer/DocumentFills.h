@@ -2,6 +2,7 @@
 
 #include "explorer/DocumentSearch.h"
 #include "explorer/ListModel.h"
+#include "explorer/SearchFinder.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -28,12 +29,23 @@ public:
     std::function<void(const QString&)> setCount;
     // Called by the empty state: no document is selected any more.
     std::function<void()> disableDocumentCommands;
+    // Called with the hand-over of a search's whole list, which replaces its first page; the
+    // window keeps its selection around it.
+    std::function<void(const std::function<void()>& handOver)> handOverSearch;
+    // Called when finding a search's whole list failed.
+    std::function<void(long number, const QString& description)> reportError;
 
     // The fills throw kartella::Error when the query fails; the list then stays as it was.
     void fillDocumentList(const QString& sql);
     // The results of a search (searchListSql's query): ranked, and with a column of the
-    // passages of the files' texts when a document's file holds a term.
+    // passages of the files' texts when a document's file holds a term. A search whose
+    // results come by date shows its first page at once while the whole list is found on a
+    // thread of its own (the count says "Searching…" until then).
     void fillSearchList(const QString& sql, const SearchRanking& ranking, const QList<SearchTerm>& terms);
+    // Whether a search's whole list is still being found.
+    bool findingSearch() const { return m_finder.finding(); }
+    // The finder of searches' whole lists (for tests and benchmarks: its found signal).
+    const SearchFinder& searchFinder() const { return m_finder; }
     void fillLetterList(const QString& sql, qint16 letterCode);
     void fillContactDocumentList(const QString& sql);
     void showEmptyList();
@@ -56,8 +68,11 @@ private:
     void fill(const QString& sql, Mode mode, qint16 letterCode, const SearchRanking& ranking = {},
         const QList<SearchTerm>& terms = {});
 
+    void showFoundSearch(const std::shared_ptr<FoundSearch>& search);
+
     ListModel& m_model;
     SelectionState& m_selection;
+    SearchFinder m_finder;
 };
 
 } // namespace kartella

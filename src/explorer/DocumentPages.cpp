@@ -1,11 +1,14 @@
 #include "explorer/DocumentPages.h"
 
 #include "explorer/DocumentFills.h"
+#include "explorer/DocumentQueries.h"
 #include "explorer/IconCache.h"
+#include "explorer/SearchAhead.h"
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 #include "store/engine/EngineErrors.h"
 #include "store/engine/Recordset.h"
+#include "store/engine/Value.h"
 #include "support/BusyCursor.h"
 
 #include <QDate>
@@ -18,11 +21,75 @@ namespace kartella {
 namespace {
 
 int g_pageSize = 100;
+qint64 g_broadHits = BroadHits;
 
 // The documents a search found, on the connection that reads its list.
 const QString FoundTable = QStringLiteral("search_found");
 
+// The part of a search's list condition after its terms' (the direction and the dates),
+// empty when there is none; no value when the condition is not the search's of these terms.
+std::optional<QString> conditionAfterTerms(
+    const QString& condition, const QList<SearchTerm>& terms, const SearchIndexes& indexes)
+{
+    const QString byTerms = searchTermsCondition(terms, indexes);
+    const QString And = QStringLiteral(" AND ");
+    if (!condition.startsWith(byTerms))
+        return std::nullopt;
+    if (condition.size() == byTerms.size())
+        return QString();
+    if (!QStringView(condition).mid(byTerms.size()).startsWith(And))
+        return std::nullopt;
+    return condition.mid(byTerms.size() + And.size());
+}
+
 } // namespace
+
+DocumentPages::DocumentPages(const QString& listSql, std::unique_ptr<Connection> connection)
+    : m_paging(listSql, DocumentPaging::Mode::Category)
+    , m_connection(std::move(connection))
+{ }
+
+std::unique_ptr<DocumentPages> DocumentPages::firstPageAhead(
+    const QString& listSql, const QList<SearchTerm>& terms, QHash<QString, qint64>& contentHits)
+{
+    auto connection = std::make_unique<Connection>();
+    connection->setConnectionString(plainConnectionString());
+    connection->setMode(ConnectModeEnum::ShareDenyNone);
+    connection->open();
+    if (connection->dialect() != SqlDialect::Sqlite)
+        return nullptr;
+    const SearchIndexes indexes = searchIndexes(*connection);
+    const std::optional<QString> filter = conditionAfterTerms(
+        DocumentPaging(listSql, DocumentPaging::Mode::Category).condition(), terms, indexes);
+    if (!filter)
+        return nullptr;
+    const std::optional<SearchAhead> ahead = SearchAhead::of(*connection, terms, indexes, g_broadHits);
+    if (!ahead)
+        return nullptr;
+    // Terms that are each in most texts may still be seldom together: the first page is
+    // looked for among the first ten pages of documents by date.
+    bool complete = false;
+    const std::vector<qint32> ids
+        = ahead->firstIds(*connection, *filter, g_pageSize, 10 * g_pageSize, complete);
+    if (ids.empty() || (!complete && int(ids.size()) < g_pageSize))
+        return nullptr;
+    QStringList list;
+    for (const qint32 id : ids)
+        list << QString::number(id);
+    const QString sql = documentSql() + QStringLiteral("WHERE tbl_Documents.RastasID IN (") + list.join(u',')
+        + QStringLiteral(") ORDER BY tbl_Documents.DokRegistracData");
+    std::unique_ptr<DocumentPages> pages(new DocumentPages(sql, std::move(connection)));
+    pages->m_passageTerms = terms;
+    pages->m_count = int(ids.size());
+    pages->page(0);
+    contentHits = ahead->contentHits();
+    return pages;
+}
+
+void DocumentPages::setBroadHits(qint64 hits)
+{
+    g_broadHits = std::max<qint64>(1, hits);
+}
 
 DocumentPages::DocumentPages(const QString& listSql, DocumentPaging::Mode mode, qint32 contactId,
     QChar letter, const QList<SearchTerm>& searchTerms)
@@ -32,6 +99,21 @@ DocumentPages::DocumentPages(const QString& listSql, DocumentPaging::Mode mode, 
     m_connection->setConnectionString(plainConnectionString());
     if (mode != DocumentPaging::Mode::Letter)
         m_connection->setMode(ConnectModeEnum::ShareDenyNone);
+    findRows(searchTerms);
+}
+
+DocumentPages::DocumentPages(
+    const QString& listSql, const QList<SearchTerm>& searchTerms, const QString& connectionString)
+    : m_paging(listSql, DocumentPaging::Mode::Category)
+    , m_connection(std::make_unique<Connection>())
+{
+    m_connection->setConnectionString(connectionString);
+    m_connection->setMode(ConnectModeEnum::ShareDenyNone);
+    findRows(searchTerms);
+}
+
+void DocumentPages::findRows(const QList<SearchTerm>& searchTerms)
+{
     m_connection->open();
     if (m_paging.searchesIndexes() && m_connection->dialect() == SqlDialect::Sqlite) {
         m_connection->execute(QStringLiteral("DROP TABLE IF EXISTS temp.") + FoundTable);
@@ -53,14 +135,9 @@ void DocumentPages::keepFoundRows(const QList<SearchTerm>& terms)
     if (!terms.isEmpty()) {
         const SearchIndexes indexes = searchIndexes(*m_connection);
         // The direction and the dates follow the terms' condition.
-        const QString byTerms = searchTermsCondition(terms, indexes);
-        const QString& condition = m_paging.condition();
-        const QString And = QStringLiteral(" AND ");
-        if (SearchHits::canKeep(indexes) && condition.startsWith(byTerms)
-            && (condition.size() == byTerms.size()
-                || QStringView(condition).mid(byTerms.size()).startsWith(And))) {
-            m_hits.keep(
-                *m_connection, FoundTable, terms, indexes, condition.mid(byTerms.size() + And.size()));
+        const std::optional<QString> filter = conditionAfterTerms(m_paging.condition(), terms, indexes);
+        if (SearchHits::canKeep(indexes) && filter) {
+            m_hits.keep(*m_connection, FoundTable, terms, indexes, *filter, g_broadHits);
             return;
         }
     }
@@ -77,12 +154,15 @@ int DocumentPages::pageSize()
     return g_pageSize;
 }
 
-void DocumentPages::setSearch(const SearchRanking& ranking, const QList<SearchTerm>& terms)
+void DocumentPages::setSearch(
+    const SearchRanking& ranking, const QList<SearchTerm>& terms, const QHash<QString, qint64>& knownHits)
 {
     m_passageTerms.clear();
+    QHash<QString, qint64> hits = m_hits.contentHits();
+    hits.insert(knownHits);
     // On a register file the terms are counted as they are ranked: that tells whether any
     // file holds one.
-    const SearchRanking prepared = prepareRanking(*m_connection, ranking, BroadHits, m_hits.contentHits());
+    const SearchRanking prepared = prepareRanking(*m_connection, ranking, g_broadHits, hits);
     if (!prepared.anyHit.isEmpty() && ranking.fullTextQueries.isEmpty()) {
         Recordset rs;
         rs.open(prepared.anyHit, *m_connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
@@ -98,6 +178,25 @@ void DocumentPages::setSearch(const SearchRanking& ranking, const QList<SearchTe
     }
     m_passageTerms = terms;
     m_paging.setRanking(prepared.join, prepared.key);
+    if (m_paging.hasKeptRows() && prepared.join.contains(QLatin1String(RankedHitsTable)))
+        rankEveryFoundRow();
+}
+
+void DocumentPages::rankEveryFoundRow()
+{
+    // The ranks of the rows found and only theirs: a row without a hit in the texts ranks by
+    // its date, after every hit, as the ranking's key orders it.
+    const QString ranks = QLatin1String(RankedHitsTable);
+    m_connection->execute(
+        QStringLiteral("DELETE FROM temp.%1 WHERE hit_id NOT IN (SELECT RastasID FROM temp.%2)")
+            .arg(ranks, FoundTable));
+    m_connection->execute(
+        QStringLiteral("INSERT INTO temp.%1 (hit_id, hit_rank) SELECT found.RastasID, "
+                       "coalesce(julianday(tbl_Documents.DokRegistracData), 0) FROM temp.%2 AS found "
+                       "JOIN tbl_Documents ON tbl_Documents.RastasID = found.RastasID WHERE "
+                       "found.RastasID NOT IN (SELECT hit_id FROM temp.%1)")
+            .arg(ranks, FoundTable));
+    m_paging.setRankedRows(ranks);
 }
 
 void DocumentPages::addPassages(std::vector<ListItem>& rows)

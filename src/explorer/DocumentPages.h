@@ -30,12 +30,27 @@ public:
     // The terms of a search let a register file find its documents term by term.
     DocumentPages(const QString& listSql, DocumentPaging::Mode mode, qint32 contactId = 0, QChar letter = {},
         const QList<SearchTerm>& searchTerms = {});
+    // A search's list on the register of the connection string, which a thread other than
+    // the window's finds: the options are read on the window's.
+    DocumentPages(
+        const QString& listSql, const QList<SearchTerm>& searchTerms, const QString& connectionString);
     ~DocumentPages() override;
 
     // The rows of a search: in the ranking's order while the list has no sort of its own, each
     // with the passage of its file's text around the first term found there (the fifth
     // column after the first). Before the first row is read.
-    void setSearch(const SearchRanking& ranking, const QList<SearchTerm>& terms);
+    // `knownHits` are hits of the files' text judged before, which decide over the counts.
+    void setSearch(const SearchRanking& ranking, const QList<SearchTerm>& terms,
+        const QHash<QString, qint64>& knownHits = {});
+    // The first page of a search's results (searchListSql()'s list), read ahead of them when
+    // searchAhead() allows it: its rows are those of the whole list's first page, by date, and
+    // count() is theirs. Null when the search ranks, on a server, or when too few of the first
+    // documents by date hold the terms for a page; else `contentHits` gets the hits judged,
+    // for setSearch() of the whole list. Throws kartella::Error.
+    static std::unique_ptr<DocumentPages> firstPageAhead(
+        const QString& listSql, const QList<SearchTerm>& terms, QHash<QString, qint64>& contentHits);
+    // The hits of the files' text from which a term ranks nothing (for tests; BroadHits).
+    static void setBroadHits(qint64 hits);
     // Whether a document's file's text holds a term of the search: the list has passages.
     bool hasPassages() const { return !m_passageTerms.isEmpty(); }
 
@@ -57,6 +72,8 @@ public:
     int pagesRead() const { return m_pagesRead; }
 
 private:
+    DocumentPages(const QString& listSql, std::unique_ptr<Connection> connection);
+
     struct Page
     {
         std::vector<ListItem> items;
@@ -69,6 +86,8 @@ private:
     void dropPages();
 
     void addPassages(std::vector<ListItem>& rows);
+    void rankEveryFoundRow();
+    void findRows(const QList<SearchTerm>& searchTerms);
     void keepFoundRows(const QList<SearchTerm>& terms);
 
     DocumentPaging m_paging;

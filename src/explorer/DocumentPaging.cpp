@@ -66,8 +66,16 @@ void DocumentPaging::setSort(int column, bool descending)
 
 void DocumentPaging::setRanking(const QString& join, const QString& key)
 {
+    m_rankedTable.clear();
     m_rankJoin = join;
     m_rankKey = key;
+}
+
+void DocumentPaging::setRankedRows(const QString& table)
+{
+    m_rankedTable = table;
+    m_rankJoin = QStringLiteral(" JOIN temp.%1 AS ranks ON ranks.hit_id = ").arg(table) + Id;
+    m_rankKey = QStringLiteral("ranks.hit_rank");
 }
 
 bool DocumentPaging::ranked() const
@@ -323,6 +331,24 @@ QString DocumentPaging::page(const QStringList& more, bool reverse, int limit, i
     QString bounds = QStringLiteral(" LIMIT ") + QString::number(limit);
     if (offset > 0)
         bounds += QStringLiteral(" OFFSET ") + QString::number(offset);
+    if (ranked() && !m_rankedTable.isEmpty()) {
+        // The page among the ranks alone (every one is a row of the list), then its documents.
+        const QString rankId = QStringLiteral("ranks.hit_id");
+        QStringList seek;
+        for (const QString& term : more)
+            seek << QString(term).replace(Id, rankId);
+        const QString direction = m_descending != reverse ? QStringLiteral(" DESC") : QStringLiteral(" ASC");
+        const QString inner
+            = QStringLiteral("(SELECT hit_id, hit_rank FROM temp.%1 AS ranks%2 ORDER BY hit_rank%3, "
+                             "hit_id%3%4)")
+                  .arg(m_rankedTable,
+                      seek.isEmpty() ? QString()
+                                     : QStringLiteral(" WHERE ") + seek.join(QStringLiteral(" AND ")),
+                      direction, bounds);
+        return select().replace(QStringLiteral("JOIN temp.%1 AS ranks").arg(m_rankedTable),
+                   QStringLiteral("JOIN ") + inner + QStringLiteral(" AS ranks"))
+            + orderBy(reverse);
+    }
     const bool byContacts = m_condition.contains(QStringLiteral("tbl_Contacts."), Qt::CaseInsensitive);
     const bool byDocuments = columnField(m_sortColumn, m_mode == Mode::Contact).startsWith(u"tbl_Documents.");
     if (byContacts || !byDocuments || sortsByDate())

@@ -38,6 +38,9 @@ public:
     // The order of a search's results when the list has no sort of its own: `key` (an
     // expression never Null, ascending) over the rows of tbl_Documents with `join` added.
     void setRanking(const QString& join, const QString& key);
+    // The ranks of every row of the list in temp.`table` (hit_id, hit_rank), the ranking's
+    // key: a page is then chosen among the ranks alone and joined to its documents after.
+    void setRankedRows(const QString& table);
     // Whether the list is a search through the index of the documents' fields or files.
     bool searchesIndexes() const;
     // The list query's condition (its WHERE clause).
@@ -49,6 +52,7 @@ public:
     // From now on the list's documents are those of that table: a search's indexes are
     // searched once, not again for the count and every page.
     void readKeptRows(const QString& table);
+    bool hasKeptRows() const { return !m_keptTable.isEmpty(); }
     // How many rows the table kept: many of them are read in date order through the index
     // of the dates, a few by their ids.
     void setKeptRowCount(int count);
@@ -95,6 +99,7 @@ private:
     QString m_modeCondition;
     QString m_keptTable;
     bool m_keptMany = false;
+    QString m_rankedTable;
     QString m_rankJoin;
     QString m_rankKey;
     Mode m_mode;

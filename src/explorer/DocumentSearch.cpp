@@ -142,9 +142,6 @@ QString termCondition(const SearchTerm& term, const SearchIndexes& indexes)
     return ids + inFields + QStringLiteral(" UNION ") + inFile + u')';
 }
 
-// The ranks of one search's hits, on the connection that reads its list.
-constexpr const char* RankedHitsTable = "search_ranked_hits";
-
 qint64 countOf(Connection& connection, const QString& sql)
 {
     Recordset rs;

@@ -101,6 +101,9 @@ struct SearchRanking
 
 SearchRanking searchRanking(const QList<SearchTerm>& terms, const SearchIndexes& indexes);
 
+// The temporary table of a search's ranks on a register file (hit_id, hit_rank).
+inline constexpr const char* RankedHitsTable = "search_ranked_hits";
+
 // The fewest hits that make a term broad, whatever the register's size.
 inline constexpr qint64 BroadHits = 5000;
 

@@ -55,6 +55,14 @@ MainWindow::MainWindow(QWidget* parent)
     m_fills = std::make_unique<DocumentFills>(*m_documentModel, m_state);
     m_fills->setCount = [this](const QString& text) { m_count->setText(text); };
     m_fills->disableDocumentCommands = [this] { disableDocumentCommands(); };
+    // A search's whole list replaces its first page under the same selection.
+    m_fills->handOverSearch = [this](const std::function<void()>& handOver) {
+        const KeptSelection kept = keptSelection();
+        handOver();
+        restoreSelection(kept);
+    };
+    m_fills->reportError
+        = [this](long number, const QString& description) { reportConnectionError(number, description); };
     popupMenu = [](QMenu* menu, const QPoint& pos) { menu->exec(pos); };
 }
 

@@ -88,6 +88,8 @@ public:
     ListModel* documentModel() const { return m_documentModel; }
     ListModel* relatedModel() const { return m_relatedModel; }
     SearchBox* searchBox() const { return m_search; }
+    // The fills of the document list (for tests and benchmarks: a search still being found).
+    DocumentFills& documentFills() const { return *m_fills; }
     // The preview pane beside the lists (View > Preview Pane).
     PreviewPane* previewPane() const { return m_preview; }
     // The due reminders: the Go menu's command, the status bar panel, the window.

@@ -53,13 +53,13 @@ bool SearchHits::canKeep(const SearchIndexes& indexes)
 }
 
 void SearchHits::keep(Connection& connection, const QString& table, const QList<SearchTerm>& terms,
-    const SearchIndexes& indexes, const QString& filter)
+    const SearchIndexes& indexes, const QString& filter, qint64 broadHits)
 {
     m_table = table;
     m_contentHits.clear();
     connection.execute(QStringLiteral("DELETE FROM temp.") + table);
-    const qint64 broad
-        = indexes.content == ContentIndexKind::FullText ? broadHitCount(connection) : EstimateLimit;
+    const qint64 broad = indexes.content == ContentIndexKind::FullText ? broadHitCount(connection, broadHits)
+                                                                       : EstimateLimit;
     std::vector<Term> ordered;
     for (const SearchTerm& term : terms) {
         Term counted {searchParts(term, indexes)};

@@ -28,7 +28,7 @@ public:
     // tbl_Documents, or empty) into temp.`table` (RastasID INTEGER PRIMARY KEY, made empty
     // first). Throws kartella::Error.
     void keep(Connection& connection, const QString& table, const QList<SearchTerm>& terms,
-        const SearchIndexes& indexes, const QString& filter);
+        const SearchIndexes& indexes, const QString& filter, qint64 broadHits = BroadHits);
 
     // The hits of the queries of the files' text that were counted on the way (whole, or as
     // far as broadHitCount()), for prepareRanking().

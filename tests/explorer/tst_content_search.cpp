@@ -4,6 +4,7 @@
 #include "base/Error.h"
 #include "explorer/DocumentPaging.h"
 #include "explorer/DocumentSearch.h"
+#include "explorer/SearchAhead.h"
 #include "explorer/SearchHits.h"
 #include "harness/ServerDatabase.h"
 #include "harness/TestRegister.h"
@@ -296,6 +297,69 @@ private Q_SLOTS:
             rs.moveNext();
         }
         QCOMPARE(sorted(kept), sorted(queried));
+    }
+
+    // The first page of a search read ahead of its results: only when every term is in the
+    // texts of half of the documents or more (none ranks), and then the same documents, in the
+    // same order, as the first of the whole list; a prefix held only by the fields too.
+    void firstPageAheadOnlyWhenNoTermRanks_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("ahead");
+        QTest::newRow("a word of most texts") << "ir" << true;
+        QTest::newRow("a word of a few") << "kita" << false;
+        QTest::newRow("a phrase of most") << "\"ir su\"" << true;
+        QTest::newRow("a phrase of none") << "\"su ir\"" << false;
+        QTest::newRow("a prefix of most") << "sutart*" << true;
+        QTest::newRow("a prefix of a few") << "kit*" << false;
+        QTest::newRow("two of most") << "ir sutart*" << true;
+        QTest::newRow("one of most, one of a few") << "ir kita" << false;
+        QTest::newRow("no word") << "-" << false;
+    }
+
+    void firstPageAheadOnlyWhenNoTermRanks()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, ahead);
+        const TestRegister reg;
+        for (int n = 1; n <= 10; ++n) {
+            const qint32 id = addDocument(reg,
+                n == 3 ? QStringLiteral("Sutarties kopija") : QStringLiteral("Raštas %1").arg(n),
+                QDate(2024, 3, 1).addDays(n));
+            if (n == 3)
+                addText(reg, id, QStringLiteral("Ir su kita"));
+            else if (n <= 8)
+                addText(reg, id, QStringLiteral("Sutartis ir su priedais, sutarties nr. %1").arg(n));
+            else
+                addText(reg, id, QStringLiteral("Kita %1").arg(n));
+        }
+        Connection connection;
+        connection.open(reg.connectionString());
+        const SearchIndexes indexes = searchIndexes(connection);
+        const QList<SearchTerm> terms = searchTerms(text);
+        const std::optional<SearchAhead> found = SearchAhead::of(connection, terms, indexes, 1);
+        QCOMPARE(found.has_value(), ahead);
+        if (!ahead)
+            return;
+        Ids listed;
+        Recordset rs;
+        rs.open(searchListSql(terms, indexes, 0, false, {}, {}), connection);
+        while (!rs.eof()) {
+            listed << rs.fields(QStringLiteral("RastasID")).value().toInt();
+            rs.moveNext();
+        }
+        rs.close();
+        QVERIFY(listed.size() >= 5);
+        bool complete = false;
+        const std::vector<qint32> first = found->firstIds(connection, {}, 3, 100, complete);
+        QVERIFY(complete);
+        QCOMPARE(Ids(first.begin(), first.end()), listed.mid(0, 3));
+        // Looked for among the first two documents only: the walk is not complete.
+        const std::vector<qint32> walked = found->firstIds(connection, {}, 3, 2, complete);
+        QVERIFY(!complete);
+        QVERIFY(walked.size() <= 2);
+        for (const SearchTerm& term : terms)
+            QVERIFY(found->contentHits().value(searchRanking({term}, indexes).fullTextQueries.value(0)) >= 5);
     }
 
     void changedAndDeletedTextsLeaveTheIndex_data() { places(); }

@@ -2,6 +2,7 @@
 // search shows.
 #include "explorer/ContentProgress.h"
 #include "explorer/DocumentFills.h"
+#include "explorer/DocumentPages.h"
 #include "explorer/DocumentSearch.h"
 #include "explorer/DocumentSearchDelegate.h"
 #include "explorer/ExplorerFixture.h"
@@ -9,6 +10,7 @@
 #include "explorer/ListModel.h"
 #include "explorer/MainWindow.h"
 #include "explorer/SearchBox.h"
+#include "explorer/SearchFinder.h"
 #include "harness/ScriptedPrompter.h"
 #include "harness/ScriptedShell.h"
 #include "support/SelectionState.h"
@@ -16,6 +18,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QDateEdit>
+#include <QScopeGuard>
 #include <QTest>
 #include <QTreeView>
 
@@ -150,6 +153,99 @@ private Q_SLOTS:
         // Back to a node: the columns of a list.
         QTest::keyClick(box, Qt::Key_Escape);
         QCOMPARE(fx.columnCaptions(fx.documents()).size(), 5);
+        QVERIFY(prompter.prompts().isEmpty());
+    }
+
+    // A search of words most texts hold shows its first page at once, "Searching…" in the
+    // count, then its whole list under the same selection; a search started while it is
+    // being found is not replaced by it.
+    void broadSearchShowsItsFirstPageThenTheWholeList()
+    {
+        ExplorerFixture fx;
+        ScriptedPrompter prompter;
+        MainWindow& w = fx.window();
+        w.findChild<ContentProgress*>()->stop();
+        fx.reg.exec(QStringLiteral("INSERT OR REPLACE INTO tbl_Document_Text (RastasID, State, Body) SELECT "
+                                   "RastasID, 1, 'Sutartis ir priedai' FROM tbl_Documents"));
+        DocumentPages::setPageSize(2);
+        DocumentPages::setBroadHits(1);
+        const auto restore = qScopeGuard([] {
+            DocumentPages::setPageSize(100);
+            DocumentPages::setBroadHits(BroadHits);
+        });
+        SearchBox* box = w.searchBox();
+        box->setFocus();
+        QTest::keyClicks(box, "IR");
+        QTest::keyClick(box, Qt::Key_Return);
+        // "work" is of last month, the others of this one, in the order they came.
+        QCOMPARE(fx.documents().itemCount(), 2);
+        QCOMPARE(fx.documents().item(0).text, QString("work"));
+        QCOMPARE(fx.documents().item(1).text, QString("contract"));
+        QCOMPARE(fx.countText(), QString("Searching…"));
+        QCOMPARE(fx.columnCaptions(fx.documents()).size(), 6);
+        fx.clickDocument("contract");
+        QTRY_COMPARE(fx.countText(), QString("5 object(s)"));
+        QCOMPARE(fx.documentTexts(), QStringList({"contract", "letter", "loose", "note", "work"}));
+        QCOMPARE(fx.documents().item(1).text, QString("contract"));
+        QCOMPARE(selection().selectedDocumentId, fx.id["contract"]);
+        QCOMPARE(w.documentList()->selectedRow(), 1);
+
+        // The whole list of "priedai" is dropped when "letter" is searched for before it comes.
+        box->selectAll();
+        QTest::keyClicks(box, "priedai");
+        QTest::keyClick(box, Qt::Key_Return);
+        QCOMPARE(fx.countText(), QString("Searching…"));
+        box->selectAll();
+        QTest::keyClicks(box, "letter");
+        QTest::keyClick(box, Qt::Key_Return);
+        QCOMPARE(fx.documentTexts(), QStringList({"letter"}));
+        QTRY_VERIFY(w.documentFills().searchFinder().idle());
+        QCoreApplication::processEvents();
+        QCOMPARE(fx.documentTexts(), QStringList({"letter"}));
+        QCOMPARE(fx.countText(), QString("1 object(s)"));
+        QVERIFY(prompter.prompts().isEmpty());
+    }
+
+    // Ranked results read a page at a time in the order of the ranks, from either end.
+    void rankedResultsPageInTheirOrder()
+    {
+        ExplorerFixture fx;
+        ScriptedPrompter prompter;
+        MainWindow& w = fx.window();
+        w.findChild<ContentProgress*>()->stop();
+        const QList<std::pair<const char*, const char*>> texts {{"contract", "sutartis sutartis sutartis"},
+            {"letter", "sutartis ir kita ir dar daug kitu zodziu"}, {"note", "sutartis sutartis"},
+            {"loose", "kita sutartis"}};
+        for (const auto& [name, body] : texts) {
+            fx.reg.exec(
+                QStringLiteral("INSERT OR REPLACE INTO tbl_Document_Text (RastasID, State, Body) VALUES "
+                               "(%1, 1, '%2')")
+                    .arg(fx.id[QString::fromUtf8(name)])
+                    .arg(QString::fromUtf8(body)));
+        }
+        // "work" holds the word in its registration index only.
+        fx.reg.exec(QStringLiteral("UPDATE tbl_Documents SET DokPastaba = 'sutartis' WHERE RastasID = %1")
+                        .arg(fx.id["work"]));
+        DocumentPages::setPageSize(2);
+        const auto restore = qScopeGuard([] { DocumentPages::setPageSize(100); });
+        SearchBox* box = w.searchBox();
+        box->setFocus();
+        QTest::keyClicks(box, "sutartis");
+        QTest::keyClick(box, Qt::Key_Return);
+        QCOMPARE(fx.countText(), QString("5 object(s)"));
+        // From the top, each page after the last row of the one before.
+        ListModel& model = fx.documents();
+        QStringList order;
+        for (int row = 0; row < model.itemCount(); ++row)
+            order << model.item(row).text;
+        QCOMPARE(order, QStringList({"contract", "note", "loose", "letter", "work"}));
+        QCOMPARE(model.rowOfKey(DocumentFills::itemKey(fx.id["letter"])), 3);
+        // From the end, as Ctrl+End reads it, each page before the first row of the one after.
+        QTest::keyClick(box, Qt::Key_Return);
+        QCOMPARE(model.item(4).text, QString("work"));
+        QCOMPARE(model.item(3).text, QString("letter"));
+        QCOMPARE(model.item(1).text, QString("note"));
+        QCOMPARE(model.item(0).text, QString("contract"));
         QVERIFY(prompter.prompts().isEmpty());
     }
 

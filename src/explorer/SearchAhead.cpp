@@ -1,0 +1,178 @@
+#include "explorer/SearchAhead.h"
+
+#include "explorer/DocumentPaging.h"
+#include "store/engine/Connection.h"
+#include "store/engine/Recordset.h"
+#include "store/engine/SqlText.h"
+#include "store/engine/Value.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace kartella {
+
+namespace {
+
+// The texts a phrase is judged by, and a prefix (whose texts are read).
+constexpr qint64 PhraseSample = 2000;
+constexpr qint64 PrefixSample = 200;
+
+qint64 numberOf(Connection& connection, const QString& sql)
+{
+    Recordset rs;
+    rs.open(sql, connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
+    return rs.eof() ? 0 : rs.fields(0).value().toLongLong();
+}
+
+// The rowid of the index of the texts after which `sample` texts come, or 0 without them.
+qint64 lastOfSample(Connection& connection, qint64 sample)
+{
+    return numberOf(connection,
+        QStringLiteral("SELECT id FROM %1_docsize ORDER BY id LIMIT 1 OFFSET %2")
+            .arg(QLatin1String(ContentSearchTable))
+            .arg(sample - 1));
+}
+
+// The hits of a phrase in the whole register, judged by the first texts.
+qint64 judgedPhraseHits(Connection& connection, const QString& match, qint64 texts)
+{
+    const qint64 sample = std::min(texts, PhraseSample);
+    if (sample <= 0)
+        return 0;
+    const qint64 hits = numberOf(connection,
+        QStringLiteral("SELECT COUNT(*) FROM %1 WHERE %2 AND rowid <= %3")
+            .arg(QLatin1String(ContentSearchTable), match)
+            .arg(lastOfSample(connection, sample)));
+    return hits * texts / sample;
+}
+
+// The hits of a prefix in the whole register, judged by reading the first texts.
+qint64 judgedPrefixHits(Connection& connection, const SearchTerm& prefix, qint64 texts)
+{
+    Recordset rs;
+    rs.open(QStringLiteral("SELECT Body FROM tbl_Document_Text ORDER BY RastasID LIMIT %1").arg(PrefixSample),
+        connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
+    if (rs.eof())
+        return 0;
+    qint64 hits = 0;
+    while (!rs.eof()) {
+        if (!searchPassage(rs.fields(0).value().toString(), {prefix}).isEmpty())
+            ++hits;
+        rs.moveNext();
+    }
+    return hits * texts / rs.recordCount();
+}
+
+QString heldBy(const QString& table, const QString& condition)
+{
+    return QStringLiteral("EXISTS (SELECT 1 FROM %1 WHERE %2 AND rowid = tbl_Documents.RastasID)")
+        .arg(table, condition);
+}
+
+} // namespace
+
+std::optional<SearchAhead> SearchAhead::of(
+    Connection& connection, const QList<SearchTerm>& terms, const SearchIndexes& indexes, qint64 broadHits)
+{
+    if (terms.isEmpty() || indexes.fields != SearchIndexKind::FullText
+        || indexes.content != ContentIndexKind::FullText)
+        return std::nullopt;
+    const qint64 texts = numberOf(
+        connection, QStringLiteral("SELECT COUNT(*) FROM %1_docsize").arg(QLatin1String(ContentSearchTable)));
+    const qint64 broad = broadHitCount(connection, broadHits);
+    SearchAhead ahead;
+    for (const SearchTerm& term : terms) {
+        const QList<SearchPart> parts = searchParts(term, indexes);
+        if (parts.size() < 2)
+            return std::nullopt;
+        const SearchPart& fields = parts.front();
+        const SearchPart& text = parts.back();
+        qint64 hits = 0;
+        if (text.word)
+            hits = numberOf(
+                connection, QStringLiteral("SELECT COUNT(*) FROM (%1 LIMIT %2)").arg(text.ids()).arg(broad));
+        else if (text.wholeAtOnce)
+            hits = judgedPrefixHits(connection, term, texts);
+        else
+            hits = judgedPhraseHits(connection, text.condition, texts);
+        if (hits < broad)
+            return std::nullopt;
+        ahead.m_contentHits.insert(text.contentQuery, hits);
+        if (text.wholeAtOnce)
+            ahead.m_prefixes << Prefix {term, fields.table, fields.condition};
+        else
+            ahead.m_conditions << QStringLiteral("(%1 OR %2)")
+                                      .arg(heldBy(text.table, text.condition),
+                                          heldBy(fields.table, fields.condition));
+    }
+    return ahead;
+}
+
+std::vector<qint32> SearchAhead::firstIds(
+    Connection& connection, const QString& filter, int rows, int walked, bool& complete) const
+{
+    // The walk ends at the date of the last document it may look at.
+    QStringList conditions = m_conditions;
+    if (!filter.isEmpty())
+        conditions << u'(' + filter + u')';
+    Recordset last;
+    last.open(
+        QStringLiteral("SELECT DokRegistracData FROM tbl_Documents%1 ORDER BY DokRegistracData, RastasID "
+                       "LIMIT 1 OFFSET %2")
+            .arg(filter.isEmpty() ? QString() : QStringLiteral(" WHERE ") + filter)
+            .arg(walked - 1),
+        connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
+    complete = last.eof();
+    if (!complete) {
+        const QVariant date = last.fields(0).value();
+        if (isNull(date))
+            conditions << QStringLiteral("tbl_Documents.DokRegistracData IS NULL");
+        else
+            conditions << QStringLiteral(
+                "(tbl_Documents.DokRegistracData IS NULL OR tbl_Documents.DokRegistracData "
+                "<= %1)")
+                              .arg(DocumentPaging::literal(date));
+    }
+    last.close();
+    QString sql = QStringLiteral("SELECT tbl_Documents.RastasID");
+    if (!m_prefixes.isEmpty())
+        sql += QStringLiteral(", (SELECT Body FROM tbl_Document_Text WHERE tbl_Document_Text.RastasID = "
+                              "tbl_Documents.RastasID) AS Body");
+    sql += QStringLiteral(" FROM tbl_Documents");
+    if (!conditions.isEmpty())
+        sql += QStringLiteral(" WHERE ") + conditions.join(QStringLiteral(" AND "));
+    sql += QStringLiteral(" ORDER BY tbl_Documents.DokRegistracData, tbl_Documents.RastasID LIMIT ")
+        + QString::number(rows);
+    std::vector<qint32> ids;
+    // Without a prefix the database finds the page; with one, the program reads the texts a
+    // page at a time until it has one, and looks up the fields of a text without the prefix.
+    for (int offset = 0; int(ids.size()) < rows; offset += rows) {
+        Recordset rs;
+        rs.open(offset > 0 ? sql + QStringLiteral(" OFFSET ") + QString::number(offset) : sql, connection,
+            CursorTypeEnum::Static, LockTypeEnum::Unspecified);
+        const bool lastPage = rs.recordCount() < rows;
+        while (!rs.eof() && int(ids.size()) < rows) {
+            const qint32 id = rs.fields(0).value().toInt();
+            bool holds = true;
+            for (const Prefix& prefix : m_prefixes) {
+                holds = !searchPassage(rs.fields(1).value().toString(), {prefix.term}).isEmpty()
+                    || numberOf(connection,
+                           QStringLiteral("SELECT COUNT(*) FROM %1 WHERE %2 AND rowid = %3")
+                               .arg(prefix.fieldsTable, prefix.fieldsCondition)
+                               .arg(id))
+                        > 0;
+                if (!holds)
+                    break;
+            }
+            if (holds)
+                ids.push_back(id);
+            rs.moveNext();
+        }
+        if (m_prefixes.isEmpty() || lastPage)
+            break;
+    }
+    return ids;
+}
+
+} // namespace kartella

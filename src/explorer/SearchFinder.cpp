@@ -1,0 +1,71 @@
+#include "explorer/SearchFinder.h"
+
+#include "base/Error.h"
+#include "explorer/DocumentPages.h"
+#include "store/Store.h"
+
+#include <QThread>
+
+namespace kartella {
+
+SearchFinder::SearchFinder(QObject* parent)
+    : QObject(parent)
+{ }
+
+SearchFinder::~SearchFinder()
+{
+    for (const QPointer<QThread>& thread : std::as_const(m_threads)) {
+        if (thread)
+            thread->wait();
+    }
+}
+
+void SearchFinder::find(const QString& sql, const SearchRanking& ranking, const QList<SearchTerm>& terms,
+    const QHash<QString, qint64>& knownHits)
+{
+    const int generation = ++m_generation;
+    m_finding = true;
+    auto search = std::make_shared<FoundSearch>();
+    // The options are read here, on the window's thread.
+    const QString connectionString = plainConnectionString();
+    QThread* thread = QThread::create([sql, ranking, terms, knownHits, connectionString, search] {
+        try {
+            auto pages = std::make_unique<DocumentPages>(sql, terms, connectionString);
+            pages->setSearch(ranking, terms, knownHits);
+            search->hasRows = pages->queryHasRows();
+            search->pages = std::move(pages);
+        } catch (const Error& error) {
+            search->failed = true;
+            search->errorNumber = error.number();
+            search->errorDescription = error.description();
+        }
+    });
+    thread->setObjectName(QStringLiteral("FindingSearch"));
+    m_threads.removeAll(nullptr);
+    m_threads << thread;
+    connect(thread, &QThread::finished, thread, &QObject::deleteLater);
+    connect(thread, &QThread::finished, this, [this, search, generation] {
+        if (generation != m_generation)
+            return;
+        m_finding = false;
+        Q_EMIT found(search);
+    });
+    thread->start();
+}
+
+bool SearchFinder::idle() const
+{
+    for (const QPointer<QThread>& thread : m_threads) {
+        if (thread && !thread->isFinished())
+            return false;
+    }
+    return true;
+}
+
+void SearchFinder::drop()
+{
+    ++m_generation;
+    m_finding = false;
+}
+
+} // namespace kartella
