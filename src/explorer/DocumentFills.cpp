@@ -82,12 +82,20 @@ void DocumentFills::fillSearchList(
     if (!m_model.isSorted()
         || (m_model.sortKey() == DateColumn && m_model.sortOrder() == Qt::AscendingOrder)) {
         QHash<QString, qint64> contentHits;
-        if (std::unique_ptr<DocumentPages> first = DocumentPages::firstPageAhead(sql, terms, contentHits)) {
+        bool whole = false;
+        if (std::unique_ptr<DocumentPages> first
+            = DocumentPages::firstPageAhead(sql, terms, contentHits, whole)) {
             setDocumentColumns(first->hasPassages());
+            const int count = first->count();
             m_model.setSource(std::move(first));
+            m_selection.documentListFilled = true;
+            if (whole) {
+                if (setCount)
+                    setCount(tr("%1 object(s)").arg(count));
+                return;
+            }
             if (setCount)
                 setCount(tr("Searching…"));
-            m_selection.documentListFilled = true;
             m_finder.find(sql, ranking, terms, contentHits);
             return;
         }

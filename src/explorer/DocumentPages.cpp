@@ -50,7 +50,7 @@ DocumentPages::DocumentPages(const QString& listSql, std::unique_ptr<Connection>
 { }
 
 std::unique_ptr<DocumentPages> DocumentPages::firstPageAhead(
-    const QString& listSql, const QList<SearchTerm>& terms, QHash<QString, qint64>& contentHits)
+    const QString& listSql, const QList<SearchTerm>& terms, QHash<QString, qint64>& contentHits, bool& whole)
 {
     auto connection = std::make_unique<Connection>();
     connection->setConnectionString(plainConnectionString());
@@ -79,10 +79,13 @@ std::unique_ptr<DocumentPages> DocumentPages::firstPageAhead(
     const QString sql = documentSql() + QStringLiteral("WHERE tbl_Documents.RastasID IN (") + list.join(u',')
         + QStringLiteral(") ORDER BY tbl_Documents.DokRegistracData");
     std::unique_ptr<DocumentPages> pages(new DocumentPages(sql, std::move(connection)));
-    pages->m_passageTerms = terms;
+    if (ahead->anyContentHit())
+        pages->m_passageTerms = terms;
     pages->m_count = int(ids.size());
     pages->page(0);
     contentHits = ahead->contentHits();
+    // Every document looked at, and less than a page found: that is the whole list.
+    whole = complete && int(ids.size()) < g_pageSize;
     return pages;
 }
 

@@ -46,9 +46,10 @@ public:
     // searchAhead() allows it: its rows are those of the whole list's first page, by date, and
     // count() is theirs. Null when the search ranks, on a server, or when too few of the first
     // documents by date hold the terms for a page; else `contentHits` gets the hits judged,
-    // for setSearch() of the whole list. Throws kartella::Error.
-    static std::unique_ptr<DocumentPages> firstPageAhead(
-        const QString& listSql, const QList<SearchTerm>& terms, QHash<QString, qint64>& contentHits);
+    // for setSearch() of the whole list, and `whole` tells whether the page is the whole list
+    // (every document was looked at). Throws kartella::Error.
+    static std::unique_ptr<DocumentPages> firstPageAhead(const QString& listSql,
+        const QList<SearchTerm>& terms, QHash<QString, qint64>& contentHits, bool& whole);
     // The hits of the files' text from which a term ranks nothing (for tests; BroadHits).
     static void setBroadHits(qint64 hits);
     // Whether a document's file's text holds a term of the search: the list has passages.

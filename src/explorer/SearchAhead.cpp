@@ -64,6 +64,35 @@ qint64 judgedPrefixHits(Connection& connection, const SearchTerm& prefix, qint64
     return hits * texts / rs.recordCount();
 }
 
+// Whether more than a tenth of the first documents hold the piece in their fields.
+bool manyFieldsHold(Connection& connection, const SearchTerm& term)
+{
+    constexpr int Sample = 1000;
+    const QString index = QLatin1String(SearchTable);
+    const qint64 documents = numberOf(connection,
+        QStringLiteral("SELECT COUNT(*) FROM (SELECT id FROM %1_docsize LIMIT %2)").arg(index).arg(Sample));
+    if (documents == 0)
+        return false;
+    const qint64 last = numberOf(connection,
+        QStringLiteral("SELECT id FROM %1_docsize ORDER BY id LIMIT 1 OFFSET %2")
+            .arg(index)
+            .arg(documents - 1));
+    const qint64 hits = numberOf(connection,
+        QStringLiteral("SELECT COUNT(*) FROM %1 WHERE rowid <= %2 AND instr(FoldedText, %3) > 0")
+            .arg(index)
+            .arg(last)
+            .arg(sqlString(term.text)));
+    return hits * 10 > documents;
+}
+
+// Whether the fields of the document whose id is `id` hold the piece, read from the
+// document's own row of their index.
+QString fieldsHold(const SearchTerm& term, const QString& id)
+{
+    return QStringLiteral("EXISTS (SELECT 1 FROM %1 WHERE rowid = %2 AND instr(FoldedText, %3) > 0)")
+        .arg(QLatin1String(SearchTable), id, sqlString(term.text));
+}
+
 QString heldBy(const QString& table, const QString& condition)
 {
     return QStringLiteral("EXISTS (SELECT 1 FROM %1 WHERE %2 AND rowid = tbl_Documents.RastasID)")
@@ -75,36 +104,45 @@ QString heldBy(const QString& table, const QString& condition)
 std::optional<SearchAhead> SearchAhead::of(
     Connection& connection, const QList<SearchTerm>& terms, const SearchIndexes& indexes, qint64 broadHits)
 {
-    if (terms.isEmpty() || indexes.fields != SearchIndexKind::FullText
-        || indexes.content != ContentIndexKind::FullText)
+    if (terms.isEmpty() || indexes.fields != SearchIndexKind::FullText)
         return std::nullopt;
-    const qint64 texts = numberOf(
-        connection, QStringLiteral("SELECT COUNT(*) FROM %1_docsize").arg(QLatin1String(ContentSearchTable)));
-    const qint64 broad = broadHitCount(connection, broadHits);
+    const bool withTexts = indexes.content == ContentIndexKind::FullText;
+    const qint64 texts = withTexts
+        ? numberOf(connection,
+            QStringLiteral("SELECT COUNT(*) FROM %1_docsize").arg(QLatin1String(ContentSearchTable)))
+        : 0;
+    const qint64 broad = withTexts ? broadHitCount(connection, broadHits) : broadHits;
     SearchAhead ahead;
     for (const SearchTerm& term : terms) {
         const QList<SearchPart> parts = searchParts(term, indexes);
-        if (parts.size() < 2)
-            return std::nullopt;
-        const SearchPart& fields = parts.front();
-        const SearchPart& text = parts.back();
+        const QString inFields = fieldsHold(term, QStringLiteral("tbl_Documents.RastasID"));
         qint64 hits = 0;
-        if (text.word)
-            hits = numberOf(
-                connection, QStringLiteral("SELECT COUNT(*) FROM (%1 LIMIT %2)").arg(text.ids()).arg(broad));
-        else if (text.wholeAtOnce)
-            hits = judgedPrefixHits(connection, term, texts);
-        else
-            hits = judgedPhraseHits(connection, text.condition, texts);
-        if (hits < broad)
-            return std::nullopt;
-        ahead.m_contentHits.insert(text.contentQuery, hits);
-        if (text.wholeAtOnce)
-            ahead.m_prefixes << Prefix {term, fields.table, fields.condition};
-        else
+        if (parts.size() > 1) {
+            const SearchPart& text = parts.back();
+            if (text.word)
+                hits = numberOf(connection,
+                    QStringLiteral("SELECT COUNT(*) FROM (%1 LIMIT %2)").arg(text.ids()).arg(broad));
+            else if (text.wholeAtOnce)
+                hits = judgedPrefixHits(connection, term, texts);
+            else
+                hits = judgedPhraseHits(connection, text.condition, texts);
+            // A term of a few texts ranks them.
+            if (hits > 0 && hits < broad)
+                return std::nullopt;
+            ahead.m_contentHits.insert(text.contentQuery, hits);
+        }
+        if (hits == 0) {
+            // In the fields alone: worth looking for among the first documents only when many hold it.
+            if (!manyFieldsHold(connection, term))
+                return std::nullopt;
+            ahead.m_conditions << inFields;
+        } else if (parts.back().wholeAtOnce) {
+            ahead.m_prefixes << term;
+        } else {
             ahead.m_conditions << QStringLiteral("(%1 OR %2)")
-                                      .arg(heldBy(text.table, text.condition),
-                                          heldBy(fields.table, fields.condition));
+                                      .arg(heldBy(parts.back().table, parts.back().condition), inFields);
+        }
+        ahead.m_anyContentHit = ahead.m_anyContentHit || hits > 0;
     }
     return ahead;
 }
@@ -155,13 +193,11 @@ std::vector<qint32> SearchAhead::firstIds(
         while (!rs.eof() && int(ids.size()) < rows) {
             const qint32 id = rs.fields(0).value().toInt();
             bool holds = true;
-            for (const Prefix& prefix : m_prefixes) {
-                holds = !searchPassage(rs.fields(1).value().toString(), {prefix.term}).isEmpty()
-                    || numberOf(connection,
-                           QStringLiteral("SELECT COUNT(*) FROM %1 WHERE %2 AND rowid = %3")
-                               .arg(prefix.fieldsTable, prefix.fieldsCondition)
-                               .arg(id))
-                        > 0;
+            for (const SearchTerm& prefix : m_prefixes) {
+                holds = !searchPassage(rs.fields(1).value().toString(), {prefix}).isEmpty()
+                    || numberOf(
+                           connection, QStringLiteral("SELECT ") + fieldsHold(prefix, QString::number(id)))
+                        != 0;
                 if (!holds)
                     break;
             }

@@ -22,9 +22,11 @@ class Connection;
 class SearchAhead
 {
 public:
-    // Empty when a term ranks or is rare, when a term has no word, or on a register without
-    // both FTS5 indexes. A word's texts are counted as far as broadHitCount(); a phrase's are
-    // judged by the first 2 000 texts, a prefix's by the first 200. Throws kartella::Error.
+    // Empty when a term ranks (it is in some texts, fewer than broadHitCount()), when a term
+    // in no text is in the fields of a tenth of the first 1 000 documents or fewer, or on a
+    // register without the fields' FTS5 index. A word's texts are counted as far as
+    // broadHitCount(); a phrase's are judged by the first 2 000 texts, a prefix's by the first
+    // 200. Throws kartella::Error.
     static std::optional<SearchAhead> of(Connection& connection, const QList<SearchTerm>& terms,
         const SearchIndexes& indexes, qint64 broadHits = BroadHits);
 
@@ -38,19 +40,16 @@ public:
     // The hits judged for each query of the files' text (searchRanking()'s), for
     // prepareRanking() when the whole list is found: its order is then the first page's.
     const QHash<QString, qint64>& contentHits() const { return m_contentHits; }
+    // Whether a term is in the texts: the list has their passages.
+    bool anyContentHit() const { return m_anyContentHit; }
 
 private:
     // A prefix: its fields in the index, its words in the document's text.
-    // A prefix: its words in the document's text, its piece in the fields' index.
-    struct Prefix
-    {
-        SearchTerm term;
-        QString fieldsTable;
-        QString fieldsCondition;
-    };
     QStringList m_conditions;
-    QList<Prefix> m_prefixes;
+    // Looked for by the program in the document's text, by the database in its fields.
+    QList<SearchTerm> m_prefixes;
     QHash<QString, qint64> m_contentHits;
+    bool m_anyContentHit = false;
 };
 
 } // namespace kartella
