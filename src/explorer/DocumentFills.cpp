@@ -2,6 +2,7 @@
 
 #include "explorer/DocumentPages.h"
 #include "store/Store.h"
+#include "store/engine/Connection.h"
 #include "support/SelectionState.h"
 
 namespace kartella {
@@ -83,8 +84,9 @@ void DocumentFills::fillSearchList(
         || (m_model.sortKey() == DateColumn && m_model.sortOrder() == Qt::AscendingOrder)) {
         QHash<QString, qint64> contentHits;
         bool whole = false;
+        std::unique_ptr<Connection> spare;
         if (std::unique_ptr<DocumentPages> first
-            = DocumentPages::firstPageAhead(sql, terms, contentHits, whole)) {
+            = DocumentPages::firstPageAhead(sql, terms, contentHits, whole, &spare)) {
             setDocumentColumns(first->hasPassages());
             const int count = first->count();
             m_model.setSource(std::move(first));
@@ -99,6 +101,9 @@ void DocumentFills::fillSearchList(
             m_finder.find(sql, ranking, terms, contentHits);
             return;
         }
+        // The list is read through the connection opened to look.
+        fill(sql, Mode::Category, 0, ranking, terms, std::move(spare));
+        return;
     }
     fill(sql, Mode::Category, 0, ranking, terms);
 }
@@ -141,7 +146,7 @@ void DocumentFills::fillContactDocumentList(const QString& sql)
 }
 
 void DocumentFills::fill(const QString& sql, Mode mode, qint16 letterCode, const SearchRanking& ranking,
-    const QList<SearchTerm>& terms)
+    const QList<SearchTerm>& terms, std::unique_ptr<Connection> open)
 {
     m_finder.drop();
     const DocumentPaging::Mode paging = mode == Mode::Category
@@ -149,7 +154,7 @@ void DocumentFills::fill(const QString& sql, Mode mode, qint16 letterCode, const
         : (mode == Mode::Letter ? DocumentPaging::Mode::Letter : DocumentPaging::Mode::Contact);
     // Counting first: a query that fails leaves the list as it was.
     auto pages = std::make_unique<DocumentPages>(
-        sql, paging, m_selection.currentContactId, QChar(char16_t(letterCode)), terms);
+        sql, paging, m_selection.currentContactId, QChar(char16_t(letterCode)), terms, std::move(open));
     pages->setSearch(ranking, terms);
     if (!pages->queryHasRows()) {
         showEmptyList();

@@ -11,6 +11,7 @@
 
 namespace kartella {
 
+class Connection;
 struct SelectionState;
 
 // Turns a document query into the rows, columns, icons and count of the document list,
@@ -66,7 +67,7 @@ public:
 private:
     enum class Mode { Category, Letter, Contact };
     void fill(const QString& sql, Mode mode, qint16 letterCode, const SearchRanking& ranking = {},
-        const QList<SearchTerm>& terms = {});
+        const QList<SearchTerm>& terms = {}, std::unique_ptr<Connection> open = nullptr);
 
     void showFoundSearch(const std::shared_ptr<FoundSearch>& search);
 

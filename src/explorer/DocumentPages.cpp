@@ -49,23 +49,30 @@ DocumentPages::DocumentPages(const QString& listSql, std::unique_ptr<Connection>
     , m_connection(std::move(connection))
 { }
 
-std::unique_ptr<DocumentPages> DocumentPages::firstPageAhead(
-    const QString& listSql, const QList<SearchTerm>& terms, QHash<QString, qint64>& contentHits, bool& whole)
+std::unique_ptr<DocumentPages> DocumentPages::firstPageAhead(const QString& listSql,
+    const QList<SearchTerm>& terms, QHash<QString, qint64>& contentHits, bool& whole,
+    std::unique_ptr<Connection>* spare)
 {
     auto connection = std::make_unique<Connection>();
     connection->setConnectionString(plainConnectionString());
     connection->setMode(ConnectModeEnum::ShareDenyNone);
     connection->open();
-    if (connection->dialect() != SqlDialect::Sqlite)
+    // A search that can't be read ahead is read through the connection opened to look.
+    const auto lookedOnly = [&] {
+        if (spare)
+            *spare = std::move(connection);
         return nullptr;
+    };
+    if (connection->dialect() != SqlDialect::Sqlite)
+        return lookedOnly();
     const SearchIndexes indexes = searchIndexes(*connection);
     const std::optional<QString> filter = conditionAfterTerms(
         DocumentPaging(listSql, DocumentPaging::Mode::Category).condition(), terms, indexes);
     if (!filter)
-        return nullptr;
+        return lookedOnly();
     const std::optional<SearchAhead> ahead = SearchAhead::of(*connection, terms, indexes, g_broadHits);
     if (!ahead)
-        return nullptr;
+        return lookedOnly();
     // Terms that are each in most texts may still be seldom together: the first page is
     // looked for among the first ten pages of documents by date.
     bool complete = false;
@@ -95,13 +102,15 @@ void DocumentPages::setBroadHits(qint64 hits)
 }
 
 DocumentPages::DocumentPages(const QString& listSql, DocumentPaging::Mode mode, qint32 contactId,
-    QChar letter, const QList<SearchTerm>& searchTerms)
+    QChar letter, const QList<SearchTerm>& searchTerms, std::unique_ptr<Connection> open)
     : m_paging(listSql, mode, contactId, letter)
-    , m_connection(std::make_unique<Connection>())
+    , m_connection(open ? std::move(open) : std::make_unique<Connection>())
 {
-    m_connection->setConnectionString(plainConnectionString());
-    if (mode != DocumentPaging::Mode::Letter)
-        m_connection->setMode(ConnectModeEnum::ShareDenyNone);
+    if (!m_connection->isOpen()) {
+        m_connection->setConnectionString(plainConnectionString());
+        if (mode != DocumentPaging::Mode::Letter)
+            m_connection->setMode(ConnectModeEnum::ShareDenyNone);
+    }
     findRows(searchTerms);
 }
 
@@ -117,7 +126,8 @@ DocumentPages::DocumentPages(
 
 void DocumentPages::findRows(const QList<SearchTerm>& searchTerms)
 {
-    m_connection->open();
+    if (!m_connection->isOpen())
+        m_connection->open();
     if (m_paging.searchesIndexes() && m_connection->dialect() == SqlDialect::Sqlite) {
         m_connection->execute(QStringLiteral("DROP TABLE IF EXISTS temp.") + FoundTable);
         m_connection->execute(QStringLiteral("CREATE TEMP TABLE ") + FoundTable

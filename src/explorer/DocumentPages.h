@@ -28,8 +28,9 @@ class DocumentPages : public ListRowSource
 {
 public:
     // The terms of a search let a register file find its documents term by term.
+    // A connection already open on the register may be given for the list to read through.
     DocumentPages(const QString& listSql, DocumentPaging::Mode mode, qint32 contactId = 0, QChar letter = {},
-        const QList<SearchTerm>& searchTerms = {});
+        const QList<SearchTerm>& searchTerms = {}, std::unique_ptr<Connection> open = nullptr);
     // A search's list on the register of the connection string, which a thread other than
     // the window's finds: the options are read on the window's.
     DocumentPages(
@@ -47,9 +48,11 @@ public:
     // count() is theirs. Null when the search ranks, on a server, or when too few of the first
     // documents by date hold the terms for a page; else `contentHits` gets the hits judged,
     // for setSearch() of the whole list, and `whole` tells whether the page is the whole list
-    // (every document was looked at). Throws kartella::Error.
+    // (every document was looked at). When it gives null, `spare` (when given) gets the
+    // connection it opened, for the list. Throws kartella::Error.
     static std::unique_ptr<DocumentPages> firstPageAhead(const QString& listSql,
-        const QList<SearchTerm>& terms, QHash<QString, qint64>& contentHits, bool& whole);
+        const QList<SearchTerm>& terms, QHash<QString, qint64>& contentHits, bool& whole,
+        std::unique_ptr<Connection>* spare = nullptr);
     // The hits of the files' text from which a term ranks nothing (for tests; BroadHits).
     static void setBroadHits(qint64 hits);
     // Whether a document's file's text holds a term of the search: the list has passages.
