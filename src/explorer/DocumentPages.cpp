@@ -198,16 +198,26 @@ void DocumentPages::setSearch(
 void DocumentPages::rankEveryFoundRow()
 {
     // The ranks of the rows found and only theirs: a row without a hit in the texts ranks by
-    // its date, after every hit, as the ranking's key orders it.
+    // its date, after every hit, as the ranking's key orders it. Where many rows have no hit
+    // (a term in few texts and many fields), each page sorts them by date instead.
+    constexpr qint64 MostRankedByDate = 5000;
     const QString ranks = QLatin1String(RankedHitsTable);
     m_connection->execute(
-        QStringLiteral("DELETE FROM temp.%1 WHERE hit_id NOT IN (SELECT RastasID FROM temp.%2)")
+        QStringLiteral("DELETE FROM temp.%1 WHERE NOT EXISTS (SELECT 1 FROM temp.%2 AS found "
+                       "WHERE found.RastasID = temp.%1.hit_id)")
             .arg(ranks, FoundTable));
+    Recordset rs;
+    rs.open(QStringLiteral("SELECT COUNT(*) FROM temp.") + ranks, *m_connection, CursorTypeEnum::Static,
+        LockTypeEnum::Unspecified);
+    const qint64 ranked = rs.eof() ? 0 : rs.fields(0).value().toLongLong();
+    rs.close();
+    if (m_count - ranked > MostRankedByDate)
+        return;
     m_connection->execute(
         QStringLiteral("INSERT INTO temp.%1 (hit_id, hit_rank) SELECT found.RastasID, "
                        "coalesce(julianday(tbl_Documents.DokRegistracData), 0) FROM temp.%2 AS found "
-                       "JOIN tbl_Documents ON tbl_Documents.RastasID = found.RastasID WHERE "
-                       "found.RastasID NOT IN (SELECT hit_id FROM temp.%1)")
+                       "JOIN tbl_Documents ON tbl_Documents.RastasID = found.RastasID WHERE NOT EXISTS "
+                       "(SELECT 1 FROM temp.%1 AS hit WHERE hit.hit_id = found.RastasID)")
             .arg(ranks, FoundTable));
     m_paging.setRankedRows(ranks);
 }
