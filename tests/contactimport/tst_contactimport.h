@@ -27,6 +27,10 @@ private Q_SLOTS:
     void outlookCsvNotes();
     void unreadableFiles();
 
+    // reader edges (tst_readeredges.cpp)
+    void vCardEdges_data();
+    void vCardEdges();
+
     // import
     void importWritesRowsInOrder();
     void duplicateRuleFoldsCaseOnly_data();
@@ -39,4 +43,18 @@ private Q_SLOTS:
     void questionAndFileChoice();
     void commandLine_data();
     void commandLine();
+
+    // import edges (tst_importedges.cpp)
+    void sameNameTwiceInOneFile();
+    void namesStoredMeanwhileAreSkipped();
+    void importSpeaksLithuanian();
+    void busyOnlyWhileWriting_data();
+    void busyOnlyWhileWriting();
+    void nameIndexAnswersAsItsStatement_data();
+    void nameIndexAnswersAsItsStatement();
+
+    // commits (tst_importcommits.cpp)
+    void lostCommitWritesTheItemsAgain_data();
+    void lostCommitWritesTheItemsAgain();
+    void stopWhenACommitIsLost();
 };

@@ -1,0 +1,168 @@
+// The import's transactions when the disk fills up at a commit: the rows the commit lost
+// are written again, one at a time, or counted as failed when the user stops.
+#include "ImportRuns.h"
+#include "addressbook/import/ContactImporter.h"
+#include "base/Error.h"
+#include "faults/FullDiskVfs.h"
+#include "store/Store.h"
+#include "tst_contactimport.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <limits>
+
+using namespace kartella;
+using namespace kartella::test;
+namespace P = kartella::ContactProperty;
+
+namespace {
+
+// Contacts with long notes, so that their rows need pages the register does not have yet:
+// the disk fills up when the commit writes them. Each has a mobile number; one named with
+// "refused" also has a business number the register refuses.
+QList<ContactItem> contactsWithNotes(const QStringList& names)
+{
+    QList<ContactItem> items;
+    for (const QString& name : names) {
+        ContactItem item {{P::FullName, name}, {P::MobilePhone, QStringLiteral("+370 600 ") + name.right(1)},
+            {P::Notes, QString(3000, u'n')}};
+        if (name.contains(QStringLiteral("refused")))
+            item.insert(P::BusinessPhone, QStringLiteral("refused"));
+        items << item;
+    }
+    return items;
+}
+
+// Makes the register refuse the phone number "refused".
+void refuseNumber(const TestRegister& reg)
+{
+    reg.exec(
+        QStringLiteral("CREATE TRIGGER refuse_number BEFORE INSERT ON tbl_Phones "
+                       "WHEN NEW.PhoneNumber = 'refused' BEGIN SELECT RAISE(ABORT, 'number refused'); END"));
+}
+
+QString connectionStringOf(const QString& path)
+{
+    return plainConnectionString(QStringLiteral("Microsoft.Jet.OLEDB.4.0"), path);
+}
+
+} // namespace
+
+void ContactImportTest::lostCommitWritesTheItemsAgain_data()
+{
+    QTest::addColumn<bool>("goOn");
+    QTest::addColumn<QStringList>("stored");
+    QTest::addColumn<QStringList>("phones");
+    QTest::addColumn<QList<int>>("counts"); // added, skipped, already there, failed, errors
+
+    // The number after the refused one went with the lost commit, and its contact is not
+    // written again: it was stored before, and counted as failed.
+    QTest::newRow("yes") << true
+                         << QStringList {QStringLiteral("Jonas 1"), QStringLiteral("Ona refused 2"),
+                                QStringLiteral("Petras 4"), QStringLiteral("Rūta 5")}
+                         << QStringList {QStringLiteral("2|+370 600 1"), QStringLiteral("4|+370 600 4"),
+                                QStringLiteral("5|+370 600 5")}
+                         << QList<int> {4, 1, 1, 1, 2};
+    // The items of the lost commit count as failed, the name already there too.
+    QTest::newRow("no") << false << QStringList {QStringLiteral("Jonas 1"), QStringLiteral("Ona refused 2")}
+                        << QStringList {QStringLiteral("2|+370 600 1")} << QList<int> {2, 0, 0, 4, 2};
+}
+
+// The register refuses a number, the import goes on, and the commit at the end finds the
+// disk full: the items after the refused number are written again, each on its own, once
+// the user says Yes; No leaves them out, counted as failed.
+void ContactImportTest::lostCommitWritesTheItemsAgain()
+{
+    QFETCH(bool, goOn);
+    QFETCH(QStringList, stored);
+    QFETCH(QStringList, phones);
+    QFETCH(QList<int>, counts);
+    TestRegister reg;
+    reg.insert(QStringLiteral("tbl_Contacts"), {{QStringLiteral("FullName"), QStringLiteral("Jau Yra")}});
+    refuseNumber(reg);
+    const QList<ContactItem> items
+        = contactsWithNotes({QStringLiteral("Jonas 1"), QStringLiteral("Ona refused 2"),
+            QStringLiteral("Jau Yra"), QStringLiteral("Petras 4"), QStringLiteral("Rūta 5")});
+    FullDiskVfs disk;
+
+    // The bytes the run needs with room on the disk; one less fails the last commit.
+    qint64 needed = 0;
+    {
+        QTemporaryDir dir;
+        const QString work = dir.filePath(QStringLiteral("work.mdb"));
+        QVERIFY(QFile::copy(reg.path(), work));
+        disk.arm(std::numeric_limits<qint64>::max());
+        ContactImporter importer(connectionStringOf(work), [](const Error&) { return true; });
+        QVERIFY(importer.run(items));
+        needed = disk.written();
+        disk.disarm();
+        QCOMPARE(importer.counts().errors, 1);
+    }
+
+    QStringList told;
+    ContactImporter importer(reg.connectionString(), [&](const Error& error) {
+        told << error.description();
+        if (told.size() == 1)
+            return true; // the refused number
+        disk.disarm();
+        return goOn;
+    });
+    disk.arm(needed - 1);
+    QCOMPARE(importer.run(items), goOn);
+    QVERIFY(disk.refused());
+    disk.disarm();
+    QCOMPARE(told.size(), 2);
+    QVERIFY2(told[0].contains(QStringLiteral("number refused")), qPrintable(told[0]));
+    QVERIFY2(told[1].contains(QStringLiteral("disk that holds the register is full")), qPrintable(told[1]));
+
+    QCOMPARE(contactNames(reg), QStringList {QStringLiteral("Jau Yra")} + stored);
+    QCOMPARE(
+        rows(reg, QStringLiteral("SELECT ContactID, PhoneNumber FROM tbl_Phones ORDER BY PhoneID")), phones);
+    const ContactImportCounts& done = importer.counts();
+    QCOMPARE((QList<int> {done.added, done.skipped, done.alreadyThere, done.failed, done.errors}), counts);
+}
+
+// No to a refused number whose commit then finds the disk full: the rows of that
+// transaction are gone, and its items count as failed.
+void ContactImportTest::stopWhenACommitIsLost()
+{
+    TestRegister reg;
+    refuseNumber(reg);
+    const QList<ContactItem> items = contactsWithNotes(
+        {QStringLiteral("Jonas 1"), QStringLiteral("Ona refused 2"), QStringLiteral("Petras 3")});
+    FullDiskVfs disk;
+
+    // The bytes written up to the commit before the question; one less fails that commit.
+    qint64 beforeQuestion = 0;
+    {
+        QTemporaryDir dir;
+        const QString work = dir.filePath(QStringLiteral("work.mdb"));
+        QVERIFY(QFile::copy(reg.path(), work));
+        disk.arm(std::numeric_limits<qint64>::max());
+        ContactImporter importer(connectionStringOf(work), [&](const Error&) {
+            beforeQuestion = disk.written();
+            return false;
+        });
+        QVERIFY(!importer.run(items));
+        disk.disarm();
+        QCOMPARE(importer.counts().added, 2);
+    }
+
+    QStringList told;
+    ContactImporter importer(reg.connectionString(), [&](const Error& error) {
+        told << error.description();
+        return false;
+    });
+    disk.arm(beforeQuestion - 1);
+    QVERIFY(!importer.run(items));
+    QVERIFY(disk.refused());
+    disk.disarm();
+    QCOMPARE(told.size(), 2);
+    QVERIFY2(told[0].contains(QStringLiteral("number refused")), qPrintable(told[0]));
+    QVERIFY2(told[1].contains(QStringLiteral("disk that holds the register is full")), qPrintable(told[1]));
+    QCOMPARE(contactNames(reg), QStringList());
+    const ContactImportCounts& done = importer.counts();
+    QCOMPARE((QList<int> {done.added, done.skipped, done.failed, done.errors}), (QList<int> {0, 0, 2, 1}));
+}
