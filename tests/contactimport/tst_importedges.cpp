@@ -14,6 +14,7 @@
 #include "tst_contactimport.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
@@ -97,6 +98,18 @@ void ContactImportTest::importSpeaksLithuanian()
     QVERIFY2(prompts[1].text.startsWith(readError + QStringLiteral("Kontaktų failo „") + missing
                  + QStringLiteral("“ nepavyko perskaityti: ")),
         qPrintable(prompts[1].text));
+
+    // A file that opens but whose reading fails.
+    if (QFile::exists(QStringLiteral("/proc/self/mem"))) {
+        prompter.answer(MsgBoxResult::Yes)
+            .answerFile(QStringLiteral("/proc/self/mem"))
+            .answer(MsgBoxResult::Ok);
+        QVERIFY(!OutlookImport().run());
+        const QString text = prompter.take().last().text;
+        QVERIFY2(text.startsWith(
+                     readError + QStringLiteral("Kontaktų failo „/proc/self/mem“ nepavyko perskaityti: ")),
+            qPrintable(text));
+    }
 
     const QString picture = writeContactFile(dir.path(), QStringLiteral("p.csv"), "\x89PNG\r\n");
     prompter.answer(MsgBoxResult::Yes).answerFile(picture).answer(MsgBoxResult::Ok);
