@@ -69,6 +69,13 @@ void ContactImportTest::importWritesRowsInOrder()
                  QStringLiteral(
                      "SELECT HomeID, ContactID, Description, HomeWWW FROM tbl_HomePages ORDER BY HomeID")),
         (QStringList {QStringLiteral("1|2|<null>|http://x.lt"), QStringLiteral("2|4|<null>|http://w.lt")}));
+    // The history tells that the import wrote them.
+    QCOMPARE(rows(reg,
+                 QStringLiteral(
+                     "SELECT TableName, COUNT(DISTINCT RowKey), Command FROM tbl_History WHERE RowKey > 1 "
+                     "OR TableName <> 'tbl_Contacts' GROUP BY TableName, Command ORDER BY TableName")),
+        (QStringList {QStringLiteral("tbl_Contacts|3|Import"), QStringLiteral("tbl_HomePages|2|Import"),
+            QStringLiteral("tbl_Phones|5|Import")}));
 }
 
 void ContactImportTest::duplicateRuleFoldsCaseOnly_data()

@@ -39,6 +39,9 @@ private Q_SLOTS:
         QTest::newRow("a quoted last field without a line break at the end")
             << QByteArray("First Name,Last Name\nJonas,\"Jonaitis\"") << QStringList {"Jonas Jonaitis"}
             << true;
+        QTest::newRow("rows shorter than the header")
+            << QByteArray("Company,First Name,Last Name\nUAB,Jonas\nUAB\n,,Onaitė\n")
+            << QStringList {"Jonas", "", "Onaitė"} << true;
         QTest::newRow("an empty file") << QByteArray() << QStringList {} << false;
         QTest::newRow("only blank lines") << QByteArray("\r\n\r\n") << QStringList {} << false;
     }
