@@ -30,6 +30,12 @@ void ContactImportTest::vCardEdges_data()
                "BEGIN:VCARD\r\nVERSION:2.1\r\nFN:A\r\nURL:http://x.lt/?id=\r\nTEL;CELL:1\r\nEND:VCARD\r\n")
         << QList<ContactItem> {{{P::FullName, QStringLiteral("A")},
                {P::HomePage, QStringLiteral("http://x.lt/?id=")}, {P::MobilePhone, QStringLiteral("1")}}};
+    QTest::newRow("quoted-printable codes in either case, and an '=' that starts none")
+        << QByteArray("BEGIN:VCARD\r\nVERSION:2.1\r\nFN:A\r\n"
+                      "NOTE;CHARSET=ISO-8859-1;ENCODING=QUOTED-PRINTABLE:=fax=AFy=90z E=mc2\r\n"
+                      "END:VCARD\r\n")
+        << QList<ContactItem> {{{P::FullName, QStringLiteral("A")},
+               {P::Notes, QString::fromLatin1("\xFAx\xAFy\x90z E=mc2")}}};
     QTest::newRow("a card inside a card")
         << QByteArray("BEGIN:VCARD\r\nVERSION:2.1\r\nN:Outer;Ona\r\nAGENT:\r\nBEGIN:VCARD\r\nVERSION:2.1\r\n"
                       "FN:Agent\r\nTEL:9\r\nEND:VCARD\r\nTEL;CELL:1\r\nEND:VCARD\r\n"
