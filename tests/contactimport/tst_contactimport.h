@@ -30,6 +30,9 @@ private Q_SLOTS:
     // reader edges (tst_readeredges.cpp)
     void vCardEdges_data();
     void vCardEdges();
+    void codePageGuess_data();
+    void codePageGuess();
+    void codePageNames();
 
     // import
     void importWritesRowsInOrder();

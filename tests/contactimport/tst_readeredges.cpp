@@ -1,5 +1,6 @@
 // The vCard reader at its edges: cards inside cards, lines outside them, values that look
-// like something they are not.
+// like something they are not; the guess of a file's code page at its threshold.
+#include "addressbook/import/TextDecoding.h"
 #include "addressbook/import/VCardReader.h"
 #include "tst_contactimport.h"
 
@@ -36,6 +37,13 @@ void ContactImportTest::vCardEdges_data()
                       "END:VCARD\r\n")
         << QList<ContactItem> {{{P::FullName, QStringLiteral("A")},
                {P::Notes, QString::fromLatin1("\xFAx\xAFy\x90z E=mc2")}}};
+    // A colon in a quoted parameter hides the encoding from the joining of lines: the value's
+    // last '=' is a soft line break left at its end.
+    QTest::newRow("quoted-printable ending in half a code, and in a soft line break")
+        << QByteArray("BEGIN:VCARD\r\nVERSION:2.1\r\nFN;ENCODING=QUOTED-PRINTABLE:Ona=4\r\n"
+                      "NOTE;X-PLACE=\"geo:54.7\";ENCODING=QUOTED-PRINTABLE:Vilnius=\r\nEND:VCARD\r\n")
+        << QList<ContactItem> {
+               {{P::FullName, QStringLiteral("Ona=4")}, {P::Notes, QStringLiteral("Vilnius")}}};
     QTest::newRow("a card inside a card")
         << QByteArray("BEGIN:VCARD\r\nVERSION:2.1\r\nN:Outer;Ona\r\nAGENT:\r\nBEGIN:VCARD\r\nVERSION:2.1\r\n"
                       "FN:Agent\r\nTEL:9\r\nEND:VCARD\r\nTEL;CELL:1\r\nEND:VCARD\r\n"
@@ -72,4 +80,51 @@ void ContactImportTest::vCardEdges()
     QFETCH(QByteArray, file);
     QFETCH(QList<ContactItem>, contacts);
     QCOMPARE(readVCards(file), contacts);
+}
+
+void ContactImportTest::codePageGuess_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("codePage");
+    const QString baltic = QStringLiteral("windows-1257");
+    const QString western = QStringLiteral("windows-1252");
+    const QByteArray nineOthers(9, '\xE9');
+
+    QTest::newRow("plain ASCII") << QByteArray("Jonas Jonaitis") << western;
+    QTest::newRow("only bytes below 0xC0") << QByteArray("\x8Akoda \x9A\xB5") << western;
+    QTest::newRow("Western letters") << QByteArray("Gro\xDF M\xFCller") << western;
+    QTest::newRow("Š") << QByteArray("\xD0iauliai") << baltic;
+    QTest::newRow("Ž") << QByteArray("\xDEvejys") << baltic;
+    QTest::newRow("š") << QByteArray("Ma\xF0ina") << baltic;
+    QTest::newRow("ž") << QByteArray("Gra\xFEus") << baltic;
+    QTest::newRow("one in ten") << QByteArray("\xD0") + nineOthers << baltic;
+    QTest::newRow("one in eleven") << QByteArray("\xD0") + nineOthers + '\xE9' << western;
+    QTest::newRow("0xC0 is one of the letters") << QByteArray("\xD0") + nineOthers + '\xC0' << western;
+    QTest::newRow("0xBF is none") << QByteArray("\xD0") + nineOthers + '\xBF' << baltic;
+}
+
+void ContactImportTest::codePageGuess()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QString, codePage);
+    QCOMPARE(guessCodePage(text), codePage);
+}
+
+void ContactImportTest::codePageNames()
+{
+    for (const char* name : {"windows-1257", " windows-1252 ", "UTF-8", "ISO-8859-13"})
+        QVERIFY2(isKnownCodePage(QString::fromLatin1(name)), name);
+    for (const char* name : {"", "  ", "nonsense", "windows-12570"})
+        QVERIFY2(!isKnownCodePage(QString::fromLatin1(name)), name);
+
+    const QByteArray utf8 = QStringLiteral("Žemaitė").toUtf8();
+    for (const char* name : {"utf-8", "UTF8", " Utf-8 "})
+        QCOMPARE(decodeText(utf8, QString::fromLatin1(name)), QStringLiteral("Žemaitė"));
+    QCOMPARE(decodeText("\xDE"
+                        "emait\xEB",
+                 QStringLiteral("Windows-1257")),
+        QStringLiteral("Žemaitė"));
+    // An unknown name reads as windows-1252.
+    for (const char* name : {"nonsense", ""})
+        QCOMPARE(decodeText("Caf\xE9 \x80", QString::fromLatin1(name)), QStringLiteral("Café €"));
 }
