@@ -60,4 +60,5 @@ private Q_SLOTS:
     void lostCommitWritesTheItemsAgain_data();
     void lostCommitWritesTheItemsAgain();
     void stopWhenACommitIsLost();
+    void commitsOnceASecond();
 };

@@ -8,10 +8,13 @@
 #include "tst_contactimport.h"
 
 #include <QFile>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 
 #include <limits>
+#include <sqlite3.h>
 
 using namespace kartella;
 using namespace kartella::test;
@@ -41,6 +44,18 @@ void refuseNumber(const TestRegister& reg)
     reg.exec(
         QStringLiteral("CREATE TRIGGER refuse_number BEFORE INSERT ON tbl_Phones "
                        "WHEN NEW.PhoneNumber = 'refused' BEGIN SELECT RAISE(ABORT, 'number refused'); END"));
+}
+
+// pause_ms(n), on every connection: waits n milliseconds.
+void pause(sqlite3_context* context, int, sqlite3_value** arguments)
+{
+    QThread::msleep(static_cast<unsigned long>(sqlite3_value_int(arguments[0])));
+    sqlite3_result_null(context);
+}
+
+int addPause(sqlite3* db, char**, const sqlite3_api_routines*)
+{
+    return sqlite3_create_function(db, "pause_ms", 1, SQLITE_UTF8, nullptr, pause, nullptr, nullptr);
 }
 
 QString connectionStringOf(const QString& path)
@@ -165,4 +180,50 @@ void ContactImportTest::stopWhenACommitIsLost()
     QCOMPARE(contactNames(reg), QStringList());
     const ContactImportCounts& done = importer.counts();
     QCOMPARE((QList<int> {done.added, done.skipped, done.failed, done.errors}), (QList<int> {0, 0, 2, 1}));
+}
+
+// Rows are committed once their transaction is a second old, at the end of an item: when
+// a later commit finds the disk full and the user stops, the rows committed before stay.
+void ContactImportTest::commitsOnceASecond()
+{
+    // A contact whose row takes over a second to store: its trigger waits that long.
+    QVERIFY(sqlite3_auto_extension(reinterpret_cast<void (*)()>(addPause)) == SQLITE_OK);
+    const auto noPause
+        = qScopeGuard([] { sqlite3_cancel_auto_extension(reinterpret_cast<void (*)()>(addPause)); });
+    TestRegister reg;
+    reg.exec(
+        QStringLiteral("CREATE TRIGGER slow_name AFTER INSERT ON tbl_Contacts WHEN NEW.FullName = 'Lėtas 1' "
+                       "BEGIN SELECT pause_ms(1100); END"));
+    const QList<ContactItem> items
+        = contactsWithNotes({QStringLiteral("Lėtas 1"), QStringLiteral("Jonas 2"), QStringLiteral("Ona 3")});
+    FullDiskVfs disk;
+
+    qint64 needed = 0;
+    {
+        QTemporaryDir dir;
+        const QString work = dir.filePath(QStringLiteral("work.mdb"));
+        QVERIFY(QFile::copy(reg.path(), work));
+        disk.arm(std::numeric_limits<qint64>::max());
+        ContactImporter importer(connectionStringOf(work), [](const Error&) { return true; });
+        QVERIFY(importer.run(items));
+        needed = disk.written();
+        disk.disarm();
+    }
+
+    QStringList told;
+    ContactImporter importer(reg.connectionString(), [&](const Error& error) {
+        told << error.description();
+        disk.disarm();
+        return false;
+    });
+    disk.arm(needed - 1);
+    QVERIFY(!importer.run(items));
+    disk.disarm();
+    QCOMPARE(told.size(), 1);
+    QVERIFY2(told[0].contains(QStringLiteral("disk that holds the register is full")), qPrintable(told[0]));
+    QCOMPARE(contactNames(reg), QStringList {QStringLiteral("Lėtas 1")});
+    QCOMPARE(rows(reg, QStringLiteral("SELECT ContactID, PhoneNumber FROM tbl_Phones")),
+        QStringList {QStringLiteral("1|+370 600 1")});
+    const ContactImportCounts& done = importer.counts();
+    QCOMPARE((QList<int> {done.added, done.failed, done.errors}), (QList<int> {1, 2, 1}));
 }
