@@ -61,4 +61,5 @@ private Q_SLOTS:
     void lostCommitWritesTheItemsAgain();
     void stopWhenACommitIsLost();
     void commitsOnceASecond();
+    void failedStepsOfOneItem();
 };

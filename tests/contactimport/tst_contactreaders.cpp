@@ -127,6 +127,8 @@ void ContactImportTest::vCardPhoneTypes_data()
     QTest::newRow("only preferred") << QByteArray("TEL;PREF:1") << QStringList {P::BusinessPhone};
     QTest::newRow("preferred voice, PREF= form")
         << QByteArray("TEL;PREF=1;TYPE=voice:1") << QStringList {P::BusinessPhone};
+    QTest::newRow("an encoding is no type")
+        << QByteArray("TEL;8BIT;7BIT:1") << QStringList {P::BusinessPhone};
     QTest::newRow("a parameter without a name")
         << QByteArray("TEL;=CELL:1") << QStringList {P::BusinessPhone};
     QTest::newRow("text message") << QByteArray("TEL;TYPE=text:1") << none;

@@ -227,3 +227,27 @@ void ContactImportTest::commitsOnceASecond()
     const ContactImportCounts& done = importer.counts();
     QCOMPARE((QList<int> {done.added, done.failed, done.errors}), (QList<int> {1, 2, 1}));
 }
+
+// Each failed step is an error; an item with failed steps is one failed item.
+void ContactImportTest::failedStepsOfOneItem()
+{
+    TestRegister reg;
+    refuseNumber(reg);
+    QStringList told;
+    ContactImporter importer(reg.connectionString(), [&](const Error& error) {
+        told << error.description();
+        return true;
+    });
+    const ContactItem twice
+        = {{P::FullName, QStringLiteral("Ona")}, {P::BusinessPhone, QStringLiteral("refused")},
+            {P::HomePhone, QStringLiteral("1")}, {P::MobilePhone, QStringLiteral("refused")}};
+    const ContactItem once = {{P::FullName, QStringLiteral("Jonas")}, {P::Pager, QStringLiteral("refused")}};
+    QVERIFY(importer.run({twice, once, {{P::FullName, QStringLiteral("Rūta")}}}));
+    QCOMPARE(told.size(), 3);
+    QCOMPARE(contactNames(reg),
+        (QStringList {QStringLiteral("Ona"), QStringLiteral("Jonas"), QStringLiteral("Rūta")}));
+    QCOMPARE(rows(reg, QStringLiteral("SELECT ContactID, PhoneName, PhoneNumber FROM tbl_Phones")),
+        QStringList {QStringLiteral("1|Home|1")});
+    const ContactImportCounts& done = importer.counts();
+    QCOMPARE((QList<int> {done.added, done.failed, done.errors}), (QList<int> {3, 2, 3}));
+}
