@@ -3,7 +3,8 @@
 #include <QObject>
 
 // The contact import: the readers of vCard files and Outlook CSV exports
-// (tst_contactreaders.cpp), and the import into a register (tst_contactimport.cpp).
+// (tst_contactreaders.cpp, tst_readeredges.cpp), and the import into a register
+// (tst_contactimport.cpp, tst_importedges.cpp, and its transactions in tst_importcommits.cpp).
 class ContactImportTest : public QObject
 {
     Q_OBJECT

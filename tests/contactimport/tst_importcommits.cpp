@@ -1,5 +1,6 @@
-// The import's transactions when the disk fills up at a commit: the rows the commit lost
-// are written again, one at a time, or counted as failed when the user stops.
+// The import's transactions and failed steps: when the disk fills up at a commit, the rows
+// the commit lost are written again, one at a time, or counted as failed when the user
+// stops; rows are committed once a second; an item with failed steps is one failed item.
 #include "ImportRuns.h"
 #include "addressbook/import/ContactImporter.h"
 #include "base/Error.h"

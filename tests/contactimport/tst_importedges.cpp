@@ -1,5 +1,6 @@
 // The import at its edges: the same name twice in one file, a name another program stores
-// while the import runs, and the import's messages in Lithuanian.
+// while the import runs, the import's messages in Lithuanian, the busy state around its
+// questions, and the name index it looks names up in.
 #include "ContactFiles.h"
 #include "ImportRuns.h"
 #include "addressbook/import/ContactImporter.h"
