@@ -15,6 +15,7 @@
 #include "tst_contactimport.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QScopeGuard>
 #include <QTemporaryDir>
@@ -96,6 +97,8 @@ void ContactImportTest::importSpeaksLithuanian()
     QCOMPARE(prompter.fileRequests.size(), 1);
     QCOMPARE(prompter.fileRequests[0].title, QStringLiteral("Importuoti kontaktus"));
     QCOMPARE(prompter.fileRequests[0].filterLabel, QStringLiteral("vCard ir Outlook CSV failai"));
+    QCOMPARE(prompter.fileRequests[0].pattern, QStringLiteral("*.vcf;*.vcard;*.csv"));
+    QCOMPARE(prompter.fileRequests[0].startFolder, QDir::homePath());
     QVERIFY2(prompts[1].text.startsWith(readError + QStringLiteral("Kontaktų failo „") + missing
                  + QStringLiteral("“ nepavyko perskaityti: ")),
         qPrintable(prompts[1].text));

@@ -44,6 +44,18 @@ void ContactImportTest::vCardEdges_data()
                       "NOTE;X-PLACE=\"geo:54.7\";ENCODING=QUOTED-PRINTABLE:Vilnius=\r\nEND:VCARD\r\n")
         << QList<ContactItem> {
                {{P::FullName, QStringLiteral("Ona=4")}, {P::Notes, QStringLiteral("Vilnius")}}};
+    // Without its parameter the value would be guessed windows-1252: it has no š or ž.
+    QTest::newRow("a charset the guess would miss") << QByteArray(
+        "BEGIN:VCARD\r\nFN;CHARSET=windows-1257:J\xFBrat\xEB B\xEBran\xE8i\xFBt\xEB\r\nEND:VCARD\r\n")
+                                                    << QList<ContactItem> {named("Jūratė Bėrančiūtė")};
+    QTest::newRow("values in base64 are not read")
+        << QByteArray("BEGIN:VCARD\r\nVERSION:3.0\r\nFN:A\r\nNOTE;ENCODING=b:SGVsbG8=\r\n"
+                      "TITLE;ENCODING=BASE64:SGVsbG8=\r\nEND:VCARD\r\n")
+        << QList<ContactItem> {named("A")};
+    QTest::newRow("a value ending in a backslash")
+        << QByteArray("BEGIN:VCARD\r\nVERSION:3.0\r\nFN:A\r\nNOTE:C:\\Kontaktai\\\r\nEND:VCARD\r\n")
+        << QList<ContactItem> {
+               {{P::FullName, QStringLiteral("A")}, {P::Notes, QStringLiteral("C:Kontaktai\\")}}};
     QTest::newRow("a card inside a card")
         << QByteArray("BEGIN:VCARD\r\nVERSION:2.1\r\nN:Outer;Ona\r\nAGENT:\r\nBEGIN:VCARD\r\nVERSION:2.1\r\n"
                       "FN:Agent\r\nTEL:9\r\nEND:VCARD\r\nTEL;CELL:1\r\nEND:VCARD\r\n"
