@@ -61,6 +61,7 @@ private Q_SLOTS:
     void lostCommitWritesTheItemsAgain_data();
     void lostCommitWritesTheItemsAgain();
     void stopWhenACommitIsLost();
+    void commitsOnceASecond_data();
     void commitsOnceASecond();
     void failedStepsOfOneItem();
 };
