@@ -64,4 +64,6 @@ private Q_SLOTS:
     void commitsOnceASecond_data();
     void commitsOnceASecond();
     void failedStepsOfOneItem();
+    void cutsKeepPairsWhole_data();
+    void cutsKeepPairsWhole();
 };

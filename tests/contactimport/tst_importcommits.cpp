@@ -1,6 +1,7 @@
 // The import's transactions and failed steps: when the disk fills up at a commit, the rows
 // the commit lost are written again, one at a time, or counted as failed when the user
-// stops; rows are committed once a second; an item with failed steps is one failed item.
+// stops; rows are committed once a second; an item with failed steps is one failed item;
+// the cut of a text to its field's width.
 #include "ImportRuns.h"
 #include "addressbook/import/ContactImporter.h"
 #include "base/Error.h"
@@ -278,4 +279,29 @@ void ContactImportTest::failedStepsOfOneItem()
         QStringList {QStringLiteral("1|Home|1")});
     const ContactImportCounts& done = importer.counts();
     QCOMPARE((QList<int> {done.added, done.failed, done.errors}), (QList<int> {3, 2, 3}));
+}
+
+void ContactImportTest::cutsKeepPairsWhole_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("width");
+    QTest::addColumn<QString>("cut");
+    const QString smile = QStringLiteral("\U0001F600"); // two UTF-16 units
+    const QString n49(49, u'n');
+
+    QTest::newRow("longer") << QStringLiteral("Petraitienė") << 5 << QStringLiteral("Petra");
+    QTest::newRow("as long") << QStringLiteral("Ona") << 3 << QStringLiteral("Ona");
+    QTest::newRow("shorter") << QStringLiteral("Ona") << 50 << QStringLiteral("Ona");
+    QTest::newRow("not cut") << QString(300, u'x') << -1 << QString(300, u'x');
+    QTest::newRow("a pair across the end") << n49 + smile << 50 << n49;
+    QTest::newRow("a pair inside") << n49.left(48) + smile << 50 << n49.left(48) + smile;
+    QTest::newRow("a pair at the start") << smile + u'x' << 1 << QString();
+}
+
+void ContactImportTest::cutsKeepPairsWhole()
+{
+    QFETCH(QString, text);
+    QFETCH(int, width);
+    QFETCH(QString, cut);
+    QCOMPARE(cutText(text, width), cut);
 }

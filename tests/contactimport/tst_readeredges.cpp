@@ -67,6 +67,8 @@ void ContactImportTest::vCardEdges_data()
         << QByteArray("FN:Stray\r\nEND:VCARD\r\nBEGIN:VCARD\r\nFN:A\r\nEND:VCARD\r\nTEL:2\r\nEND:VCARD\r\n"
                       "BEGIN:VCARD\r\nFN:B\r\nEND:VCARD\r\n")
         << QList<ContactItem> {named("A"), named("B")};
+    QTest::newRow("a blank line before the first card")
+        << QByteArray("\nBEGIN:VCARD\nFN:A\nEND:VCARD\n") << QList<ContactItem> {named("A")};
     QTest::newRow("a card not ended")
         << QByteArray("BEGIN:VCARD\r\nFN:A\r\nEND:VCARD\r\nBEGIN:VCARD\r\nFN:B\r\n")
         << QList<ContactItem> {named("A")};
