@@ -56,6 +56,11 @@ void ContactImportTest::vCardEdges_data()
         << QByteArray("BEGIN:VCARD\r\nVERSION:3.0\r\nFN:A\r\nNOTE:C:\\Kontaktai\\\r\nEND:VCARD\r\n")
         << QList<ContactItem> {
                {{P::FullName, QStringLiteral("A")}, {P::Notes, QStringLiteral("C:Kontaktai\\")}}};
+    QTest::newRow("values that read BEGIN, END and vCard")
+        << QByteArray("BEGIN:VCARD\r\nFN:A\r\nNOTE:vCard\r\nTITLE:END\r\nORG:BEGIN\r\nTEL:1\r\nEND:VCARD\r\n")
+        << QList<ContactItem> {{{P::FullName, QStringLiteral("A")}, {P::Notes, QStringLiteral("vCard")},
+               {P::Title, QStringLiteral("END")}, {P::CompanyName, QStringLiteral("BEGIN")},
+               {P::BusinessPhone, QStringLiteral("1")}}};
     QTest::newRow("a card inside a card")
         << QByteArray("BEGIN:VCARD\r\nVERSION:2.1\r\nN:Outer;Ona\r\nAGENT:\r\nBEGIN:VCARD\r\nVERSION:2.1\r\n"
                       "FN:Agent\r\nTEL:9\r\nEND:VCARD\r\nTEL;CELL:1\r\nEND:VCARD\r\n"
