@@ -48,10 +48,9 @@ void ContactImportTest::vCardEdges_data()
     QTest::newRow("a charset the guess would miss") << QByteArray(
         "BEGIN:VCARD\r\nFN;CHARSET=windows-1257:J\xFBrat\xEB B\xEBran\xE8i\xFBt\xEB\r\nEND:VCARD\r\n")
                                                     << QList<ContactItem> {named("Jūratė Bėrančiūtė")};
-    QTest::newRow("values in base64 are not read")
-        << QByteArray("BEGIN:VCARD\r\nVERSION:3.0\r\nFN:A\r\nNOTE;ENCODING=b:SGVsbG8=\r\n"
-                      "TITLE;ENCODING=BASE64:SGVsbG8=\r\nEND:VCARD\r\n")
-        << QList<ContactItem> {named("A")};
+    QTest::newRow("values in base64 are not read") << QByteArray(
+        "BEGIN:VCARD\r\nVERSION:3.0\r\nFN:A\r\nNOTE;ENCODING=b:SGVsbG8=\r\n"
+        "TITLE;BASE64:SGVsbG8=\r\nEND:VCARD\r\n") << QList<ContactItem> {named("A")};
     QTest::newRow("a value ending in a backslash")
         << QByteArray("BEGIN:VCARD\r\nVERSION:3.0\r\nFN:A\r\nNOTE:C:\\Kontaktai\\\r\nEND:VCARD\r\n")
         << QList<ContactItem> {
@@ -74,6 +73,11 @@ void ContactImportTest::vCardEdges_data()
         << QList<ContactItem> {named("A"), named("B")};
     QTest::newRow("a blank line before the first card")
         << QByteArray("\nBEGIN:VCARD\nFN:A\nEND:VCARD\n") << QList<ContactItem> {named("A")};
+    QTest::newRow("no line break at the end")
+        << QByteArray("BEGIN:VCARD\r\nFN:A\r\nEND:VCARD") << QList<ContactItem> {named("A")};
+    QTest::newRow("an empty quoted charset is none") << QByteArray("BEGIN:VCARD\r\nFN;CHARSET=\"\":\xC5\xBD"
+                                                                   "ana\r\nEND:VCARD\r\n")
+                                                     << QList<ContactItem> {named("Žana")};
     QTest::newRow("a card not ended")
         << QByteArray("BEGIN:VCARD\r\nFN:A\r\nEND:VCARD\r\nBEGIN:VCARD\r\nFN:B\r\n")
         << QList<ContactItem> {named("A")};
