@@ -1,6 +1,7 @@
 #include "tst_contactimport.h"
 
 #include "ContactFiles.h"
+#include "ImportRuns.h"
 #include "addressbook/import/OutlookImport.h"
 #include "harness/ScriptedPrompter.h"
 #include "harness/ServerDatabase.h"
@@ -17,98 +18,6 @@
 
 using namespace kartella;
 using namespace kartella::test;
-
-namespace {
-
-const QString Question
-    = QStringLiteral("Importing data will bring in ALL contacts from Outlook. Do you wish to continue?");
-const QString Success = QStringLiteral("Contacts successfully imported.");
-const QString Failure = QStringLiteral("Contacts did not import.");
-const QString ClosingTitle = QStringLiteral("Import Contacts from Outlook");
-
-// The closing message: its first line and what the run did.
-QString closing(const QString& first, int added, int alreadyThere, int failed, int unnamed = 0)
-{
-    QString text = first
-        + QStringLiteral("\n\n%1 added, %2 skipped as already there, %3 failed")
-              .arg(added)
-              .arg(alreadyThere)
-              .arg(failed);
-    if (unnamed > 0)
-        text += QStringLiteral(", %1 passed over without a name").arg(unnamed);
-    return text + u'.';
-}
-
-// The rows of sql, each as its fields joined by '|' (Null as "<null>").
-QStringList rows(const TestRegister& reg, const QString& sql)
-{
-    Connection connection(reg.connectionString());
-    connection.open();
-    Recordset recordset;
-    recordset.open(sql, connection);
-    QStringList result;
-    for (int row = 0; row < recordset.recordCount(); ++row) {
-        QStringList fields;
-        for (int column = 0; column < recordset.fieldCount(); ++column) {
-            const QVariant value = recordset.rowValue(row, column);
-            fields << (isNull(value) ? QStringLiteral("<null>") : value.toString());
-        }
-        result << fields.join(u'|');
-    }
-    return result;
-}
-
-QStringList contactNames(const TestRegister& reg)
-{
-    return rows(reg, QStringLiteral("SELECT FullName FROM tbl_Contacts ORDER BY ContactID"));
-}
-
-// One card per name, without phones.
-QByteArray cards(const QStringList& names)
-{
-    QByteArray file;
-    for (const QString& name : names)
-        file += "BEGIN:VCARD\r\nVERSION:3.0\r\nFN:" + name.toUtf8() + "\r\nEND:VCARD\r\n";
-    return file;
-}
-
-// Runs the import of path answering Yes and, when it ends, OK; the answers between are
-// the caller's. Returns the import's result.
-bool importFile(ScriptedPrompter& prompter, const QString& path, QList<int> errorAnswers = {})
-{
-    prompter.answer(MsgBoxResult::Yes).answerFile(path);
-    for (const int answer : errorAnswers)
-        prompter.answer(answer);
-    prompter.answer(MsgBoxResult::Ok);
-    return OutlookImport().run();
-}
-
-// A register file and, when the tests have one, a server register.
-void places()
-{
-    QTest::addColumn<TestRegister::Where>("where");
-    QTest::newRow("file") << TestRegister::File;
-    QTest::newRow("server") << TestRegister::Server;
-}
-
-// Makes the register refuse a new contact named "Refused", as a failing disk or a rule
-// of the server would.
-void refuseName(const TestRegister& reg, TestRegister::Where where)
-{
-    if (where == TestRegister::File) {
-        reg.exec(
-            QStringLiteral("CREATE TRIGGER refuse_name BEFORE INSERT ON tbl_Contacts "
-                           "WHEN NEW.FullName = 'Refused' BEGIN SELECT RAISE(ABORT, 'name refused'); END"));
-        return;
-    }
-    reg.exec(QStringLiteral("CREATE FUNCTION refuse_name() RETURNS trigger LANGUAGE plpgsql AS $$ BEGIN "
-                            "IF NEW.\"FullName\" = 'Refused' THEN RAISE EXCEPTION 'name refused'; END IF; "
-                            "RETURN NEW; END $$"));
-    reg.exec(QStringLiteral("CREATE TRIGGER refuse_name BEFORE INSERT ON \"tbl_Contacts\" FOR EACH ROW "
-                            "EXECUTE FUNCTION refuse_name()"));
-}
-
-} // namespace
 
 void ContactImportTest::importWritesRowsInOrder()
 {
@@ -160,6 +69,13 @@ void ContactImportTest::importWritesRowsInOrder()
                  QStringLiteral(
                      "SELECT HomeID, ContactID, Description, HomeWWW FROM tbl_HomePages ORDER BY HomeID")),
         (QStringList {QStringLiteral("1|2|<null>|http://x.lt"), QStringLiteral("2|4|<null>|http://w.lt")}));
+    // The history tells that the import wrote them.
+    QCOMPARE(rows(reg,
+                 QStringLiteral(
+                     "SELECT TableName, COUNT(DISTINCT RowKey), Command FROM tbl_History WHERE RowKey > 1 "
+                     "OR TableName <> 'tbl_Contacts' GROUP BY TableName, Command ORDER BY TableName")),
+        (QStringList {QStringLiteral("tbl_Contacts|3|Import"), QStringLiteral("tbl_HomePages|2|Import"),
+            QStringLiteral("tbl_Phones|5|Import")}));
 }
 
 void ContactImportTest::duplicateRuleFoldsCaseOnly_data()
@@ -196,7 +112,10 @@ void ContactImportTest::duplicateRuleFoldsCaseOnly()
     QTemporaryDir dir;
     const QByteArray file = "BEGIN:VCARD\nFN:" + imported.toUtf8() + "\nTEL:1\nEND:VCARD\n";
     ScriptedPrompter prompter;
+    // An open contact list is told to refresh only when contacts were added.
+    QSignalSpy refreshes(&ContactImportNotifier::instance(), &ContactImportNotifier::contactsImported);
     QVERIFY(importFile(prompter, writeContactFile(dir.path(), QStringLiteral("c.vcf"), file)));
+    QCOMPARE(refreshes.size(), added ? 1 : 0);
     QCOMPARE(contactNames(reg), added ? QStringList({stored, imported}) : QStringList {stored});
     QCOMPARE(rows(reg, QStringLiteral("SELECT ContactID, PhoneNumber FROM tbl_Phones")),
         added ? QStringList {QStringLiteral("2|1")} : QStringList {});

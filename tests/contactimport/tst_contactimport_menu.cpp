@@ -1,5 +1,6 @@
 // The import reached from the main window's menu, by keyboard and by the action.
 #include "ContactFiles.h"
+#include "addressbook/import/OutlookImportCommand.h"
 #include "explorer/MainWindow.h"
 #include "harness/ScriptedPrompter.h"
 #include "harness/TestRegister.h"
@@ -7,7 +8,9 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCursor>
 #include <QMenu>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace kartella;
@@ -77,6 +80,46 @@ private Q_SLOTS:
             reg.scalar(QStringLiteral("SELECT Notes FROM tbl_Contacts WHERE FullName = 'Ona Petraitienė'"))
                 .toString(),
             QStringLiteral("Skambinti po 10,\r\nne anksčiau"));
+    }
+
+    // The busy pointer is gone while a failed step is asked about and when the import ends,
+    // and a pointer set before the import is there again at each of its messages.
+    void busyPointerOnlyWhileCopying()
+    {
+        TestRegister reg;
+        reg.exec(
+            QStringLiteral("CREATE TRIGGER refuse_name BEFORE INSERT ON tbl_Contacts "
+                           "WHEN NEW.FullName = 'Refused' BEGIN SELECT RAISE(ABORT, 'name refused'); END"));
+        QTemporaryDir dir;
+        const QString path = writeContactFile(dir.path(), QStringLiteral("c.vcf"),
+            "BEGIN:VCARD\r\nFN:Jonas\r\nEND:VCARD\r\nBEGIN:VCARD\r\nFN:Refused\r\nEND:VCARD\r\n"
+            "BEGIN:VCARD\r\nFN:Ona\r\nEND:VCARD\r\n");
+        const auto pointer = [] {
+            const QCursor* cursor = QGuiApplication::overrideCursor();
+            return cursor ? int(cursor->shape()) : -1;
+        };
+        ScriptedPrompter prompter;
+        QList<int> seen;
+        prompter.whileAsking = [&] {
+            seen << pointer();
+            prompter.whileAsking = [&] {
+                seen << pointer();
+                prompter.whileAsking = [&] { seen << pointer(); };
+            };
+        };
+        prompter.answer(MsgBoxResult::Yes)
+            .answerFile(path)
+            .answer(MsgBoxResult::Yes)
+            .answer(MsgBoxResult::Ok);
+        QGuiApplication::setOverrideCursor(Qt::CrossCursor);
+        importOutlookData();
+        QCOMPARE(pointer(), int(Qt::CrossCursor));
+        QGuiApplication::restoreOverrideCursor();
+        QVERIFY(prompter.allAnswered());
+        QCOMPARE(prompter.texts().size(), 3);
+        QCOMPARE(seen, (QList<int> {Qt::CrossCursor, Qt::CrossCursor, Qt::CrossCursor}));
+        QCOMPARE(reg.scalar(QStringLiteral("SELECT COUNT(*) FROM tbl_Contacts")).toInt(), 2);
+        QCOMPARE(pointer(), -1);
     }
 };
 
