@@ -26,6 +26,19 @@ namespace {
 
 using Ids = QList<qint32>;
 
+// The ids of the documents a query lists, in its order.
+Ids idsOf(Connection& connection, const QString& sql)
+{
+    Recordset rs;
+    rs.open(sql, connection);
+    Ids ids;
+    while (!rs.eof()) {
+        ids << rs.fields(QStringLiteral("RastasID")).value().toInt();
+        rs.moveNext();
+    }
+    return ids;
+}
+
 // The documents found for a text, in the order of the window's list of results: ranked once
 // on the connection that reads the list, a term of `broadHits` hits or more being broad.
 Ids found(const TestRegister& reg, const QString& text, qint64 broadHits = 5000)
@@ -37,14 +50,7 @@ Ids found(const TestRegister& reg, const QString& text, qint64 broadHits = 5000)
     DocumentPaging paging(searchListSql(terms, indexes, 0, false, {}, {}), DocumentPaging::Mode::Category);
     const SearchRanking ranking = prepareRanking(connection, searchRanking(terms, indexes), broadHits);
     paging.setRanking(ranking.join, ranking.key);
-    Recordset rs;
-    rs.open(paging.pageSql(nullptr, 1000), connection);
-    Ids ids;
-    while (!rs.eof()) {
-        ids << rs.fields(QStringLiteral("RastasID")).value().toInt();
-        rs.moveNext();
-    }
-    return ids;
+    return idsOf(connection, paging.pageSql(nullptr, 1000));
 }
 
 Ids sorted(Ids ids)
@@ -271,14 +277,8 @@ private Q_SLOTS:
         const QList<SearchTerm> terms = searchTerms(text);
         const QDate start(2024, 2, 1);
         const QDate end(2024, 3, 2);
-        Ids queried;
-        Recordset rs;
-        rs.open(searchListSql(terms, indexes, direction, withinDates, start, end), connection);
-        while (!rs.eof()) {
-            queried << rs.fields(QStringLiteral("RastasID")).value().toInt();
-            rs.moveNext();
-        }
-        rs.close();
+        const Ids queried
+            = idsOf(connection, searchListSql(terms, indexes, direction, withinDates, start, end));
         QCOMPARE(queried.size(), expected);
 
         // The direction and the dates as they follow the terms in the list query.
@@ -290,13 +290,8 @@ private Q_SLOTS:
         connection.execute(QStringLiteral("CREATE TEMP TABLE kept (RastasID INTEGER PRIMARY KEY)"));
         SearchHits hits;
         hits.keep(connection, QStringLiteral("kept"), terms, indexes, filter.join(QStringLiteral(" AND ")));
-        Ids kept;
-        rs.open(QStringLiteral("SELECT RastasID FROM temp.kept"), connection);
-        while (!rs.eof()) {
-            kept << rs.fields(QStringLiteral("RastasID")).value().toInt();
-            rs.moveNext();
-        }
-        QCOMPARE(sorted(kept), sorted(queried));
+        QCOMPARE(
+            sorted(idsOf(connection, QStringLiteral("SELECT RastasID FROM temp.kept"))), sorted(queried));
     }
 
     // The first page of a search read ahead of its results: only when every term is in the
@@ -344,14 +339,7 @@ private Q_SLOTS:
         QCOMPARE(found.has_value(), ahead);
         if (!ahead)
             return;
-        Ids listed;
-        Recordset rs;
-        rs.open(searchListSql(terms, indexes, 0, false, {}, {}), connection);
-        while (!rs.eof()) {
-            listed << rs.fields(QStringLiteral("RastasID")).value().toInt();
-            rs.moveNext();
-        }
-        rs.close();
+        const Ids listed = idsOf(connection, searchListSql(terms, indexes, 0, false, {}, {}));
         QVERIFY(listed.size() >= 5);
         bool complete = false;
         const std::vector<qint32> first = found->firstIds(connection, {}, 3, 100, complete);
