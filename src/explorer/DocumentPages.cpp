@@ -310,6 +310,22 @@ DocumentPages::Page DocumentPages::readPage(int number)
         }
     }
 
+    if (number == m_lastPageAhead && m_lastPageIds.valid()) {
+        const std::vector<qint32> ids = m_lastPageIds.get();
+        m_lastPageAhead = -1;
+        if (!ids.empty()) {
+            Recordset rs;
+            rs.open(
+                m_paging.rowsByIdsSql(ids), *m_connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
+            ++m_pagesRead;
+            Page read;
+            read.items = rowsOf(rs, read.keys);
+            addPassages(read.items);
+            if (!read.keys.empty())
+                m_bounds[number] = {read.keys.front(), read.keys.back()};
+            return read;
+        }
+    }
     // A sort by a text column reads every row of the list for each page.
     std::optional<BusyCursor> busy;
     if (!m_paging.sortsByDate())
@@ -424,10 +440,48 @@ void DocumentPages::sort(int column, Qt::SortOrder order)
 {
     m_paging.setSort(column, order == Qt::DescendingOrder);
     dropPages();
+    readLastPageAhead();
+}
+
+void DocumentPages::readLastPageAhead()
+{
+    // A text column's order reads every row for either end of the list: the last page is read
+    // on another connection at the same time as the first, where that connection sees the
+    // same rows (no rows kept by this one, no letter's lock).
+    if (m_paging.sortsByDate() || m_paging.hasKeptRows() || m_paging.mode() == DocumentPaging::Mode::Letter
+        || m_count <= 2 * g_pageSize || m_connection->dialect() != SqlDialect::Sqlite)
+        return;
+    const int last = (m_count - 1) / g_pageSize;
+    const QString sql = m_paging.reversePageSql(nullptr, m_count - last * g_pageSize);
+    const QString connectionString = m_connection->connectionString();
+    m_lastPageAhead = last;
+    m_lastPageIds = std::async(std::launch::async, [sql, connectionString] {
+        std::vector<qint32> ids;
+        try {
+            Connection connection;
+            connection.setConnectionString(connectionString);
+            connection.setMode(ConnectModeEnum::ShareDenyNone);
+            connection.open();
+            Recordset rs;
+            rs.open(sql, connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
+            while (!rs.eof()) {
+                ids.push_back(rs.fields(QStringLiteral("RastasID")).value().toInt());
+                rs.moveNext();
+            }
+        } catch (const Error&) {
+            // The page is read the usual way.
+            ids.clear();
+        }
+        return ids;
+    });
 }
 
 void DocumentPages::dropPages()
 {
+    if (m_lastPageIds.valid())
+        m_lastPageIds.wait();
+    m_lastPageIds = {};
+    m_lastPageAhead = -1;
     m_pages.clear();
     m_recent.clear();
     m_bounds.clear();

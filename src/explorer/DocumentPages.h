@@ -7,9 +7,11 @@
 
 #include <QHash>
 
+#include <future>
 #include <list>
 #include <map>
 #include <memory>
+#include <vector>
 
 namespace kartella {
 
@@ -91,6 +93,7 @@ private:
 
     void addPassages(std::vector<ListItem>& rows);
     void rankEveryFoundRow();
+    void readLastPageAhead();
     void findRows(const QList<SearchTerm>& searchTerms);
     void keepFoundRows(const QList<SearchTerm>& terms);
 
@@ -105,6 +108,10 @@ private:
     std::list<int> m_recent;
     // The first and the last key of every page read in the present order.
     std::map<int, std::pair<PageKey, PageKey>> m_bounds;
+    // The ids of the last page in a text column's order, read on a connection of its own
+    // while the first page is read: Ctrl+End then costs a page.
+    std::future<std::vector<qint32>> m_lastPageIds;
+    int m_lastPageAhead = -1;
     // Each day's text is made once.
     QHash<qint64, QString> m_dayTexts;
 };

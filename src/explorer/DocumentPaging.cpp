@@ -362,6 +362,14 @@ QString DocumentPaging::page(const QStringList& more, bool reverse, int limit, i
     return outer.replace(QStringLiteral(" FROM tbl_Documents "), QStringLiteral(" FROM ") + inner);
 }
 
+QString DocumentPaging::rowsByIdsSql(const std::vector<qint32>& ids) const
+{
+    QStringList list;
+    for (const qint32 id : ids)
+        list << QString::number(id);
+    return select() + where({Id + QStringLiteral(" IN (") + list.join(u',') + u')'}) + orderBy(false);
+}
+
 QString DocumentPaging::rowByIdSql(qint32 id) const
 {
     return select() + where({Id + u'=' + QString::number(id)});

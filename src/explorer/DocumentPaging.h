@@ -4,6 +4,8 @@
 #include <QString>
 #include <QVariant>
 
+#include <vector>
+
 namespace kartella {
 
 // The position of a row in a document list's order: the value of the sort column and the
@@ -74,6 +76,9 @@ public:
     QString reversePageSql(const PageKey* before, int limit, int offset = 0) const;
     // The list's row of the document id, when the list has it.
     QString rowByIdSql(qint32 id) const;
+    // The list's rows of these document ids, in the list's order.
+    QString rowsByIdsSql(const std::vector<qint32>& ids) const;
+    Mode mode() const { return m_mode; }
     // SELECT COUNT(*) AS RowCount of the rows before `key` in the list's order: its row.
     QString rowOfKeySql(const PageKey& key) const;
     // The first row after `after` (from the first row when null) whose description starts
