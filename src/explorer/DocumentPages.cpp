@@ -206,12 +206,8 @@ void DocumentPages::rankEveryFoundRow()
         QStringLiteral("DELETE FROM temp.%1 WHERE NOT EXISTS (SELECT 1 FROM temp.%2 AS found "
                        "WHERE found.RastasID = temp.%1.hit_id)")
             .arg(ranks, FoundTable));
-    Recordset rs;
-    rs.open(QStringLiteral("SELECT COUNT(*) FROM temp.") + ranks, *m_connection, CursorTypeEnum::Static,
-        LockTypeEnum::Unspecified);
-    const qint64 ranked = rs.eof() ? 0 : rs.fields(0).value().toLongLong();
-    rs.close();
-    if (m_count - ranked > MostRankedByDate)
+    if (m_count - firstNumber(*m_connection, QStringLiteral("SELECT COUNT(*) FROM temp.") + ranks)
+        > MostRankedByDate)
         return;
     m_connection->execute(
         QStringLiteral("INSERT INTO temp.%1 (hit_id, hit_rank) SELECT found.RastasID, "

@@ -142,14 +142,14 @@ QString termCondition(const SearchTerm& term, const SearchIndexes& indexes)
     return ids + inFields + QStringLiteral(" UNION ") + inFile + u')';
 }
 
-qint64 countOf(Connection& connection, const QString& sql)
+} // namespace
+
+qint64 firstNumber(Connection& connection, const QString& sql)
 {
     Recordset rs;
     rs.open(sql, connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
-    return rs.eof() ? 0 : rs.fields(QStringLiteral("N")).value().toLongLong();
+    return rs.eof() ? 0 : rs.fields(0).value().toLongLong();
 }
-
-} // namespace
 
 QList<SearchTerm> searchTerms(const QString& text)
 {
@@ -290,12 +290,21 @@ SearchRanking searchRanking(const QList<SearchTerm>& terms, const SearchIndexes&
     return ranking;
 }
 
-qint64 broadHitCount(Connection& connection, qint64 broadHits)
+qint64 textCount(Connection& connection)
 {
     // The index's own count of its rows (one per text) is small to read; the texts are not.
-    const qint64 texts = countOf(connection,
+    return firstNumber(connection,
         QStringLiteral("SELECT COUNT(*) AS N FROM %1_docsize").arg(QLatin1String(ContentSearchTable)));
+}
+
+qint64 broadHitCount(qint64 texts, qint64 broadHits)
+{
     return std::max(broadHits, (texts + 1) / 2);
+}
+
+qint64 broadHitCount(Connection& connection, qint64 broadHits)
+{
+    return broadHitCount(textCount(connection), broadHits);
 }
 
 SearchRanking prepareRanking(Connection& connection, const SearchRanking& ranking, qint64 broadHits,
@@ -312,7 +321,7 @@ SearchRanking prepareRanking(Connection& connection, const SearchRanking& rankin
         const auto known = knownHits.constFind(query);
         const qint64 hits = known != knownHits.cend()
             ? *known
-            : countOf(connection,
+            : firstNumber(connection,
                 QStringLiteral("SELECT COUNT(*) AS N FROM (SELECT rowid FROM %1 WHERE %1 MATCH %2 LIMIT %3)")
                     .arg(table, sqlString(query), QString::number(broad)));
         anyHit = anyHit || hits > 0;

@@ -122,6 +122,12 @@ SearchRanking prepareRanking(Connection& connection, const SearchRanking& rankin
 // The hits from which a term of the files' text is broad: `broadHits`, or half of the texts
 // when that is more. Throws kartella::Error.
 qint64 broadHitCount(Connection& connection, qint64 broadHits = BroadHits);
+qint64 broadHitCount(qint64 texts, qint64 broadHits = BroadHits);
+// The texts the FTS5 index of a register file holds. Throws kartella::Error.
+qint64 textCount(Connection& connection);
+// The number in the first column of a query's first row; 0 when it has no row. Throws
+// kartella::Error.
+qint64 firstNumber(Connection& connection, const QString& sql);
 
 // The marks around the hit in a passage.
 inline constexpr char16_t PassageHitStart = u'\x02';

@@ -18,17 +18,10 @@ namespace {
 constexpr qint64 PhraseSample = 2000;
 constexpr qint64 PrefixSample = 200;
 
-qint64 numberOf(Connection& connection, const QString& sql)
-{
-    Recordset rs;
-    rs.open(sql, connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
-    return rs.eof() ? 0 : rs.fields(0).value().toLongLong();
-}
-
 // The rowid of the index of the texts after which `sample` texts come, or 0 without them.
 qint64 lastOfSample(Connection& connection, qint64 sample)
 {
-    return numberOf(connection,
+    return firstNumber(connection,
         QStringLiteral("SELECT id FROM %1_docsize ORDER BY id LIMIT 1 OFFSET %2")
             .arg(QLatin1String(ContentSearchTable))
             .arg(sample - 1));
@@ -40,7 +33,7 @@ qint64 judgedPhraseHits(Connection& connection, const QString& match, qint64 tex
     const qint64 sample = std::min(texts, PhraseSample);
     if (sample <= 0)
         return 0;
-    const qint64 hits = numberOf(connection,
+    const qint64 hits = firstNumber(connection,
         QStringLiteral("SELECT COUNT(*) FROM %1 WHERE %2 AND rowid <= %3")
             .arg(QLatin1String(ContentSearchTable), match)
             .arg(lastOfSample(connection, sample)));
@@ -69,15 +62,15 @@ bool manyFieldsHold(Connection& connection, const SearchTerm& term)
 {
     constexpr int Sample = 1000;
     const QString index = QLatin1String(SearchTable);
-    const qint64 documents = numberOf(connection,
+    const qint64 documents = firstNumber(connection,
         QStringLiteral("SELECT COUNT(*) FROM (SELECT id FROM %1_docsize LIMIT %2)").arg(index).arg(Sample));
     if (documents == 0)
         return false;
-    const qint64 last = numberOf(connection,
+    const qint64 last = firstNumber(connection,
         QStringLiteral("SELECT id FROM %1_docsize ORDER BY id LIMIT 1 OFFSET %2")
             .arg(index)
             .arg(documents - 1));
-    const qint64 hits = numberOf(connection,
+    const qint64 hits = firstNumber(connection,
         QStringLiteral("SELECT COUNT(*) FROM %1 WHERE rowid <= %2 AND instr(FoldedText, %3) > 0")
             .arg(index)
             .arg(last)
@@ -107,11 +100,8 @@ std::optional<SearchAhead> SearchAhead::of(
     if (terms.isEmpty() || indexes.fields != SearchIndexKind::FullText)
         return std::nullopt;
     const bool withTexts = indexes.content == ContentIndexKind::FullText;
-    const qint64 texts = withTexts
-        ? numberOf(connection,
-            QStringLiteral("SELECT COUNT(*) FROM %1_docsize").arg(QLatin1String(ContentSearchTable)))
-        : 0;
-    const qint64 broad = withTexts ? broadHitCount(connection, broadHits) : broadHits;
+    const qint64 texts = withTexts ? textCount(connection) : 0;
+    const qint64 broad = withTexts ? broadHitCount(texts, broadHits) : broadHits;
     SearchAhead ahead;
     for (const SearchTerm& term : terms) {
         const QList<SearchPart> parts = searchParts(term, indexes);
@@ -120,7 +110,7 @@ std::optional<SearchAhead> SearchAhead::of(
         if (parts.size() > 1) {
             const SearchPart& text = parts.back();
             if (text.word)
-                hits = numberOf(connection,
+                hits = firstNumber(connection,
                     QStringLiteral("SELECT COUNT(*) FROM (%1 LIMIT %2)").arg(text.ids()).arg(broad));
             else if (text.wholeAtOnce)
                 hits = judgedPrefixHits(connection, term, texts);
@@ -195,7 +185,7 @@ std::vector<qint32> SearchAhead::firstIds(
             bool holds = true;
             for (const SearchTerm& prefix : m_prefixes) {
                 holds = !searchPassage(rs.fields(1).value().toString(), {prefix}).isEmpty()
-                    || numberOf(
+                    || firstNumber(
                            connection, QStringLiteral("SELECT ") + fieldsHold(prefix, QString::number(id)))
                         != 0;
                 if (!holds)

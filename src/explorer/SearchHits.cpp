@@ -19,16 +19,9 @@ constexpr qint64 LookUpMost = 200;
 // A term's documents read whole once, for the steps that follow.
 const QString TermTable = QStringLiteral("search_term_hits");
 
-qint64 countOf(Connection& connection, const QString& sql)
-{
-    Recordset rs;
-    rs.open(sql, connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
-    return rs.eof() ? 0 : rs.fields(QStringLiteral("N")).value().toLongLong();
-}
-
 qint64 countUpTo(Connection& connection, const QString& ids, qint64 limit)
 {
-    return countOf(connection,
+    return firstNumber(connection,
         QStringLiteral("SELECT COUNT(*) AS N FROM (%1 LIMIT %2)").arg(ids, QString::number(limit)));
 }
 
@@ -169,13 +162,13 @@ void SearchHits::copyFirst(Connection& connection, const Term& term)
         connection.execute(into + part.ids());
         if (!part.contentQuery.isEmpty())
             m_contentHits.insert(part.contentQuery,
-                countOf(connection, QStringLiteral("SELECT COUNT(*) AS N FROM temp.") + m_table));
+                firstNumber(connection, QStringLiteral("SELECT COUNT(*) AS N FROM temp.") + m_table));
     }
 }
 
 void SearchHits::dropWithout(Connection& connection, const Term& term)
 {
-    const qint64 kept = countOf(connection, QStringLiteral("SELECT COUNT(*) AS N FROM temp.") + m_table);
+    const qint64 kept = firstNumber(connection, QStringLiteral("SELECT COUNT(*) AS N FROM temp.") + m_table);
     if (kept == 0)
         return;
     const bool lookUp = kept <= LookUpMost
@@ -193,7 +186,7 @@ void SearchHits::dropWithout(Connection& connection, const Term& term)
                 QStringLiteral("CREATE TEMP TABLE %1 (RastasID INTEGER PRIMARY KEY)").arg(TermTable));
             connection.execute(QStringLiteral("INSERT INTO temp.%1 (RastasID) ").arg(TermTable) + part.ids());
             m_contentHits.insert(part.contentQuery,
-                countOf(connection, QStringLiteral("SELECT COUNT(*) AS N FROM temp.") + TermTable));
+                firstNumber(connection, QStringLiteral("SELECT COUNT(*) AS N FROM temp.") + TermTable));
             holds << QStringLiteral("RastasID IN (SELECT RastasID FROM temp.%1)").arg(TermTable);
             termTable = true;
         } else {
