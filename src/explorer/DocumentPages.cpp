@@ -110,24 +110,8 @@ DocumentPages::DocumentPages(const QString& listSql, DocumentPaging::Mode mode, 
         m_connection->setConnectionString(plainConnectionString());
         if (mode != DocumentPaging::Mode::Letter)
             m_connection->setMode(ConnectModeEnum::ShareDenyNone);
-    }
-    findRows(searchTerms);
-}
-
-DocumentPages::DocumentPages(
-    const QString& listSql, const QList<SearchTerm>& searchTerms, const QString& connectionString)
-    : m_paging(listSql, DocumentPaging::Mode::Category)
-    , m_connection(std::make_unique<Connection>())
-{
-    m_connection->setConnectionString(connectionString);
-    m_connection->setMode(ConnectModeEnum::ShareDenyNone);
-    findRows(searchTerms);
-}
-
-void DocumentPages::findRows(const QList<SearchTerm>& searchTerms)
-{
-    if (!m_connection->isOpen())
         m_connection->open();
+    }
     if (m_paging.searchesIndexes() && m_connection->dialect() == SqlDialect::Sqlite) {
         m_connection->execute(QStringLiteral("DROP TABLE IF EXISTS temp.") + FoundTable);
         m_connection->execute(QStringLiteral("CREATE TEMP TABLE ") + FoundTable

@@ -33,10 +33,6 @@ public:
     // A connection already open on the register may be given for the list to read through.
     DocumentPages(const QString& listSql, DocumentPaging::Mode mode, qint32 contactId = 0, QChar letter = {},
         const QList<SearchTerm>& searchTerms = {}, std::unique_ptr<Connection> open = nullptr);
-    // A search's list on the register of the connection string, which a thread other than
-    // the window's finds: the options are read on the window's.
-    DocumentPages(
-        const QString& listSql, const QList<SearchTerm>& searchTerms, const QString& connectionString);
     ~DocumentPages() override;
 
     // The rows of a search: in the ranking's order while the list has no sort of its own, each
@@ -46,7 +42,7 @@ public:
     void setSearch(const SearchRanking& ranking, const QList<SearchTerm>& terms,
         const QHash<QString, qint64>& knownHits = {});
     // The first page of a search's results (searchListSql()'s list), read ahead of them when
-    // searchAhead() allows it: its rows are those of the whole list's first page, by date, and
+    // SearchAhead allows it: its rows are those of the whole list's first page, by date, and
     // count() is theirs. Null when the search ranks, on a server, or when too few of the first
     // documents by date hold the terms for a page; else `contentHits` gets the hits judged,
     // for setSearch() of the whole list, and `whole` tells whether the page is the whole list
@@ -94,7 +90,6 @@ private:
     void addPassages(std::vector<ListItem>& rows);
     void rankEveryFoundRow();
     void readLastPageAhead();
-    void findRows(const QList<SearchTerm>& searchTerms);
     void keepFoundRows(const QList<SearchTerm>& terms);
 
     DocumentPaging m_paging;

@@ -3,6 +3,7 @@
 #include "base/Error.h"
 #include "explorer/DocumentPages.h"
 #include "store/Store.h"
+#include "store/engine/Connection.h"
 
 #include <QThread>
 
@@ -30,7 +31,12 @@ void SearchFinder::find(const QString& sql, const SearchRanking& ranking, const 
     const QString connectionString = plainConnectionString();
     QThread* thread = QThread::create([sql, ranking, terms, knownHits, connectionString, search] {
         try {
-            auto pages = std::make_unique<DocumentPages>(sql, terms, connectionString);
+            auto connection = std::make_unique<Connection>();
+            connection->setConnectionString(connectionString);
+            connection->setMode(ConnectModeEnum::ShareDenyNone);
+            connection->open();
+            auto pages = std::make_unique<DocumentPages>(
+                sql, DocumentPaging::Mode::Category, 0, QChar(), terms, std::move(connection));
             pages->setSearch(ranking, terms, knownHits);
             search->hasRows = pages->queryHasRows();
             search->pages = std::move(pages);
