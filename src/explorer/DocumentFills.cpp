@@ -78,7 +78,7 @@ void DocumentFills::fillSearchList(
     const QString& sql, const SearchRanking& ranking, const QList<SearchTerm>& terms)
 {
     m_finder.drop();
-    // The first page ahead is the whole list's only in the list's own order, by date.
+    // The first page ahead is the whole list's only in the list's own order, or by date.
     constexpr int DateColumn = 3;
     if (!m_model.isSorted()
         || (m_model.sortKey() == DateColumn && m_model.sortOrder() == Qt::AscendingOrder)) {
@@ -86,7 +86,7 @@ void DocumentFills::fillSearchList(
         bool whole = false;
         std::unique_ptr<Connection> spare;
         if (std::unique_ptr<DocumentPages> first
-            = DocumentPages::firstPageAhead(sql, terms, contentHits, whole, &spare)) {
+            = DocumentPages::firstPageAhead(sql, terms, !m_model.isSorted(), contentHits, whole, &spare)) {
             setDocumentColumns(first->hasPassages());
             const int count = first->count();
             m_model.setSource(std::move(first));

@@ -50,7 +50,7 @@ DocumentPages::DocumentPages(const QString& listSql, std::unique_ptr<Connection>
 { }
 
 std::unique_ptr<DocumentPages> DocumentPages::firstPageAhead(const QString& listSql,
-    const QList<SearchTerm>& terms, QHash<QString, qint64>& contentHits, bool& whole,
+    const QList<SearchTerm>& terms, bool byRank, QHash<QString, qint64>& contentHits, bool& whole,
     std::unique_ptr<Connection>* spare)
 {
     auto connection = std::make_unique<Connection>();
@@ -70,11 +70,12 @@ std::unique_ptr<DocumentPages> DocumentPages::firstPageAhead(const QString& list
         DocumentPaging(listSql, DocumentPaging::Mode::Category).condition(), terms, indexes);
     if (!filter)
         return lookedOnly();
-    const std::optional<SearchAhead> ahead = SearchAhead::of(*connection, terms, indexes, g_broadHits);
+    const std::optional<SearchAhead> ahead
+        = SearchAhead::of(*connection, terms, indexes, g_broadHits, byRank);
     if (!ahead)
         return lookedOnly();
-    // Terms that are each in most texts may still be seldom together: the first page is
-    // looked for among the first ten pages of documents by date.
+    // Terms that are each in most texts may still be seldom together: the documents by date
+    // are looked for among the first ten pages of them.
     bool complete = false;
     const std::vector<qint32> ids
         = ahead->firstIds(*connection, *filter, g_pageSize, 10 * g_pageSize, complete);
@@ -86,6 +87,7 @@ std::unique_ptr<DocumentPages> DocumentPages::firstPageAhead(const QString& list
     const QString sql = documentSql() + QStringLiteral("WHERE tbl_Documents.RastasID IN (") + list.join(u',')
         + QStringLiteral(") ORDER BY tbl_Documents.DokRegistracData");
     std::unique_ptr<DocumentPages> pages(new DocumentPages(sql, std::move(connection)));
+    pages->m_paging.setRanking(ahead->ranking().join, ahead->ranking().key);
     if (ahead->anyContentHit())
         pages->m_passageTerms = terms;
     pages->m_count = int(ids.size());

@@ -42,14 +42,15 @@ public:
     void setSearch(const SearchRanking& ranking, const QList<SearchTerm>& terms,
         const QHash<QString, qint64>& knownHits = {});
     // The first page of a search's results (searchListSql()'s list), read ahead of them when
-    // SearchAhead allows it: its rows are those of the whole list's first page, by date, and
-    // count() is theirs. Null when the search ranks, on a server, or when too few of the first
-    // documents by date hold the terms for a page; else `contentHits` gets the hits judged,
-    // for setSearch() of the whole list, and `whole` tells whether the page is the whole list
-    // (every document was looked at). When it gives null, `spare` (when given) gets the
-    // connection it opened, for the list. Throws kartella::Error.
+    // SearchAhead allows it: its rows are those of the whole list's first page, in its order
+    // (the ranked hits first when `byRank`, the list having no sort of its own, then by date),
+    // and count() is theirs. Null when SearchAhead gives nothing, on a server, or when too few
+    // of the first documents by date hold the terms for a page; else `contentHits` gets the
+    // hits judged, for setSearch() of the whole list, and `whole` tells whether the page is the
+    // whole list (every document was looked at). When it gives null, `spare` (when given) gets
+    // the connection it opened, for the list. Throws kartella::Error.
     static std::unique_ptr<DocumentPages> firstPageAhead(const QString& listSql,
-        const QList<SearchTerm>& terms, QHash<QString, qint64>& contentHits, bool& whole,
+        const QList<SearchTerm>& terms, bool byRank, QHash<QString, qint64>& contentHits, bool& whole,
         std::unique_ptr<Connection>* spare = nullptr);
     // The hits of the files' text from which a term ranks nothing (for tests; BroadHits).
     static void setBroadHits(qint64 hits);

@@ -57,15 +57,15 @@ qint64 judgedPrefixHits(Connection& connection, const SearchTerm& prefix, qint64
     return hits * texts / rs.recordCount();
 }
 
-// Whether more than a tenth of the first documents hold the piece in their fields.
-bool manyFieldsHold(Connection& connection, const SearchTerm& term)
+// The share of the first documents (1 000 at most) whose fields hold the piece.
+double fieldsShare(Connection& connection, const SearchTerm& term)
 {
     constexpr int Sample = 1000;
     const QString index = QLatin1String(SearchTable);
     const qint64 documents = firstNumber(connection,
         QStringLiteral("SELECT COUNT(*) FROM (SELECT id FROM %1_docsize LIMIT %2)").arg(index).arg(Sample));
     if (documents == 0)
-        return false;
+        return 0;
     const qint64 last = firstNumber(connection,
         QStringLiteral("SELECT id FROM %1_docsize ORDER BY id LIMIT 1 OFFSET %2")
             .arg(index)
@@ -75,7 +75,7 @@ bool manyFieldsHold(Connection& connection, const SearchTerm& term)
             .arg(index)
             .arg(last)
             .arg(sqlString(term.text)));
-    return hits * 10 > documents;
+    return double(hits) / double(documents);
 }
 
 // Whether the fields of the document whose id is `id` hold the piece, read from the
@@ -94,8 +94,8 @@ QString heldBy(const QString& table, const QString& condition)
 
 } // namespace
 
-std::optional<SearchAhead> SearchAhead::of(
-    Connection& connection, const QList<SearchTerm>& terms, const SearchIndexes& indexes, qint64 broadHits)
+std::optional<SearchAhead> SearchAhead::of(Connection& connection, const QList<SearchTerm>& terms,
+    const SearchIndexes& indexes, qint64 broadHits, bool byRank)
 {
     if (terms.isEmpty() || indexes.fields != SearchIndexKind::FullText)
         return std::nullopt;
@@ -103,10 +103,12 @@ std::optional<SearchAhead> SearchAhead::of(
     const qint64 texts = withTexts ? textCount(connection) : 0;
     const qint64 broad = withTexts ? broadHitCount(texts, broadHits) : broadHits;
     SearchAhead ahead;
+    bool anyRanks = false;
     for (const SearchTerm& term : terms) {
         const QList<SearchPart> parts = searchParts(term, indexes);
         const QString inFields = fieldsHold(term, QStringLiteral("tbl_Documents.RastasID"));
         qint64 hits = 0;
+        bool ranks = false;
         if (parts.size() > 1) {
             const SearchPart& text = parts.back();
             if (text.word)
@@ -116,15 +118,29 @@ std::optional<SearchAhead> SearchAhead::of(
                 hits = judgedPrefixHits(connection, term, texts);
             else
                 hits = judgedPhraseHits(connection, text.condition, texts);
-            // A term of a few texts ranks them.
-            if (hits > 0 && hits < broad)
+            // A term of a few texts ranks them: a word's hits are few to rank and look up; a
+            // phrase's or a prefix's count is only judged.
+            ranks = hits > 0 && hits < broad;
+            if (ranks && (!byRank || !text.word || hits >= broadHits))
                 return std::nullopt;
             ahead.m_contentHits.insert(text.contentQuery, hits);
         }
-        if (hits == 0) {
-            // In the fields alone: worth looking for among the first documents only when many hold it.
-            if (!manyFieldsHold(connection, term))
+        // Found in few texts or none: worth looking for among the first documents by date only
+        // when more than a tenth hold it in their fields; worth ranking ahead of the list only
+        // when that makes a broad list (the ids are about as many as the documents).
+        if (hits == 0 || ranks) {
+            const double share = fieldsShare(connection, term);
+            if (share <= 0.1)
                 return std::nullopt;
+            if (ranks
+                && share
+                        * double(firstNumber(
+                            connection, QStringLiteral("SELECT MAX(RastasID) FROM tbl_Documents")))
+                    < double(broadHits))
+                return std::nullopt;
+        }
+        anyRanks = anyRanks || ranks;
+        if (hits == 0) {
             ahead.m_conditions << inFields;
         } else if (parts.back().wholeAtOnce) {
             ahead.m_prefixes << term;
@@ -134,16 +150,44 @@ std::optional<SearchAhead> SearchAhead::of(
         }
         ahead.m_anyContentHit = ahead.m_anyContentHit || hits > 0;
     }
+    if (anyRanks)
+        ahead.m_ranking
+            = prepareRanking(connection, searchRanking(terms, indexes), broadHits, ahead.m_contentHits);
     return ahead;
 }
 
 std::vector<qint32> SearchAhead::firstIds(
     Connection& connection, const QString& filter, int rows, int walked, bool& complete) const
 {
-    // The walk ends at the date of the last document it may look at.
     QStringList conditions = m_conditions;
     if (!filter.isEmpty())
         conditions << u'(' + filter + u')';
+    const QString body = m_prefixes.isEmpty()
+        ? QString()
+        : QStringLiteral(", (SELECT Body FROM tbl_Document_Text WHERE tbl_Document_Text.RastasID = "
+                         "tbl_Documents.RastasID) AS Body");
+    const auto where = [&conditions] {
+        return conditions.isEmpty() ? QString()
+                                    : QStringLiteral(" WHERE ") + conditions.join(QStringLiteral(" AND "));
+    };
+    std::vector<qint32> ids;
+    if (!m_ranking.join.isEmpty()) {
+        // The ranked hits first, best first, as the whole list orders them.
+        const QString ranks = QLatin1String(RankedHitsTable);
+        ids = matchingIds(connection,
+            QStringLiteral("SELECT tbl_Documents.RastasID%1 FROM temp.%2 AS ranks JOIN tbl_Documents ON "
+                           "tbl_Documents.RastasID = ranks.hit_id%3 ORDER BY ranks.hit_rank, ranks.hit_id")
+                .arg(body, ranks, where()),
+            rows);
+        if (int(ids.size()) == rows) {
+            complete = false;
+            return ids;
+        }
+        conditions << QStringLiteral("NOT EXISTS (SELECT 1 FROM temp.%1 AS hit WHERE hit.hit_id = "
+                                     "tbl_Documents.RastasID)")
+                          .arg(ranks);
+    }
+    // The walk ends at the date of the last document it may look at.
     Recordset last;
     last.open(
         QStringLiteral("SELECT DokRegistracData FROM tbl_Documents%1 ORDER BY DokRegistracData, RastasID "
@@ -163,15 +207,18 @@ std::vector<qint32> SearchAhead::firstIds(
                               .arg(DocumentPaging::literal(date));
     }
     last.close();
-    QString sql = QStringLiteral("SELECT tbl_Documents.RastasID");
-    if (!m_prefixes.isEmpty())
-        sql += QStringLiteral(", (SELECT Body FROM tbl_Document_Text WHERE tbl_Document_Text.RastasID = "
-                              "tbl_Documents.RastasID) AS Body");
-    sql += QStringLiteral(" FROM tbl_Documents");
-    if (!conditions.isEmpty())
-        sql += QStringLiteral(" WHERE ") + conditions.join(QStringLiteral(" AND "));
-    sql += QStringLiteral(" ORDER BY tbl_Documents.DokRegistracData, tbl_Documents.RastasID LIMIT ")
-        + QString::number(rows);
+    const std::vector<qint32> byDate = matchingIds(connection,
+        QStringLiteral("SELECT tbl_Documents.RastasID%1 FROM tbl_Documents%2 ORDER BY "
+                       "tbl_Documents.DokRegistracData, tbl_Documents.RastasID")
+            .arg(body, where()),
+        rows - int(ids.size()));
+    ids.insert(ids.end(), byDate.begin(), byDate.end());
+    return ids;
+}
+
+std::vector<qint32> SearchAhead::matchingIds(Connection& connection, const QString& query, int rows) const
+{
+    const QString sql = query + QStringLiteral(" LIMIT ") + QString::number(rows);
     std::vector<qint32> ids;
     // Without a prefix the database finds the page; with one, the program reads the texts a
     // page at a time until it has one, and looks up the fields of a text without the prefix.

@@ -13,29 +13,38 @@ namespace kartella {
 
 class Connection;
 
-// A search whose results come by date can show its first page before every result is
-// found: no term ranks when each is in the texts of broadHitCount() documents or more, and
-// then most of the first documents by date hold every term. The first page is found by
-// looking each of those documents up in the indexes, which costs a page, not the register.
-// The index reads a prefix of its words whole at each look-up, so a prefix is looked for in
-// the document's text by the program instead, as the index finds words.
+// A search can show its first page before every result is found when that page costs a
+// page, not the register. Its results come by date when no term ranks (each is in the texts
+// of broadHitCount() documents or more); then most of the first documents by date hold every
+// term, and each of them is looked up in the indexes. A word in few texts ranks them: its
+// hits come first, best first, and there are few of them to look up; the documents by date
+// follow. The index reads a prefix of its words whole at each look-up, so a prefix is looked
+// for in the document's text by the program instead, as the index finds words.
 class SearchAhead
 {
 public:
-    // Empty when a term ranks (it is in some texts, fewer than broadHitCount()), when a term
-    // in no text is in the fields of a tenth of the first 1 000 documents or fewer, or on a
-    // register without the fields' FTS5 index. A word's texts are counted as far as
-    // broadHitCount(); a phrase's are judged by the first 2 000 texts, a prefix's by the first
-    // 200. Throws kartella::Error.
+    // Empty when a phrase or a prefix ranks (it is in some texts, fewer than
+    // broadHitCount()), when a word ranks `broadHits` texts or more, when a term in few texts or
+    // in none is in the fields of a tenth of the first 1 000 documents or fewer, when a word
+    // that ranks is in the fields of fewer than about `broadHits` documents, on a register
+    // without the fields' FTS5 index, or when a term ranks and `byRank` is false (the list has
+    // an order of its own). A word's texts are counted as far as broadHitCount(); a phrase's
+    // are judged by the first 2 000 texts, a prefix's by the first 200. When a term ranks,
+    // the ranks are prepared on the connection (prepareRanking()). Throws kartella::Error.
     static std::optional<SearchAhead> of(Connection& connection, const QList<SearchTerm>& terms,
-        const SearchIndexes& indexes, qint64 broadHits = BroadHits);
+        const SearchIndexes& indexes, qint64 broadHits = BroadHits, bool byRank = true);
 
-    // The ids of the first `rows` documents by date (then id) that hold every term and meet
-    // `filter` (a condition on tbl_Documents, or empty), looked for among the first `walked`
-    // documents by date that meet it. `complete` tells whether those were all of them.
+    // The ids of the first `rows` documents of the list that hold every term and meet
+    // `filter` (a condition on tbl_Documents, or empty): the ranked hits best first, then the
+    // documents by date (then id), these looked for among the first `walked` documents by
+    // date that meet the filter. `complete` tells whether those were all of them.
     // Throws kartella::Error.
     std::vector<qint32> firstIds(
         Connection& connection, const QString& filter, int rows, int walked, bool& complete) const;
+
+    // The ranking prepared on the connection, for the first page's order; empty when no term
+    // ranks.
+    const SearchRanking& ranking() const { return m_ranking; }
 
     // The hits judged for each query of the files' text (searchRanking()'s), for
     // prepareRanking() when the whole list is found: its order is then the first page's.
@@ -44,12 +53,15 @@ public:
     bool anyContentHit() const { return m_anyContentHit; }
 
 private:
+    std::vector<qint32> matchingIds(Connection& connection, const QString& sql, int rows) const;
+
     // A prefix: its fields in the index, its words in the document's text.
     QStringList m_conditions;
     // Looked for by the program in the document's text, by the database in its fields.
     QList<SearchTerm> m_prefixes;
     QHash<QString, qint64> m_contentHits;
     bool m_anyContentHit = false;
+    SearchRanking m_ranking;
 };
 
 } // namespace kartella

@@ -357,6 +357,63 @@ private Q_SLOTS:
         QCOMPARE(found->anyContentHit(), !text.contains(QStringLiteral("rastas")) || text.contains(u' '));
     }
 
+    // A word in few texts ranks them: its first page read ahead holds the ranked hits that
+    // hold every term, best first, then the other documents by date, as the whole list does;
+    // only while the list has no order of its own, and only when many fields hold the term.
+    void firstPageAheadOfRankedHits_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("byRank");
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<bool>("ahead");
+        QTest::newRow("ranked hits fill the page") << "rastas" << true << 2 << true;
+        QTest::newRow("ranked hits, then by date") << "rastas" << true << 6 << true;
+        QTest::newRow("no ranked hit holds the other term") << "rastas 1" << true << 3 << true;
+        QTest::newRow("a ranked hit and a broad piece") << "rastas ra" << true << 6 << true;
+        QTest::newRow("a list sorted by a column") << "rastas" << false << 6 << false;
+        QTest::newRow("in few fields") << "kita" << true << 6 << false;
+        QTest::newRow("a ranked prefix") << "rastas sutart*" << true << 6 << false;
+    }
+
+    void firstPageAheadOfRankedHits()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, byRank);
+        QFETCH(int, rows);
+        QFETCH(bool, ahead);
+        const TestRegister reg;
+        QHash<int, qint32> ids;
+        for (int n = 1; n <= 12; ++n) {
+            ids[n]
+                = addDocument(reg, n == 4 ? QStringLiteral("Sutartis 4") : QStringLiteral("Raštas %1").arg(n),
+                    QDate(2024, 3, 1).addDays(n));
+        }
+        addText(reg, ids[5], QStringLiteral("Raštas, raštas dėl sutarties"));
+        addText(reg, ids[9], QStringLiteral("Raštas ir kiti"));
+        addText(reg, ids[4], QStringLiteral("Atsakymas į raštą: raštas"));
+        addText(reg, ids[2], QStringLiteral("Kita"));
+        // Three texts of four hold "rastas": fewer than the four hits that make a word broad.
+        constexpr qint64 BroadAt = 4;
+        Connection connection;
+        connection.open(reg.connectionString());
+        const SearchIndexes indexes = searchIndexes(connection);
+        const QList<SearchTerm> terms = searchTerms(text);
+        const std::optional<SearchAhead> first = SearchAhead::of(connection, terms, indexes, BroadAt, byRank);
+        QCOMPARE(first.has_value(), ahead);
+        if (!ahead)
+            return;
+        QVERIFY(!first->ranking().join.isEmpty());
+        const Ids listed = found(reg, text, BroadAt);
+        QVERIFY(listed.size() > rows);
+        bool complete = false;
+        const std::vector<qint32> page = first->firstIds(connection, {}, rows, 100, complete);
+        QCOMPARE(Ids(page.begin(), page.end()), listed.mid(0, rows));
+        // The whole list ranks the same hits as the first page did.
+        QCOMPARE(first->contentHits().value(
+                     searchRanking(searchTerms(QStringLiteral("rastas")), indexes).fullTextQueries.value(0)),
+            3);
+    }
+
     void changedAndDeletedTextsLeaveTheIndex_data() { places(); }
 
     void changedAndDeletedTextsLeaveTheIndex()

@@ -206,6 +206,39 @@ private Q_SLOTS:
         QVERIFY(prompter.prompts().isEmpty());
     }
 
+    // A word in one text and in many fields: its first page shows the ranked hit first, then
+    // the others by date, as the whole list that replaces it does.
+    void rankedSearchShowsItsHitFirstThenTheWholeList()
+    {
+        ExplorerFixture fx;
+        ScriptedPrompter prompter;
+        MainWindow& w = fx.window();
+        w.findChild<ContentProgress*>()->stop();
+        fx.reg.exec(QStringLiteral("UPDATE tbl_Documents SET DokPastaba = 'Sutartis'"));
+        fx.reg.exec(QStringLiteral("INSERT OR REPLACE INTO tbl_Document_Text (RastasID, State, Body) VALUES "
+                                   "(%1, 1, 'Sutartis ir priedai')")
+                        .arg(fx.id["letter"]));
+        DocumentPages::setPageSize(2);
+        DocumentPages::setBroadHits(2);
+        const auto restore = qScopeGuard([] {
+            DocumentPages::setPageSize(100);
+            DocumentPages::setBroadHits(BroadHits);
+        });
+        SearchBox* box = w.searchBox();
+        box->setFocus();
+        QTest::keyClicks(box, "sutartis");
+        QTest::keyClick(box, Qt::Key_Return);
+        QCOMPARE(fx.countText(), QString("Searching…"));
+        QCOMPARE(fx.documents().itemCount(), 2);
+        QCOMPARE(fx.documents().item(0).text, QString("letter"));
+        QCOMPARE(fx.documents().item(1).text, QString("work"));
+        QTRY_COMPARE(fx.countText(), QString("5 object(s)"));
+        QCOMPARE(fx.documents().item(0).text, QString("letter"));
+        QCOMPARE(fx.documents().item(1).text, QString("work"));
+        QCOMPARE(fx.documents().item(2).text, QString("contract"));
+        QVERIFY(prompter.prompts().isEmpty());
+    }
+
     // Ranked results read a page at a time in the order of the ranks, from either end.
     void rankedResultsPageInTheirOrder()
     {
