@@ -1,7 +1,8 @@
 // Times the main window on a register of 1 000 000 documents (another size with
-// --documents N) and 50 000 contacts: the start to a painted list, node clicks in both
-// views with the date and direction filters on and off, a column sort, Ctrl+End, quick
-// searches, the address book's opening, and the memory after scrolling the whole list.
+// --documents N, another register with --register LOCATION) and 50 000 contacts: the start
+// to a painted list, node clicks in both views with the date and direction filters on and
+// off, a column sort, Ctrl+End, quick searches, the address book's opening, and the memory
+// after scrolling the whole list.
 // The register is made once and kept in the build folder. Prints "name: value" lines.
 #include "addressbook/AddressBookWindow.h"
 #include "explorer/DeletedItemsNode.h"
@@ -144,9 +145,13 @@ int main(int argc, char* argv[])
     const qsizetype at = arguments.indexOf(QStringLiteral("--documents"));
     if (at > 0 && at + 1 < arguments.size())
         documents = arguments.at(at + 1).toInt();
-    const QString path = sampleRegister(documents);
+    // --register LOCATION: a register made before (a server's, say, with the sample copied
+    // to it by kartella-db copy), instead of the sample of the build folder.
+    const qsizetype given = arguments.indexOf(QStringLiteral("--register"));
+    const QString path
+        = given > 0 && given + 1 < arguments.size() ? arguments.at(given + 1) : sampleRegister(documents);
     // A sample kept from an earlier build gets the schema steps added since.
-    if (registerNeedsUpgrade(path)) {
+    if (given < 0 && registerNeedsUpgrade(path)) {
         QTextStream(stderr) << "upgrading the sample\n";
         upgradeRegister(path);
     }

@@ -74,11 +74,11 @@ std::unique_ptr<DocumentPages> DocumentPages::firstPageAhead(const QString& list
         = SearchAhead::of(*connection, terms, indexes, g_broadHits, byRank);
     if (!ahead)
         return lookedOnly();
-    // Terms that are each in most texts may still be seldom together: the documents by date
-    // are looked for among the first ten pages of them.
+    // Terms that are each in many documents may still be seldom together: the documents by
+    // date are looked for among the first few pages of them.
     bool complete = false;
     const std::vector<qint32> ids
-        = ahead->firstIds(*connection, *filter, g_pageSize, 10 * g_pageSize, complete);
+        = ahead->firstIds(*connection, *filter, g_pageSize, ahead->walked(g_pageSize), complete);
     if (ids.empty() || (!complete && int(ids.size()) < g_pageSize))
         return nullptr;
     QStringList list;

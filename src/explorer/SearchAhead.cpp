@@ -9,6 +9,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <cmath>
 
 namespace kartella {
 
@@ -56,6 +57,11 @@ qint64 judgedPrefixHits(Connection& connection, const SearchTerm& prefix, qint64
     }
     return hits * texts / rs.recordCount();
 }
+
+// The pages of documents by date looked at for a first page, at most: two pages' worth of
+// the fewest documents expected to hold the terms.
+constexpr int LongestWalk = 50;
+constexpr int ShortestWalk = 10;
 
 // The share of the first documents (1 000 at most) whose fields hold the piece.
 double fieldsShare(Connection& connection, const SearchTerm& term)
@@ -118,26 +124,26 @@ std::optional<SearchAhead> SearchAhead::of(Connection& connection, const QList<S
                 hits = judgedPrefixHits(connection, term, texts);
             else
                 hits = judgedPhraseHits(connection, text.condition, texts);
-            // A term of a few texts ranks them: a word's hits are few to rank and look up; a
-            // phrase's or a prefix's count is only judged.
+            // A term of a few texts ranks them, unless the list has an order of its own: a
+            // word's hits are few to rank and look up; a phrase's or a prefix's count is only
+            // judged.
             ranks = hits > 0 && hits < broad;
-            if (ranks && (!byRank || !text.word || hits >= broadHits))
+            if (ranks && byRank && (!text.word || hits >= broadHits))
                 return std::nullopt;
             ahead.m_contentHits.insert(text.contentQuery, hits);
         }
         // Found in few texts or none: worth looking for among the first documents by date only
-        // when more than a tenth hold it in their fields; worth ranking ahead of the list only
-        // when that makes a broad list (the ids are about as many as the documents).
+        // when enough of them hold it in their fields for a page within the longest walk, and
+        // when that makes a broad list (the fields' share of about every document).
         if (hits == 0 || ranks) {
             const double share = fieldsShare(connection, term);
-            if (share <= 0.1)
+            if (share < 2.0 / LongestWalk)
                 return std::nullopt;
-            if (ranks
-                && share
-                        * double(firstNumber(
-                            connection, QStringLiteral("SELECT MAX(RastasID) FROM tbl_Documents")))
-                    < double(broadHits))
+            const qint64 documents
+                = firstNumber(connection, QStringLiteral("SELECT MAX(RastasID) FROM tbl_Documents"));
+            if (share * double(documents) < double(broadHits))
                 return std::nullopt;
+            ahead.m_leastShare = std::min(ahead.m_leastShare, share);
         }
         anyRanks = anyRanks || ranks;
         if (hits == 0) {
@@ -150,7 +156,7 @@ std::optional<SearchAhead> SearchAhead::of(Connection& connection, const QList<S
         }
         ahead.m_anyContentHit = ahead.m_anyContentHit || hits > 0;
     }
-    if (anyRanks)
+    if (anyRanks && byRank)
         ahead.m_ranking
             = prepareRanking(connection, searchRanking(terms, indexes), broadHits, ahead.m_contentHits);
     return ahead;
@@ -214,6 +220,12 @@ std::vector<qint32> SearchAhead::firstIds(
         rows - int(ids.size()));
     ids.insert(ids.end(), byDate.begin(), byDate.end());
     return ids;
+}
+
+int SearchAhead::walked(int rows) const
+{
+    const int pages = int(std::ceil(2.0 / m_leastShare));
+    return rows * std::clamp(pages, ShortestWalk, LongestWalk);
 }
 
 std::vector<qint32> SearchAhead::matchingIds(Connection& connection, const QString& query, int rows) const

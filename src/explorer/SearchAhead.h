@@ -25,12 +25,12 @@ class SearchAhead
 public:
     // Empty when a phrase or a prefix ranks (it is in some texts, fewer than
     // broadHitCount()), when a word ranks `broadHits` texts or more, when a term in few texts or
-    // in none is in the fields of a tenth of the first 1 000 documents or fewer, when a word
-    // that ranks is in the fields of fewer than about `broadHits` documents, on a register
-    // without the fields' FTS5 index, or when a term ranks and `byRank` is false (the list has
-    // an order of its own). A word's texts are counted as far as broadHitCount(); a phrase's
-    // are judged by the first 2 000 texts, a prefix's by the first 200. When a term ranks,
-    // the ranks are prepared on the connection (prepareRanking()). Throws kartella::Error.
+    // in none is in the fields of fewer than one in 25 of the first 1 000 documents or of fewer
+    // than about `broadHits` documents in all, or on a register without the fields' FTS5
+    // index. When `byRank` is false the list is by date (its own order), and nothing ranks. A
+    // word's texts are counted as far as broadHitCount(); a phrase's are judged by the first
+    // 2 000 texts, a prefix's by the first 200. When a term ranks, the ranks are prepared on
+    // the connection (prepareRanking()). Throws kartella::Error.
     static std::optional<SearchAhead> of(Connection& connection, const QList<SearchTerm>& terms,
         const SearchIndexes& indexes, qint64 broadHits = BroadHits, bool byRank = true);
 
@@ -41,6 +41,10 @@ public:
     // Throws kartella::Error.
     std::vector<qint32> firstIds(
         Connection& connection, const QString& filter, int rows, int walked, bool& complete) const;
+
+    // The documents by date to look at for the first `rows`: enough for two pages where the
+    // fields hold a term, ten pages at least and 50 at most.
+    int walked(int rows) const;
 
     // The ranking prepared on the connection, for the first page's order; empty when no term
     // ranks.
@@ -62,6 +66,8 @@ private:
     QHash<QString, qint64> m_contentHits;
     bool m_anyContentHit = false;
     SearchRanking m_ranking;
+    // The least share of the first documents whose fields hold a term in few texts or none.
+    double m_leastShare = 1;
 };
 
 } // namespace kartella
