@@ -5,6 +5,7 @@
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 
+#include <QScopeGuard>
 #include <QThread>
 
 namespace kartella {
@@ -13,8 +14,17 @@ SearchFinder::SearchFinder(QObject* parent)
     : QObject(parent)
 { }
 
+void RunningSearch::stop()
+{
+    const std::lock_guard lock(mutex);
+    stopped = true;
+    if (connection)
+        connection->interrupt();
+}
+
 SearchFinder::~SearchFinder()
 {
+    drop();
     for (const QPointer<QThread>& thread : std::as_const(m_threads)) {
         if (thread)
             thread->wait();
@@ -24,17 +34,32 @@ SearchFinder::~SearchFinder()
 void SearchFinder::find(const QString& sql, const SearchRanking& ranking, const QList<SearchTerm>& terms,
     const QHash<QString, qint64>& knownHits)
 {
-    const int generation = ++m_generation;
+    drop();
+    const int generation = m_generation;
     m_finding = true;
     auto search = std::make_shared<FoundSearch>();
+    auto running = std::make_shared<RunningSearch>();
+    m_running = running;
     // The options are read here, on the window's thread.
     const QString connectionString = plainConnectionString();
-    QThread* thread = QThread::create([sql, ranking, terms, knownHits, connectionString, search] {
+    QThread* thread = QThread::create([sql, ranking, terms, knownHits, connectionString, search, running] {
         try {
             auto connection = std::make_unique<Connection>();
             connection->setConnectionString(connectionString);
             connection->setMode(ConnectModeEnum::ShareDenyNone);
             connection->open();
+            {
+                const std::lock_guard lock(running->mutex);
+                if (running->stopped)
+                    return;
+                running->connection = connection.get();
+            }
+            // The connection stays open as long as the list it goes to; it is given to no one
+            // to stop once the list is found.
+            const auto found = qScopeGuard([&running] {
+                const std::lock_guard lock(running->mutex);
+                running->connection = nullptr;
+            });
             auto pages = std::make_unique<DocumentPages>(
                 sql, DocumentPaging::Mode::Category, 0, QChar(), terms, std::move(connection));
             pages->setSearch(ranking, terms, knownHits);
@@ -72,6 +97,10 @@ void SearchFinder::drop()
 {
     ++m_generation;
     m_finding = false;
+    if (m_running) {
+        m_running->stop();
+        m_running.reset();
+    }
 }
 
 } // namespace kartella

@@ -8,12 +8,25 @@
 #include <QPointer>
 
 #include <memory>
+#include <mutex>
 
 class QThread;
 
 namespace kartella {
 
+class Connection;
 class DocumentPages;
+
+// The connection a search is being found on, for another thread to stop its statements.
+struct RunningSearch
+{
+    std::mutex mutex;
+    Connection* connection = nullptr;
+    bool stopped = false;
+
+    // Stops the statements of the search, now and from now on.
+    void stop();
+};
 
 // The whole list of a search, found on a thread of its own.
 struct FoundSearch
@@ -34,13 +47,13 @@ class SearchFinder : public QObject
 
 public:
     explicit SearchFinder(QObject* parent = nullptr);
-    // Waits for the searches still being found.
+    // Stops the searches still being found and waits for them.
     ~SearchFinder() override;
 
     // Finds searchListSql()'s list with its ranking; `knownHits` as for DocumentPages::setSearch().
     void find(const QString& sql, const SearchRanking& ranking, const QList<SearchTerm>& terms,
         const QHash<QString, qint64>& knownHits);
-    // The search being found, if any, is handed to no one.
+    // The search being found, if any, is handed to no one and stops reading the register.
     void drop();
     // Whether the search started last is still being found.
     bool finding() const { return m_finding; }
@@ -52,6 +65,7 @@ Q_SIGNALS:
 
 private:
     QList<QPointer<QThread>> m_threads;
+    std::shared_ptr<RunningSearch> m_running;
     int m_generation = 0;
     bool m_finding = false;
 };

@@ -14,6 +14,8 @@
 #include <QThread>
 #include <QTranslator>
 
+#include <atomic>
+
 using namespace kartella;
 using namespace kartella::test;
 
@@ -335,6 +337,42 @@ private Q_SLOTS:
         QVERIFY2(waited >= 500, qPrintable(QString::number(waited)));
         QCOMPARE(reg.joined("SELECT FullName FROM tbl_Contacts ORDER BY ContactID"),
             QString(reg.onServer() ? "none,first,second" : "first,second"));
+    }
+
+    // A statement stopped from another thread fails at once, leaving the connection usable.
+    void interruptStopsTheRunningStatement()
+    {
+        EngineRegister reg;
+        if (reg.onServer())
+            QSKIP("a server's statements are not stopped from another thread");
+        Connection connection(reg.connectionString());
+        connection.open();
+        std::atomic<bool> done = false;
+        QThread* stopper = QThread::create([&] {
+            // Until it stops: a call before the statement starts stops nothing.
+            while (!done) {
+                connection.interrupt();
+                QThread::msleep(20);
+            }
+        });
+        stopper->start();
+        bool failed = false;
+        try {
+            // Some minutes of counting unless stopped.
+            Recordset rs;
+            rs.open(QStringLiteral("WITH RECURSIVE n(x) AS (SELECT 1 UNION ALL SELECT x + 1 FROM n WHERE x < "
+                                   "2000000000) SELECT COUNT(*) FROM n"),
+                connection);
+        } catch (const Error&) {
+            failed = true;
+        }
+        done = true;
+        stopper->wait();
+        delete stopper;
+        QVERIFY(failed);
+        Recordset after;
+        after.open(QStringLiteral("SELECT COUNT(*) AS N FROM tbl_Contacts"), connection);
+        QCOMPARE(after.fields(0).value().toInt(), 0);
     }
 
     // A closed connection's session with the server is used by the next connection, but never

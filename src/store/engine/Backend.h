@@ -117,6 +117,11 @@ public:
     // check, a counter) sees no other writer's rows appear between its look and its write.
     virtual void lockForWriting(const QString& name) = 0;
 
+    // Called from another thread: the statement this connection is running stops as soon as
+    // it can, and fails; one that starts before it has stopped fails too. Does nothing when
+    // no statement runs, and nothing on a back end that can't stop one.
+    virtual void interrupt() { }
+
     // Whether this connection's writes carry the program's user and command (see
     // WriteContext.h); one that does not writes as another program would.
     void setCarriesContext(bool carries) { m_carriesContext = carries; }

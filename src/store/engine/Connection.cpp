@@ -148,6 +148,12 @@ void Connection::lockForWriting(const QString& name)
     backend().lockForWriting(name);
 }
 
+void Connection::interrupt()
+{
+    if (m_backend)
+        m_backend->interrupt();
+}
+
 void Connection::raiseKeyCounter(const QString& table, qint64 value)
 {
     backend().raiseKeyCounter(table, value);

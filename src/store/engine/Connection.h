@@ -68,6 +68,10 @@ public:
     // (see Backend::lockForWriting).
     void lockForWriting(const QString& name);
 
+    // From another thread, while this connection stays open: stops the statement it runs,
+    // which then throws (see Backend::interrupt). Nothing happens when it runs none.
+    void interrupt();
+
     // Whether the writes of this connection carry the program's user and command into the
     // register's history (see WriteContext.h); true unless set. One that does not stands for
     // another program.

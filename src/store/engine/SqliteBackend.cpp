@@ -235,6 +235,11 @@ int SqliteBackend::run(sqlite3_stmt* statement, const QString& shownSql)
     return sqlite3_changes(m_db);
 }
 
+void SqliteBackend::interrupt()
+{
+    sqlite3_interrupt(m_db);
+}
+
 void SqliteBackend::execute(const QString& sql)
 {
     const QString translated = translateJetToSqlite(sql);

@@ -59,6 +59,7 @@ public:
     qint64 keyCounter(const QString& table) override;
     void raiseKeyCounter(const QString& table, qint64 value) override;
     void lockForWriting(const QString& name) override;
+    void interrupt() override;
 
 private:
     explicit SqliteBackend(sqlite3* db);
