@@ -3458,6 +3458,10 @@ Susijęs dokumentas šalinamas kartu su jo failu.</translation>
         <source>indexes for the lists of a category&apos;s directions and subcategories</source>
         <translation>kategorijos krypčių ir pakategorių sąrašų indeksai</translation>
     </message>
+    <message>
+        <source>indexes that give a server&apos;s lists in their order, Nulls first</source>
+        <translation>indeksai, pagal kuriuos serveris pateikia sąrašus jų tvarka, tuščias reikšmes pirmiau</translation>
+    </message>
 </context>
 <context>
     <name>kartella::SearchBox</name>

@@ -3,12 +3,12 @@
 #include "base/Error.h"
 #include "store/engine/Backend.h"
 #include "store/engine/Connection.h"
-#include "store/engine/Value.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QFileInfo>
 
+#include <optional>
 #include <utility>
 
 namespace kartella {
@@ -33,32 +33,34 @@ FileStamp TextIndexer::currentStamp(const QString& storedPath)
 IndexSummary TextIndexer::run(const Progress& progress)
 {
     IndexSummary summary;
+    // Only the documents with a file: most of a large register may have none.
     const engine::QueryResult documents = m_connection.backend().query(
-        QStringLiteral("SELECT RastasID, RastoKel FROM tbl_Documents ORDER BY RastasID"));
-    const QHash<qint32, FileStamp> stored = storedFileStamps(m_connection);
+        QStringLiteral("SELECT RastasID, RastoKel FROM tbl_Documents WHERE RastoKel IS NOT NULL AND "
+                       "RastoKel <> '' ORDER BY RastasID"));
+    QHash<qint32, FileStamp> stored = storedFileStamps(m_connection);
 
     QList<Pending> pending;
     for (int row = 0; row < documents.rows.rowCount(); ++row) {
         const qint32 id = qint32(documents.rows.value(row, 0).toLongLong());
-        const QVariant path = documents.rows.value(row, 1);
-        if (isNull(path) || path.toString().trimmed().isEmpty()) {
-            // A document whose file was taken away keeps no text of it.
-            if (stored.contains(id)) {
-                try {
-                    removeDocumentText(m_connection, id);
-                } catch (const Error&) {
-                    // Taken out by the next pass.
-                }
-            }
+        const QString path = documents.rows.value(row, 1).toString();
+        if (path.trimmed().isEmpty())
             continue;
-        }
-        const FileStamp stamp = currentStamp(path.toString());
-        const auto known = stored.constFind(id);
-        if (known != stored.constEnd() && *known == stamp) {
+        const std::optional<FileStamp> known
+            = stored.contains(id) ? std::optional(stored.take(id)) : std::nullopt;
+        const FileStamp stamp = currentStamp(path);
+        if (known && *known == stamp) {
             ++summary.unchanged;
             continue;
         }
         pending.append({id, stamp});
+    }
+    // A document whose file was taken away keeps no text of it.
+    for (auto gone = stored.cbegin(); gone != stored.cend(); ++gone) {
+        try {
+            removeDocumentText(m_connection, gone.key());
+        } catch (const Error&) {
+            // Taken out by the next pass.
+        }
     }
 
     const int total = int(pending.size());

@@ -1,6 +1,9 @@
 #include "store/engine/Connection.h"
 
+#include <QList>
 #include <QStringList>
+
+#include <utility>
 
 namespace kartella {
 
@@ -34,6 +37,29 @@ void addServerNodeListIndexes(Connection& connection)
             column = u'"' + column + u'"';
         connection.execute(QStringLiteral("CREATE INDEX IF NOT EXISTS \"") + index.section(u' ', 0, 0)
             + QStringLiteral("\" ON \"tbl_Documents\" (") + columns.join(QStringLiteral(", ")) + u')');
+    }
+}
+
+// A server orders its lists as a register file does, Nulls first, each date's documents by
+// their id; a B-tree index gives its rows in that order only when it holds the id and puts
+// the Nulls first too. Without it each page sorts every document of its node.
+void orderServerListIndexes(Connection& connection)
+{
+    const QList<std::pair<QString, QString>> indexes = {
+        {QStringLiteral("idx_Documents_RegistracData"), QString()},
+        {QStringLiteral("idx_Documents_KategID"), QStringLiteral("\"KategID\", ")},
+        {QStringLiteral("idx_Documents_ContactID"), QStringLiteral("\"ContactID\", ")},
+        {QStringLiteral("idx_Documents_KryptisID"), QStringLiteral("\"KryptisID\", ")},
+        {QStringLiteral("idx_Documents_KategKryptis"), QStringLiteral("\"KategID\", \"KryptisID\", ")},
+        {QStringLiteral("idx_Documents_SubKategDate"), QStringLiteral("\"KategID\", \"SubKategID\", ")},
+        {QStringLiteral("idx_Documents_SubKategKryptis"),
+            QStringLiteral("\"KategID\", \"SubKategID\", \"KryptisID\", ")},
+    };
+    for (const auto& [name, equal] : indexes) {
+        connection.execute(QStringLiteral("DROP INDEX IF EXISTS \"%1\"").arg(name));
+        connection.execute(QStringLiteral("CREATE INDEX \"%1\" ON \"tbl_Documents\" (%2\"DokRegistracData\" "
+                                          "NULLS FIRST, \"RastasID\" NULLS FIRST)")
+                               .arg(name, equal));
     }
 }
 

@@ -61,6 +61,7 @@ void addTrash(Connection& connection);
 void addServerTrash(Connection& connection);
 void addNodeListIndexes(Connection& connection);
 void addServerNodeListIndexes(Connection& connection);
+void orderServerListIndexes(Connection& connection);
 
 const std::vector<SchemaStep>& schemaSteps()
 {
@@ -101,6 +102,11 @@ const std::vector<SchemaStep>& schemaSteps()
             QStringLiteral(QT_TRANSLATE_NOOP("kartella::SchemaStep",
                 "indexes for the lists of a category's directions and subcategories")),
             addNodeListIndexes, addServerNodeListIndexes},
+        // A register file's indexes hold each row's id and its Nulls come first already.
+        {12,
+            QStringLiteral(QT_TRANSLATE_NOOP(
+                "kartella::SchemaStep", "indexes that give a server's lists in their order, Nulls first")),
+            [](Connection&) {}, orderServerListIndexes},
     };
     return steps;
 }
