@@ -63,15 +63,14 @@ std::unique_ptr<DocumentPages> DocumentPages::firstPageAhead(const QString& list
             *spare = std::move(connection);
         return nullptr;
     };
-    if (connection->dialect() != SqlDialect::Sqlite)
-        return lookedOnly();
     const SearchIndexes indexes = searchIndexes(*connection);
     const std::optional<QString> filter = conditionAfterTerms(
         DocumentPaging(listSql, DocumentPaging::Mode::Category).condition(), terms, indexes);
     if (!filter)
         return lookedOnly();
-    const std::optional<SearchAhead> ahead
-        = SearchAhead::of(*connection, terms, indexes, g_broadHits, byRank);
+    const std::optional<SearchAhead> ahead = connection->dialect() == SqlDialect::Sqlite
+        ? SearchAhead::of(*connection, terms, indexes, g_broadHits, byRank)
+        : SearchAhead::onServer(*connection, terms, indexes, g_broadHits, byRank);
     if (!ahead)
         return lookedOnly();
     // Terms that are each in many documents may still be seldom together: the documents by
@@ -114,10 +113,16 @@ DocumentPages::DocumentPages(const QString& listSql, DocumentPaging::Mode mode, 
             m_connection->setMode(ConnectModeEnum::ShareDenyNone);
         m_connection->open();
     }
-    if (m_paging.searchesIndexes() && m_connection->dialect() == SqlDialect::Sqlite) {
-        m_connection->execute(QStringLiteral("DROP TABLE IF EXISTS temp.") + FoundTable);
+    if (m_paging.searchesIndexes()) {
+        // A server's session may be one a closed connection left, its table with it. The
+        // table's statements stand as written there: its column is named as the server
+        // names the documents' own.
+        const bool server = m_connection->dialect() == SqlDialect::PostgreSql;
+        m_connection->execute(QStringLiteral("DROP TABLE IF EXISTS ")
+            + (server ? QStringLiteral("pg_temp.") : QStringLiteral("temp.")) + FoundTable);
         m_connection->execute(QStringLiteral("CREATE TEMP TABLE ") + FoundTable
-            + QStringLiteral(" (RastasID INTEGER PRIMARY KEY)"));
+            + (server ? QStringLiteral(" (\"RastasID\" integer PRIMARY KEY)")
+                      : QStringLiteral(" (RastasID INTEGER PRIMARY KEY)")));
         keepFoundRows(searchTerms);
         m_paging.readKeptRows(FoundTable);
     }
@@ -140,7 +145,8 @@ void DocumentPages::keepFoundRows(const QList<SearchTerm>& terms)
             return;
         }
     }
-    m_connection->execute(m_paging.keepRowsSql(FoundTable));
+    m_connection->execute(
+        m_paging.keepRowsSql(FoundTable, m_connection->dialect() == SqlDialect::PostgreSql));
 }
 
 void DocumentPages::setPageSize(int rows)
@@ -431,7 +437,7 @@ void DocumentPages::readLastPageAhead()
     // on another connection at the same time as the first, where that connection sees the
     // same rows (no rows kept by this one, no letter's lock).
     if (m_paging.sortsByDate() || m_paging.hasKeptRows() || m_paging.mode() == DocumentPaging::Mode::Letter
-        || m_count <= 2 * g_pageSize || m_connection->dialect() != SqlDialect::Sqlite)
+        || m_count <= 2 * g_pageSize)
         return;
     const int last = (m_count - 1) / g_pageSize;
     const QString sql = m_paging.reversePageSql(nullptr, m_count - last * g_pageSize);

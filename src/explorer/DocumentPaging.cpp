@@ -148,12 +148,14 @@ QStringList unionParts(const QString& query)
 
 } // namespace
 
-QString DocumentPaging::keepRowsSql(const QString& table) const
+QString DocumentPaging::keepRowsSql(const QString& table, bool server) const
 {
     // The indexes hold no document that the register doesn't: their ids need no reading of
-    // the documents. Each part of a union is kept by a statement of its own, so that no
-    // second set of ids is built only to drop what both parts found.
+    // the documents. On a register file each part of a union is kept by a statement of its
+    // own, so that no second set of ids is built only to drop what both parts found.
     if (const QString ids = idsQueryAlone(m_condition); !ids.isEmpty()) {
+        if (server)
+            return QStringLiteral("INSERT INTO temp.") + table + QStringLiteral(" (RastasID) ") + ids;
         QStringList statements;
         for (const QString& part : unionParts(ids))
             statements << QStringLiteral("INSERT OR IGNORE INTO temp.") + table

@@ -49,8 +49,9 @@ public:
     const QString& condition() const { return m_condition; }
     // Statements, separated by semicolons, that copy the ids of the list query's documents
     // (before the letter's or the contact's condition) into the temporary table `table`
-    // (RastasID INTEGER PRIMARY KEY) of the connection that reads the list.
-    QString keepRowsSql(const QString& table) const;
+    // (RastasID INTEGER PRIMARY KEY) of the connection that reads the list. A server's
+    // statement is one: it drops what the parts of a union both found.
+    QString keepRowsSql(const QString& table, bool server = false) const;
     // From now on the list's documents are those of that table: a search's indexes are
     // searched once, not again for the count and every page.
     void readKeptRows(const QString& table);

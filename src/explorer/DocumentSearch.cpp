@@ -61,9 +61,17 @@ QString fieldCondition(const SearchTerm& term, SearchIndexKind index)
         return indexable(term.text)
             ? QLatin1String(SearchTable) + QStringLiteral(" MATCH ") + sqlString(ftsString(term.text))
             : contains(QStringLiteral("FoldedText"), term.text);
-    case SearchIndexKind::Table:
-        // Like finds the piece, through the trigram index where there is one.
-        return QStringLiteral("FoldedText LIKE ") + sqlLikeText(term.text, LikeMatch::Anywhere);
+    case SearchIndexKind::Table: {
+        // The server's LIKE finds the piece, through the trigram index where there is one.
+        // Its own operator, not Like: the text and the piece are folded already, and Like
+        // would fold both again (ILIKE), for every row the index gives. Its escape is the
+        // backslash, as sqlLikeText() writes.
+        const QString escape = QStringLiteral(" ESCAPE '\\'");
+        QString pattern = sqlLikeText(term.text, LikeMatch::Anywhere);
+        if (pattern.endsWith(escape))
+            pattern.chop(escape.size());
+        return QStringLiteral("FoldedText ~~ ") + pattern;
+    }
     case SearchIndexKind::None:
         break;
     }
@@ -216,6 +224,26 @@ QString searchTermsCondition(const QList<SearchTerm>& terms, const SearchIndexes
     return conditions.isEmpty() ? QStringLiteral("0 = 1") : conditions.join(QStringLiteral(" AND "));
 }
 
+QString fieldsCondition(const SearchTerm& term, const SearchIndexes& indexes)
+{
+    return fieldCondition(term, indexes.fields);
+}
+
+QString serverTermHeldBy(const SearchTerm& term, const SearchIndexes& indexes, const QString& id)
+{
+    if (indexes.fields != SearchIndexKind::Table)
+        return {};
+    // OFFSET 0 keeps the server from reading every match of the term once to hash them: each
+    // document is looked up by its id.
+    QString held = QStringLiteral("EXISTS (SELECT 1 FROM %1 WHERE RastasID = %2 AND %3 OFFSET 0)")
+                       .arg(QLatin1String(SearchTable), id, fieldCondition(term, indexes.fields));
+    if (indexes.content == ContentIndexKind::TextVector && hasWord(term))
+        held = QStringLiteral("(%1 OR EXISTS (SELECT 1 FROM tbl_Document_Text WHERE RastasID = %2 AND "
+                              "BodyWords @@ %3 OFFSET 0))")
+                   .arg(held, id, textQuery(term));
+    return held;
+}
+
 QList<SearchPart> searchParts(const SearchTerm& term, const SearchIndexes& indexes)
 {
     if (indexes.fields != SearchIndexKind::FullText)
@@ -271,8 +299,9 @@ SearchRanking searchRanking(const QList<SearchTerm>& terms, const SearchIndexes&
                              "MATCH %2) AS hits ON hits.hit_id = tbl_Documents.RastasID")
                   .arg(table, sqlString(queries.join(QStringLiteral(" OR "))));
         ranking.key = QStringLiteral("coalesce(hits.hit_rank, julianday(tbl_Documents.DokRegistracData), 0)");
-        ranking.anyHit = QStringLiteral("SELECT rowid AS hit_id FROM %1 WHERE %1 MATCH %2 LIMIT 1")
-                             .arg(table, sqlString(queries.join(QStringLiteral(" OR "))));
+        ranking.hits = QStringLiteral("SELECT rowid AS hit_id FROM %1 WHERE %1 MATCH %2")
+                           .arg(table, sqlString(queries.join(QStringLiteral(" OR "))));
+        ranking.anyHit = ranking.hits + QStringLiteral(" LIMIT 1");
         ranking.fullTextQueries = queries;
     } else {
         const QString query = u'(' + queries.join(QStringLiteral(" || ")) + u')';
@@ -281,9 +310,10 @@ SearchRanking searchRanking(const QList<SearchTerm>& terms, const SearchIndexes&
                              "double precision) AS hit_rank FROM tbl_Document_Text WHERE BodyWords @@ %1) "
                              "AS hits ON hits.hit_id = tbl_Documents.RastasID")
                   .arg(query);
-        ranking.anyHit
-            = QStringLiteral("SELECT RastasID AS hit_id FROM tbl_Document_Text WHERE BodyWords @@ %1 LIMIT 1")
+        ranking.hits
+            = QStringLiteral("SELECT RastasID AS hit_id FROM tbl_Document_Text WHERE BodyWords @@ %1")
                   .arg(query);
+        ranking.anyHit = ranking.hits + QStringLiteral(" LIMIT 1");
         ranking.key = QStringLiteral("coalesce(hits.hit_rank, CAST(tbl_Documents.DokRegistracData - DATE "
                                      "'0001-01-01' AS double precision), 0)");
     }
@@ -335,6 +365,7 @@ SearchRanking prepareRanking(Connection& connection, const SearchRanking& rankin
     if (ranked.isEmpty()) {
         prepared.join.clear();
         prepared.key.clear();
+        prepared.hits.clear();
         return prepared;
     }
     const QString hits = QLatin1String(RankedHitsTable);
@@ -347,6 +378,7 @@ SearchRanking prepareRanking(Connection& connection, const SearchRanking& rankin
                            .arg(hits, table, sqlString(ranked.join(QStringLiteral(" OR ")))));
     prepared.join
         = QStringLiteral(" LEFT JOIN temp.%1 AS hits ON hits.hit_id = tbl_Documents.RastasID").arg(hits);
+    prepared.hits = QStringLiteral("SELECT hit_id FROM temp.") + hits;
     return prepared;
 }
 

@@ -81,6 +81,14 @@ struct SearchPart
     // SELECT rowid FROM the index WHERE the condition.
     QString ids() const;
 };
+// The condition on a row of the fields' index (FoldedText) that finds the term there.
+QString fieldsCondition(const SearchTerm& term, const SearchIndexes& indexes);
+
+// Whether the document whose id is the expression `id` holds the term, looked up in each
+// place by its id, on a server's table of folded fields and its vectors of the files' words;
+// empty on a register with other indexes.
+QString serverTermHeldBy(const SearchTerm& term, const SearchIndexes& indexes, const QString& id);
+
 // The places of a term: its fields, then the files' text where the register has its index.
 // Empty when the fields have no FTS5 index.
 QList<SearchPart> searchParts(const SearchTerm& term, const SearchIndexes& indexes);
@@ -95,6 +103,8 @@ struct SearchRanking
     QString key;
     // A query of one row at most: a document whose file's text holds a term.
     QString anyHit;
+    // The query of every document ranked (hit_id): those whose file's text holds a term.
+    QString hits;
     // On a register file, the terms as queries of the FTS5 table, for prepareRanking().
     QStringList fullTextQueries;
 };

@@ -84,6 +84,23 @@ double fieldsShare(Connection& connection, const SearchTerm& term)
     return double(hits) / double(documents);
 }
 
+// The share of the first documents (1 000 at most) whose fields hold the piece, in a
+// server's table of folded fields.
+double serverFieldsShare(Connection& connection, const SearchTerm& term, const SearchIndexes& indexes)
+{
+    constexpr int Sample = 1000;
+    // Any thousand: an order would sort every row first, Nulls first as the server is asked.
+    const QString sample = QStringLiteral("(SELECT FoldedText FROM %1 LIMIT %2) AS sample")
+                               .arg(QLatin1String(SearchTable))
+                               .arg(Sample);
+    const qint64 documents = firstNumber(connection, QStringLiteral("SELECT COUNT(*) FROM ") + sample);
+    if (documents == 0)
+        return 0;
+    const qint64 hits = firstNumber(connection,
+        QStringLiteral("SELECT COUNT(*) FROM %1 WHERE %2").arg(sample, fieldsCondition(term, indexes)));
+    return double(hits) / double(documents);
+}
+
 // Whether the fields of the document whose id is `id` hold the piece, read from the
 // document's own row of their index.
 QString fieldsHold(const SearchTerm& term, const QString& id)
@@ -162,6 +179,40 @@ std::optional<SearchAhead> SearchAhead::of(Connection& connection, const QList<S
     return ahead;
 }
 
+std::optional<SearchAhead> SearchAhead::onServer(Connection& connection, const QList<SearchTerm>& terms,
+    const SearchIndexes& indexes, qint64 broadHits, bool byRank)
+{
+    if (terms.isEmpty() || indexes.fields != SearchIndexKind::Table
+        || connection.dialect() != SqlDialect::PostgreSql)
+        return std::nullopt;
+    SearchAhead ahead;
+    ahead.m_server = true;
+    const qint64 documents
+        = firstNumber(connection, QStringLiteral("SELECT MAX(RastasID) FROM tbl_Documents"));
+    for (const SearchTerm& term : terms) {
+        // Worth looking for among the first documents by date only when enough of them hold it
+        // for a page within the longest walk, and when that makes a broad list.
+        const double share = serverFieldsShare(connection, term, indexes);
+        if (share < 2.0 / LongestWalk || share * double(documents) < double(broadHits))
+            return std::nullopt;
+        ahead.m_leastShare = std::min(ahead.m_leastShare, share);
+        ahead.m_conditions << serverTermHeldBy(term, indexes, QStringLiteral("tbl_Documents.RastasID"));
+    }
+    const SearchRanking ranking = searchRanking(terms, indexes);
+    if (ranking.hits.isEmpty())
+        return ahead;
+    const qint64 hits = firstNumber(connection,
+        QStringLiteral("SELECT COUNT(*) FROM (%1 LIMIT %2) AS hit").arg(ranking.hits).arg(broadHits));
+    ahead.m_anyContentHit = hits > 0;
+    if (hits > 0 && byRank) {
+        // The whole list ranks every hit: a page of them is chosen among few.
+        if (hits >= broadHits)
+            return std::nullopt;
+        ahead.m_ranking = ranking;
+    }
+    return ahead;
+}
+
 std::vector<qint32> SearchAhead::firstIds(
     Connection& connection, const QString& filter, int rows, int walked, bool& complete) const
 {
@@ -178,31 +229,47 @@ std::vector<qint32> SearchAhead::firstIds(
     };
     std::vector<qint32> ids;
     if (!m_ranking.join.isEmpty()) {
-        // The ranked hits first, best first, as the whole list orders them.
-        const QString ranks = QLatin1String(RankedHitsTable);
-        ids = matchingIds(connection,
-            QStringLiteral("SELECT tbl_Documents.RastasID%1 FROM temp.%2 AS ranks JOIN tbl_Documents ON "
-                           "tbl_Documents.RastasID = ranks.hit_id%3 ORDER BY ranks.hit_rank, ranks.hit_id")
-                .arg(body, ranks, where()),
-            rows);
+        // The ranked hits first, best first, as the whole list orders them: from the ranks
+        // kept on a register file, through the ranking's join on a server.
+        const QString ranked = m_server
+            ? QStringLiteral("SELECT tbl_Documents.RastasID%1 FROM tbl_Documents%2%3 ORDER BY hits.hit_rank, "
+                             "tbl_Documents.RastasID")
+                  .arg(body,
+                      QString(m_ranking.join)
+                          .replace(QStringLiteral(" LEFT JOIN "), QStringLiteral(" JOIN ")),
+                      where())
+            : QStringLiteral("SELECT tbl_Documents.RastasID%1 FROM temp.%2 AS ranks JOIN tbl_Documents ON "
+                             "tbl_Documents.RastasID = ranks.hit_id%3 ORDER BY ranks.hit_rank, ranks.hit_id")
+                  .arg(body, QLatin1String(RankedHitsTable), where());
+        ids = matchingIds(connection, ranked, rows);
         if (int(ids.size()) == rows) {
             complete = false;
             return ids;
         }
-        conditions << QStringLiteral("NOT EXISTS (SELECT 1 FROM temp.%1 AS hit WHERE hit.hit_id = "
-                                     "tbl_Documents.RastasID)")
-                          .arg(ranks);
+        conditions << QStringLiteral("tbl_Documents.RastasID NOT IN (%1)").arg(m_ranking.hits);
     }
-    // The walk ends at the date of the last document it may look at.
+    // The walk: the first `walked` documents by date that meet the filter.
+    const QString walking = filter.isEmpty() ? QString() : QStringLiteral(" WHERE ") + filter;
     Recordset last;
     last.open(
         QStringLiteral("SELECT DokRegistracData FROM tbl_Documents%1 ORDER BY DokRegistracData, RastasID "
                        "LIMIT 1 OFFSET %2")
-            .arg(filter.isEmpty() ? QString() : QStringLiteral(" WHERE ") + filter)
+            .arg(walking)
             .arg(walked - 1),
         connection, CursorTypeEnum::Static, LockTypeEnum::Unspecified);
     complete = last.eof();
-    if (!complete) {
+    QString documents = QStringLiteral("tbl_Documents");
+    if (m_server) {
+        // A server is given the documents of the walk themselves, in their order, so that it
+        // looks each up until it has the page, not every document of the walk's last day.
+        if (!filter.isEmpty())
+            conditions.removeAll(u'(' + filter + u')');
+        documents = QStringLiteral("(SELECT * FROM tbl_Documents%1 ORDER BY DokRegistracData, RastasID LIMIT "
+                                   "%2) AS tbl_Documents")
+                        .arg(walking)
+                        .arg(walked);
+    } else if (!complete) {
+        // It ends at the date of the last document it may look at.
         const QVariant date = last.fields(0).value();
         if (isNull(date))
             conditions << QStringLiteral("tbl_Documents.DokRegistracData IS NULL");
@@ -214,9 +281,9 @@ std::vector<qint32> SearchAhead::firstIds(
     }
     last.close();
     const std::vector<qint32> byDate = matchingIds(connection,
-        QStringLiteral("SELECT tbl_Documents.RastasID%1 FROM tbl_Documents%2 ORDER BY "
+        QStringLiteral("SELECT tbl_Documents.RastasID%1 FROM %2%3 ORDER BY "
                        "tbl_Documents.DokRegistracData, tbl_Documents.RastasID")
-            .arg(body, where()),
+            .arg(body, documents, where()),
         rows - int(ids.size()));
     ids.insert(ids.end(), byDate.begin(), byDate.end());
     return ids;

@@ -34,6 +34,13 @@ public:
     static std::optional<SearchAhead> of(Connection& connection, const QList<SearchTerm>& terms,
         const SearchIndexes& indexes, qint64 broadHits = BroadHits, bool byRank = true);
 
+    // The same on a server's register (its table of folded fields and its vectors of the
+    // files' words): every term is looked up in each document, and a search ranks the hits of
+    // the files' text, of which there are to be fewer than `broadHits`. Empty on a register
+    // file. Throws kartella::Error.
+    static std::optional<SearchAhead> onServer(Connection& connection, const QList<SearchTerm>& terms,
+        const SearchIndexes& indexes, qint64 broadHits = BroadHits, bool byRank = true);
+
     // The ids of the first `rows` documents of the list that hold every term and meet
     // `filter` (a condition on tbl_Documents, or empty): the ranked hits best first, then the
     // documents by date (then id), these looked for among the first `walked` documents by
@@ -68,6 +75,8 @@ private:
     SearchRanking m_ranking;
     // The least share of the first documents whose fields hold a term in few texts or none.
     double m_leastShare = 1;
+    // The ranked hits are read through the ranking's join (a server's), not its table.
+    bool m_server = false;
 };
 
 } // namespace kartella

@@ -151,6 +151,11 @@ private Q_SLOTS:
                "\"T\" FROM \"tbl_Documents\" ORDER BY \"KategID\" NULLS FIRST, \"DokRegistracData\" DESC "
                "NULLS LAST, "
                "\"RastasID\" NULLS LAST, lower(\"DokAntraste\") ASC NULLS FIRST";
+        QTest::newRow("a connection's own tables")
+            << "INSERT INTO temp.found (RastasID) SELECT RastasID FROM tbl_Documents WHERE RastasID IN "
+               "(SELECT RastasID FROM TEMP.found) AND temp = 1"
+            << "INSERT INTO pg_temp.found (\"RastasID\") SELECT \"RastasID\" FROM \"tbl_Documents\" WHERE "
+               "\"RastasID\" IN (SELECT \"RastasID\" FROM pg_temp.found) AND temp = 1";
         QTest::newRow("schema statements as they stand") << "CREATE TABLE strict (id integer, FullName text);"
                                                          << "CREATE TABLE strict (id integer, FullName text)";
     }

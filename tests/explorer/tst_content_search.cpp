@@ -419,6 +419,69 @@ private Q_SLOTS:
             3);
     }
 
+    // A server's first page ahead: every term looked up in each document by date, the
+    // ranked hits of the files' text first; the same rows as the first of the whole list.
+    void firstPageAheadOnAServer_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("byRank");
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<bool>("ahead");
+        QTest::newRow("ranked hits fill the page") << "rastas" << true << 2 << true;
+        QTest::newRow("ranked hits, then by date") << "rastas" << true << 6 << true;
+        QTest::newRow("no ranked hit holds the other term") << "rastas 1" << true << 3 << true;
+        QTest::newRow("a list by date") << "rastas" << false << 6 << true;
+        QTest::newRow("in few fields") << "kita" << true << 6 << false;
+        QTest::newRow("in no field") << "atsakymas rastas" << true << 1 << false;
+    }
+
+    void firstPageAheadOnAServer()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, byRank);
+        QFETCH(int, rows);
+        QFETCH(bool, ahead);
+        if (!ServerDatabase::available())
+            QSKIP(qPrintable(ServerDatabase::skipReason()));
+        const TestRegister reg(TestRegister::Server);
+        QHash<int, qint32> ids;
+        for (int n = 1; n <= 12; ++n) {
+            ids[n]
+                = addDocument(reg, n == 4 ? QStringLiteral("Sutartis 4") : QStringLiteral("Raštas %1").arg(n),
+                    QDate(2024, 3, 1).addDays(n));
+        }
+        addText(reg, ids[5], QStringLiteral("Raštas, raštas dėl sutarties"));
+        addText(reg, ids[9], QStringLiteral("Raštas ir kiti"));
+        addText(reg, ids[4], QStringLiteral("Atsakymas į raštą: raštas"));
+        addText(reg, ids[2], QStringLiteral("Kita"));
+        // Three texts hold "rastas": fewer than the four hits a page of ranks is chosen among.
+        constexpr qint64 BroadAt = 4;
+        Connection connection;
+        connection.open(reg.connectionString());
+        const SearchIndexes indexes = searchIndexes(connection);
+        const QList<SearchTerm> terms = searchTerms(text);
+        const std::optional<SearchAhead> first
+            = SearchAhead::onServer(connection, terms, indexes, BroadAt, byRank);
+        QCOMPARE(first.has_value(), ahead);
+        if (!ahead)
+            return;
+        QCOMPARE(first->ranking().join.isEmpty(), !byRank);
+        const Ids listed = byRank ? found(reg, text, BroadAt)
+                                  : idsOf(connection, searchListSql(terms, indexes, 0, false, {}, {}));
+        QVERIFY(listed.size() > rows);
+        bool complete = false;
+        const std::vector<qint32> page = first->firstIds(connection, {}, rows, 100, complete);
+        QCOMPARE(Ids(page.begin(), page.end()), listed.mid(0, rows));
+        QVERIFY(first->anyContentHit());
+        // Looked for among the first three documents by date alone.
+        if (!byRank) {
+            QVERIFY(complete);
+            const std::vector<qint32> walked = first->firstIds(connection, {}, rows, 3, complete);
+            QVERIFY(!complete);
+            QCOMPARE(Ids(walked.begin(), walked.end()), listed.mid(0, 3));
+        }
+    }
+
     void changedAndDeletedTextsLeaveTheIndex_data() { places(); }
 
     void changedAndDeletedTextsLeaveTheIndex()

@@ -13,6 +13,10 @@
 #include "explorer/SearchFinder.h"
 #include "harness/ScriptedPrompter.h"
 #include "harness/ScriptedShell.h"
+#include "harness/ServerDatabase.h"
+#include "harness/TestRegister.h"
+#include "store/engine/Connection.h"
+#include "store/engine/SqlText.h"
 #include "support/SelectionState.h"
 
 #include <QAction>
@@ -30,6 +34,23 @@ namespace {
 QString categoryNode(ExplorerFixture& fx, const char* name)
 {
     return "a" + QString::number(fx.id[QString::fromUtf8(name)]);
+}
+
+using Ids = QList<qint32>;
+
+qint32 addDocument(const TestRegister& reg, const QString& description, const QDate& date)
+{
+    return reg.insert(
+        QStringLiteral("tbl_Documents"), {{"DokAntraste", description}, {"DokRegistracData", date}});
+}
+
+// The text read from the document's file, as the reader stores it.
+void addText(const TestRegister& reg, qint32 id, const QString& body)
+{
+    reg.exec(QStringLiteral(
+        "INSERT INTO tbl_Document_Text (RastasID, FilePath, State, Body) VALUES (%1, %2, 1, %3)")
+                 .arg(id)
+                 .arg(sqlString(QStringLiteral("/docs/%1.pdf").arg(id)), sqlString(body)));
 }
 
 } // namespace
@@ -237,6 +258,55 @@ private Q_SLOTS:
         QCOMPARE(fx.documents().item(1).text, QString("work"));
         QCOMPARE(fx.documents().item(2).text, QString("contract"));
         QVERIFY(prompter.prompts().isEmpty());
+    }
+
+    // The list of a search keeps the ids it found on its own connection, on either place, and
+    // reads its pages and counts through them: forwards, from the end, a row never read.
+    void searchListReadsTheRowsItKept_data()
+    {
+        QTest::addColumn<TestRegister::Where>("where");
+        QTest::newRow("file") << TestRegister::File;
+        QTest::newRow("server") << TestRegister::Server;
+    }
+
+    void searchListReadsTheRowsItKept()
+    {
+        QFETCH(TestRegister::Where, where);
+        if (where == TestRegister::Server && !ServerDatabase::available())
+            QSKIP(qPrintable(ServerDatabase::skipReason()));
+        const TestRegister reg(where);
+        Ids expected;
+        for (int n = 1; n <= 9; ++n) {
+            const qint32 id = addDocument(reg,
+                n % 4 == 0 ? QStringLiteral("Kita %1").arg(n) : QStringLiteral("Prašymas %1").arg(n),
+                QDate(2024, 3, 20).addDays(-n));
+            if (n % 4 != 0)
+                expected.prepend(id);
+        }
+        // A text alone holds it too.
+        const qint32 byText = addDocument(reg, QStringLiteral("Kita 10"), QDate(2024, 1, 1));
+        addText(reg, byText, QStringLiteral("Dėl prašymo: prašymas"));
+        expected.prepend(byText);
+        DocumentPages::setPageSize(2);
+        const auto restore = qScopeGuard([] { DocumentPages::setPageSize(100); });
+        for (int pass = 0; pass < 2; ++pass) {
+            auto connection = std::make_unique<Connection>();
+            connection->open(reg.connectionString());
+            const QList<SearchTerm> terms = searchTerms(QStringLiteral("prasymas"));
+            const SearchIndexes indexes = searchIndexes(*connection);
+            // The second pass reads its last page first, on a connection whose table is there.
+            DocumentPages pages(searchListSql(terms, indexes, 0, false, {}, {}),
+                DocumentPaging::Mode::Category, 0, {}, terms, std::move(connection));
+            QCOMPARE(pages.count(), int(expected.size()));
+            Ids listed;
+            for (int row = pass == 0 ? 0 : pages.count() - 1; row >= 0 && row < pages.count();
+                 row += pass == 0 ? 1 : -1)
+                listed << DocumentFills::idOfKey(pages.item(row).key);
+            if (pass == 1)
+                std::reverse(listed.begin(), listed.end());
+            QCOMPARE(listed, expected);
+            QCOMPARE(pages.rowOfKey(DocumentFills::itemKey(expected.at(5))), 5);
+        }
     }
 
     // Ranked results read a page at a time in the order of the ranks, from either end.

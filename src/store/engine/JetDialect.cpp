@@ -35,8 +35,10 @@ public:
                 || isWord(first, u"DELETE") || isWord(first, u"WITH")))
             return assemble(0, size());
         literals();
-        if (m_serverNames)
+        if (m_serverNames) {
             serverNames();
+            temporarySchema();
+        }
         if (first < size()) {
             if (isKeyword(m_text, m_tokens[first], u"DELETE")) {
                 nameOrder();
@@ -357,6 +359,16 @@ private:
                 continue;
             declared.replace(u'"', QLatin1String("\"\""));
             m_replace[i] = u'"' + declared + u'"';
+        }
+    }
+
+    // temp.t, a connection's own table t in SQLite, is pg_temp.t on a server.
+    void temporarySchema()
+    {
+        for (qsizetype i = 0; i + 1 < size(); ++i) {
+            if (m_tokens[i].kind != SqlToken::Quoted && isName(i) && isWord(i, u"temp")
+                && isPunct(i + 1, u'.'))
+                m_replace[i] = QStringLiteral("pg_temp");
         }
     }
 

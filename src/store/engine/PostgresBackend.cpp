@@ -143,6 +143,9 @@ std::unique_ptr<PostgresBackend> PostgresBackend::connect(const QString& locatio
     const QString zone = QString::fromUtf8(QTimeZone::systemTimeZoneId());
     if (!zone.isEmpty())
         PQclear(PQexec(connection, ("SET TimeZone = " + literal(zone)).toUtf8().constData()));
+    // The program's statements read a page or look rows up: compiling one costs more than it
+    // saves, whatever its estimate.
+    PQclear(PQexec(connection, "SET jit = off"));
     return backend;
 }
 
