@@ -62,6 +62,8 @@ qint64 judgedPrefixHits(Connection& connection, const SearchTerm& prefix, qint64
 // the fewest documents expected to hold the terms.
 constexpr int LongestWalk = 50;
 constexpr int ShortestWalk = 10;
+// A server stops its walk at the page, whatever its length: it may be longer.
+constexpr int LongestServerWalk = 100;
 
 // The share of the first documents (1 000 at most) whose fields hold the piece.
 double fieldsShare(Connection& connection, const SearchTerm& term)
@@ -193,7 +195,7 @@ std::optional<SearchAhead> SearchAhead::onServer(Connection& connection, const Q
         // Worth looking for among the first documents by date only when enough of them hold it
         // for a page within the longest walk, and when that makes a broad list.
         const double share = serverFieldsShare(connection, term, indexes);
-        if (share < 2.0 / LongestWalk || share * double(documents) < double(broadHits))
+        if (share < 2.0 / LongestServerWalk || share * double(documents) < double(broadHits))
             return std::nullopt;
         ahead.m_leastShare = std::min(ahead.m_leastShare, share);
         ahead.m_conditions << serverTermHeldBy(term, indexes, QStringLiteral("tbl_Documents.RastasID"));
@@ -292,7 +294,7 @@ std::vector<qint32> SearchAhead::firstIds(
 int SearchAhead::walked(int rows) const
 {
     const int pages = int(std::ceil(2.0 / m_leastShare));
-    return rows * std::clamp(pages, ShortestWalk, LongestWalk);
+    return rows * std::clamp(pages, ShortestWalk, m_server ? LongestServerWalk : LongestWalk);
 }
 
 std::vector<qint32> SearchAhead::matchingIds(Connection& connection, const QString& query, int rows) const

@@ -35,9 +35,10 @@ public:
         const SearchIndexes& indexes, qint64 broadHits = BroadHits, bool byRank = true);
 
     // The same on a server's register (its table of folded fields and its vectors of the
-    // files' words): every term is looked up in each document, and a search ranks the hits of
-    // the files' text, of which there are to be fewer than `broadHits`. Empty on a register
-    // file. Throws kartella::Error.
+    // files' words): every term is looked up in each document; each term's fields are to hold
+    // one in 50 of the first 1 000 documents, and about `broadHits` documents in all; a search
+    // ranks the hits of the files' text, of which there are to be fewer than `broadHits`.
+    // Empty on a register file. Throws kartella::Error.
     static std::optional<SearchAhead> onServer(Connection& connection, const QList<SearchTerm>& terms,
         const SearchIndexes& indexes, qint64 broadHits = BroadHits, bool byRank = true);
 
@@ -50,7 +51,8 @@ public:
         Connection& connection, const QString& filter, int rows, int walked, bool& complete) const;
 
     // The documents by date to look at for the first `rows`: enough for two pages where the
-    // fields hold a term, ten pages at least and 50 at most.
+    // fields hold a term, ten pages at least and 50 at most (100 on a server, which stops
+    // looking at the page).
     int walked(int rows) const;
 
     // The ranking prepared on the connection, for the first page's order; empty when no term
