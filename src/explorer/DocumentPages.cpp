@@ -113,6 +113,8 @@ DocumentPages::DocumentPages(const QString& listSql, DocumentPaging::Mode mode, 
             m_connection->setMode(ConnectModeEnum::ShareDenyNone);
         m_connection->open();
     }
+    if (m_connection->dialect() == SqlDialect::PostgreSql)
+        m_paging.matchLetterOnServer();
     if (m_paging.searchesIndexes()) {
         // A server's session may be one a closed connection left, its table with it. The
         // table's statements stand as written there: its column is named as the server

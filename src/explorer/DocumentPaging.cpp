@@ -56,6 +56,23 @@ DocumentPaging::DocumentPaging(const QString& listSql, Mode mode, qint32 contact
     } else if (mode == Mode::Contact) {
         m_modeCondition = QStringLiteral("tbl_Documents.ContactID=") + QString::number(contactId);
     }
+    m_letter = letter;
+}
+
+void DocumentPaging::matchLetterOnServer()
+{
+    if (m_mode != Mode::Letter)
+        return;
+    QStringList cases;
+    for (const QChar letter : {m_letter.toUpper(), m_letter.toLower()}) {
+        const QString match
+            = QStringLiteral("tbl_Contacts.FullName ~~ ") + literal(QVariant(QString(letter) + u'%'));
+        if (!cases.contains(match))
+            cases << match;
+    }
+    m_modeCondition = QStringLiteral("tbl_Documents.ContactID IN (SELECT tbl_Contacts.ContactID FROM "
+                                     "tbl_Contacts WHERE ")
+        + cases.join(QStringLiteral(" OR ")) + u')';
 }
 
 void DocumentPaging::setSort(int column, bool descending)

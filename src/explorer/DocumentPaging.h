@@ -31,6 +31,9 @@ public:
     enum class Mode { Category, Letter, Contact };
 
     DocumentPaging(const QString& listSql, Mode mode, qint32 contactId = 0, QChar letter = {});
+    // On a server: the letter's names found by the server's own LIKE of its two cases, which
+    // its index of the names serves, instead of Like (ILIKE), which folds every name.
+    void matchLetterOnServer();
 
     // The list's sort: a column of the list (0-4), or -1 for the query's own order (by
     // date); descending reverses the whole order, ids included.
@@ -103,6 +106,7 @@ private:
 
     QString m_condition;
     QString m_modeCondition;
+    QChar m_letter;
     QString m_keptTable;
     bool m_keptMany = false;
     QString m_rankedTable;

@@ -6,12 +6,14 @@
 #include "explorer/DocumentQueries.h"
 #include "explorer/DocumentSearch.h"
 #include "harness/ServerDatabase.h"
+#include "harness/TestRegister.h"
 #include "store/Schema.h"
 #include "store/SearchIndex.h"
 #include "store/Store.h"
 #include "store/engine/Backend.h"
 #include "store/engine/Connection.h"
 #include "store/engine/JetDialect.h"
+#include "store/engine/Recordset.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -148,6 +150,8 @@ private:
                     if (wholeRegisterByText)
                         continue;
                     DocumentPaging paging(query.sql, query.mode, 9, u'A');
+                    if (connection.dialect() == SqlDialect::PostgreSql)
+                        paging.matchLetterOnServer();
                     paging.setSort(column, descending);
                     const QString what
                         = name + QStringLiteral(", column %1%2").arg(column).arg(descending ? " down" : "");
@@ -303,6 +307,55 @@ private Q_SLOTS:
         paging.setSort(0, false);
         const QString steps = plan(connection, paging.pageSql(nullptr, 100)).join(QStringLiteral(" | "));
         QVERIFY2(fullScans(plan(connection, paging.pageSql(nullptr, 100))).isEmpty(), qPrintable(steps));
+    }
+
+    // A letter's documents are those of the names that start with it, in either case, the
+    // letter exactly: on a server through its own LIKE of the two cases, as Like finds them.
+    void aLettersDocumentsOnEitherPlace_data()
+    {
+        QTest::addColumn<test::TestRegister::Where>("where");
+        QTest::newRow("file") << test::TestRegister::File;
+        QTest::newRow("server") << test::TestRegister::Server;
+    }
+
+    void aLettersDocumentsOnEitherPlace()
+    {
+        QFETCH(test::TestRegister::Where, where);
+        if (where == test::TestRegister::Server && !test::ServerDatabase::available())
+            QSKIP("KARTELLA_TEST_POSTGRESQL is not set: no PostgreSQL server");
+        const test::TestRegister reg(where);
+        QHash<QString, qint32> documents;
+        for (const char* name : {"Antanas", "agnė", "Bronė", "Ąžuolas", "Žaneta"}) {
+            const qint32 contact
+                = reg.insert(QStringLiteral("tbl_Contacts"), {{"FullName", QString::fromUtf8(name)}});
+            documents.insert(QString::fromUtf8(name),
+                reg.insert(QStringLiteral("tbl_Documents"),
+                    {{"DokAntraste", QString::fromUtf8(name)}, {"ContactID", contact},
+                        {"DokRegistracData", QDate(2024, 3, 1)}}));
+        }
+        Connection connection(reg.connectionString());
+        connection.open();
+        const auto lettersDocuments = [&](QChar letter) {
+            DocumentPaging paging(
+                contactDocumentSql(0, false, rangeStart, rangeEnd), DocumentPaging::Mode::Letter, 0, letter);
+            if (where == test::TestRegister::Server)
+                paging.matchLetterOnServer();
+            Recordset rs;
+            rs.open(paging.pageSql(nullptr, 100), connection);
+            QStringList names;
+            while (!rs.eof()) {
+                names << rs.fields(QStringLiteral("DokAntraste")).value().toString();
+                rs.moveNext();
+            }
+            names.sort();
+            Recordset count;
+            count.open(paging.countSql(), connection);
+            return std::make_pair(names, count.fields(0).value().toInt());
+        };
+        QCOMPARE(lettersDocuments(u'A'), std::make_pair(QStringList({"Antanas", "agnė"}), 2));
+        QCOMPARE(lettersDocuments(u'b'), std::make_pair(QStringList({"Bronė"}), 1));
+        // Lithuanian letters are not folded: "Ąžuolas" is not an A, "Žaneta" not a Z.
+        QCOMPARE(lettersDocuments(u'Z'), std::make_pair(QStringList(), 0));
     }
 
     // The check itself: a statement that reads the documents through is caught.
