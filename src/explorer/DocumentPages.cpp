@@ -69,8 +69,8 @@ std::unique_ptr<DocumentPages> DocumentPages::firstPageAhead(const QString& list
     if (!filter)
         return lookedOnly();
     const std::optional<SearchAhead> ahead = connection->dialect() == SqlDialect::Sqlite
-        ? SearchAhead::of(*connection, terms, indexes, g_broadHits, byRank)
-        : SearchAhead::onServer(*connection, terms, indexes, g_broadHits, byRank);
+        ? SearchAhead::of(*connection, terms, indexes, g_broadHits, byRank, 4 * g_broadHits)
+        : SearchAhead::onServer(*connection, terms, indexes, g_broadHits, byRank, 4 * g_broadHits);
     if (!ahead)
         return lookedOnly();
     // Terms that are each in many documents may still be seldom together: the documents by

@@ -120,7 +120,7 @@ QString heldBy(const QString& table, const QString& condition)
 } // namespace
 
 std::optional<SearchAhead> SearchAhead::of(Connection& connection, const QList<SearchTerm>& terms,
-    const SearchIndexes& indexes, qint64 broadHits, bool byRank)
+    const SearchIndexes& indexes, qint64 broadHits, bool byRank, qint64 broadList)
 {
     if (terms.isEmpty() || indexes.fields != SearchIndexKind::FullText)
         return std::nullopt;
@@ -160,7 +160,7 @@ std::optional<SearchAhead> SearchAhead::of(Connection& connection, const QList<S
                 return std::nullopt;
             const qint64 documents
                 = firstNumber(connection, QStringLiteral("SELECT MAX(RastasID) FROM tbl_Documents"));
-            if (share * double(documents) < double(broadHits))
+            if (share * double(documents) < double(broadList))
                 return std::nullopt;
             ahead.m_leastShare = std::min(ahead.m_leastShare, share);
         }
@@ -182,7 +182,7 @@ std::optional<SearchAhead> SearchAhead::of(Connection& connection, const QList<S
 }
 
 std::optional<SearchAhead> SearchAhead::onServer(Connection& connection, const QList<SearchTerm>& terms,
-    const SearchIndexes& indexes, qint64 broadHits, bool byRank)
+    const SearchIndexes& indexes, qint64 broadHits, bool byRank, qint64 broadList)
 {
     if (terms.isEmpty() || indexes.fields != SearchIndexKind::Table
         || connection.dialect() != SqlDialect::PostgreSql)
@@ -195,7 +195,7 @@ std::optional<SearchAhead> SearchAhead::onServer(Connection& connection, const Q
         // Worth looking for among the first documents by date only when enough of them hold it
         // for a page within the longest walk, and when that makes a broad list.
         const double share = serverFieldsShare(connection, term, indexes);
-        if (share < 2.0 / LongestServerWalk || share * double(documents) < double(broadHits))
+        if (share < 2.0 / LongestServerWalk || share * double(documents) < double(broadList))
             return std::nullopt;
         ahead.m_leastShare = std::min(ahead.m_leastShare, share);
         ahead.m_conditions << serverTermHeldBy(term, indexes, QStringLiteral("tbl_Documents.RastasID"));

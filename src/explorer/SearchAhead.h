@@ -23,24 +23,30 @@ class Connection;
 class SearchAhead
 {
 public:
+    // The documents found from which a search's first page is sooner read ahead than its
+    // whole list is found.
+    static constexpr qint64 BroadList = 4 * BroadHits;
+
     // Empty when a phrase or a prefix ranks (it is in some texts, fewer than
     // broadHitCount()), when a word ranks `broadHits` texts or more, when a term in few texts or
     // in none is in the fields of fewer than one in 25 of the first 1 000 documents or of fewer
-    // than about `broadHits` documents in all, or on a register without the fields' FTS5
+    // than about `broadList` documents in all, or on a register without the fields' FTS5
     // index. When `byRank` is false the list is by date (its own order), and nothing ranks. A
     // word's texts are counted as far as broadHitCount(); a phrase's are judged by the first
     // 2 000 texts, a prefix's by the first 200. When a term ranks, the ranks are prepared on
     // the connection (prepareRanking()). Throws kartella::Error.
     static std::optional<SearchAhead> of(Connection& connection, const QList<SearchTerm>& terms,
-        const SearchIndexes& indexes, qint64 broadHits = BroadHits, bool byRank = true);
+        const SearchIndexes& indexes, qint64 broadHits = BroadHits, bool byRank = true,
+        qint64 broadList = BroadList);
 
     // The same on a server's register (its table of folded fields and its vectors of the
     // files' words): every term is looked up in each document; each term's fields are to hold
-    // one in 50 of the first 1 000 documents, and about `broadHits` documents in all; a search
+    // one in 50 of the first 1 000 documents, and about `broadList` documents in all; a search
     // ranks the hits of the files' text, of which there are to be fewer than `broadHits`.
     // Empty on a register file. Throws kartella::Error.
     static std::optional<SearchAhead> onServer(Connection& connection, const QList<SearchTerm>& terms,
-        const SearchIndexes& indexes, qint64 broadHits = BroadHits, bool byRank = true);
+        const SearchIndexes& indexes, qint64 broadHits = BroadHits, bool byRank = true,
+        qint64 broadList = BroadList);
 
     // The ids of the first `rows` documents of the list that hold every term and meet
     // `filter` (a condition on tbl_Documents, or empty): the ranked hits best first, then the

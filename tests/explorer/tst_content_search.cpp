@@ -339,7 +339,7 @@ private Q_SLOTS:
         connection.open(reg.connectionString());
         const SearchIndexes indexes = searchIndexes(connection);
         const QList<SearchTerm> terms = searchTerms(text);
-        const std::optional<SearchAhead> found = SearchAhead::of(connection, terms, indexes, 1);
+        const std::optional<SearchAhead> found = SearchAhead::of(connection, terms, indexes, 1, true, 1);
         QCOMPARE(found.has_value(), ahead);
         if (!ahead)
             return;
@@ -402,7 +402,8 @@ private Q_SLOTS:
         connection.open(reg.connectionString());
         const SearchIndexes indexes = searchIndexes(connection);
         const QList<SearchTerm> terms = searchTerms(text);
-        const std::optional<SearchAhead> first = SearchAhead::of(connection, terms, indexes, BroadAt, byRank);
+        const std::optional<SearchAhead> first
+            = SearchAhead::of(connection, terms, indexes, BroadAt, byRank, BroadAt);
         QCOMPARE(first.has_value(), ahead);
         if (!ahead)
             return;
@@ -461,7 +462,7 @@ private Q_SLOTS:
         const SearchIndexes indexes = searchIndexes(connection);
         const QList<SearchTerm> terms = searchTerms(text);
         const std::optional<SearchAhead> first
-            = SearchAhead::onServer(connection, terms, indexes, BroadAt, byRank);
+            = SearchAhead::onServer(connection, terms, indexes, BroadAt, byRank, BroadAt);
         QCOMPARE(first.has_value(), ahead);
         if (!ahead)
             return;
