@@ -61,6 +61,13 @@ void orderServerListIndexes(Connection& connection)
                                           "NULLS FIRST, \"RastasID\" NULLS FIRST)")
                                .arg(name, equal));
     }
+    // The list sorted by its first column, the description, in the order of names: either end
+    // is read from the index. (A register file keeps no index in that order: a program without
+    // the collation could not write the file.)
+    connection.execute(QStringLiteral("DROP INDEX IF EXISTS \"idx_Documents_Description\""));
+    connection.execute(QStringLiteral(
+        "CREATE INDEX \"idx_Documents_Description\" ON \"tbl_Documents\" (\"DokAntraste\" COLLATE "
+        "namefold NULLS FIRST, \"RastasID\" NULLS FIRST)"));
 }
 
 } // namespace kartella

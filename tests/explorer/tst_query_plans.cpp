@@ -259,6 +259,17 @@ private Q_SLOTS:
             QVERIFY2(!steps.contains(server ? QStringLiteral("Sort") : QStringLiteral("B-TREE")),
                 qPrintable(steps));
         }
+        // A server's whole register sorted by description, either way, reads its index.
+        if (server && !sql.contains(QStringLiteral("WHERE"))) {
+            for (const bool descending : {false, true}) {
+                paging.setSort(0, descending);
+                for (const QString& page :
+                    {paging.pageSql(nullptr, 100), paging.reversePageSql(nullptr, 100)}) {
+                    const QString steps = plan(connection, page).join(QStringLiteral(" | "));
+                    QVERIFY2(!steps.contains(QStringLiteral("Sort")), qPrintable(steps));
+                }
+            }
+        }
     }
 
     // A search keeps its documents' ids once, from its indexes alone; the count reads them,
