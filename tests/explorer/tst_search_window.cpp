@@ -11,12 +11,12 @@
 #include "explorer/MainWindow.h"
 #include "explorer/SearchBox.h"
 #include "explorer/SearchFinder.h"
+#include "explorer/SearchRegister.h"
 #include "harness/ScriptedPrompter.h"
 #include "harness/ScriptedShell.h"
 #include "harness/ServerDatabase.h"
 #include "harness/TestRegister.h"
 #include "store/engine/Connection.h"
-#include "store/engine/SqlText.h"
 #include "support/SelectionState.h"
 
 #include <QAction>
@@ -34,23 +34,6 @@ namespace {
 QString categoryNode(ExplorerFixture& fx, const char* name)
 {
     return "a" + QString::number(fx.id[QString::fromUtf8(name)]);
-}
-
-using Ids = QList<qint32>;
-
-qint32 addDocument(const TestRegister& reg, const QString& description, const QDate& date)
-{
-    return reg.insert(
-        QStringLiteral("tbl_Documents"), {{"DokAntraste", description}, {"DokRegistracData", date}});
-}
-
-// The text read from the document's file, as the reader stores it.
-void addText(const TestRegister& reg, qint32 id, const QString& body)
-{
-    reg.exec(QStringLiteral(
-        "INSERT INTO tbl_Document_Text (RastasID, FilePath, State, Body) VALUES (%1, %2, 1, %3)")
-                 .arg(id)
-                 .arg(sqlString(QStringLiteral("/docs/%1.pdf").arg(id)), sqlString(body)));
 }
 
 } // namespace

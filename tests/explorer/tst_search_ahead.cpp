@@ -1,0 +1,215 @@
+// A search's first page read ahead of its whole list: when it is, and that it holds the
+// whole list's first rows, on a register file and on a server.
+#include "explorer/DocumentSearch.h"
+#include "explorer/SearchAhead.h"
+#include "explorer/SearchRegister.h"
+#include "harness/ServerDatabase.h"
+#include "harness/TestRegister.h"
+#include "store/engine/Connection.h"
+
+#include <QHash>
+#include <QTest>
+
+#include <optional>
+#include <vector>
+
+using namespace kartella;
+using namespace kartella::test;
+
+class SearchAheadTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // The first page of a search read ahead of its results: only when every term is in the
+    // texts of half of the documents or more (none ranks) or in the fields of enough
+    // documents, and then the same documents, in the same order, as the first of the whole
+    // list; a prefix held only by the fields too.
+    void firstPageAheadOnlyWhenNoTermRanks_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("ahead");
+        QTest::newRow("a word of most texts") << "ir" << true;
+        QTest::newRow("a piece of most fields, no text") << "rastas" << true;
+        QTest::newRow("a piece of a few fields, no text") << "kopija" << false;
+        QTest::newRow("a word of most texts, a piece of most fields") << "ir rastas" << true;
+        QTest::newRow("a word of a few") << "kita" << false;
+        QTest::newRow("a phrase of most") << "\"ir su\"" << true;
+        QTest::newRow("a phrase of none") << "\"su ir\"" << false;
+        QTest::newRow("a prefix of most") << "sutart*" << true;
+        QTest::newRow("a prefix of a few") << "kit*" << false;
+        QTest::newRow("two of most") << "ir sutart*" << true;
+        QTest::newRow("one of most, one of a few") << "ir kita" << false;
+        QTest::newRow("no word") << "-" << false;
+    }
+
+    void firstPageAheadOnlyWhenNoTermRanks()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, ahead);
+        const TestRegister reg;
+        for (int n = 1; n <= 10; ++n) {
+            const qint32 id = addDocument(reg,
+                n == 3 ? QStringLiteral("Sutarties kopija") : QStringLiteral("Raštas %1").arg(n),
+                QDate(2024, 3, 1).addDays(n));
+            if (n == 3)
+                addText(reg, id, QStringLiteral("Ir su kita"));
+            else if (n <= 8)
+                addText(reg, id, QStringLiteral("Sutartis ir su priedais, sutarties nr. %1").arg(n));
+            else
+                addText(reg, id, QStringLiteral("Kita %1").arg(n));
+        }
+        // Later documents without a text: "kopija" is in the fields of one in 30.
+        for (int n = 1; n <= 20; ++n)
+            addDocument(reg, QStringLiteral("Priedas %1").arg(n), QDate(2025, 1, 1).addDays(n));
+        Connection connection;
+        connection.open(reg.connectionString());
+        const SearchIndexes indexes = searchIndexes(connection);
+        const QList<SearchTerm> terms = searchTerms(text);
+        const std::optional<SearchAhead> found = SearchAhead::of(connection, terms, indexes, 1, true, 1);
+        QCOMPARE(found.has_value(), ahead);
+        if (!ahead)
+            return;
+        const Ids listed = idsOf(connection, searchListSql(terms, indexes, 0, false, {}, {}));
+        QVERIFY(listed.size() >= 5);
+        bool complete = false;
+        const std::vector<qint32> first = found->firstIds(connection, {}, 3, 100, complete);
+        QVERIFY(complete);
+        QCOMPARE(Ids(first.begin(), first.end()), listed.mid(0, 3));
+        // Looked for among the first two documents only: the walk is not complete.
+        const std::vector<qint32> walked = found->firstIds(connection, {}, 3, 2, complete);
+        QVERIFY(!complete);
+        QVERIFY(walked.size() <= 2);
+        for (const SearchTerm& term : terms) {
+            const qint64 hits
+                = found->contentHits().value(searchRanking({term}, indexes).fullTextQueries.value(0));
+            QVERIFY(hits == 0 || hits >= 5);
+        }
+        QCOMPARE(found->anyContentHit(), !text.contains(QStringLiteral("rastas")) || text.contains(u' '));
+    }
+
+    // A word in few texts ranks them: its first page read ahead holds the ranked hits that
+    // hold every term, best first, then the other documents by date, as the whole list does
+    // (by date alone in a list sorted by date); only when many fields hold the term.
+    void firstPageAheadOfRankedHits_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("byRank");
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<bool>("ahead");
+        QTest::newRow("ranked hits fill the page") << "rastas" << true << 2 << true;
+        QTest::newRow("ranked hits, then by date") << "rastas" << true << 6 << true;
+        QTest::newRow("no ranked hit holds the other term") << "rastas 1" << true << 3 << true;
+        QTest::newRow("a ranked hit and a broad piece") << "rastas ra" << true << 6 << true;
+        QTest::newRow("a list by date") << "rastas" << false << 6 << true;
+        QTest::newRow("in few fields") << "kita" << true << 6 << false;
+        QTest::newRow("a ranked prefix") << "rastas sutart*" << true << 6 << false;
+    }
+
+    void firstPageAheadOfRankedHits()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, byRank);
+        QFETCH(int, rows);
+        QFETCH(bool, ahead);
+        const TestRegister reg;
+        QHash<int, qint32> ids;
+        for (int n = 1; n <= 12; ++n) {
+            ids[n]
+                = addDocument(reg, n == 4 ? QStringLiteral("Sutartis 4") : QStringLiteral("Raštas %1").arg(n),
+                    QDate(2024, 3, 1).addDays(n));
+        }
+        addText(reg, ids[5], QStringLiteral("Raštas, raštas dėl sutarties"));
+        addText(reg, ids[9], QStringLiteral("Raštas ir kiti"));
+        addText(reg, ids[4], QStringLiteral("Atsakymas į raštą: raštas"));
+        addText(reg, ids[2], QStringLiteral("Kita"));
+        // Three texts of four hold "rastas": fewer than the four hits that make a word broad.
+        constexpr qint64 BroadAt = 4;
+        Connection connection;
+        connection.open(reg.connectionString());
+        const SearchIndexes indexes = searchIndexes(connection);
+        const QList<SearchTerm> terms = searchTerms(text);
+        const std::optional<SearchAhead> first
+            = SearchAhead::of(connection, terms, indexes, BroadAt, byRank, BroadAt);
+        QCOMPARE(first.has_value(), ahead);
+        if (!ahead)
+            return;
+        QCOMPARE(first->ranking().join.isEmpty(), !byRank);
+        const Ids listed = byRank ? found(reg, text, BroadAt)
+                                  : idsOf(connection, searchListSql(terms, indexes, 0, false, {}, {}));
+        QVERIFY(listed.size() > rows);
+        bool complete = false;
+        const std::vector<qint32> page = first->firstIds(connection, {}, rows, 100, complete);
+        QCOMPARE(Ids(page.begin(), page.end()), listed.mid(0, rows));
+        // The whole list ranks the same hits as the first page did.
+        QCOMPARE(first->contentHits().value(
+                     searchRanking(searchTerms(QStringLiteral("rastas")), indexes).fullTextQueries.value(0)),
+            3);
+    }
+
+    // A server's first page ahead: every term looked up in each document by date, the
+    // ranked hits of the files' text first; the same rows as the first of the whole list.
+    void firstPageAheadOnAServer_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("byRank");
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<bool>("ahead");
+        QTest::newRow("ranked hits fill the page") << "rastas" << true << 2 << true;
+        QTest::newRow("ranked hits, then by date") << "rastas" << true << 6 << true;
+        QTest::newRow("no ranked hit holds the other term") << "rastas 1" << true << 3 << true;
+        QTest::newRow("a list by date") << "rastas" << false << 6 << true;
+        QTest::newRow("in few fields") << "kita" << true << 6 << false;
+        QTest::newRow("in no field") << "atsakymas rastas" << true << 1 << false;
+    }
+
+    void firstPageAheadOnAServer()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, byRank);
+        QFETCH(int, rows);
+        QFETCH(bool, ahead);
+        if (!ServerDatabase::available())
+            QSKIP(qPrintable(ServerDatabase::skipReason()));
+        const TestRegister reg(TestRegister::Server);
+        QHash<int, qint32> ids;
+        for (int n = 1; n <= 12; ++n) {
+            ids[n]
+                = addDocument(reg, n == 4 ? QStringLiteral("Sutartis 4") : QStringLiteral("Raštas %1").arg(n),
+                    QDate(2024, 3, 1).addDays(n));
+        }
+        addText(reg, ids[5], QStringLiteral("Raštas, raštas dėl sutarties"));
+        addText(reg, ids[9], QStringLiteral("Raštas ir kiti"));
+        addText(reg, ids[4], QStringLiteral("Atsakymas į raštą: raštas"));
+        addText(reg, ids[2], QStringLiteral("Kita"));
+        // Three texts hold "rastas": fewer than the four hits a page of ranks is chosen among.
+        constexpr qint64 BroadAt = 4;
+        Connection connection;
+        connection.open(reg.connectionString());
+        const SearchIndexes indexes = searchIndexes(connection);
+        const QList<SearchTerm> terms = searchTerms(text);
+        const std::optional<SearchAhead> first
+            = SearchAhead::onServer(connection, terms, indexes, BroadAt, byRank, BroadAt);
+        QCOMPARE(first.has_value(), ahead);
+        if (!ahead)
+            return;
+        QCOMPARE(first->ranking().join.isEmpty(), !byRank);
+        const Ids listed = byRank ? found(reg, text, BroadAt)
+                                  : idsOf(connection, searchListSql(terms, indexes, 0, false, {}, {}));
+        QVERIFY(listed.size() > rows);
+        bool complete = false;
+        const std::vector<qint32> page = first->firstIds(connection, {}, rows, 100, complete);
+        QCOMPARE(Ids(page.begin(), page.end()), listed.mid(0, rows));
+        QVERIFY(first->anyContentHit());
+        // Looked for among the first three documents by date alone.
+        if (!byRank) {
+            QVERIFY(complete);
+            const std::vector<qint32> walked = first->firstIds(connection, {}, rows, 3, complete);
+            QVERIFY(!complete);
+            QCOMPARE(Ids(walked.begin(), walked.end()), listed.mid(0, 3));
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(SearchAheadTest)
+#include "tst_search_ahead.moc"
