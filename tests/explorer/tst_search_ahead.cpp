@@ -90,29 +90,42 @@ private Q_SLOTS:
 
     // A word in few texts ranks them: its first page read ahead holds the ranked hits that
     // hold every term, best first, then the other documents by date, as the whole list does
-    // (by date alone in a list sorted by date); only when many fields hold the term.
+    // (by date alone in a list sorted by date); only when many fields hold the term. A server
+    // looks every term up in each document by date.
     void firstPageAheadOfRankedHits_data()
     {
+        QTest::addColumn<TestRegister::Where>("where");
         QTest::addColumn<QString>("text");
         QTest::addColumn<bool>("byRank");
         QTest::addColumn<int>("rows");
         QTest::addColumn<bool>("ahead");
-        QTest::newRow("ranked hits fill the page") << "rastas" << true << 2 << true;
-        QTest::newRow("ranked hits, then by date") << "rastas" << true << 6 << true;
-        QTest::newRow("no ranked hit holds the other term") << "rastas 1" << true << 3 << true;
-        QTest::newRow("a ranked hit and a broad piece") << "rastas ra" << true << 6 << true;
-        QTest::newRow("a list by date") << "rastas" << false << 6 << true;
-        QTest::newRow("in few fields") << "kita" << true << 6 << false;
-        QTest::newRow("a ranked prefix") << "rastas sutart*" << true << 6 << false;
+        for (const TestRegister::Where where : {TestRegister::File, TestRegister::Server}) {
+            const char* place = where == TestRegister::File ? "file" : "server";
+            QTest::addRow("%s: ranked hits fill the page", place) << where << "rastas" << true << 2 << true;
+            QTest::addRow("%s: ranked hits, then by date", place) << where << "rastas" << true << 6 << true;
+            QTest::addRow("%s: no ranked hit holds the other term", place)
+                << where << "rastas 1" << true << 3 << true;
+            QTest::addRow("%s: a list by date", place) << where << "rastas" << false << 6 << true;
+            QTest::addRow("%s: in few fields", place) << where << "kita" << true << 6 << false;
+        }
+        QTest::newRow("file: a ranked hit and a broad piece")
+            << TestRegister::File << "rastas ra" << true << 6 << true;
+        QTest::newRow("file: a ranked prefix")
+            << TestRegister::File << "rastas sutart*" << true << 6 << false;
+        QTest::newRow("server: in no field")
+            << TestRegister::Server << "atsakymas rastas" << true << 1 << false;
     }
 
     void firstPageAheadOfRankedHits()
     {
+        QFETCH(TestRegister::Where, where);
         QFETCH(QString, text);
         QFETCH(bool, byRank);
         QFETCH(int, rows);
         QFETCH(bool, ahead);
-        const TestRegister reg;
+        if (where == TestRegister::Server && !ServerDatabase::available())
+            QSKIP(qPrintable(ServerDatabase::skipReason()));
+        const TestRegister reg(where);
         QHash<int, qint32> ids;
         for (int n = 1; n <= 12; ++n) {
             ids[n]
@@ -129,12 +142,14 @@ private Q_SLOTS:
         connection.open(reg.connectionString());
         const SearchIndexes indexes = searchIndexes(connection);
         const QList<SearchTerm> terms = searchTerms(text);
-        const std::optional<SearchAhead> first
-            = SearchAhead::of(connection, terms, indexes, BroadAt, byRank, BroadAt);
+        const std::optional<SearchAhead> first = where == TestRegister::File
+            ? SearchAhead::of(connection, terms, indexes, BroadAt, byRank, BroadAt)
+            : SearchAhead::onServer(connection, terms, indexes, BroadAt, byRank, BroadAt);
         QCOMPARE(first.has_value(), ahead);
         if (!ahead)
             return;
         QCOMPARE(first->ranking().join.isEmpty(), !byRank);
+        QVERIFY(first->anyContentHit());
         const Ids listed = byRank ? found(reg, text, BroadAt)
                                   : idsOf(connection, searchListSql(terms, indexes, 0, false, {}, {}));
         QVERIFY(listed.size() > rows);
@@ -142,65 +157,12 @@ private Q_SLOTS:
         const std::vector<qint32> page = first->firstIds(connection, {}, rows, 100, complete);
         QCOMPARE(Ids(page.begin(), page.end()), listed.mid(0, rows));
         // The whole list ranks the same hits as the first page did.
-        QCOMPARE(first->contentHits().value(
-                     searchRanking(searchTerms(QStringLiteral("rastas")), indexes).fullTextQueries.value(0)),
-            3);
-    }
-
-    // A server's first page ahead: every term looked up in each document by date, the
-    // ranked hits of the files' text first; the same rows as the first of the whole list.
-    void firstPageAheadOnAServer_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("byRank");
-        QTest::addColumn<int>("rows");
-        QTest::addColumn<bool>("ahead");
-        QTest::newRow("ranked hits fill the page") << "rastas" << true << 2 << true;
-        QTest::newRow("ranked hits, then by date") << "rastas" << true << 6 << true;
-        QTest::newRow("no ranked hit holds the other term") << "rastas 1" << true << 3 << true;
-        QTest::newRow("a list by date") << "rastas" << false << 6 << true;
-        QTest::newRow("in few fields") << "kita" << true << 6 << false;
-        QTest::newRow("in no field") << "atsakymas rastas" << true << 1 << false;
-    }
-
-    void firstPageAheadOnAServer()
-    {
-        QFETCH(QString, text);
-        QFETCH(bool, byRank);
-        QFETCH(int, rows);
-        QFETCH(bool, ahead);
-        if (!ServerDatabase::available())
-            QSKIP(qPrintable(ServerDatabase::skipReason()));
-        const TestRegister reg(TestRegister::Server);
-        QHash<int, qint32> ids;
-        for (int n = 1; n <= 12; ++n) {
-            ids[n]
-                = addDocument(reg, n == 4 ? QStringLiteral("Sutartis 4") : QStringLiteral("Raštas %1").arg(n),
-                    QDate(2024, 3, 1).addDays(n));
+        if (where == TestRegister::File) {
+            QCOMPARE(
+                first->contentHits().value(
+                    searchRanking(searchTerms(QStringLiteral("rastas")), indexes).fullTextQueries.value(0)),
+                3);
         }
-        addText(reg, ids[5], QStringLiteral("Raštas, raštas dėl sutarties"));
-        addText(reg, ids[9], QStringLiteral("Raštas ir kiti"));
-        addText(reg, ids[4], QStringLiteral("Atsakymas į raštą: raštas"));
-        addText(reg, ids[2], QStringLiteral("Kita"));
-        // Three texts hold "rastas": fewer than the four hits a page of ranks is chosen among.
-        constexpr qint64 BroadAt = 4;
-        Connection connection;
-        connection.open(reg.connectionString());
-        const SearchIndexes indexes = searchIndexes(connection);
-        const QList<SearchTerm> terms = searchTerms(text);
-        const std::optional<SearchAhead> first
-            = SearchAhead::onServer(connection, terms, indexes, BroadAt, byRank, BroadAt);
-        QCOMPARE(first.has_value(), ahead);
-        if (!ahead)
-            return;
-        QCOMPARE(first->ranking().join.isEmpty(), !byRank);
-        const Ids listed = byRank ? found(reg, text, BroadAt)
-                                  : idsOf(connection, searchListSql(terms, indexes, 0, false, {}, {}));
-        QVERIFY(listed.size() > rows);
-        bool complete = false;
-        const std::vector<qint32> page = first->firstIds(connection, {}, rows, 100, complete);
-        QCOMPARE(Ids(page.begin(), page.end()), listed.mid(0, rows));
-        QVERIFY(first->anyContentHit());
         // Looked for among the first three documents by date alone.
         if (!byRank) {
             QVERIFY(complete);
