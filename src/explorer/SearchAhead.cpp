@@ -215,34 +215,55 @@ std::optional<SearchAhead> SearchAhead::onServer(Connection& connection, const Q
     return ahead;
 }
 
+QString SearchAhead::bodyColumn() const
+{
+    // The text is read where a prefix is looked for in it by the program.
+    return m_prefixes.isEmpty()
+        ? QString()
+        : QStringLiteral(", (SELECT Body FROM tbl_Document_Text WHERE "
+                         "tbl_Document_Text.RastasID = tbl_Documents.RastasID) AS Body");
+}
+
+QString SearchAhead::rankedQuery(const QString& filter) const
+{
+    if (m_ranking.join.isEmpty())
+        return {};
+    QStringList conditions = m_conditions;
+    if (!filter.isEmpty())
+        conditions << u'(' + filter + u')';
+    const QString where = conditions.isEmpty()
+        ? QString()
+        : QStringLiteral(" WHERE ") + conditions.join(QStringLiteral(" AND "));
+    // The ranked hits, best first, as the whole list orders them: through the ranking's join on
+    // a server; from the ranks kept on a register file, with CROSS JOIN, so that SQLite reads
+    // the few ranks and looks their documents up, whatever it guesses of a table without
+    // statistics.
+    if (m_server)
+        return QStringLiteral(
+            "SELECT tbl_Documents.RastasID%1 FROM tbl_Documents%2%3 ORDER BY hits.hit_rank, "
+            "tbl_Documents.RastasID")
+            .arg(bodyColumn(),
+                QString(m_ranking.join).replace(QStringLiteral(" LEFT JOIN "), QStringLiteral(" JOIN ")),
+                where);
+    return QStringLiteral("SELECT tbl_Documents.RastasID%1 FROM temp.%2 AS ranks CROSS JOIN tbl_Documents ON "
+                          "tbl_Documents.RastasID = ranks.hit_id%3 ORDER BY ranks.hit_rank, ranks.hit_id")
+        .arg(bodyColumn(), QLatin1String(RankedHitsTable), where);
+}
+
 std::vector<qint32> SearchAhead::firstIds(
     Connection& connection, const QString& filter, int rows, int walked, bool& complete) const
 {
     QStringList conditions = m_conditions;
     if (!filter.isEmpty())
         conditions << u'(' + filter + u')';
-    const QString body = m_prefixes.isEmpty()
-        ? QString()
-        : QStringLiteral(", (SELECT Body FROM tbl_Document_Text WHERE tbl_Document_Text.RastasID = "
-                         "tbl_Documents.RastasID) AS Body");
+    const QString body = bodyColumn();
     const auto where = [&conditions] {
         return conditions.isEmpty() ? QString()
                                     : QStringLiteral(" WHERE ") + conditions.join(QStringLiteral(" AND "));
     };
     std::vector<qint32> ids;
     if (!m_ranking.join.isEmpty()) {
-        // The ranked hits first, best first, as the whole list orders them: from the ranks
-        // kept on a register file, through the ranking's join on a server.
-        const QString ranked = m_server
-            ? QStringLiteral("SELECT tbl_Documents.RastasID%1 FROM tbl_Documents%2%3 ORDER BY hits.hit_rank, "
-                             "tbl_Documents.RastasID")
-                  .arg(body,
-                      QString(m_ranking.join)
-                          .replace(QStringLiteral(" LEFT JOIN "), QStringLiteral(" JOIN ")),
-                      where())
-            : QStringLiteral("SELECT tbl_Documents.RastasID%1 FROM temp.%2 AS ranks JOIN tbl_Documents ON "
-                             "tbl_Documents.RastasID = ranks.hit_id%3 ORDER BY ranks.hit_rank, ranks.hit_id")
-                  .arg(body, QLatin1String(RankedHitsTable), where());
+        const QString ranked = rankedQuery(filter);
         ids = matchingIds(connection, ranked, rows);
         if (int(ids.size()) == rows) {
             complete = false;

@@ -61,6 +61,10 @@ public:
     // looking at the page).
     int walked(int rows) const;
 
+    // The query of the ranked hits that hold every term and meet `filter`, best first, as
+    // firstIds() reads them (for their plan); empty when nothing ranks.
+    QString rankedQuery(const QString& filter) const;
+
     // The ranking prepared on the connection, for the first page's order; empty when no term
     // ranks.
     const SearchRanking& ranking() const { return m_ranking; }
@@ -72,6 +76,7 @@ public:
     bool anyContentHit() const { return m_anyContentHit; }
 
 private:
+    QString bodyColumn() const;
     std::vector<qint32> matchingIds(Connection& connection, const QString& sql, int rows) const;
 
     // A prefix: its fields in the index, its words in the document's text.

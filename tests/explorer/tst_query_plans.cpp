@@ -5,6 +5,7 @@
 #include "explorer/DocumentPaging.h"
 #include "explorer/DocumentQueries.h"
 #include "explorer/DocumentSearch.h"
+#include "explorer/SearchAhead.h"
 #include "harness/ServerDatabase.h"
 #include "harness/TestRegister.h"
 #include "store/Schema.h"
@@ -367,6 +368,30 @@ private Q_SLOTS:
         QCOMPARE(lettersDocuments(u'b'), std::make_pair(QStringList({"Bronė"}), 1));
         // Lithuanian letters are not folded: "Ąžuolas" is not an A, "Žaneta" not a Z.
         QCOMPARE(lettersDocuments(u'Z'), std::make_pair(QStringList(), 0));
+    }
+
+    // A ranked search's first page reads its few ranks and looks their documents up.
+    void aFirstPageReadsTheRanksFirst()
+    {
+        const test::TestRegister reg;
+        for (int n = 1; n <= 30; ++n) {
+            const qint32 id = reg.insert(QStringLiteral("tbl_Documents"),
+                {{"DokAntraste", QStringLiteral("Raštas %1").arg(n)},
+                    {"DokRegistracData", QDate(2024, 3, 1)}});
+            if (n % 10 == 0)
+                reg.exec(QStringLiteral(
+                    "INSERT INTO tbl_Document_Text (RastasID, State, Body) VALUES (%1, 1, 'raštas')")
+                             .arg(id));
+        }
+        Connection connection(reg.connectionString());
+        connection.open();
+        const std::optional<SearchAhead> ahead = SearchAhead::of(
+            connection, searchTerms(QStringLiteral("rastas")), searchIndexes(connection), 10, true, 1);
+        QVERIFY(ahead && !ahead->ranking().join.isEmpty());
+        const QString steps = plan(connection, ahead->rankedQuery(QString())).join(QStringLiteral(" | "));
+        QVERIFY2(steps.startsWith(QStringLiteral("SCAN ranks")), qPrintable(steps));
+        QVERIFY2(!steps.contains(QRegularExpression(QStringLiteral("SCAN tbl_Documents(?: |$)"))),
+            qPrintable(steps));
     }
 
     // The check itself: a statement that reads the documents through is caught.
