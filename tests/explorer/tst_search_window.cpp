@@ -295,6 +295,15 @@ private Q_SLOTS:
             QCOMPARE(listed, expected);
             QCOMPARE(pages.rowOfKey(DocumentFills::itemKey(expected.at(5))), 5);
         }
+        // Within dates: the ids kept are the documents' that meet them too.
+        auto connection = std::make_unique<Connection>();
+        connection->open(reg.connectionString());
+        const QList<SearchTerm> terms = searchTerms(QStringLiteral("prasymas"));
+        const QString within = searchListSql(
+            terms, searchIndexes(*connection), 0, true, QDate(2024, 3, 11), QDate(2024, 3, 17));
+        DocumentPages dated(within, DocumentPaging::Mode::Category, 0, {}, terms, std::move(connection));
+        QCOMPARE(dated.count(), 5);
+        QCOMPARE(DocumentFills::idOfKey(dated.item(4).key), expected.at(5));
     }
 
     // Ranked results read a page at a time in the order of the ranks, from either end.
