@@ -112,6 +112,9 @@ private Q_SLOTS:
         QTest::newRow("prefix") << "SUTART* sutart*" << QList<SearchTerm> {{"sutart", false, true}};
         QTest::newRow("lone star") << "*" << QList<SearchTerm> {{"*"}};
         QTest::newRow("quote inside a word") << "o\"brien" << QList<SearchTerm> {{"o\"brien"}};
+        QTest::newRow("prefix after a phrase")
+            << "\"Banko paskolos\" SUTART* aktas"
+            << QList<SearchTerm> {{"banko paskolos", true}, {"sutart", false, true}, {"aktas"}};
     }
 
     void termsAreSplitFoldedAndKeptOnce()
@@ -209,6 +212,8 @@ private Q_SLOTS:
             QCOMPARE(found(reg, "sutartis kita", indexed), Ids {});
             // Quotes and wildcards are plain characters.
             QCOMPARE(found(reg, "'\"%_*", indexed), Ids {});
+            // No word at all finds nothing.
+            QCOMPARE(found(reg, " \t ", indexed), Ids {});
         }
     }
 
@@ -285,6 +290,18 @@ private Q_SLOTS:
         QCOMPARE(found(reg, "ukis sutar"), Ids {kept});
         execPlain(reg.path(), QStringLiteral("DELETE FROM tbl_Documents WHERE RastasID = 50"));
         QCOMPARE(found(reg, "silumos"), Ids {});
+    }
+
+    // The window searches the register the options name, with the indexes it has.
+    void indexesOfTheRegisterInUse()
+    {
+        TestRegister reg;
+        SearchIndexes indexes = registerSearchIndexes();
+        QCOMPARE(indexes.fields, SearchIndexKind::FullText);
+        QCOMPARE(indexes.content, ContentIndexKind::FullText);
+        reg.exec(QStringLiteral("DROP TABLE tbl_Documents_Search"));
+        indexes = registerSearchIndexes();
+        QCOMPARE(indexes.fields, SearchIndexKind::None);
     }
 
     void directionAndDatesNarrow()
