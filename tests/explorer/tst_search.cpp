@@ -292,6 +292,32 @@ private Q_SLOTS:
         QCOMPARE(found(reg, "silumos"), Ids {});
     }
 
+    // A register whose fields have no index of their own but whose files' texts have one:
+    // the fields are scanned, the texts read through their index.
+    void fieldsScannedAndTextsThroughTheirIndex()
+    {
+        TestRegister reg;
+        const qint32 inFields
+            = addDocument(reg, {{"DokAntraste", "Sutartis"}, {"DokRegistracData", QDate(2024, 3, 2)}});
+        const qint32 inText
+            = addDocument(reg, {{"DokAntraste", "Kita"}, {"DokRegistracData", QDate(2024, 3, 1)}});
+        addDocument(reg, {{"DokAntraste", "Kita"}});
+        reg.exec(QStringLiteral("INSERT INTO tbl_Document_Text (RastasID, FilePath, State, Body) VALUES "
+                                "(%1, '/docs/a.pdf', 1, 'Sutartis ir priedas')")
+                     .arg(inText));
+        QCOMPARE(found(reg, "sutartis priedas", SearchIndexKind::None), Ids {});
+        Connection connection;
+        connection.open(reg.connectionString());
+        Recordset rs;
+        rs.open(searchListSql(searchTerms(QStringLiteral("SUTARTIS")),
+                    {SearchIndexKind::None, ContentIndexKind::FullText}, 0, false, {}, {}),
+            connection);
+        Ids ids;
+        for (; !rs.eof(); rs.moveNext())
+            ids << rs.fields(QStringLiteral("RastasID")).value().toInt();
+        QCOMPARE(ids, Ids({inText, inFields}));
+    }
+
     // The window searches the register the options name, with the indexes it has.
     void indexesOfTheRegisterInUse()
     {
