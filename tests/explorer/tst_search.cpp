@@ -316,6 +316,45 @@ private Q_SLOTS:
         for (; !rs.eof(); rs.moveNext())
             ids << rs.fields(QStringLiteral("RastasID")).value().toInt();
         QCOMPARE(ids, Ids({inText, inFields}));
+
+        // Whether any text holds a term, before anything is ranked.
+        const SearchIndexes indexes = searchIndexes(connection);
+        const auto anyHit = [&](const QString& text) {
+            const SearchRanking ranking
+                = prepareRanking(connection, searchRanking(searchTerms(text), indexes), 1);
+            if (ranking.anyHit.isEmpty())
+                return -1;
+            Recordset hit;
+            hit.open(ranking.anyHit, connection);
+            return hit.eof() ? 0 : hit.fields(0).value().toInt();
+        };
+        QCOMPARE(anyHit(QStringLiteral("priedas")), inText);
+        QCOMPARE(anyHit(QStringLiteral("kita")), -1);
+        // Each search on the connection ranks anew.
+        for (int search = 0; search < 2; ++search)
+            QVERIFY(
+                !prepareRanking(connection, searchRanking(searchTerms(QStringLiteral("priedas")), indexes))
+                     .key.isEmpty());
+    }
+
+    // A term is broad in half of the texts or more, rounded up, and in `broadHits` or more.
+    void broadFromHalfTheTexts_data()
+    {
+        QTest::addColumn<qint64>("texts");
+        QTest::addColumn<qint64>("broadHits");
+        QTest::addColumn<qint64>("broad");
+        QTest::newRow("half of an even count") << qint64(4) << qint64(1) << qint64(2);
+        QTest::newRow("half of an odd count") << qint64(5) << qint64(1) << qint64(3);
+        QTest::newRow("the hits given") << qint64(5) << qint64(4) << qint64(4);
+        QTest::newRow("no text") << qint64(0) << qint64(1) << qint64(1);
+    }
+
+    void broadFromHalfTheTexts()
+    {
+        QFETCH(qint64, texts);
+        QFETCH(qint64, broadHits);
+        QFETCH(qint64, broad);
+        QCOMPARE(kartella::broadHitCount(texts, broadHits), broad);
     }
 
     // The window searches the register the options name, with the indexes it has.

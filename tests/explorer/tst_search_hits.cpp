@@ -141,6 +141,20 @@ private Q_SLOTS:
         for (auto hit = found.contentHits().cbegin(); hit != found.contentHits().cend(); ++hit)
             QVERIFY2(queries.contains(hit.key()), qPrintable(hit.key()));
     }
+
+    // Without the texts' index a search keeps the documents whose fields hold its terms.
+    void fieldsAloneWithoutTheTextsIndex()
+    {
+        Connection connection;
+        connection.open(m_reg->connectionString());
+        connection.execute(QStringLiteral("CREATE TEMP TABLE kept (RastasID INTEGER PRIMARY KEY)"));
+        SearchHits found;
+        found.keep(connection, QStringLiteral("kept"), searchTerms(QStringLiteral("priedas")),
+            {SearchIndexKind::FullText, ContentIndexKind::None}, {});
+        QCOMPARE(idsOf(connection, QStringLiteral("SELECT RastasID FROM temp.kept")),
+            idsNamed(QStringLiteral("Priedas")));
+        QVERIFY(found.contentHits().isEmpty());
+    }
 };
 
 QTEST_GUILESS_MAIN(SearchHitsTest)
