@@ -102,6 +102,29 @@ private Q_SLOTS:
 
     void threeDigitYearIsNoDate() { QVERIFY(!engine::parseJetDate(u"3/5/024").isValid()); }
 
+    // A date and time as SQLite stores it, with a nine in every place.
+    void isoTextWithEveryNine()
+    {
+        const QByteArray text("1999-09-29 19:59:09");
+        qint64 julianDay = 0;
+        int msecs = 0;
+        bool hasTime = false;
+        QVERIFY(engine::parseIsoBytes(text.constData(), std::size_t(text.size()), julianDay, msecs, hasTime));
+        QCOMPARE(julianDay, QDate(1999, 9, 29).toJulianDay());
+        QCOMPARE(msecs, QTime(19, 59, 9).msecsSinceStartOfDay());
+        QVERIFY(hasTime);
+    }
+
+    // A character of three bytes in UTF-8 sorts by what it is, after the letters.
+    void charactersOfThreeBytes()
+    {
+        QVERIFY(compareNames(QStringLiteral("€"), QStringLiteral("b")) > 0);
+        QVERIFY(compareNames(QStringLiteral("b"), QStringLiteral("€")) < 0);
+        QVERIFY(compareNames(QStringLiteral("„a"), QStringLiteral("„b")) < 0);
+        // Read byte by byte, the euro sign would start with 0xE2 and sort before the sign of division.
+        QVERIFY(compareNames(QStringLiteral("€"), QStringLiteral("÷")) > 0);
+    }
+
     // Each letter folds onto its base letter for the order of names, small and capital
     // alike, but LIKE keeps the accent and ignores only the case.
     void lithuanianLetters_data()

@@ -168,6 +168,9 @@ private Q_SLOTS:
         QTest::newRow("not null") << "ContactID Is Not Null AND DokAntraste Is Not Null"
                                   << QStringList {"1", "2", "4"};
         QTest::newRow("nothing") << "RastasID=50" << QStringList {};
+        // A number and a word do not compare: neither is before the other.
+        QTest::newRow("number against a word") << "RastasID > 'x'" << QStringList {};
+        QTest::newRow("word against a number") << "DokAntraste < 5" << QStringList {};
     }
 
     void filter()

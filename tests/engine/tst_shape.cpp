@@ -301,22 +301,29 @@ private Q_SLOTS:
     void badShapes_data()
     {
         QTest::addColumn<QString>("command");
-        QTest::newRow("no braces") << "SHAPE select 1";
-        QTest::newRow("unclosed") << "SHAPE {select * from tbl_Contacts AS a";
-        QTest::newRow("no relate")
-            << "SHAPE {select * from tbl_Contacts} APPEND ({select * from tbl_Phones})";
+        QTest::addColumn<QString>("says");
+        QTest::newRow("no braces") << "SHAPE select 1"
+                                   << "";
+        QTest::newRow("unclosed") << "SHAPE {select * from tbl_Contacts AS a"
+                                  << "'}' is missing";
+        QTest::newRow("no relate") << "SHAPE {select * from tbl_Contacts} APPEND ({select * from tbl_Phones})"
+                                   << "";
         QTest::newRow("unknown field")
             << "SHAPE {select * from tbl_Contacts} APPEND ({select * from tbl_Phones} "
-               "RELATE Nothing TO ContactID) AS P";
+               "RELATE Nothing TO ContactID) AS P"
+            << "";
         QTest::newRow("unknown group field")
-            << "SHAPE {select * from tbl_Contacts} AS c COMPUTE c BY 'Nothing'";
+            << "SHAPE {select * from tbl_Contacts} AS c COMPUTE c BY 'Nothing'"
+            << "";
         QTest::newRow("bad aggregate")
-            << "SHAPE {select * from tbl_Contacts} AS c COMPUTE c, TOTAL(c.x) BY 'City'";
+            << "SHAPE {select * from tbl_Contacts} AS c COMPUTE c, TOTAL(c.x) BY 'City'"
+            << "";
     }
 
     void badShapes()
     {
         QFETCH(QString, command);
+        QFETCH(QString, says);
         EngineRegister reg;
         Recordset recordset;
         try {
@@ -325,6 +332,7 @@ private Q_SLOTS:
         } catch (const Error& error) {
             QCOMPARE(error.number(), ErrorNumber::CommandFailed);
             QVERIFY2(error.description().contains("SHAPE"), qPrintable(error.description()));
+            QVERIFY2(error.description().contains(says), qPrintable(error.description()));
         }
         QVERIFY(!recordset.isOpen());
     }

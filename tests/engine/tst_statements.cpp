@@ -217,6 +217,36 @@ private Q_SLOTS:
         QCOMPARE(seen, groups);
     }
 
+    // A table another program made on a register file: its columns read by their declared
+    // types as SQLite names them, a type the engine does not know as text.
+    void typesDeclaredByAnotherProgram_data()
+    {
+        QTest::addColumn<QString>("declared");
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QVariant>("read");
+        QTest::newRow("unknown, holding DE") << "NODE"
+                                             << "'abc'" << QVariant(QStringLiteral("abc"));
+        QTest::newRow("decimal") << "DECIMAL(10,2)"
+                                 << "2.5" << QVariant(2.5);
+        QTest::newRow("money") << "MONEY"
+                               << "3.25" << QVariant(3.25);
+    }
+
+    void typesDeclaredByAnotherProgram()
+    {
+        QFETCH(QString, declared);
+        QFETCH(QString, stored);
+        QFETCH(QVariant, read);
+        EngineRegister reg;
+        if (reg.onServer())
+            QSKIP("A server's columns have the server's own types.");
+        reg.execute(QStringLiteral("CREATE TABLE other (v %1)").arg(declared));
+        reg.execute(QStringLiteral("INSERT INTO other (v) VALUES (%1)").arg(stored));
+        Recordset recordset;
+        recordset.open("SELECT v FROM other", reg.connection());
+        QCOMPARE(recordset.fields(0).value(), read);
+    }
+
     // The report of all documents by category: a RIGHT JOIN of a join, grouped.
     void allDocumentsByCategory()
     {

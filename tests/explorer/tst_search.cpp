@@ -112,6 +112,9 @@ private Q_SLOTS:
         QTest::newRow("prefix") << "SUTART* sutart*" << QList<SearchTerm> {{"sutart", false, true}};
         QTest::newRow("lone star") << "*" << QList<SearchTerm> {{"*"}};
         QTest::newRow("quote inside a word") << "o\"brien" << QList<SearchTerm> {{"o\"brien"}};
+        QTest::newRow("prefix after a phrase")
+            << "\"Banko paskolos\" SUTART* aktas"
+            << QList<SearchTerm> {{"banko paskolos", true}, {"sutart", false, true}, {"aktas"}};
     }
 
     void termsAreSplitFoldedAndKeptOnce()
@@ -209,6 +212,8 @@ private Q_SLOTS:
             QCOMPARE(found(reg, "sutartis kita", indexed), Ids {});
             // Quotes and wildcards are plain characters.
             QCOMPARE(found(reg, "'\"%_*", indexed), Ids {});
+            // No word at all finds nothing.
+            QCOMPARE(found(reg, " \t ", indexed), Ids {});
         }
     }
 
@@ -285,6 +290,83 @@ private Q_SLOTS:
         QCOMPARE(found(reg, "ukis sutar"), Ids {kept});
         execPlain(reg.path(), QStringLiteral("DELETE FROM tbl_Documents WHERE RastasID = 50"));
         QCOMPARE(found(reg, "silumos"), Ids {});
+    }
+
+    // A register whose fields have no index of their own but whose files' texts have one:
+    // the fields are scanned, the texts read through their index.
+    void fieldsScannedAndTextsThroughTheirIndex()
+    {
+        TestRegister reg;
+        const qint32 inFields
+            = addDocument(reg, {{"DokAntraste", "Sutartis"}, {"DokRegistracData", QDate(2024, 3, 2)}});
+        const qint32 inText
+            = addDocument(reg, {{"DokAntraste", "Kita"}, {"DokRegistracData", QDate(2024, 3, 1)}});
+        addDocument(reg, {{"DokAntraste", "Kita"}});
+        reg.exec(QStringLiteral("INSERT INTO tbl_Document_Text (RastasID, FilePath, State, Body) VALUES "
+                                "(%1, '/docs/a.pdf', 1, 'Sutartis ir priedas')")
+                     .arg(inText));
+        QCOMPARE(found(reg, "sutartis priedas", SearchIndexKind::None), Ids {});
+        Connection connection;
+        connection.open(reg.connectionString());
+        Recordset rs;
+        rs.open(searchListSql(searchTerms(QStringLiteral("SUTARTIS")),
+                    {SearchIndexKind::None, ContentIndexKind::FullText}, 0, false, {}, {}),
+            connection);
+        Ids ids;
+        for (; !rs.eof(); rs.moveNext())
+            ids << rs.fields(QStringLiteral("RastasID")).value().toInt();
+        QCOMPARE(ids, Ids({inText, inFields}));
+
+        // Whether any text holds a term, before anything is ranked.
+        const SearchIndexes indexes = searchIndexes(connection);
+        const auto anyHit = [&](const QString& text) {
+            const SearchRanking ranking
+                = prepareRanking(connection, searchRanking(searchTerms(text), indexes), 1);
+            if (ranking.anyHit.isEmpty())
+                return -1;
+            Recordset hit;
+            hit.open(ranking.anyHit, connection);
+            return hit.eof() ? 0 : hit.fields(0).value().toInt();
+        };
+        QCOMPARE(anyHit(QStringLiteral("priedas")), inText);
+        QCOMPARE(anyHit(QStringLiteral("kita")), -1);
+        // Each search on the connection ranks anew.
+        for (int search = 0; search < 2; ++search)
+            QVERIFY(
+                !prepareRanking(connection, searchRanking(searchTerms(QStringLiteral("priedas")), indexes))
+                     .key.isEmpty());
+    }
+
+    // A term is broad in half of the texts or more, rounded up, and in `broadHits` or more.
+    void broadFromHalfTheTexts_data()
+    {
+        QTest::addColumn<qint64>("texts");
+        QTest::addColumn<qint64>("broadHits");
+        QTest::addColumn<qint64>("broad");
+        QTest::newRow("half of an even count") << qint64(4) << qint64(1) << qint64(2);
+        QTest::newRow("half of an odd count") << qint64(5) << qint64(1) << qint64(3);
+        QTest::newRow("the hits given") << qint64(5) << qint64(4) << qint64(4);
+        QTest::newRow("no text") << qint64(0) << qint64(1) << qint64(1);
+    }
+
+    void broadFromHalfTheTexts()
+    {
+        QFETCH(qint64, texts);
+        QFETCH(qint64, broadHits);
+        QFETCH(qint64, broad);
+        QCOMPARE(kartella::broadHitCount(texts, broadHits), broad);
+    }
+
+    // The window searches the register the options name, with the indexes it has.
+    void indexesOfTheRegisterInUse()
+    {
+        TestRegister reg;
+        SearchIndexes indexes = registerSearchIndexes();
+        QCOMPARE(indexes.fields, SearchIndexKind::FullText);
+        QCOMPARE(indexes.content, ContentIndexKind::FullText);
+        reg.exec(QStringLiteral("DROP TABLE tbl_Documents_Search"));
+        indexes = registerSearchIndexes();
+        QCOMPARE(indexes.fields, SearchIndexKind::None);
     }
 
     void directionAndDatesNarrow()
