@@ -4,6 +4,7 @@
 // search just kept.
 #include "explorer/DocumentSearch.h"
 #include "explorer/SearchHits.h"
+#include "explorer/SearchRegister.h"
 #include "harness/TestRegister.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
@@ -18,17 +19,10 @@ using namespace kartella::test;
 
 namespace {
 
-using Ids = QList<qint32>;
-
-Ids idsOf(Connection& connection, const QString& sql)
+// The ids a query lists, in the order of their numbers.
+Ids sortedIdsOf(Connection& connection, const QString& sql)
 {
-    Recordset rs;
-    rs.open(sql, connection);
-    Ids ids;
-    while (!rs.eof()) {
-        ids << rs.fields(QStringLiteral("RastasID")).value().toInt();
-        rs.moveNext();
-    }
+    Ids ids = idsOf(connection, sql);
     std::sort(ids.begin(), ids.end());
     return ids;
 }
@@ -121,7 +115,7 @@ private Q_SLOTS:
             connection, QStringLiteral("kept"), searchTerms(QStringLiteral("kita")), indexes, {}, broadHits);
         const QList<SearchTerm> terms = searchTerms(search);
         found.keep(connection, QStringLiteral("kept"), terms, indexes, {}, broadHits);
-        QCOMPARE(idsOf(connection, QStringLiteral("SELECT RastasID FROM temp.kept")), idsNamed(kept));
+        QCOMPARE(sortedIdsOf(connection, QStringLiteral("SELECT RastasID FROM temp.kept")), idsNamed(kept));
         // Each count is the query's whole, or as far as broad; none is of the search before.
         const qint64 broad = broadHitCount(connection, broadHits);
         QStringList queries;
@@ -151,7 +145,7 @@ private Q_SLOTS:
         SearchHits found;
         found.keep(connection, QStringLiteral("kept"), searchTerms(QStringLiteral("priedas")),
             {SearchIndexKind::FullText, ContentIndexKind::None}, {});
-        QCOMPARE(idsOf(connection, QStringLiteral("SELECT RastasID FROM temp.kept")),
+        QCOMPARE(sortedIdsOf(connection, QStringLiteral("SELECT RastasID FROM temp.kept")),
             idsNamed(QStringLiteral("Priedas")));
         QVERIFY(found.contentHits().isEmpty());
     }

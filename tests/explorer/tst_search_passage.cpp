@@ -1,5 +1,7 @@
-// The passage a search shows from a file's text at its edges: a hit that ends the text, a
-// phrase the text ends in the middle of, and hits where the text is read in two stretches.
+// The passage a search shows from a file's text around the first hit: a word folded as the
+// index folds it, a prefix, a phrase, the first of the terms, a passage cut on both sides, and
+// the edges: a hit that ends the text, a phrase the text ends in the middle of, and hits where
+// the text is read in two stretches.
 #include "explorer/DocumentSearch.h"
 
 #include <QTest>
@@ -37,6 +39,37 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("search");
         QTest::addColumn<QString>("passage");
+        QTest::newRow("word") << "Vienas du trys SUTARTIS keturi"
+                              << "sutartis"
+                              << "Vienas du trys [SUTARTIS] keturi";
+        QTest::newRow("folded") << "Miestas: Šiaulių\n\trajonas"
+                                << "siauliu"
+                                << "Miestas: [Šiaulių] rajonas";
+        QTest::newRow("piece of a word") << "sutartys ir sutartis"
+                                         << "sutart"
+                                         << "";
+        QTest::newRow("prefix") << "sutartys ir sutartis"
+                                << "sutart*"
+                                << "[sutartys] ir sutartis";
+        QTest::newRow("phrase") << "banko paskola, paskolos bankas, banko paskolos"
+                                << "\"banko paskolos\""
+                                << "banko paskola, paskolos bankas, [banko paskolos]";
+        QTest::newRow("first of the terms") << "a b c aktas d e sutartis"
+                                            << "sutartis aktas"
+                                            << "a b c [aktas] d e sutartis";
+        QTest::newRow("cut on both sides") << "1 2 3 4 5 6 7 8 9 10 hit 11 12 13 14 15 16 17 18 19"
+                                           << "hit"
+                                           << "… 3 4 5 6 7 8 9 10 [hit] 11 12 13 14 15 16 17 18 …";
+        QTest::newRow("none") << "nothing here"
+                              << "sutartis"
+                              << "";
+        QString far;
+        for (int i = 0; i < 1000; ++i)
+            far += QStringLiteral("žodis ");
+        QTest::newRow("after a long text")
+            << far + "radinys pabaiga"
+            << "radinys"
+            << "… žodis žodis žodis žodis žodis žodis žodis žodis [radinys] pabaiga";
 
         QTest::newRow("last word, every capital folded") << "Kelias į ZOOLOGIJOS sodą: ZUIKIS"
                                                          << "zuikis"
