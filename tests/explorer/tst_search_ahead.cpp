@@ -107,6 +107,9 @@ private Q_SLOTS:
                 << where << "rastas 1" << true << 3 << true;
             QTest::addRow("%s: a list by date", place) << where << "rastas" << false << 6 << true;
             QTest::addRow("%s: in few fields", place) << where << "kita" << true << 6 << false;
+            // One in twelve: enough for a walk, too few for a list worth reading ahead.
+            QTest::addRow("%s: in the fields of too few documents", place)
+                << where << "sutartis" << true << 6 << false;
         }
         QTest::newRow("file: a ranked hit and a broad piece")
             << TestRegister::File << "rastas ra" << true << 6 << true;
