@@ -5,7 +5,6 @@
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 
-#include <QScopeGuard>
 #include <QThread>
 
 namespace kartella {
@@ -13,14 +12,6 @@ namespace kartella {
 SearchFinder::SearchFinder(QObject* parent)
     : QObject(parent)
 { }
-
-void RunningSearch::stop()
-{
-    const std::lock_guard lock(mutex);
-    stopped = true;
-    if (connection)
-        connection->interrupt();
-}
 
 SearchFinder::~SearchFinder()
 {
@@ -38,32 +29,24 @@ void SearchFinder::find(const QString& sql, const SearchRanking& ranking, const 
     const int generation = m_generation;
     m_finding = true;
     auto search = std::make_shared<FoundSearch>();
-    auto running = std::make_shared<RunningSearch>();
-    m_running = running;
+    auto stop = std::make_shared<std::atomic<bool>>(false);
+    m_stop = stop;
     // The options are read here, on the window's thread.
     const QString connectionString = plainConnectionString();
-    QThread* thread = QThread::create([sql, ranking, terms, knownHits, connectionString, search, running] {
+    QThread* thread = QThread::create([sql, ranking, terms, knownHits, connectionString, search, stop] {
         try {
             auto connection = std::make_unique<Connection>();
             connection->setConnectionString(connectionString);
             connection->setMode(ConnectModeEnum::ShareDenyNone);
             connection->open();
-            {
-                const std::lock_guard lock(running->mutex);
-                if (running->stopped)
-                    return;
-                running->connection = connection.get();
-            }
-            // The connection stays open as long as the list it goes to; it is given to no one
-            // to stop once the list is found.
-            const auto found = qScopeGuard([&running] {
-                const std::lock_guard lock(running->mutex);
-                running->connection = nullptr;
-            });
+            connection->setStopFlag(stop);
+            Connection* reading = connection.get();
             auto pages = std::make_unique<DocumentPages>(
                 sql, DocumentPaging::Mode::Category, 0, QChar(), terms, std::move(connection));
             pages->setSearch(ranking, terms, knownHits);
             search->hasRows = pages->queryHasRows();
+            // The list's connection goes on to the window, which no later stop is for.
+            reading->setStopFlag(nullptr);
             search->pages = std::move(pages);
         } catch (const Error& error) {
             search->failed = true;
@@ -97,9 +80,9 @@ void SearchFinder::drop()
 {
     ++m_generation;
     m_finding = false;
-    if (m_running) {
-        m_running->stop();
-        m_running.reset();
+    if (m_stop) {
+        *m_stop = true;
+        m_stop.reset();
     }
 }
 

@@ -7,26 +7,14 @@
 #include <QObject>
 #include <QPointer>
 
+#include <atomic>
 #include <memory>
-#include <mutex>
 
 class QThread;
 
 namespace kartella {
 
-class Connection;
 class DocumentPages;
-
-// The connection a search is being found on, for another thread to stop its statements.
-struct RunningSearch
-{
-    std::mutex mutex;
-    Connection* connection = nullptr;
-    bool stopped = false;
-
-    // Stops the statements of the search, now and from now on.
-    void stop();
-};
 
 // The whole list of a search, found on a thread of its own.
 struct FoundSearch
@@ -65,7 +53,8 @@ Q_SIGNALS:
 
 private:
     QList<QPointer<QThread>> m_threads;
-    std::shared_ptr<RunningSearch> m_running;
+    // Set to stop the statements of the search being found; its connection shares it.
+    std::shared_ptr<std::atomic<bool>> m_stop;
     int m_generation = 0;
     bool m_finding = false;
 };

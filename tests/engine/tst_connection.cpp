@@ -339,21 +339,20 @@ private Q_SLOTS:
             QString(reg.onServer() ? "none,first,second" : "first,second"));
     }
 
-    // A statement stopped from another thread fails at once, leaving the connection usable.
-    void interruptStopsTheRunningStatement()
+    // A statement stopped by its flag, set from another thread, fails at once; the connection
+    // reads again once the flag is down.
+    void stopFlagStopsTheRunningStatement()
     {
         EngineRegister reg;
         if (reg.onServer())
-            QSKIP("a server's statements are not stopped from another thread");
+            QSKIP("a server's statements are not stopped by a flag");
         Connection connection(reg.connectionString());
         connection.open();
-        std::atomic<bool> done = false;
-        QThread* stopper = QThread::create([&] {
-            // Until it stops: a call before the statement starts stops nothing.
-            while (!done) {
-                connection.interrupt();
-                QThread::msleep(20);
-            }
+        auto stop = std::make_shared<std::atomic<bool>>(false);
+        connection.setStopFlag(stop);
+        QThread* stopper = QThread::create([stop] {
+            QThread::msleep(50);
+            *stop = true;
         });
         stopper->start();
         bool failed = false;
@@ -366,11 +365,17 @@ private Q_SLOTS:
         } catch (const Error&) {
             failed = true;
         }
-        done = true;
         stopper->wait();
         delete stopper;
         QVERIFY(failed);
+        *stop = false;
         Recordset after;
+        after.open(QStringLiteral("SELECT COUNT(*) AS N FROM tbl_Contacts"), connection);
+        QCOMPARE(after.fields(0).value().toInt(), 0);
+        // Without a flag nothing stops it.
+        *stop = true;
+        connection.setStopFlag(nullptr);
+        after.close();
         after.open(QStringLiteral("SELECT COUNT(*) AS N FROM tbl_Contacts"), connection);
         QCOMPARE(after.fields(0).value().toInt(), 0);
     }

@@ -8,6 +8,8 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <atomic>
+#include <memory>
 #include <vector>
 
 namespace kartella {
@@ -117,10 +119,11 @@ public:
     // check, a counter) sees no other writer's rows appear between its look and its write.
     virtual void lockForWriting(const QString& name) = 0;
 
-    // Called from another thread: the statement this connection is running stops as soon as
-    // it can, and fails; one that starts before it has stopped fails too. Does nothing when
-    // no statement runs, and nothing on a back end that can't stop one.
-    virtual void interrupt() { }
+    // While `flag` is set (from any thread), the statements of this connection stop as soon
+    // as they can and fail. The connection shares the flag, so that whoever sets it never
+    // reaches a connection that is gone. Null for none; ignored by a back end that can't stop
+    // a statement.
+    virtual void setStopFlag(std::shared_ptr<const std::atomic<bool>> flag) { Q_UNUSED(flag); }
 
     // Whether this connection's writes carry the program's user and command (see
     // WriteContext.h); one that does not writes as another program would.

@@ -148,10 +148,9 @@ void Connection::lockForWriting(const QString& name)
     backend().lockForWriting(name);
 }
 
-void Connection::interrupt()
+void Connection::setStopFlag(std::shared_ptr<const std::atomic<bool>> flag)
 {
-    if (m_backend)
-        m_backend->interrupt();
+    backend().setStopFlag(std::move(flag));
 }
 
 void Connection::raiseKeyCounter(const QString& table, qint64 value)

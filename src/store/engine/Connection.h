@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <atomic>
 #include <memory>
 
 namespace kartella {
@@ -68,9 +69,9 @@ public:
     // (see Backend::lockForWriting).
     void lockForWriting(const QString& name);
 
-    // From another thread, while this connection stays open: stops the statement it runs,
-    // which then throws (see Backend::interrupt). Nothing happens when it runs none.
-    void interrupt();
+    // While `flag` is set, from any thread, the statements of this connection stop and throw
+    // (see Backend::setStopFlag). Null for none.
+    void setStopFlag(std::shared_ptr<const std::atomic<bool>> flag);
 
     // Whether the writes of this connection carry the program's user and command into the
     // register's history (see WriteContext.h); true unless set. One that does not stands for

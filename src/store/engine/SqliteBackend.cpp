@@ -235,9 +235,19 @@ int SqliteBackend::run(sqlite3_stmt* statement, const QString& shownSql)
     return sqlite3_changes(m_db);
 }
 
-void SqliteBackend::interrupt()
+void SqliteBackend::setStopFlag(std::shared_ptr<const std::atomic<bool>> flag)
 {
-    sqlite3_interrupt(m_db);
+    m_stop = std::move(flag);
+    // Looked at every thousand steps of a statement: a statement stopped so fails as
+    // interrupted.
+    if (m_stop) {
+        sqlite3_progress_handler(
+            m_db, 1000,
+            [](void* stop) { return static_cast<const std::atomic<bool>*>(stop)->load() ? 1 : 0; },
+            const_cast<void*>(static_cast<const void*>(m_stop.get())));
+    } else {
+        sqlite3_progress_handler(m_db, 0, nullptr, nullptr);
+    }
 }
 
 void SqliteBackend::execute(const QString& sql)

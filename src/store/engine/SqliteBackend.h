@@ -59,7 +59,7 @@ public:
     qint64 keyCounter(const QString& table) override;
     void raiseKeyCounter(const QString& table, qint64 value) override;
     void lockForWriting(const QString& name) override;
-    void interrupt() override;
+    void setStopFlag(std::shared_ptr<const std::atomic<bool>> flag) override;
 
 private:
     explicit SqliteBackend(sqlite3* db);
@@ -90,6 +90,7 @@ private:
         sqlite3_stmt* statement, QueryResult& result, const std::vector<int>& order, const QString& shownSql);
 
     sqlite3* m_db;
+    std::shared_ptr<const std::atomic<bool>> m_stop;
     int m_busyTimeoutMs = 0; // how long a statement waits for another program's lock
     int m_depth = 0;
     std::map<QString, TableSchema> m_schemas; // by lower-case name
