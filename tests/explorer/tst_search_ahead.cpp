@@ -174,6 +174,28 @@ private Q_SLOTS:
             QCOMPARE(Ids(walked.begin(), walked.end()), listed.mid(0, 3));
         }
     }
+
+    // Documents without a date come first: a walk that ends among them looks at them alone.
+    void aWalkEndingAmongUndatedDocuments()
+    {
+        const TestRegister reg;
+        for (int n = 1; n <= 8; ++n) {
+            reg.insert(QStringLiteral("tbl_Documents"),
+                {{"DokAntraste", QStringLiteral("Raštas %1").arg(n)},
+                    {"DokRegistracData", n <= 4 ? QVariant() : QVariant(QDate(2024, 3, n))}});
+        }
+        Connection connection;
+        connection.open(reg.connectionString());
+        const SearchIndexes indexes = searchIndexes(connection);
+        const QList<SearchTerm> terms = searchTerms(QStringLiteral("rastas"));
+        const std::optional<SearchAhead> first = SearchAhead::of(connection, terms, indexes, 1, true, 1);
+        QVERIFY(first);
+        const Ids listed = idsOf(connection, searchListSql(terms, indexes, 0, false, {}, {}));
+        bool complete = true;
+        const std::vector<qint32> page = first->firstIds(connection, {}, 6, 2, complete);
+        QVERIFY(!complete);
+        QCOMPARE(Ids(page.begin(), page.end()), listed.mid(0, 4));
+    }
 };
 
 QTEST_GUILESS_MAIN(SearchAheadTest)
