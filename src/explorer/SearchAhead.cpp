@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace kartella {
 
@@ -117,6 +118,13 @@ QString heldBy(const QString& table, const QString& condition)
         .arg(table, condition);
 }
 
+// " WHERE " and the conditions joined by AND; empty without one.
+QString whereClause(const QStringList& conditions)
+{
+    return conditions.isEmpty() ? QString()
+                                : QStringLiteral(" WHERE ") + conditions.join(QStringLiteral(" AND "));
+}
+
 } // namespace
 
 std::optional<SearchAhead> SearchAhead::of(Connection& connection, const QList<SearchTerm>& terms,
@@ -129,6 +137,8 @@ std::optional<SearchAhead> SearchAhead::of(Connection& connection, const QList<S
     const qint64 broad = withTexts ? broadHitCount(texts, broadHits) : broadHits;
     SearchAhead ahead;
     bool anyRanks = false;
+    // About the number of documents, read when a term first needs it.
+    std::optional<qint64> documents;
     for (const SearchTerm& term : terms) {
         const QList<SearchPart> parts = searchParts(term, indexes);
         const QString inFields = fieldsHold(term, QStringLiteral("tbl_Documents.RastasID"));
@@ -158,9 +168,10 @@ std::optional<SearchAhead> SearchAhead::of(Connection& connection, const QList<S
             const double share = fieldsShare(connection, term);
             if (share < 2.0 / LongestWalk)
                 return std::nullopt;
-            const qint64 documents
-                = firstNumber(connection, QStringLiteral("SELECT MAX(RastasID) FROM tbl_Documents"));
-            if (share * double(documents) < double(broadList))
+            if (!documents)
+                documents
+                    = firstNumber(connection, QStringLiteral("SELECT MAX(RastasID) FROM tbl_Documents"));
+            if (share * double(*documents) < double(broadList))
                 return std::nullopt;
             ahead.m_leastShare = std::min(ahead.m_leastShare, share);
         }
@@ -231,9 +242,7 @@ QString SearchAhead::rankedQuery(const QString& filter) const
     QStringList conditions = m_conditions;
     if (!filter.isEmpty())
         conditions << u'(' + filter + u')';
-    const QString where = conditions.isEmpty()
-        ? QString()
-        : QStringLiteral(" WHERE ") + conditions.join(QStringLiteral(" AND "));
+    const QString where = whereClause(conditions);
     // The ranked hits, best first, as the whole list orders them: through the ranking's join on
     // a server; from the ranks kept on a register file, with CROSS JOIN, so that SQLite reads
     // the few ranks and looks their documents up, whatever it guesses of a table without
@@ -253,14 +262,8 @@ QString SearchAhead::rankedQuery(const QString& filter) const
 std::vector<qint32> SearchAhead::firstIds(
     Connection& connection, const QString& filter, int rows, int walked, bool& complete) const
 {
+    // The terms, and the ranked hits left out of the walk by date.
     QStringList conditions = m_conditions;
-    if (!filter.isEmpty())
-        conditions << u'(' + filter + u')';
-    const QString body = bodyColumn();
-    const auto where = [&conditions] {
-        return conditions.isEmpty() ? QString()
-                                    : QStringLiteral(" WHERE ") + conditions.join(QStringLiteral(" AND "));
-    };
     std::vector<qint32> ids;
     if (!m_ranking.join.isEmpty()) {
         const QString ranked = rankedQuery(filter);
@@ -285,28 +288,27 @@ std::vector<qint32> SearchAhead::firstIds(
     if (m_server) {
         // A server is given the documents of the walk themselves, in their order, so that it
         // looks each up until it has the page, not every document of the walk's last day.
-        if (!filter.isEmpty())
-            conditions.removeAll(u'(' + filter + u')');
         documents = QStringLiteral("(SELECT * FROM tbl_Documents%1 ORDER BY DokRegistracData, RastasID LIMIT "
                                    "%2) AS tbl_Documents")
                         .arg(walking)
                         .arg(walked);
-    } else if (!complete) {
-        // It ends at the date of the last document it may look at.
-        const QVariant date = last.fields(0).value();
-        if (isNull(date))
-            conditions << QStringLiteral("tbl_Documents.DokRegistracData IS NULL");
-        else
-            conditions << QStringLiteral(
-                "(tbl_Documents.DokRegistracData IS NULL OR tbl_Documents.DokRegistracData "
-                "<= %1)")
-                              .arg(DocumentPaging::literal(date));
+    } else {
+        if (!filter.isEmpty())
+            conditions << u'(' + filter + u')';
+        // A register file's walk ends at the date of the last document it may look at.
+        if (!complete) {
+            const QVariant date = last.fields(0).value();
+            conditions << (isNull(date) ? QStringLiteral("tbl_Documents.DokRegistracData IS NULL")
+                                        : QStringLiteral("(tbl_Documents.DokRegistracData IS NULL OR "
+                                                         "tbl_Documents.DokRegistracData <= %1)")
+                                              .arg(DocumentPaging::literal(date)));
+        }
     }
     last.close();
     const std::vector<qint32> byDate = matchingIds(connection,
         QStringLiteral("SELECT tbl_Documents.RastasID%1 FROM %2%3 ORDER BY "
                        "tbl_Documents.DokRegistracData, tbl_Documents.RastasID")
-            .arg(body, documents, where()),
+            .arg(bodyColumn(), documents, whereClause(conditions)),
         rows - int(ids.size()));
     ids.insert(ids.end(), byDate.begin(), byDate.end());
     return ids;
