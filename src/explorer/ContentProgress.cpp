@@ -2,6 +2,7 @@
 
 #include "content/ReadingQueue.h"
 #include "content/TextRecognitionPass.h"
+#include "explorer/AfterPaint.h"
 #include "options/OptionStore.h"
 #include "options/TextOptions.h"
 #include "store/Store.h"
@@ -15,6 +16,7 @@ namespace kartella {
 ContentProgress::ContentProgress(QMainWindow* window)
     : QObject(window)
     , m_queue(new ReadingQueue(this))
+    , m_afterPaint(new AfterPaint(window, this))
 {
     m_panel = new QLabel(window->statusBar());
     m_panel->setObjectName(QStringLiteral("pnReadingFiles"));
@@ -40,11 +42,15 @@ void ContentProgress::start(const QString& location)
         return;
     const QString provider
         = readRegValue(Hive::CurrentUser, optionsKeyPath(), QStringLiteral("Provider"), {});
-    m_queue->start(plainConnectionString(provider, location), textSizeLimitBytes());
+    // The walk reads every document's file path, which grows with the register: it waits
+    // until the window has painted its first screen.
+    m_afterPaint->run([this, connection = plainConnectionString(provider, location),
+                          limit = textSizeLimitBytes()] { m_queue->start(connection, limit); });
 }
 
 void ContentProgress::stop()
 {
+    m_afterPaint->cancel();
     m_queue->stop();
     m_panel->hide();
 }

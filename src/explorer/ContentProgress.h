@@ -8,6 +8,7 @@ class QMainWindow;
 
 namespace kartella {
 
+class AfterPaint;
 class ReadingQueue;
 
 // The background reading of the open register's files, and its progress in the main
@@ -21,8 +22,8 @@ public:
     ~ContentProgress() override;
 
     // Reads the files of the register at location (as the options name it: DbLocation),
-    // with the options' provider and size limit; what was being read for another register
-    // stops first.
+    // with the options' provider and size limit, once the window has painted; what was
+    // being read for another register stops first.
     void start(const QString& location);
     void stop();
 
@@ -33,6 +34,7 @@ private:
     void showProgress(int done, int total, QString (*text)(int, int));
 
     ReadingQueue* m_queue = nullptr;
+    AfterPaint* m_afterPaint = nullptr;
     QLabel* m_panel = nullptr;
 };
 

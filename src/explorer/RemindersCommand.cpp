@@ -1,6 +1,7 @@
 #include "explorer/RemindersCommand.h"
 
 #include "base/Error.h"
+#include "explorer/AfterPaint.h"
 #include "explorer/RemindersWindow.h"
 #include "store/DueReminders.h"
 #include "store/Store.h"
@@ -47,6 +48,7 @@ RemindersCommand::RemindersCommand(QMainWindow* window)
     : QObject(window)
     , today(reminderToday)
     , m_mainWindow(window)
+    , m_afterPaint(new AfterPaint(window, this))
 {
     m_action = new QAction(tr("&Reminders"), window);
     m_action->setObjectName(QStringLiteral("mnuReminders"));
@@ -67,6 +69,11 @@ RemindersCommand::RemindersCommand(QMainWindow* window)
 RemindersCommand::~RemindersCommand()
 {
     waitForCounting();
+}
+
+bool RemindersCommand::counting() const
+{
+    return m_counting != nullptr || m_afterPaint->waiting();
 }
 
 void RemindersCommand::waitForCounting()
@@ -96,6 +103,7 @@ int RemindersCommand::recount()
 
 void RemindersCommand::forget()
 {
+    m_afterPaint->cancel();
     ++m_generation;
     m_count = -1;
     m_panel->setText(panelText(m_count));
@@ -105,6 +113,13 @@ void RemindersCommand::showAtStart()
 {
     // A count of an earlier start still running is waited for and dropped.
     waitForCounting();
+    // The count reads every due reminder, which grow with the register: it waits until the
+    // window has painted its first screen.
+    m_afterPaint->run([this] { startCounting(); });
+}
+
+void RemindersCommand::startCounting()
+{
     const int generation = ++m_generation;
     const QString connectionString = plainConnectionString();
     const QDate day = today();

@@ -17,6 +17,8 @@ class QThread;
 
 namespace kartella {
 
+class AfterPaint;
+
 // The main window's reminders: the Go menu's "Reminders" (Ctrl+R), the status bar panel
 // with the number of due reminders, and the Reminders window at start when something is
 // due and the user wants it shown. One window at a time; it doesn't block the main window.
@@ -39,12 +41,13 @@ public:
     int recount();
     // Empties the panel, as when the register couldn't be read: another register is coming.
     void forget();
-    // At the end of the main window's load: counts on a thread of its own, so that the
-    // window paints meanwhile, and then shows the Reminders window if something is due and
-    // the option asks for it. countedAtStart tells when the count is in the panel.
+    // At the end of the main window's load: once the window has painted, counts on a thread
+    // of its own, so that the window paints meanwhile, and then shows the Reminders window
+    // if something is due and the option asks for it. countedAtStart tells when the count
+    // is in the panel.
     void showAtStart();
-    // Whether the count of the start is still being taken.
-    bool counting() const { return m_counting != nullptr; }
+    // Whether the count of the start is still to come.
+    bool counting() const;
     // The Reminders window, also when nothing is due.
     void showWindow();
 
@@ -57,6 +60,7 @@ Q_SIGNALS:
 
 private:
     struct StartCount;
+    void startCounting();
     void startCounted(const StartCount& counted, int generation);
     void openWindow(std::optional<std::vector<DueReminderKey>> keys);
     void waitForCounting();
@@ -66,6 +70,7 @@ private:
     QLabel* m_panel = nullptr;
     QPointer<RemindersWindow> m_window;
     int m_count = -1;
+    AfterPaint* m_afterPaint;
     QThread* m_counting = nullptr;
     // Taken up by each count and forget: a count of the start that comes back after
     // another is dropped.

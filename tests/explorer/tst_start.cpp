@@ -1,7 +1,11 @@
+#include "content/ReadingQueue.h"
 #include "dialogs/SettingsStore.h"
+#include "explorer/AfterPaint.h"
+#include "explorer/ContentProgress.h"
 #include "explorer/ListModel.h"
 #include "explorer/MainWindow.h"
 #include "explorer/NavigationTree.h"
+#include "explorer/RemindersCommand.h"
 #include "harness/ScriptedPrompter.h"
 #include "harness/ServerDatabase.h"
 #include "harness/TestRegister.h"
@@ -430,6 +434,39 @@ private Q_SLOTS:
         QCOMPARE(start.settingsOffered, 1);
         QCOMPARE(start.window.tree()->nodeCount(), 0);
         QCOMPARE(getRegValue("DbLocation"), empty.location());
+    }
+
+    // The due reminders' count and the walk of the files read the whole register: they wait
+    // until the window has painted its first screen. A stop before then keeps the walk from
+    // starting; a window that isn't shown, which nothing paints, starts them at once.
+    void registerWideWorkWaitsForThePaint()
+    {
+        TestRegister reg;
+        ScriptedPrompter prompter;
+        {
+            MainWindow w;
+            w.show();
+            w.load();
+            auto* reading = w.findChild<ContentProgress*>();
+            QVERIFY(!reading->queue().isRunning());
+            QVERIFY(w.reminders()->counting());
+            QCOMPARE(w.findChild<QLabel*>("pnReminders")->text(), QString());
+            w.repaint();
+            // The paint lets them go, not the wait that a window never painted gets.
+            QTRY_VERIFY_WITH_TIMEOUT(reading->queue().isRunning(), AfterPaint::MaxWaitMs / 2);
+            QTRY_COMPARE(w.findChild<QLabel*>("pnReminders")->text(), QString("No reminders due"));
+            QVERIFY(!w.reminders()->counting());
+
+            w.load();
+            reading->stop();
+            w.repaint();
+            QTRY_VERIFY(!w.reminders()->counting());
+            QVERIFY(!reading->queue().isRunning());
+        }
+        MainWindow hidden;
+        hidden.load();
+        QVERIFY(hidden.findChild<ContentProgress*>()->queue().isRunning());
+        QVERIFY(prompter.prompts().isEmpty());
     }
 
     // A location with a password that reached the options by other means than the settings
