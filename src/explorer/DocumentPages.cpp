@@ -113,8 +113,18 @@ DocumentPages::DocumentPages(const QString& listSql, DocumentPaging::Mode mode, 
             m_connection->setMode(ConnectModeEnum::ShareDenyNone);
         m_connection->open();
     }
-    if (m_connection->dialect() == SqlDialect::PostgreSql)
+    if (m_connection->dialect() == SqlDialect::PostgreSql && mode == DocumentPaging::Mode::Letter) {
         m_paging.matchLetterOnServer();
+        Recordset contacts;
+        contacts.open(m_paging.letterContactsSql()
+                + QStringLiteral(" LIMIT %1").arg(DocumentPaging::MostNamedContacts + 1),
+            *m_connection, CursorTypeEnum::ForwardOnly, LockTypeEnum::Unspecified);
+        QList<qint32> ids;
+        for (; !contacts.eof(); contacts.moveNext())
+            ids << contacts.fields(0).value().toInt();
+        if (ids.size() <= DocumentPaging::MostNamedContacts)
+            m_paging.matchLetterContacts(ids);
+    }
     if (m_paging.searchesIndexes()) {
         // A server's session may be one a closed connection left, its table with it. The
         // table's statements stand as written there: its column is named as the server

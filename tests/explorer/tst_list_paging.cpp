@@ -4,14 +4,17 @@
 
 #include "explorer/DocumentFills.h"
 #include "explorer/DocumentPages.h"
+#include "explorer/DocumentQueries.h"
 #include "explorer/ExplorerList.h"
 #include "explorer/ListModel.h"
 #include "explorer/MainWindow.h"
 #include "explorer/NavigationTree.h"
 #include "explorer/RelatedPages.h"
 #include "harness/ScriptedPrompter.h"
+#include "harness/ServerDatabase.h"
 #include "harness/TestRegister.h"
 #include "store/Store.h"
+#include "store/engine/Connection.h"
 #include "store/engine/TextFold.h"
 #include "support/SelectionState.h"
 
@@ -314,6 +317,46 @@ private Q_SLOTS:
             even.push_back(m_documents[i]);
         QCOMPARE(count(), QString("%1 object(s)").arg(even.size()));
         QCOMPARE(shownTexts(), textsOf(even));
+    }
+
+    // A letter's rows are those of the names that start with it, in either case; a server
+    // names the letter's contacts one by one in the list's statements.
+    void aLettersRowsOnEitherPlace_data()
+    {
+        QTest::addColumn<TestRegister::Where>("where");
+        QTest::newRow("file") << TestRegister::File;
+        QTest::newRow("server") << TestRegister::Server;
+    }
+
+    void aLettersRowsOnEitherPlace()
+    {
+        QFETCH(TestRegister::Where, where);
+        if (where == TestRegister::Server && !ServerDatabase::available())
+            QSKIP(qPrintable(ServerDatabase::skipReason()));
+        const TestRegister reg(where);
+        QHash<qint32, QString> names;
+        for (const char* name : {"Antanas", "agnė", "Bronė", "Ąžuolas", "Žaneta"}) {
+            const qint32 contact
+                = reg.insert(QStringLiteral("tbl_Contacts"), {{"FullName", QString::fromUtf8(name)}});
+            for (int day = 1; day <= 3; ++day)
+                names.insert(reg.insert(QStringLiteral("tbl_Documents"),
+                                 {{"DokAntraste", QString::fromUtf8(name)}, {"ContactID", contact},
+                                     {"DokRegistracData", QDate(2024, 3, day)}}),
+                    QString::fromUtf8(name));
+        }
+        const auto listed = [&](QChar letter) {
+            auto connection = std::make_unique<Connection>(reg.connectionString());
+            connection->open();
+            DocumentPages pages(contactDocumentSql(0, false, {}, {}), DocumentPaging::Mode::Letter, 0, letter,
+                {}, std::move(connection));
+            QStringList rows;
+            for (int row = 0; row < pages.count(); ++row)
+                rows << names.value(pages.item(row).key.section(u' ', 1).toInt());
+            return rows;
+        };
+        QCOMPARE(listed(u'a'), QStringList({"Antanas", "agnė", "Antanas", "agnė", "Antanas", "agnė"}));
+        QCOMPARE(listed(u'Ž'), QStringList({"Žaneta", "Žaneta", "Žaneta"}));
+        QCOMPARE(listed(u'x'), QStringList());
     }
 };
 
