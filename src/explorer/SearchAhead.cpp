@@ -61,7 +61,7 @@ qint64 judgedPrefixHits(Connection& connection, const SearchTerm& prefix, qint64
 
 // The pages of documents by date looked at for a first page, at most: two pages' worth of
 // the fewest documents expected to hold the terms.
-constexpr int LongestWalk = 50;
+constexpr int LongestWalk = 100;
 constexpr int ShortestWalk = 10;
 // A server stops its walk at the page, whatever its length: it may be longer.
 constexpr int LongestServerWalk = 100;
@@ -178,11 +178,16 @@ std::optional<SearchAhead> SearchAhead::of(Connection& connection, const QList<S
         anyRanks = anyRanks || ranks;
         if (hits == 0) {
             ahead.m_conditions << inFields;
+            ahead.m_walkConditions << inFields;
         } else if (parts.back().wholeAtOnce) {
             ahead.m_prefixes << term;
         } else {
             ahead.m_conditions << QStringLiteral("(%1 OR %2)")
                                       .arg(heldBy(parts.back().table, parts.back().condition), inFields);
+            // Every text that holds a ranked word is one of the ranked hits, which the walk
+            // leaves out: there the word is looked for in the fields alone, not matched in
+            // the texts' index for each document.
+            ahead.m_walkConditions << (ranks && byRank ? inFields : ahead.m_conditions.back());
         }
         ahead.m_anyContentHit = ahead.m_anyContentHit || hits > 0;
     }
@@ -211,6 +216,7 @@ std::optional<SearchAhead> SearchAhead::onServer(Connection& connection, const Q
         ahead.m_leastShare = std::min(ahead.m_leastShare, share);
         ahead.m_conditions << serverTermHeldBy(term, indexes, QStringLiteral("tbl_Documents.RastasID"));
     }
+    ahead.m_walkConditions = ahead.m_conditions;
     const SearchRanking ranking = searchRanking(terms, indexes);
     if (ranking.hits.isEmpty())
         return ahead;
@@ -272,6 +278,7 @@ std::vector<qint32> SearchAhead::firstIds(
             complete = false;
             return ids;
         }
+        conditions = m_walkConditions;
         conditions << QStringLiteral("tbl_Documents.RastasID NOT IN (%1)").arg(m_ranking.hits);
     }
     // The walk: the first `walked` documents by date that meet the filter.

@@ -81,6 +81,8 @@ private:
 
     // A prefix: its fields in the index, its words in the document's text.
     QStringList m_conditions;
+    // The same for the walk by date past the ranked hits.
+    QStringList m_walkConditions;
     // Looked for by the program in the document's text, by the database in its fields.
     QList<SearchTerm> m_prefixes;
     QHash<QString, qint64> m_contentHits;

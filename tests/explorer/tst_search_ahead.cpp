@@ -59,8 +59,8 @@ private Q_SLOTS:
             else
                 addText(reg, id, QStringLiteral("Kita %1").arg(n));
         }
-        // Later documents without a text: "kopija" is in the fields of one in 30.
-        for (int n = 1; n <= 20; ++n)
+        // Later documents without a text: "kopija" is in the fields of one in 60.
+        for (int n = 1; n <= 50; ++n)
             addDocument(reg, QStringLiteral("Priedas %1").arg(n), QDate(2025, 1, 1).addDays(n));
         Connection connection;
         connection.open(reg.connectionString());
@@ -194,6 +194,31 @@ private Q_SLOTS:
         bool complete = true;
         const std::vector<qint32> page = first->firstIds(connection, {}, 6, 2, complete);
         QVERIFY(!complete);
+        QCOMPARE(Ids(page.begin(), page.end()), listed.mid(0, 4));
+    }
+
+    // Past the ranked hits the walk looks for a ranked word in the fields alone (its texts
+    // are all ranked), but for a word of many texts in the texts too.
+    void aWalkPastRankedHitsReadsABroadWordsTexts()
+    {
+        const TestRegister reg;
+        QHash<int, qint32> ids;
+        for (int n = 1; n <= 12; ++n)
+            ids[n] = addDocument(reg, QStringLiteral("Raštas %1").arg(n), QDate(2024, 3, 1).addDays(n));
+        addText(reg, ids[5], QStringLiteral("Raštas ir priedai"));
+        for (const int n : {2, 3, 6, 7})
+            addText(reg, ids[n], QStringLiteral("Ir kiti %1").arg(n));
+        constexpr qint64 BroadAt = 4;
+        Connection connection;
+        connection.open(reg.connectionString());
+        const QString text = QStringLiteral("rastas ir");
+        const std::optional<SearchAhead> first = SearchAhead::of(
+            connection, searchTerms(text), searchIndexes(connection), BroadAt, true, BroadAt);
+        QVERIFY(first);
+        const Ids listed = found(reg, text, BroadAt);
+        QCOMPARE(listed, Ids({ids[5], ids[2], ids[3], ids[6], ids[7]}));
+        bool complete = false;
+        const std::vector<qint32> page = first->firstIds(connection, {}, 4, 100, complete);
         QCOMPARE(Ids(page.begin(), page.end()), listed.mid(0, 4));
     }
 };
