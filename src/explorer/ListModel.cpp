@@ -180,6 +180,15 @@ void ListModel::applySort()
         });
 }
 
+QModelIndex ListModel::index(int row, int column, const QModelIndex& parent) const
+{
+    // Checked here rather than through rowCount and columnCount: the view asks for the index
+    // of every row at each layout, a million of them for a large register.
+    if (parent.isValid() || row < 0 || column < 0 || row >= itemCount() || column >= int(m_columns.size()))
+        return {};
+    return createIndex(row, column);
+}
+
 int ListModel::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : itemCount();
@@ -237,7 +246,8 @@ Qt::ItemFlags ListModel::flags(const QModelIndex& index) const
 {
     if (!index.isValid())
         return Qt::NoItemFlags;
-    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled;
+    // Never a parent: the view's layout then asks no row whether it has children.
+    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren;
 }
 
 QModelIndexList ListModel::match(

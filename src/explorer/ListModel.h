@@ -101,6 +101,7 @@ public:
     bool isSorted() const { return m_sorted; }
     void setSort(int column, Qt::SortOrder order);
 
+    QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;

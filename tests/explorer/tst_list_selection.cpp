@@ -205,7 +205,8 @@ private Q_SLOTS:
     }
 
     // A column sorts in the order of the register's names: every Lithuanian letter beside
-    // its base letter, case ignored; the widths the user gave the columns stay.
+    // its base letter, case ignored; the widths the user gave the columns stay. There is no
+    // index past the last row or column, and no row has children.
     void sortFoldsLithuanianLettersAndKeepsWidths()
     {
         IconCache icons;
@@ -237,6 +238,12 @@ private Q_SLOTS:
         QCOMPARE(model.item(0).text, QString("žuvis"));
         QCOMPARE(model.item(model.itemCount() - 1).text, QString("Antanas"));
         QCOMPARE(list.detailsView()->columnWidth(0), 321);
+        QVERIFY(model.index(int(names.size()) - 1, 1).isValid());
+        QVERIFY(!model.index(int(names.size()), 0).isValid());
+        QVERIFY(!model.index(0, 2).isValid());
+        QVERIFY(!model.index(-1, 0).isValid());
+        QVERIFY(!model.index(0, 0, model.index(0, 0)).isValid());
+        QVERIFY(!model.hasChildren(model.index(0, 0)));
     }
 
     // The Date columns of the document list and the related list sort as dates, across the
