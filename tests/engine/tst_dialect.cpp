@@ -125,6 +125,9 @@ private Q_SLOTS:
         QTest::newRow("functions and casts")
             << "SELECT lower(FullName), CAST(KategID AS text) FROM tbl_Contacts"
             << "SELECT lower(\"FullName\"), CAST(\"KategID\" AS text) FROM \"tbl_Contacts\"";
+        QTest::newRow("a function named as a column")
+            << "SELECT Title (FullName), Title FROM tbl_Contacts"
+            << "SELECT Title (\"FullName\"), \"Title\" FROM \"tbl_Contacts\"";
         QTest::newRow("insert into a table")
             << "INSERT INTO tbl_Contacts (FullName) VALUES ('FullName')"
             << "INSERT INTO \"tbl_Contacts\" (\"FullName\") VALUES ('FullName')";
