@@ -3,6 +3,7 @@
 #include "explorer/DocumentQueries.h"
 #include "store/engine/Recordset.h"
 
+#include <QDir>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -73,12 +74,37 @@ private Q_SLOTS:
             QFAIL("no error");
         } catch (const Error& error) {
             QCOMPARE(error.number(), ErrorNumber::ItemNotFound);
+            QCOMPARE(error.description(),
+                "Item cannot be found in the collection corresponding to the requested name or ordinal: "
+                "'Nothing'");
         }
         // A table name reads the whole table.
         Recordset table;
         table.open("tbl_Tickler", reg.connection());
         QCOMPARE(table.recordCount(), 2);
         QVERIFY(table.isUpdatable());
+    }
+
+    // A recordset that opened its own connection from a connection string lets it go when it
+    // closes, not only when it is destroyed: a register file closed is held by nobody.
+    void ownConnectionEndsAtClose()
+    {
+        EngineRegister reg;
+        if (reg.onServer())
+            QSKIP("a server's session is kept for the next connection");
+        if (!QDir(QStringLiteral("/proc/self/fd")).exists())
+            QSKIP("the process's open files are counted in /proc");
+        const auto openFiles = [] {
+            return QDir(QStringLiteral("/proc/self/fd"))
+                .entryList(QDir::AllEntries | QDir::NoDotAndDotDot)
+                .size();
+        };
+        const qsizetype before = openFiles();
+        Recordset recordset;
+        recordset.open("tbl_Tickler", reg.connectionString());
+        QVERIFY(openFiles() > before);
+        recordset.close();
+        QCOMPARE(openFiles(), before);
     }
 
     void navigation()
