@@ -315,6 +315,7 @@ private Q_SLOTS:
         recordset.fields("City").setValue("Vilnius");
         QString description;
         QCOMPARE(errorOf([&] { recordset.update(); }, &description), 3704L);
+        QCOMPARE(description, QString("Operation is not allowed when the object is closed."));
         QCOMPARE(recordset.editMode(), int(EditModeEnum::InProgress));
         QCOMPARE(errorOf([&] { recordset.requery(); }), 3704L);
     }
@@ -354,6 +355,50 @@ private Q_SLOTS:
         recordset.fields("FullName").setValue(QStringLiteral("Šilas"));
         recordset.update();
         QCOMPARE(names(reg), QString("Petras,Ąžuolas,Šarūnas,Šilas,Saulius"));
+    }
+
+    // The work given to a batch runs in its transaction, on its connection: the first ahead
+    // of every row, the second once they are all written. Either refusing writes nothing and
+    // keeps the rows pending.
+    void batchWorkRunsInTheBatchsTransaction_data()
+    {
+        QTest::addColumn<QString>("refusing");
+        QTest::addColumn<QStringList>("seen");
+        QTest::addColumn<QString>("written");
+        const QString before = "Petras,Ąžuolas,Šarūnas,šilas,Saulius";
+        const QString after = before + ",Zita";
+        QTest::newRow("neither refuses") << "" << QStringList({before, after}) << after;
+        QTest::newRow("the first refuses") << "first" << QStringList({before}) << before;
+        QTest::newRow("the second refuses") << "second" << QStringList({before, after}) << before;
+    }
+
+    void batchWorkRunsInTheBatchsTransaction()
+    {
+        QFETCH(QString, refusing);
+        QFETCH(QStringList, seen);
+        QFETCH(QString, written);
+        EngineRegister reg;
+        reg.fillSmall();
+        Recordset recordset;
+        recordset.open(Contacts, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
+        QStringList saw;
+        const auto look = [&](Connection& connection, const QString& which) {
+            Recordset contacts;
+            contacts.open("SELECT FullName FROM tbl_Contacts ORDER BY ContactID", connection);
+            saw << rows(contacts, {"FullName"}).join(u',');
+            if (which == refusing)
+                throw Error(ErrorNumber::CommandFailed, "refused: " + which);
+        };
+        recordset.setBatchWork(
+            [&](Connection& c) { look(c, "first"); }, [&](Connection& c) { look(c, "second"); });
+        recordset.addNew();
+        recordset.fields("FullName").setValue("Zita");
+        QString description;
+        QCOMPARE(errorOf([&] { recordset.updateBatch(); }, &description),
+            refusing.isEmpty() ? 0L : long(ErrorNumber::CommandFailed));
+        QCOMPARE(saw, seen);
+        QCOMPARE(names(reg), written);
+        QCOMPARE(recordset.hasPendingChanges(), !refusing.isEmpty());
     }
 
     // A refused batch writes none of its rows and keeps them all pending.
