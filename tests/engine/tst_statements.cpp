@@ -1,4 +1,5 @@
 #include "EngineFixture.h"
+#include "base/Error.h"
 #include "store/engine/Recordset.h"
 
 #include <QTest>
@@ -245,6 +246,50 @@ private Q_SLOTS:
         Recordset recordset;
         recordset.open("SELECT v FROM other", reg.connection());
         QCOMPARE(recordset.fields(0).value(), read);
+    }
+
+    // A value written into a column that another program declared is converted as its type
+    // says: a whole number, a real or a date refuses words, a text keeps them, a blob keeps a
+    // number as it is. A type's name counts only whole: "STRING" is no INT, "NODE" no DEC.
+    void writingIntoTypesOfAnotherProgram_data()
+    {
+        QTest::addColumn<QString>("declared");
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QString>("stored");
+        for (const char* type : {"STRING", "BOOK", "BIG", "DATUM", "TIMESTAMX", "REACH", "FLOP", "DOUGH",
+                 "MENU", "NODE", "CURRENCX", "MONEX"})
+            QTest::addRow("%s keeps words", type) << type << QVariant("abc") << "text:abc";
+        for (const char* type : {"INTEGER", "BOOLEAN", "BIT", "DATE", "DATETIME", "TIMESTAMP", "REAL",
+                 "FLOAT", "DOUBLE", "NUMERIC", "DECIMAL", "CURRENCY", "MONEY"})
+            QTest::addRow("%s refuses words", type) << type << QVariant("abc") << "refused";
+        for (const char* type : {"BLOB", "CHABLOB", "CLOSEBLOB", "TEXBLOB", "MEMBLOB"})
+            QTest::addRow("%s keeps a number", type) << type << QVariant(12) << "integer:12";
+        for (const char* type : {"VARCHAR(20)", "CLOB", "TEXT"})
+            QTest::addRow("%s makes a number text", type) << type << QVariant(12) << "text:12";
+    }
+
+    void writingIntoTypesOfAnotherProgram()
+    {
+        QFETCH(QString, declared);
+        QFETCH(QVariant, value);
+        QFETCH(QString, stored);
+        EngineRegister reg;
+        if (reg.onServer())
+            QSKIP("A server's columns have the server's own types.");
+        reg.execute(QStringLiteral("CREATE TABLE other (id INTEGER PRIMARY KEY, v %1)").arg(declared));
+        Recordset recordset;
+        recordset.open(
+            "SELECT id, v FROM other", reg.connection(), CursorTypeEnum::Static, LockTypeEnum::Optimistic);
+        recordset.addNew();
+        try {
+            recordset.fields("v").setValue(value);
+            recordset.update();
+        } catch (const Error& error) {
+            QCOMPARE(error.number(), ErrorNumber::TypeMismatch);
+            QCOMPARE(QStringLiteral("refused"), stored);
+            return;
+        }
+        QCOMPARE(reg.joined("SELECT typeof(v) || ':' || v FROM other"), stored);
     }
 
     // The report of all documents by category: a RIGHT JOIN of a join, grouped.
