@@ -303,6 +303,54 @@ private Q_SLOTS:
         QCOMPARE(errorOf([&] { recordset.fields("RastasID").setValue(5); }), 3251L);
     }
 
+    // A value a column can't take is refused with a message that names it, what the column
+    // wants and the field; the row keeps what it held.
+    void refusedValuesAreNamed_data()
+    {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("words for a whole number")
+            << "n" << QVariant("abc") << "Type mismatch: 'abc' is not a whole number (field n).";
+        QTest::newRow("a date for a whole number")
+            << "n" << QVariant(QDate(2024, 3, 5))
+            << "Type mismatch: '2024-03-05' is not a whole number (field n).";
+        QTest::newRow("too large a whole number")
+            << "n" << QVariant(1e19) << "Overflow: 1e+19 doesn't fit field n.";
+        QTest::newRow("words for a number")
+            << "r" << QVariant("abc") << "Type mismatch: 'abc' is not a number (field r).";
+        QTest::newRow("a date for a number")
+            << "r" << QVariant(QDate(2024, 3, 5)) << "Type mismatch: '2024-03-05' is not a number (field r).";
+        QTest::newRow("words for a date")
+            << "d" << QVariant("abc") << "Type mismatch: 'abc' is not a date (field d).";
+        QTest::newRow("a number for a date")
+            << "d" << QVariant(12) << "Type mismatch: '12' is not a date (field d).";
+        QTest::newRow("no date") << "d" << QVariant(QDate(2024, 2, 30))
+                                 << "Type mismatch: '' is not a date (field d).";
+        QTest::newRow("no moment") << "d" << QVariant(QDateTime(QDate(2024, 2, 30), QTime(1, 0)))
+                                   << "Type mismatch: '' is not a date (field d).";
+    }
+
+    void refusedValuesAreNamed()
+    {
+        QFETCH(QString, field);
+        QFETCH(QVariant, value);
+        QFETCH(QString, message);
+        EngineRegister reg;
+        if (reg.onServer())
+            QSKIP("The conversions are the engine's own, whatever the database.");
+        reg.execute("CREATE TABLE kinds (id INTEGER PRIMARY KEY, n INTEGER, r REAL, d DATE)");
+        reg.execute("INSERT INTO kinds (id, n, r, d) VALUES (1, 7, 2.5, '2024-03-01')");
+        Recordset recordset;
+        recordset.open("SELECT id, n, r, d FROM kinds", reg.connection(), CursorTypeEnum::Static,
+            LockTypeEnum::Optimistic);
+        QString description;
+        QVERIFY(errorOf([&] { recordset.fields(field).setValue(value); }, &description) != 0);
+        QCOMPARE(description, message);
+        recordset.update();
+        QCOMPARE(reg.joined("SELECT n || '|' || r || '|' || d FROM kinds"), QString("7|2.5|2024-03-01"));
+    }
+
     // A recordset whose connection was closed refuses to write, with an error.
     void closedConnection()
     {
