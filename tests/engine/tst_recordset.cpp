@@ -1,6 +1,7 @@
 #include "EngineFixture.h"
 #include "base/Error.h"
 #include "explorer/DocumentQueries.h"
+#include "store/engine/ConnectionString.h"
 #include "store/engine/Recordset.h"
 
 #include <QDir>
@@ -35,6 +36,26 @@ QStringList ids(Recordset& recordset)
     recordset.moveFirst();
     return rows(recordset, {QStringLiteral("RastasID")});
 }
+
+// Operations the engine refuses, each with its own message.
+enum class Refused {
+    NoCurrentRecord,
+    NoFieldNumber,
+    ReadOnly,
+    Join,
+    OpenedTwice,
+    OpenedTwiceByLocation,
+    ConnectionOpenedTwice,
+    NoPosition,
+    BadBookmark,
+    HiddenBookmark,
+    KeyChanged,
+    ChapterSet,
+    DeleteAll,
+    ResyncGroup,
+    ResyncWhat,
+    NoProvider
+};
 
 } // namespace
 
@@ -279,6 +300,144 @@ private Q_SLOTS:
         QCOMPARE(moved.count(), 9);
         recordset.cancelUpdate();
         QCOMPARE(moved.count(), 10);
+    }
+
+    // What each refused operation says, whole: the user reads it in the message box.
+
+    void refusedOperationsSayWhy_data()
+    {
+        QTest::addColumn<int>("refusedCase");
+        QTest::addColumn<QString>("message");
+        const QString current
+            = "Either BOF or EOF is True, or the current record has been deleted. Requested "
+              "operation requires a current record.";
+        const QString open = "Operation is not allowed when the object is open.";
+        const QString change
+            = "The recordset can't be changed: %1. Rows can be changed through a SELECT of one "
+              "table.";
+        QTest::newRow("no current record") << int(Refused::NoCurrentRecord) << current;
+        QTest::newRow("no field of that number")
+            << int(Refused::NoFieldNumber)
+            << "Item cannot be found in the collection corresponding to the requested name or ordinal: 9";
+        QTest::newRow("read-only") << int(Refused::ReadOnly) << change.arg("it was opened read-only");
+        QTest::newRow("a join") << int(Refused::Join)
+                                << change.arg("its rows come from more than one table or from expressions");
+        QTest::newRow("opened twice") << int(Refused::OpenedTwice) << open;
+        QTest::newRow("opened twice by location") << int(Refused::OpenedTwiceByLocation) << open;
+        QTest::newRow("a connection opened twice") << int(Refused::ConnectionOpenedTwice) << open;
+        QTest::newRow("no such position") << int(Refused::NoPosition) << "There is no record at position 9.";
+        QTest::newRow("another recordset's bookmark")
+            << int(Refused::BadBookmark) << "The bookmark is not valid for this recordset.";
+        QTest::newRow("a bookmark the filter hides")
+            << int(Refused::HiddenBookmark) << "The bookmarked record is deleted or hidden by the filter.";
+        QTest::newRow("a key changed")
+            << int(Refused::KeyChanged) << "Field 'RastasID' is the key of the row and can't be changed.";
+        QTest::newRow("a chapter set")
+            << int(Refused::ChapterSet)
+            << "Field 'Reminders' holds the child rows of a SHAPE command and can't be set.";
+        QTest::newRow("a delete of all")
+            << int(Refused::DeleteAll) << "Delete removes the current record only.";
+        QTest::newRow("a resync of a group")
+            << int(Refused::ResyncGroup) << "Resync reads the current record or all records again.";
+        QTest::newRow("a resync of nothing")
+            << int(Refused::ResyncWhat) << "Resync reads the underlying values or all values again.";
+        QTest::newRow("an unknown provider")
+            << int(Refused::NoProvider)
+            << QString("Provider cannot be found: 'Other.Provider'. Set the Provider option to %1 or %2.")
+                   .arg(engine::Jet40Provider, engine::Jet351Provider);
+    }
+
+    void refusedOperationsSayWhy()
+    {
+        QFETCH(int, refusedCase);
+        const auto refused = Refused(refusedCase);
+        QFETCH(QString, message);
+        EngineRegister reg;
+        fillEight(reg);
+        const QString documents = "SELECT RastasID, DokAntraste FROM tbl_Documents ORDER BY RastasID";
+        Recordset recordset;
+        recordset.open(documents, reg.connection(), CursorTypeEnum::Static,
+            refused == Refused::ReadOnly ? LockTypeEnum::ReadOnly : LockTypeEnum::Optimistic);
+        Recordset other;
+        other.open(documents, reg.connection());
+        Connection connection;
+        try {
+            switch (refused) {
+            case Refused::NoCurrentRecord:
+                recordset.moveLast();
+                recordset.moveNext();
+                recordset.fields("RastasID").value();
+                break;
+            case Refused::NoFieldNumber:
+                recordset.fields(9);
+                break;
+            case Refused::ReadOnly:
+                recordset.fields("DokAntraste").setValue("x");
+                break;
+            case Refused::Join: {
+                Recordset join;
+                join.open(
+                    "SELECT tbl_Documents.RastasID, tbl_Contacts.FullName FROM tbl_Documents INNER JOIN "
+                    "tbl_Contacts ON tbl_Contacts.ContactID = tbl_Documents.ContactID",
+                    reg.connection(), CursorTypeEnum::Static, LockTypeEnum::Optimistic);
+                join.addNew();
+                break;
+            }
+            case Refused::OpenedTwice:
+                recordset.open(documents, reg.connection());
+                break;
+            case Refused::OpenedTwiceByLocation:
+                recordset.open(documents, reg.connectionString());
+                break;
+            case Refused::ConnectionOpenedTwice:
+                connection.open(reg.connectionString());
+                connection.open(reg.connectionString());
+                break;
+            case Refused::NoPosition:
+                recordset.setAbsolutePosition(9);
+                break;
+            case Refused::BadBookmark:
+                other.requery();
+                recordset.setBookmark(other.bookmark());
+                break;
+            case Refused::HiddenBookmark: {
+                recordset.moveLast();
+                const QVariant last = recordset.bookmark();
+                recordset.setFilter("RastasID < 3");
+                recordset.setBookmark(last);
+                break;
+            }
+            case Refused::KeyChanged:
+                recordset.fields("RastasID").setValue(99);
+                break;
+            case Refused::ChapterSet: {
+                Recordset shaped;
+                shaped.open("SHAPE {select RastasID from tbl_Documents WHERE RastasID=2} AS ParentCMD APPEND "
+                            "({select RastasID, TicklerID from tbl_Tickler} AS Reminders RELATE RastasID TO "
+                            "RastasID) AS Reminders",
+                    reg.connection(), CursorTypeEnum::Static, LockTypeEnum::Optimistic);
+                shaped.fields("Reminders").setValue(1);
+                break;
+            }
+            case Refused::DeleteAll:
+                recordset.deleteRecord(AffectEnum::All);
+                break;
+            case Refused::ResyncGroup:
+                recordset.resync(AffectEnum::Group);
+                break;
+            case Refused::ResyncWhat:
+                recordset.resync(AffectEnum::All, 0);
+                break;
+            case Refused::NoProvider:
+                if (reg.onServer())
+                    QSKIP("A server's location is opened whatever the provider.");
+                connection.open("Provider=Other.Provider;Data Source=" + reg.path());
+                break;
+            }
+            QFAIL("not refused");
+        } catch (const Error& error) {
+            QCOMPARE(error.description(), message);
+        }
     }
 };
 
