@@ -52,6 +52,25 @@ private Q_SLOTS:
         QCOMPARE(names(reg), QString("before,after,inner"));
     }
 
+    // A transaction inside another rolls back its own writes only: the outer one keeps what
+    // it wrote before and after it, and can roll back a second inner one too.
+    void innerRollbackUndoesOnlyItsOwn()
+    {
+        EngineRegister reg;
+        Connection& connection = reg.connection();
+        connection.beginTrans();
+        reg.execute("INSERT INTO tbl_Contacts (FullName) VALUES ('before')");
+        connection.beginTrans();
+        addContact(connection, "inner");
+        connection.rollbackTrans();
+        reg.execute("INSERT INTO tbl_Contacts (FullName) VALUES ('after')");
+        connection.beginTrans();
+        reg.execute("INSERT INTO tbl_Contacts (FullName) VALUES ('second inner')");
+        connection.rollbackTrans();
+        connection.commitTrans();
+        QCOMPARE(names(reg), QString("before,after"));
+    }
+
     // A commit that finds its transaction ended already throws, keeps nothing of it, and
     // leaves no transaction open.
     void commitThatDidNotCommitIsAnError()
