@@ -1,9 +1,11 @@
 // The engine at its edges: times around noon and midnight, the turn of the two-digit year
 // window, every Lithuanian letter in the folding and LIKE, and comparisons at equality.
 #include "EngineFixture.h"
+#include "base/Error.h"
 #include "platform/Clock.h"
 #include "store/engine/Criteria.h"
 #include "store/engine/DateText.h"
+#include "store/engine/EngineErrors.h"
 #include "store/engine/JetDialect.h"
 #include "store/engine/TextFold.h"
 
@@ -290,6 +292,58 @@ private Q_SLOTS:
         const auto parsed = engine::Criteria::parse(
             criteria, [](const QString& name) { return name == QLatin1String("F") ? 0 : -1; });
         QCOMPARE(parsed->matches([&value](int) { return value; }), matches);
+    }
+
+    // What a filter that can't be read says, whole.
+    void badFilters_data()
+    {
+        QTest::addColumn<QString>("criteria");
+        QTest::addColumn<QString>("says");
+
+        QTest::newRow("more after the end") << "F = 1 2"
+                                            << "unexpected '2'";
+        QTest::newRow("unclosed parenthesis") << "(F = 1 Or F = 2"
+                                              << "a closing parenthesis is missing";
+        QTest::newRow("a field alone") << "F"
+                                       << "a comparison is missing";
+        QTest::newRow("Is without Null") << "F Is 1"
+                                         << "Is must be followed by Null or Not Null";
+        QTest::newRow("Is Not without Null") << "F Is Not Empty"
+                                             << "Is must be followed by Null or Not Null";
+        QTest::newRow("no comparison") << "F Between 1 And 2"
+                                       << "'Between' is no comparison";
+        QTest::newRow("nothing after And") << "F = 1 And"
+                                           << "a field name is missing";
+        QTest::newRow("a number for a field") << "5 = F"
+                                              << "'5' is no field name";
+        QTest::newRow("unknown field of a table") << "t.G = 1"
+                                                  << "there is no field 'G'";
+        QTest::newRow("no value") << "F ="
+                                  << "a value is missing";
+        QTest::newRow("a sign alone") << "F = -"
+                                      << "a value is missing";
+        QTest::newRow("two points") << "F = 1.2.3"
+                                    << "'1.2.3' is no number";
+        QTest::newRow("no such day") << "F = #2/30/2024#"
+                                     << "'#2/30/2024#' is no date";
+        QTest::newRow("a word") << "F = Yes"
+                                << "'Yes' is no value";
+    }
+
+    void badFilters()
+    {
+        QFETCH(QString, criteria);
+        QFETCH(QString, says);
+        try {
+            engine::Criteria::parse(
+                criteria, [](const QString& name) { return name == QLatin1String("F") ? 0 : -1; });
+            QFAIL("no error");
+        } catch (const Error& error) {
+            QCOMPARE(error.number(), engine::EngineError::InvalidArgument);
+            QCOMPARE(error.description(),
+                QStringLiteral("The filter \"") + criteria + QStringLiteral("\" can't be used: ") + says
+                    + u'.');
+        }
     }
 
     // The same through a recordset's Filter, on the rows of a register.
