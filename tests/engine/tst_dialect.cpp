@@ -1,6 +1,7 @@
 #include "EngineFixture.h"
 #include "store/engine/JetDialect.h"
 #include "store/engine/Recordset.h"
+#include "store/engine/SqlText.h"
 
 #include <QLocale>
 #include <QTest>
@@ -227,6 +228,46 @@ private Q_SLOTS:
         QCOMPARE(reg.scalar(QStringLiteral("SELECT '500' LIKE '50!%' ESCAPE '!'")).toInt(), 0);
         QCOMPARE(reg.scalar(QStringLiteral("SELECT '' LIKE '%'")).toInt(), 1);
         QVERIFY(isNull(reg.scalar(QStringLiteral("SELECT NULL LIKE '%'"))));
+    }
+
+    // A text put into Like stands for itself: %, _ and \ match only themselves, a quote is
+    // doubled, and only the match asked for adds a wildcard.
+    void likeTextStandsForItself_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<LikeMatch>("match");
+        QTest::addColumn<QString>("pattern");
+        QTest::addColumn<QString>("found");
+
+        QTest::newRow("percent, whole") << "50%" << LikeMatch::Whole << "'50\\%' ESCAPE '\\'"
+                                        << "50%";
+        QTest::newRow("percent, start") << "50%" << LikeMatch::Start << "'50\\%%' ESCAPE '\\'"
+                                        << "50%,50% off";
+        QTest::newRow("percent, anywhere") << "50%" << LikeMatch::Anywhere << "'%50\\%%' ESCAPE '\\'"
+                                           << "50%,50% off,x50%y";
+        QTest::newRow("underscore") << "a_b" << LikeMatch::Whole << "'a\\_b' ESCAPE '\\'"
+                                    << "a_b";
+        QTest::newRow("backslash") << "a\\b" << LikeMatch::Whole << "'a\\\\b' ESCAPE '\\'"
+                                   << "a\\b";
+        QTest::newRow("quote, other case") << "o'brien" << LikeMatch::Start << "'o''brien%' ESCAPE '\\'"
+                                           << "O'Brien,o'brien jr";
+    }
+
+    void likeTextStandsForItself()
+    {
+        QFETCH(QString, text);
+        QFETCH(LikeMatch, match);
+        QFETCH(QString, pattern);
+        QFETCH(QString, found);
+        QCOMPARE(sqlLikeText(text, match), pattern);
+        EngineRegister reg;
+        for (const char* name :
+            {"50%", "500", "50% off", "x50%y", "a_b", "axb", "a\\b", "ab", "O'Brien", "o'brien jr"})
+            reg.execute(QStringLiteral("INSERT INTO tbl_Contacts (FullName) VALUES (")
+                + sqlString(QString::fromUtf8(name)) + u')');
+        QCOMPARE(reg.joined(QStringLiteral("SELECT FullName FROM tbl_Contacts WHERE FullName Like ") + pattern
+                     + QStringLiteral(" ORDER BY ContactID")),
+            found);
     }
 
     void nameOrder()

@@ -348,6 +348,12 @@ private Q_SLOTS:
                                             << read + "the command goes on after its end at 'ORDER'.";
         QTest::newRow("bad aggregate") << contacts + " AS c COMPUTE c, TOTAL(c.x) BY 'City'"
                                        << read + "COUNT, SUM, MIN, MAX or AVG is expected at '('.";
+        QTest::newRow("bad aggregate, blank before its parenthesis")
+            << contacts + " AS c COMPUTE c, TOTAL (c.x) BY 'City'"
+            << read + "COUNT, SUM, MIN, MAX or AVG is expected at '('.";
+        QTest::newRow("bad aggregate at the end")
+            << QString(contacts + " AS c COMPUTE c, TOTAL ")
+            << read + "COUNT, SUM, MIN, MAX or AVG is expected at the end.";
         QTest::newRow("aggregate of another chapter") << contacts + " AS c COMPUTE c, COUNT(d.City) BY City"
                                                       << read + "the aggregate must name c at '.'.";
         QTest::newRow("no BY") << contacts + " AS c COMPUTE c  " << read + "BY is expected at the end.";
