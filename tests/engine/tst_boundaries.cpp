@@ -104,17 +104,54 @@ private Q_SLOTS:
 
     void threeDigitYearIsNoDate() { QVERIFY(!engine::parseJetDate(u"3/5/024").isValid()); }
 
-    // A date and time as SQLite stores it, with a nine in every place.
-    void isoTextWithEveryNine()
+    // A date and time as SQLite stores it: each field at its limits, a fraction of one to
+    // three digits, and what is near that form but not it. An invalid date: no date is read;
+    // an invalid time: a date alone.
+    void isoTextAtItsLimits_data()
     {
-        const QByteArray text("1999-09-29 19:59:09");
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QDate>("date");
+        QTest::addColumn<QTime>("time");
+
+        const QDate day(2024, 3, 5);
+        QTest::newRow("a date") << QByteArray("2024-03-05") << day << QTime();
+        QTest::newRow("a nine in every place")
+            << QByteArray("1999-09-29 19:59:09") << QDate(1999, 9, 29) << QTime(19, 59, 9);
+        QTest::newRow("last second of a day")
+            << QByteArray("2024-03-05 23:59:59") << day << QTime(23, 59, 59);
+        QTest::newRow("midnight, T") << QByteArray("2024-03-05T00:00:00") << day << QTime(0, 0);
+        QTest::newRow("tenths") << QByteArray("2024-03-05 12:00:00.5") << day << QTime(12, 0, 0, 500);
+        QTest::newRow("hundredths") << QByteArray("2024-03-05 12:00:00.25") << day << QTime(12, 0, 0, 250);
+        QTest::newRow("thousandths") << QByteArray("2024-03-05 12:00:00.125") << day << QTime(12, 0, 0, 125);
+        QTest::newRow("hour 24") << QByteArray("2024-03-05 24:00:00") << QDate() << QTime();
+        QTest::newRow("minute 60") << QByteArray("2024-03-05 12:60:00") << QDate() << QTime();
+        QTest::newRow("second 60") << QByteArray("2024-03-05 12:00:60") << QDate() << QTime();
+        QTest::newRow("four fraction digits") << QByteArray("2024-03-05 12:00:00.1255") << QDate() << QTime();
+        QTest::newRow("a point alone") << QByteArray("2024-03-05 12:00:00.") << QDate() << QTime();
+        QTest::newRow("a zone") << QByteArray("2024-03-05 12:00:00Z") << QDate() << QTime();
+        QTest::newRow("no seconds") << QByteArray("2024-03-05 12:00") << QDate() << QTime();
+        QTest::newRow("no such day") << QByteArray("2024-02-30") << QDate() << QTime();
+        QTest::newRow("a day short") << QByteArray("2024-03-5") << QDate() << QTime();
+        QTest::newRow("a letter") << QByteArray("2024-0a-05") << QDate() << QTime();
+        QTest::newRow("slashes") << QByteArray("2024/03/05") << QDate() << QTime();
+    }
+
+    void isoTextAtItsLimits()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QDate, date);
+        QFETCH(QTime, time);
         qint64 julianDay = 0;
-        int msecs = 0;
+        int msecs = -1;
         bool hasTime = false;
-        QVERIFY(engine::parseIsoBytes(text.constData(), std::size_t(text.size()), julianDay, msecs, hasTime));
-        QCOMPARE(julianDay, QDate(1999, 9, 29).toJulianDay());
-        QCOMPARE(msecs, QTime(19, 59, 9).msecsSinceStartOfDay());
-        QVERIFY(hasTime);
+        const bool read
+            = engine::parseIsoBytes(text.constData(), std::size_t(text.size()), julianDay, msecs, hasTime);
+        QCOMPARE(read, date.isValid());
+        if (!read)
+            return;
+        QCOMPARE(QDate::fromJulianDay(julianDay), date);
+        QCOMPARE(hasTime, time.isValid());
+        QCOMPARE(msecs, time.isValid() ? time.msecsSinceStartOfDay() : 0);
     }
 
     // A character of three bytes in UTF-8 sorts by what it is, after the letters.
