@@ -102,6 +102,30 @@ private Q_SLOTS:
         QCOMPARE(read.toDate(), QDate(year, 3, 5));
     }
 
+    // A date literal is read from a part of a statement: what follows the part, a separator
+    // or a digit, is no part of the date.
+    void dateReadFromItsPartAlone_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("length");
+        QTest::addColumn<QVariant>("expected");
+
+        QTest::newRow("before seconds")
+            << "3/5/2024 12:30:45" << 14 << QVariant(QDateTime(QDate(2024, 3, 5), QTime(12, 30)));
+        QTest::newRow("before a fraction")
+            << "3/5/2024 12:30:45.5" << 17 << QVariant(QDateTime(QDate(2024, 3, 5), QTime(12, 30, 45)));
+        QTest::newRow("two digits of four") << "3/5/2024" << 6 << QVariant(QDate(2020, 3, 5));
+    }
+
+    void dateReadFromItsPartAlone()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, length);
+        QFETCH(QVariant, expected);
+        SettableClock clock(QDate(2024, 6, 15));
+        QCOMPARE(engine::parseJetDate(QStringView(text).left(length)), expected);
+    }
+
     void threeDigitYearIsNoDate() { QVERIFY(!engine::parseJetDate(u"3/5/024").isValid()); }
 
     // A date and time as SQLite stores it: each field at its limits, a fraction of one to
