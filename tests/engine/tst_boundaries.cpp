@@ -311,6 +311,16 @@ private Q_SLOTS:
         QTest::newRow("!= is <>, higher") << "F != 5" << QVariant(6) << true;
         QTest::newRow("True is -1") << "F = True" << QVariant(-1) << true;
         QTest::newRow("False is 0") << "F >= False" << QVariant(0) << true;
+        QTest::newRow("a plus sign") << "F = +5" << QVariant(5) << true;
+        QTest::newRow("an exponent") << "F = 1e3" << QVariant(1000) << true;
+        QTest::newRow("a field of a table") << "t.F = 5" << QVariant(5) << true;
+        QTest::newRow("a date stored as text")
+            << "F = #3/5/2024#" << QVariant(QStringLiteral("2024-03-05")) << true;
+        QTest::newRow("a date Like its text") << "F Like '3/5/2024'" << QVariant(QDate(2024, 3, 5)) << true;
+        QTest::newRow("a date Like a month") << "F Like '3/*'" << QVariant(QDate(2024, 3, 5)) << true;
+        QTest::newRow("a date not Like a day") << "F Like '*/6/*'" << QVariant(QDate(2024, 3, 5)) << false;
+        QTest::newRow("Not Like, matching") << "F Not Like 'M*'" << QVariant(QStringLiteral("Mėta")) << false;
+        QTest::newRow("Not Like, other") << "F Not Like 'M*'" << QVariant(QStringLiteral("Zita")) << true;
     }
 
     void comparisonsAtEquality()
@@ -341,6 +351,7 @@ private Q_SLOTS:
         QTest::newRow("not Null, zero") << "F Is Not Null" << QVariant(0) << true;
         QTest::newRow("= Null") << "F = Null" << nullText << true;
         QTest::newRow("<> Null") << "F <> Null" << nullText << false;
+        QTest::newRow("= Null, then a value") << "F = Null Or F = 5" << QVariant(5) << true;
         QTest::newRow("Like on a Null text") << "F Like '%'" << nullText << false;
         QTest::newRow("Not Like on a Null text") << "F Not Like 'x'" << nullText << false;
     }
@@ -373,6 +384,8 @@ private Q_SLOTS:
                                              << "Is must be followed by Null or Not Null";
         QTest::newRow("no comparison") << "F Between 1 And 2"
                                        << "'Between' is no comparison";
+        QTest::newRow("a point at the end") << "F."
+                                            << "'.' is no comparison";
         QTest::newRow("nothing after And") << "F = 1 And"
                                            << "a field name is missing";
         QTest::newRow("a number for a field") << "5 = F"
