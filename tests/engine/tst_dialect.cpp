@@ -1,6 +1,7 @@
 #include "EngineFixture.h"
 #include "store/engine/JetDialect.h"
 #include "store/engine/Recordset.h"
+#include "store/engine/SqlLexer.h"
 #include "store/engine/SqlText.h"
 
 #include <QLocale>
@@ -9,11 +10,78 @@
 using namespace kartella;
 using namespace kartella::test;
 
+namespace {
+
+// Each token of the first length characters of text as kind:text, "_" for blanks; a
+// string or quoted name also gives its text without the quotes, after "=".
+QStringList tokens(const QString& text, int length)
+{
+    const QStringView part = QStringView(text).left(length);
+    QStringList found;
+    for (const engine::SqlToken& token : engine::tokenizeSql(part)) {
+        QString shown
+            = QString(QStringLiteral("_WNSQDP").at(int(token.kind))) + u':' + text.mid(token.pos, token.len);
+        if (token.kind == engine::SqlToken::String || token.kind == engine::SqlToken::Quoted)
+            shown += u'=' + engine::unquotedText(part, token);
+        found << shown;
+    }
+    return found;
+}
+
+} // namespace
+
 class DialectTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    // The tokens of a statement; read from a part of a longer text, they end at the
+    // part's end, whatever follows it.
+    void tokens_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("length");
+        QTest::addColumn<QStringList>("expected");
+
+        QTest::newRow("names") << "_a b$1 Mid$(x)" << 14
+                               << QStringList {"W:_a", "_: ", "W:b$1", "_: ", "W:Mid$", "P:(", "W:x", "P:)"};
+        QTest::newRow("numbers") << "1 2.5 .5 1e3 1E-3 2e+4 3e t.c" << 29
+                                 << QStringList {"N:1", "_: ", "N:2.5", "_: ", "N:.5", "_: ", "N:1e3",
+                                        "_: ", "N:1E-3", "_: ", "N:2e+4", "_: ", "N:3", "W:e", "_: ", "W:t",
+                                        "P:.", "W:c"};
+        QTest::newRow("operators") << "<> <= >= != || =< !|" << 20
+                                   << QStringList {"P:<>",
+                                          "_: ", "P:<=", "_: ", "P:>=", "_: ", "P:!=", "_: ", "P:||",
+                                          "_: ", "P:=", "P:<", "_: ", "P:!", "P:|"};
+        QTest::newRow("quotes") << "'O''Brien' \"a\"\"b\" `c` [d e] 'open" << 33
+                                << QStringList {"S:'O''Brien'=O'Brien", "_: ", "Q:\"a\"\"b\"=a\"b",
+                                       "_: ", "Q:`c`=c", "_: ", "Q:[d e]=d e", "_: ", "S:'open=open"};
+        QTest::newRow("a quote alone") << "x '" << 3 << QStringList {"W:x", "_: ", "S:'="};
+        QTest::newRow("dates") << "#1/2/2024# # 'a#' #\n#" << 21
+                               << QStringList {"D:#1/2/2024#", "_: ", "P:#", "_: ", "S:'a#'=a#", "_: ", "P:#",
+                                      "_:\n", "P:#"};
+
+        QTest::newRow("part: blanks") << "a  b" << 2 << QStringList {"W:a", "_: "};
+        QTest::newRow("part: a number") << "12" << 1 << QStringList {"N:1"};
+        QTest::newRow("part: a fraction") << "1.5" << 2 << QStringList {"N:1."};
+        QTest::newRow("part: an exponent") << "1e5" << 2 << QStringList {"N:1", "W:e"};
+        QTest::newRow("part: an exponent's sign") << "1e-5" << 3 << QStringList {"N:1", "W:e", "P:-"};
+        QTest::newRow("part: a point") << ".5" << 1 << QStringList {"P:."};
+        QTest::newRow("part: a name") << "ab" << 1 << QStringList {"W:a"};
+        QTest::newRow("part: an operator") << "<>" << 1 << QStringList {"P:<"};
+        QTest::newRow("part: a string") << "'a'" << 2 << QStringList {"S:'a=a"};
+        QTest::newRow("part: a date")
+            << "#1/2/2024#" << 9 << QStringList {"P:#", "N:1", "P:/", "N:2", "P:/", "N:2024"};
+    }
+
+    void tokens()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, length);
+        QFETCH(QStringList, expected);
+        QCOMPARE(::tokens(text, length), expected);
+    }
+
     void translation_data()
     {
         QTest::addColumn<QString>("jet");
