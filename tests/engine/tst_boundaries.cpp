@@ -157,6 +157,7 @@ private Q_SLOTS:
         QTest::newRow("no such day") << QByteArray("2024-02-30") << QDate() << QTime();
         QTest::newRow("a day short") << QByteArray("2024-03-5") << QDate() << QTime();
         QTest::newRow("a letter") << QByteArray("2024-0a-05") << QDate() << QTime();
+        QTest::newRow("the character after 9") << QByteArray("202:-03-05") << QDate() << QTime();
         QTest::newRow("slashes") << QByteArray("2024/03/05") << QDate() << QTime();
     }
 

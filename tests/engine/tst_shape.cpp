@@ -488,6 +488,9 @@ private Q_SLOTS:
         QCOMPARE(child->recordCount(), 0);
         child->addNew();
         child->fields("TicklerText").setValue("Soon");
+        // The parent is the first row and has no key yet: its new child stays with it.
+        parent.moveFirst();
+        QCOMPARE(rows(*child, {"TicklerText"}), QStringList {"Soon"});
         QCOMPARE(parent.recordCount(), 1);
         parent.updateBatch(AffectEnum::All);
         const int id = reg.scalar("SELECT RastasID FROM tbl_Documents WHERE DokAntraste='Fourth'").toInt();
