@@ -223,6 +223,12 @@ private Q_SLOTS:
                "\"T\" FROM \"tbl_Documents\" ORDER BY \"KategID\" NULLS FIRST, \"DokRegistracData\" DESC "
                "NULLS LAST, "
                "\"RastasID\" NULLS LAST, lower(\"DokAntraste\") ASC NULLS FIRST";
+        QTest::newRow("order before OFFSET")
+            << "SELECT RastasID FROM tbl_Documents ORDER BY KategID OFFSET 2"
+            << "SELECT \"RastasID\" FROM \"tbl_Documents\" ORDER BY \"KategID\" NULLS FIRST OFFSET 2";
+        QTest::newRow("order before FOR UPDATE")
+            << "SELECT RastasID FROM tbl_Documents ORDER BY KategID DESC FOR UPDATE"
+            << "SELECT \"RastasID\" FROM \"tbl_Documents\" ORDER BY \"KategID\" DESC NULLS LAST FOR UPDATE";
         QTest::newRow("a connection's own tables")
             << "INSERT INTO temp.found (RastasID) SELECT RastasID FROM tbl_Documents WHERE RastasID IN "
                "(SELECT RastasID FROM TEMP.found) AND temp = 1"
