@@ -241,6 +241,26 @@ private Q_SLOTS:
                 {"Ąžuolas::", "Petras:Business,Home:", "Šarūnas:Mobile:x.lt", "Saulius::", "šilas::"}));
     }
 
+    // Null relates to nothing: a parent without a key has no children, not those without one.
+    void nullKeyRelatesToNothing()
+    {
+        EngineRegister reg;
+        reg.fillSmall();
+        reg.execute("INSERT INTO tbl_Documents (RastasID, ContactID) VALUES (4, Null)");
+        Recordset parent;
+        parent.open("SHAPE {SELECT RastasID, ContactID FROM tbl_Documents ORDER BY RastasID} AS Documents "
+                    "APPEND ({SELECT RastasID, ContactID FROM tbl_Documents ORDER BY RastasID} AS Same "
+                    "RELATE ContactID TO ContactID) AS Same",
+            reg.connection());
+        QStringList seen;
+        while (!parent.eof()) {
+            seen << parent.collect("RastasID").toString() + u':'
+                    + rows(*parent.chapter("Same"), {"RastasID"}).join(u',');
+            parent.moveNext();
+        }
+        QCOMPARE(seen, QStringList({"1:1,2", "2:1,2", "3:", "4:"}));
+    }
+
     void computeGroups()
     {
         EngineRegister reg;
