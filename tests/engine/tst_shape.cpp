@@ -406,6 +406,29 @@ private Q_SLOTS:
         QVERIFY(!recordset.isOpen());
     }
 
+    // A source is a SHAPE command by its first word alone, followed by a blank or a brace;
+    // a table whose name starts with the word is none.
+    void shapeCommandByItsFirstWord_data()
+    {
+        QTest::addColumn<QString>("source");
+        QTest::addColumn<bool>("shape");
+
+        QTest::newRow("blank") << "SHAPE {select 1}" << true;
+        QTest::newRow("brace, small letters") << "shape{select 1}" << true;
+        QTest::newRow("blanks around, a new line") << "  Shape\n{select 1}" << true;
+        QTest::newRow("the word alone") << "SHAPE" << true;
+        QTest::newRow("a longer name") << "Shapes" << false;
+        QTest::newRow("a name with an underscore") << "SHAPE_1" << false;
+        QTest::newRow("a select") << "SELECT * FROM Shapes" << false;
+    }
+
+    void shapeCommandByItsFirstWord()
+    {
+        QFETCH(QString, source);
+        QFETCH(bool, shape);
+        QCOMPARE(engine::isShapeCommand(source), shape);
+    }
+
     // A key filter set before opening goes into the select; any other filter, or none,
     // reads the source whole.
     void keyFilterIntoTheSelect_data()
