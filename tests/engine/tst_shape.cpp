@@ -261,6 +261,28 @@ private Q_SLOTS:
         QCOMPARE(seen, QStringList({"1:1,2", "2:1,2", "3:", "4:"}));
     }
 
+    // The children of few parents are read by their keys alone, also when the child's field
+    // has a name that must be quoted: a keyword, or one with a blank.
+    void childFieldNamedLikeAKeyword()
+    {
+        EngineRegister reg;
+        reg.fillSmall();
+        reg.execute("CREATE TABLE parts (\"Group\" integer, \"Part name\" text)");
+        reg.execute("INSERT INTO parts (\"Group\", \"Part name\") VALUES (1, 'a'), (3, 'b'), (1, 'c')");
+        Recordset contacts;
+        contacts.open(
+            "SHAPE {SELECT ContactID FROM tbl_Contacts WHERE ContactID < 4 ORDER BY ContactID} AS c "
+            "APPEND ({SELECT * FROM parts} AS p RELATE ContactID TO 'Group') AS Parts",
+            reg.connection());
+        QStringList seen;
+        while (!contacts.eof()) {
+            seen << contacts.collect("ContactID").toString() + u':'
+                    + rows(*contacts.chapter("Parts"), {"Part name"}).join(u',');
+            contacts.moveNext();
+        }
+        QCOMPARE(seen, QStringList({"1:a,c", "2:", "3:b"}));
+    }
+
     void computeGroups()
     {
         EngineRegister reg;
