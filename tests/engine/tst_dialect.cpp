@@ -208,6 +208,10 @@ private Q_SLOTS:
             << "SELECT 1 FROM tbl_Contacts WHERE FullName Like 'a\\%' AND Title NOT LIKE '%' || Dear || '_'"
             << "SELECT 1 FROM \"tbl_Contacts\" WHERE \"FullName\" ILIKE 'a\\%' ESCAPE '' AND "
                "\"Title\" NOT ILIKE '%' || \"Dear\" || '_' ESCAPE ''";
+        QTest::newRow("like a qualified name")
+            << "SELECT 1 FROM tbl_Contacts WHERE FullName LIKE tbl_Contacts.Title || '%'"
+            << "SELECT 1 FROM \"tbl_Contacts\" WHERE \"FullName\" ILIKE \"tbl_Contacts\".\"Title\" || '%' "
+               "ESCAPE ''";
         QTest::newRow("like with its escape") << "SELECT 1 WHERE FullName LIKE '50!%' ESCAPE '!'"
                                               << "SELECT 1 WHERE \"FullName\" ILIKE '50!%' ESCAPE '!'";
         QTest::newRow("name order")
