@@ -1,9 +1,11 @@
 // The engine at its edges: times around noon and midnight, the turn of the two-digit year
 // window, every Lithuanian letter in the folding and LIKE, and comparisons at equality.
 #include "EngineFixture.h"
+#include "base/Error.h"
 #include "platform/Clock.h"
 #include "store/engine/Criteria.h"
 #include "store/engine/DateText.h"
+#include "store/engine/EngineErrors.h"
 #include "store/engine/JetDialect.h"
 #include "store/engine/TextFold.h"
 
@@ -100,19 +102,81 @@ private Q_SLOTS:
         QCOMPARE(read.toDate(), QDate(year, 3, 5));
     }
 
+    // A date literal is read from a part of a statement: what follows the part, a separator
+    // or a digit, is no part of the date.
+    void dateReadFromItsPartAlone_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("length");
+        QTest::addColumn<QVariant>("expected");
+
+        QTest::newRow("before seconds")
+            << "3/5/2024 12:30:45" << 14 << QVariant(QDateTime(QDate(2024, 3, 5), QTime(12, 30)));
+        QTest::newRow("before a fraction")
+            << "3/5/2024 12:30:45.5" << 17 << QVariant(QDateTime(QDate(2024, 3, 5), QTime(12, 30, 45)));
+        QTest::newRow("two digits of four") << "3/5/2024" << 6 << QVariant(QDate(2020, 3, 5));
+    }
+
+    void dateReadFromItsPartAlone()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, length);
+        QFETCH(QVariant, expected);
+        SettableClock clock(QDate(2024, 6, 15));
+        QCOMPARE(engine::parseJetDate(QStringView(text).left(length)), expected);
+    }
+
     void threeDigitYearIsNoDate() { QVERIFY(!engine::parseJetDate(u"3/5/024").isValid()); }
 
-    // A date and time as SQLite stores it, with a nine in every place.
-    void isoTextWithEveryNine()
+    // A date and time as SQLite stores it: each field at its limits, a fraction of one to
+    // three digits, and what is near that form but not it. An invalid date: no date is read;
+    // an invalid time: a date alone.
+    void isoTextAtItsLimits_data()
     {
-        const QByteArray text("1999-09-29 19:59:09");
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QDate>("date");
+        QTest::addColumn<QTime>("time");
+
+        const QDate day(2024, 3, 5);
+        QTest::newRow("a date") << QByteArray("2024-03-05") << day << QTime();
+        QTest::newRow("a nine in every place")
+            << QByteArray("1999-09-29 19:59:09") << QDate(1999, 9, 29) << QTime(19, 59, 9);
+        QTest::newRow("last second of a day")
+            << QByteArray("2024-03-05 23:59:59") << day << QTime(23, 59, 59);
+        QTest::newRow("midnight, T") << QByteArray("2024-03-05T00:00:00") << day << QTime(0, 0);
+        QTest::newRow("tenths") << QByteArray("2024-03-05 12:00:00.5") << day << QTime(12, 0, 0, 500);
+        QTest::newRow("hundredths") << QByteArray("2024-03-05 12:00:00.25") << day << QTime(12, 0, 0, 250);
+        QTest::newRow("thousandths") << QByteArray("2024-03-05 12:00:00.125") << day << QTime(12, 0, 0, 125);
+        QTest::newRow("hour 24") << QByteArray("2024-03-05 24:00:00") << QDate() << QTime();
+        QTest::newRow("minute 60") << QByteArray("2024-03-05 12:60:00") << QDate() << QTime();
+        QTest::newRow("second 60") << QByteArray("2024-03-05 12:00:60") << QDate() << QTime();
+        QTest::newRow("four fraction digits") << QByteArray("2024-03-05 12:00:00.1255") << QDate() << QTime();
+        QTest::newRow("a point alone") << QByteArray("2024-03-05 12:00:00.") << QDate() << QTime();
+        QTest::newRow("a zone") << QByteArray("2024-03-05 12:00:00Z") << QDate() << QTime();
+        QTest::newRow("no seconds") << QByteArray("2024-03-05 12:00") << QDate() << QTime();
+        QTest::newRow("no such day") << QByteArray("2024-02-30") << QDate() << QTime();
+        QTest::newRow("a day short") << QByteArray("2024-03-5") << QDate() << QTime();
+        QTest::newRow("a letter") << QByteArray("2024-0a-05") << QDate() << QTime();
+        QTest::newRow("the character after 9") << QByteArray("202:-03-05") << QDate() << QTime();
+        QTest::newRow("slashes") << QByteArray("2024/03/05") << QDate() << QTime();
+    }
+
+    void isoTextAtItsLimits()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QDate, date);
+        QFETCH(QTime, time);
         qint64 julianDay = 0;
-        int msecs = 0;
+        int msecs = -1;
         bool hasTime = false;
-        QVERIFY(engine::parseIsoBytes(text.constData(), std::size_t(text.size()), julianDay, msecs, hasTime));
-        QCOMPARE(julianDay, QDate(1999, 9, 29).toJulianDay());
-        QCOMPARE(msecs, QTime(19, 59, 9).msecsSinceStartOfDay());
-        QVERIFY(hasTime);
+        const bool read
+            = engine::parseIsoBytes(text.constData(), std::size_t(text.size()), julianDay, msecs, hasTime);
+        QCOMPARE(read, date.isValid());
+        if (!read)
+            return;
+        QCOMPARE(QDate::fromJulianDay(julianDay), date);
+        QCOMPARE(hasTime, time.isValid());
+        QCOMPARE(msecs, time.isValid() ? time.msecsSinceStartOfDay() : 0);
     }
 
     // A character of three bytes in UTF-8 sorts by what it is, after the letters.
@@ -248,6 +312,16 @@ private Q_SLOTS:
         QTest::newRow("!= is <>, higher") << "F != 5" << QVariant(6) << true;
         QTest::newRow("True is -1") << "F = True" << QVariant(-1) << true;
         QTest::newRow("False is 0") << "F >= False" << QVariant(0) << true;
+        QTest::newRow("a plus sign") << "F = +5" << QVariant(5) << true;
+        QTest::newRow("an exponent") << "F = 1e3" << QVariant(1000) << true;
+        QTest::newRow("a field of a table") << "t.F = 5" << QVariant(5) << true;
+        QTest::newRow("a date stored as text")
+            << "F = #3/5/2024#" << QVariant(QStringLiteral("2024-03-05")) << true;
+        QTest::newRow("a date Like its text") << "F Like '3/5/2024'" << QVariant(QDate(2024, 3, 5)) << true;
+        QTest::newRow("a date Like a month") << "F Like '3/*'" << QVariant(QDate(2024, 3, 5)) << true;
+        QTest::newRow("a date not Like a day") << "F Like '*/6/*'" << QVariant(QDate(2024, 3, 5)) << false;
+        QTest::newRow("Not Like, matching") << "F Not Like 'M*'" << QVariant(QStringLiteral("Mėta")) << false;
+        QTest::newRow("Not Like, other") << "F Not Like 'M*'" << QVariant(QStringLiteral("Zita")) << true;
     }
 
     void comparisonsAtEquality()
@@ -278,6 +352,7 @@ private Q_SLOTS:
         QTest::newRow("not Null, zero") << "F Is Not Null" << QVariant(0) << true;
         QTest::newRow("= Null") << "F = Null" << nullText << true;
         QTest::newRow("<> Null") << "F <> Null" << nullText << false;
+        QTest::newRow("= Null, then a value") << "F = Null Or F = 5" << QVariant(5) << true;
         QTest::newRow("Like on a Null text") << "F Like '%'" << nullText << false;
         QTest::newRow("Not Like on a Null text") << "F Not Like 'x'" << nullText << false;
     }
@@ -290,6 +365,60 @@ private Q_SLOTS:
         const auto parsed = engine::Criteria::parse(
             criteria, [](const QString& name) { return name == QLatin1String("F") ? 0 : -1; });
         QCOMPARE(parsed->matches([&value](int) { return value; }), matches);
+    }
+
+    // What a filter that can't be read says, whole.
+    void badFilters_data()
+    {
+        QTest::addColumn<QString>("criteria");
+        QTest::addColumn<QString>("says");
+
+        QTest::newRow("more after the end") << "F = 1 2"
+                                            << "unexpected '2'";
+        QTest::newRow("unclosed parenthesis") << "(F = 1 Or F = 2"
+                                              << "a closing parenthesis is missing";
+        QTest::newRow("a field alone") << "F"
+                                       << "a comparison is missing";
+        QTest::newRow("Is without Null") << "F Is 1"
+                                         << "Is must be followed by Null or Not Null";
+        QTest::newRow("Is Not without Null") << "F Is Not Empty"
+                                             << "Is must be followed by Null or Not Null";
+        QTest::newRow("no comparison") << "F Between 1 And 2"
+                                       << "'Between' is no comparison";
+        QTest::newRow("a point at the end") << "F."
+                                            << "'.' is no comparison";
+        QTest::newRow("nothing after And") << "F = 1 And"
+                                           << "a field name is missing";
+        QTest::newRow("a number for a field") << "5 = F"
+                                              << "'5' is no field name";
+        QTest::newRow("unknown field of a table") << "t.G = 1"
+                                                  << "there is no field 'G'";
+        QTest::newRow("no value") << "F ="
+                                  << "a value is missing";
+        QTest::newRow("a sign alone") << "F = -"
+                                      << "a value is missing";
+        QTest::newRow("two points") << "F = 1.2.3"
+                                    << "'1.2.3' is no number";
+        QTest::newRow("no such day") << "F = #2/30/2024#"
+                                     << "'#2/30/2024#' is no date";
+        QTest::newRow("a word") << "F = Yes"
+                                << "'Yes' is no value";
+    }
+
+    void badFilters()
+    {
+        QFETCH(QString, criteria);
+        QFETCH(QString, says);
+        try {
+            engine::Criteria::parse(
+                criteria, [](const QString& name) { return name == QLatin1String("F") ? 0 : -1; });
+            QFAIL("no error");
+        } catch (const Error& error) {
+            QCOMPARE(error.number(), engine::EngineError::InvalidArgument);
+            QCOMPARE(error.description(),
+                QStringLiteral("The filter \"") + criteria + QStringLiteral("\" can't be used: ") + says
+                    + u'.');
+        }
     }
 
     // The same through a recordset's Filter, on the rows of a register.

@@ -1,6 +1,8 @@
 #include "EngineFixture.h"
 #include "store/engine/JetDialect.h"
 #include "store/engine/Recordset.h"
+#include "store/engine/SqlLexer.h"
+#include "store/engine/SqlText.h"
 
 #include <QLocale>
 #include <QTest>
@@ -8,11 +10,78 @@
 using namespace kartella;
 using namespace kartella::test;
 
+namespace {
+
+// Each token of the first length characters of text as kind:text, "_" for blanks; a
+// string or quoted name also gives its text without the quotes, after "=".
+QStringList tokens(const QString& text, int length)
+{
+    const QStringView part = QStringView(text).left(length);
+    QStringList found;
+    for (const engine::SqlToken& token : engine::tokenizeSql(part)) {
+        QString shown
+            = QString(QStringLiteral("_WNSQDP").at(int(token.kind))) + u':' + text.mid(token.pos, token.len);
+        if (token.kind == engine::SqlToken::String || token.kind == engine::SqlToken::Quoted)
+            shown += u'=' + engine::unquotedText(part, token);
+        found << shown;
+    }
+    return found;
+}
+
+} // namespace
+
 class DialectTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    // The tokens of a statement; read from a part of a longer text, they end at the
+    // part's end, whatever follows it.
+    void tokens_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("length");
+        QTest::addColumn<QStringList>("expected");
+
+        QTest::newRow("names") << "_a b$1 Mid$(x)" << 14
+                               << QStringList {"W:_a", "_: ", "W:b$1", "_: ", "W:Mid$", "P:(", "W:x", "P:)"};
+        QTest::newRow("numbers") << "1 2.5 .5 1e3 1E-3 2e+4 3e t.c" << 29
+                                 << QStringList {"N:1", "_: ", "N:2.5", "_: ", "N:.5", "_: ", "N:1e3",
+                                        "_: ", "N:1E-3", "_: ", "N:2e+4", "_: ", "N:3", "W:e", "_: ", "W:t",
+                                        "P:.", "W:c"};
+        QTest::newRow("operators") << "<> <= >= != || =< !|" << 20
+                                   << QStringList {"P:<>",
+                                          "_: ", "P:<=", "_: ", "P:>=", "_: ", "P:!=", "_: ", "P:||",
+                                          "_: ", "P:=", "P:<", "_: ", "P:!", "P:|"};
+        QTest::newRow("quotes") << "'O''Brien' \"a\"\"b\" `c` [d e] 'open" << 33
+                                << QStringList {"S:'O''Brien'=O'Brien", "_: ", "Q:\"a\"\"b\"=a\"b",
+                                       "_: ", "Q:`c`=c", "_: ", "Q:[d e]=d e", "_: ", "S:'open=open"};
+        QTest::newRow("a quote alone") << "x '" << 3 << QStringList {"W:x", "_: ", "S:'="};
+        QTest::newRow("dates") << "#1/2/2024# # 'a#' #\n#" << 21
+                               << QStringList {"D:#1/2/2024#", "_: ", "P:#", "_: ", "S:'a#'=a#", "_: ", "P:#",
+                                      "_:\n", "P:#"};
+
+        QTest::newRow("part: blanks") << "a  b" << 2 << QStringList {"W:a", "_: "};
+        QTest::newRow("part: a number") << "12" << 1 << QStringList {"N:1"};
+        QTest::newRow("part: a fraction") << "1.5" << 2 << QStringList {"N:1."};
+        QTest::newRow("part: an exponent") << "1e5" << 2 << QStringList {"N:1", "W:e"};
+        QTest::newRow("part: an exponent's sign") << "1e-5" << 3 << QStringList {"N:1", "W:e", "P:-"};
+        QTest::newRow("part: a point") << ".5" << 1 << QStringList {"P:."};
+        QTest::newRow("part: a name") << "ab" << 1 << QStringList {"W:a"};
+        QTest::newRow("part: an operator") << "<>" << 1 << QStringList {"P:<"};
+        QTest::newRow("part: a string") << "'a'" << 2 << QStringList {"S:'a=a"};
+        QTest::newRow("part: a date")
+            << "#1/2/2024#" << 9 << QStringList {"P:#", "N:1", "P:/", "N:2", "P:/", "N:2024"};
+    }
+
+    void tokens()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, length);
+        QFETCH(QStringList, expected);
+        QCOMPARE(::tokens(text, length), expected);
+    }
+
     void translation_data()
     {
         QTest::addColumn<QString>("jet");
@@ -139,6 +208,10 @@ private Q_SLOTS:
             << "SELECT 1 FROM tbl_Contacts WHERE FullName Like 'a\\%' AND Title NOT LIKE '%' || Dear || '_'"
             << "SELECT 1 FROM \"tbl_Contacts\" WHERE \"FullName\" ILIKE 'a\\%' ESCAPE '' AND "
                "\"Title\" NOT ILIKE '%' || \"Dear\" || '_' ESCAPE ''";
+        QTest::newRow("like a qualified name")
+            << "SELECT 1 FROM tbl_Contacts WHERE FullName LIKE tbl_Contacts.Title || '%'"
+            << "SELECT 1 FROM \"tbl_Contacts\" WHERE \"FullName\" ILIKE \"tbl_Contacts\".\"Title\" || '%' "
+               "ESCAPE ''";
         QTest::newRow("like with its escape") << "SELECT 1 WHERE FullName LIKE '50!%' ESCAPE '!'"
                                               << "SELECT 1 WHERE \"FullName\" ILIKE '50!%' ESCAPE '!'";
         QTest::newRow("name order")
@@ -154,6 +227,12 @@ private Q_SLOTS:
                "\"T\" FROM \"tbl_Documents\" ORDER BY \"KategID\" NULLS FIRST, \"DokRegistracData\" DESC "
                "NULLS LAST, "
                "\"RastasID\" NULLS LAST, lower(\"DokAntraste\") ASC NULLS FIRST";
+        QTest::newRow("order before OFFSET")
+            << "SELECT RastasID FROM tbl_Documents ORDER BY KategID OFFSET 2"
+            << "SELECT \"RastasID\" FROM \"tbl_Documents\" ORDER BY \"KategID\" NULLS FIRST OFFSET 2";
+        QTest::newRow("order before FOR UPDATE")
+            << "SELECT RastasID FROM tbl_Documents ORDER BY KategID DESC FOR UPDATE"
+            << "SELECT \"RastasID\" FROM \"tbl_Documents\" ORDER BY \"KategID\" DESC NULLS LAST FOR UPDATE";
         QTest::newRow("a connection's own tables")
             << "INSERT INTO temp.found (RastasID) SELECT RastasID FROM tbl_Documents WHERE RastasID IN "
                "(SELECT RastasID FROM TEMP.found) AND temp = 1"
@@ -227,6 +306,46 @@ private Q_SLOTS:
         QCOMPARE(reg.scalar(QStringLiteral("SELECT '500' LIKE '50!%' ESCAPE '!'")).toInt(), 0);
         QCOMPARE(reg.scalar(QStringLiteral("SELECT '' LIKE '%'")).toInt(), 1);
         QVERIFY(isNull(reg.scalar(QStringLiteral("SELECT NULL LIKE '%'"))));
+    }
+
+    // A text put into Like stands for itself: %, _ and \ match only themselves, a quote is
+    // doubled, and only the match asked for adds a wildcard.
+    void likeTextStandsForItself_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<LikeMatch>("match");
+        QTest::addColumn<QString>("pattern");
+        QTest::addColumn<QString>("found");
+
+        QTest::newRow("percent, whole") << "50%" << LikeMatch::Whole << "'50\\%' ESCAPE '\\'"
+                                        << "50%";
+        QTest::newRow("percent, start") << "50%" << LikeMatch::Start << "'50\\%%' ESCAPE '\\'"
+                                        << "50%,50% off";
+        QTest::newRow("percent, anywhere") << "50%" << LikeMatch::Anywhere << "'%50\\%%' ESCAPE '\\'"
+                                           << "50%,50% off,x50%y";
+        QTest::newRow("underscore") << "a_b" << LikeMatch::Whole << "'a\\_b' ESCAPE '\\'"
+                                    << "a_b";
+        QTest::newRow("backslash") << "a\\b" << LikeMatch::Whole << "'a\\\\b' ESCAPE '\\'"
+                                   << "a\\b";
+        QTest::newRow("quote, other case") << "o'brien" << LikeMatch::Start << "'o''brien%' ESCAPE '\\'"
+                                           << "O'Brien,o'brien jr";
+    }
+
+    void likeTextStandsForItself()
+    {
+        QFETCH(QString, text);
+        QFETCH(LikeMatch, match);
+        QFETCH(QString, pattern);
+        QFETCH(QString, found);
+        QCOMPARE(sqlLikeText(text, match), pattern);
+        EngineRegister reg;
+        for (const char* name :
+            {"50%", "500", "50% off", "x50%y", "a_b", "axb", "a\\b", "ab", "O'Brien", "o'brien jr"})
+            reg.execute(QStringLiteral("INSERT INTO tbl_Contacts (FullName) VALUES (")
+                + sqlString(QString::fromUtf8(name)) + u')');
+        QCOMPARE(reg.joined(QStringLiteral("SELECT FullName FROM tbl_Contacts WHERE FullName Like ") + pattern
+                     + QStringLiteral(" ORDER BY ContactID")),
+            found);
     }
 
     void nameOrder()

@@ -122,7 +122,10 @@ QString childRestriction(const RecordsetData& parent, const ShapeCommand::Append
     if (keys.isEmpty())
         return QStringLiteral("1=0");
     keys.removeDuplicates();
-    return append.relations.front().childField + QStringLiteral(" IN (") + keys.join(u',') + u')';
+    // Quoted: the field may bear a keyword's name or a blank.
+    QString childField = append.relations.front().childField;
+    childField.replace(u'"', QLatin1String("\"\""));
+    return u'"' + childField + QStringLiteral("\" IN (") + keys.join(u',') + u')';
 }
 
 } // namespace
