@@ -1,7 +1,9 @@
 #include "EngineFixture.h"
 #include "base/Error.h"
 #include "store/engine/Recordset.h"
+#include "store/engine/WriteContext.h"
 
+#include <QScopeGuard>
 #include <QTest>
 
 using namespace kartella;
@@ -69,6 +71,32 @@ private Q_SLOTS:
         connection.rollbackTrans();
         connection.commitTrans();
         QCOMPARE(names(reg), QString("before,after"));
+    }
+
+    // A transaction whose note of who writes can't be written is not begun: the connection
+    // holds no transaction after it, and the next one commits for others to read.
+    void refusedContextLeavesNoTransaction()
+    {
+        EngineRegister reg;
+        if (reg.onServer())
+            QSKIP("A server notes who writes in its session, not in a table.");
+        reg.execute("DROP TABLE tbl_Write_Context");
+        reg.execute("CREATE TABLE tbl_Write_Context (ContextID INTEGER PRIMARY KEY, Who TEXT CHECK (Who <> "
+                    "'nobody'), Command TEXT)");
+        const QString user = WriteContext::user();
+        const auto restore = qScopeGuard([&] { WriteContext::setUser(user); });
+        Connection& connection = reg.connection();
+        WriteContext::setUser("nobody");
+        QVERIFY_THROWS_EXCEPTION(Error, connection.beginTrans());
+        WriteContext::setUser("somebody");
+        connection.beginTrans();
+        reg.execute("INSERT INTO tbl_Contacts (FullName) VALUES ('kept')");
+        connection.commitTrans();
+        Connection other;
+        other.open(reg.connectionString());
+        Recordset contacts;
+        contacts.open("SELECT FullName FROM tbl_Contacts", other);
+        QCOMPARE(rows(contacts, {"FullName"}), QStringList({"kept"}));
     }
 
     // A commit that finds its transaction ended already throws, keeps nothing of it, and
