@@ -4,6 +4,7 @@
 #include "store/Store.h"
 #include "store/engine/Connection.h"
 #include "store/engine/Recordset.h"
+#include "store/engine/SqliteBackend.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -199,6 +200,32 @@ private Q_SLOTS:
         }();
         QCOMPARE(numberInLithuanian, ErrorNumber::ConnectionFailed);
         QVERIFY2(lithuanian.contains(QString(inLithuanian).replace("{dir}", dir)), qPrintable(lithuanian));
+    }
+
+    // A register that another program holds locked says so, whole, once the short wait at
+    // opening is over; it opens again once the lock is gone.
+    void lockedRegisterSaysWhoHoldsIt()
+    {
+        EngineRegister reg;
+        if (reg.onServer())
+            QSKIP("register files only");
+        Connection holder(QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=") + reg.path());
+        holder.open();
+        holder.execute(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE"));
+        holder.execute(QStringLiteral("INSERT INTO tbl_Contacts (FullName) VALUES ('held')"));
+        reg.connection().close();
+        const engine::OpeningWait shortWait(50);
+        const auto [number, description]
+            = openError(QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=") + reg.path());
+        QCOMPARE(number, ErrorNumber::ConnectionFailed);
+        QCOMPARE(description,
+            QStringLiteral("The register '%1' is in use by another program, which kept it locked; try again "
+                           "once it is done.")
+                .arg(reg.path()));
+        holder.close();
+        QCOMPARE(
+            openError(QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=") + reg.path()).first,
+            -1L);
     }
 
     void commandFailure()

@@ -405,6 +405,36 @@ private Q_SLOTS:
         QCOMPARE(names(reg), QString("Petras,Ąžuolas,Šarūnas,Šilas,Saulius"));
     }
 
+    // A table of another program without a key of one column is written by the rows' own
+    // number in the file.
+    void tableWithoutOneKey_data()
+    {
+        QTest::addColumn<QString>("table");
+        QTest::newRow("no key") << "CREATE TABLE loose (a TEXT, b INTEGER)";
+        QTest::newRow("key of two columns") << "CREATE TABLE loose (a TEXT, b INTEGER, PRIMARY KEY (a, b))";
+    }
+
+    void tableWithoutOneKey()
+    {
+        QFETCH(QString, table);
+        EngineRegister reg;
+        if (reg.onServer())
+            QSKIP("a file's own row numbers");
+        reg.execute(table);
+        reg.execute("INSERT INTO loose (a, b) VALUES ('x', 1)");
+        reg.execute("INSERT INTO loose (a, b) VALUES ('y', 2)");
+        Recordset recordset;
+        recordset.open("SELECT a, b FROM loose ORDER BY b", reg.connection(), CursorTypeEnum::Static,
+            LockTypeEnum::Optimistic);
+        QVERIFY(recordset.isUpdatable());
+        recordset.moveLast();
+        recordset.fields("a").setValue(QStringLiteral("z"));
+        recordset.update();
+        recordset.moveFirst();
+        recordset.deleteRecord();
+        QCOMPARE(reg.joined("SELECT a || b FROM loose ORDER BY b"), QString("z2"));
+    }
+
     // The work given to a batch runs in its transaction, on its connection: the first ahead
     // of every row, the second once they are all written. Either refusing writes nothing and
     // keeps the rows pending.
