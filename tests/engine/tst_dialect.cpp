@@ -233,19 +233,19 @@ private Q_SLOTS:
         QTest::newRow("order before FOR UPDATE")
             << "SELECT RastasID FROM tbl_Documents ORDER BY KategID DESC FOR UPDATE"
             << "SELECT \"RastasID\" FROM \"tbl_Documents\" ORDER BY \"KategID\" DESC NULLS LAST FOR UPDATE";
-        // A set operation after an ORDER BY ends its last term, whatever the server makes of it.
-        QTest::newRow("order before UNION")
-            << "SELECT RastasID FROM tbl_Documents ORDER BY KategID UNION SELECT 1"
-            << "SELECT \"RastasID\" FROM \"tbl_Documents\" ORDER BY \"KategID\" "
-               "NULLS FIRST UNION SELECT 1";
-        QTest::newRow("order before EXCEPT")
-            << "SELECT RastasID FROM tbl_Documents ORDER BY KategID EXCEPT SELECT 1"
-            << "SELECT \"RastasID\" FROM \"tbl_Documents\" ORDER BY \"KategID\" "
-               "NULLS FIRST EXCEPT SELECT 1";
-        QTest::newRow("order before INTERSECT")
-            << "SELECT RastasID FROM tbl_Documents ORDER BY KategID INTERSECT SELECT 1"
-            << "SELECT \"RastasID\" FROM \"tbl_Documents\" ORDER BY \"KategID\" NULLS FIRST INTERSECT SELECT "
-               "1";
+        // A set operation after an ORDER BY ends its last term and the ORDER BY, whatever the
+        // server makes of it: the names listed after it are no terms to order by.
+        for (const char* operation : {"UNION", "EXCEPT", "INTERSECT"}) {
+            QTest::addRow("order before %s", operation)
+                << QStringLiteral(
+                       "SELECT RastasID FROM tbl_Documents ORDER BY KategID %1 SELECT 1, FullName, 2 "
+                       "FROM tbl_Contacts")
+                       .arg(operation)
+                << QStringLiteral(
+                       "SELECT \"RastasID\" FROM \"tbl_Documents\" ORDER BY \"KategID\" NULLS FIRST %1 "
+                       "SELECT 1, \"FullName\", 2 FROM \"tbl_Contacts\"")
+                       .arg(operation);
+        }
         QTest::newRow("a connection's own tables")
             << "INSERT INTO temp.found (RastasID) SELECT RastasID FROM tbl_Documents WHERE RastasID IN "
                "(SELECT RastasID FROM TEMP.found) AND temp = 1"

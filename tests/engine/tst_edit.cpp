@@ -366,6 +366,18 @@ private Q_SLOTS:
         QCOMPARE(description, QString("Operation is not allowed when the object is closed."));
         QCOMPARE(recordset.editMode(), int(EditModeEnum::InProgress));
         QCOMPARE(errorOf([&] { recordset.requery(); }), 3704L);
+
+        // Opening on a closed connection changes nothing: the filter set ahead waits for the
+        // open that succeeds.
+        Recordset later;
+        later.setFilter(QStringLiteral("FullName = 'Saulius'"));
+        QCOMPARE(errorOf([&] { later.open(Contacts, reg.connection()); }, &description), 3704L);
+        QCOMPARE(description, QString("Operation is not allowed when the object is closed."));
+        QVERIFY(!later.isOpen());
+        QCOMPARE(later.source(), QString());
+        reg.connection().open();
+        later.open(Contacts, reg.connection());
+        QCOMPARE(later.recordCount(), 1);
     }
 
     void readOnlyRecordsets()

@@ -40,6 +40,7 @@ private Q_SLOTS:
         const Field chapterField = parent.fields("ChildCMD");
         QVERIFY(chapterField.isChapter());
         QVERIFY(!parent.fields("RastasID").isChapter());
+        QVERIFY(!chapterField.isChanged());
         Recordset* child = chapterField.chapter();
         QVERIFY(child);
         QCOMPARE(parent.chapter("childcmd"), child);
@@ -417,6 +418,7 @@ private Q_SLOTS:
         QFETCH(QString, command);
         QFETCH(QString, says);
         EngineRegister reg;
+        reg.fillSmall();
         Recordset recordset;
         try {
             recordset.open(command, reg.connection());
