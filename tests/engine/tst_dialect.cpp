@@ -317,6 +317,8 @@ private Q_SLOTS:
         EngineRegister reg;
         QCOMPARE(reg.scalar(QStringLiteral("SELECT '50%' LIKE '50!%' ESCAPE '!'")).toInt(), 1);
         QCOMPARE(reg.scalar(QStringLiteral("SELECT '500' LIKE '50!%' ESCAPE '!'")).toInt(), 0);
+        // With an escape, letters fold as they do without one.
+        QCOMPARE(reg.scalar(QStringLiteral("SELECT 'šilas 50%' LIKE 'ŠILAS 50!%' ESCAPE '!'")).toInt(), 1);
         QCOMPARE(reg.scalar(QStringLiteral("SELECT '' LIKE '%'")).toInt(), 1);
         QVERIFY(isNull(reg.scalar(QStringLiteral("SELECT NULL LIKE '%'"))));
     }
