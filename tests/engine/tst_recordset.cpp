@@ -54,7 +54,9 @@ enum class Refused {
     DeleteAll,
     ResyncGroup,
     ResyncWhat,
-    NoProvider
+    NoProvider,
+    ClosedRequery,
+    ClosedField
 };
 
 } // namespace
@@ -341,6 +343,9 @@ private Q_SLOTS:
             << int(Refused::ResyncGroup) << "Resync reads the current record or all records again.";
         QTest::newRow("a resync of nothing")
             << int(Refused::ResyncWhat) << "Resync reads the underlying values or all values again.";
+        const QString closed = "Operation is not allowed when the object is closed.";
+        QTest::newRow("a requery once closed") << int(Refused::ClosedRequery) << closed;
+        QTest::newRow("a field kept past the close") << int(Refused::ClosedField) << closed;
         QTest::newRow("an unknown provider")
             << int(Refused::NoProvider)
             << QString("Provider cannot be found: 'Other.Provider'. Set the Provider option to %1 or %2.")
@@ -428,6 +433,16 @@ private Q_SLOTS:
             case Refused::ResyncWhat:
                 recordset.resync(AffectEnum::All, 0);
                 break;
+            case Refused::ClosedRequery:
+                recordset.close();
+                recordset.requery();
+                break;
+            case Refused::ClosedField: {
+                const Field kept = recordset.fields("RastasID");
+                recordset.close();
+                kept.value();
+                break;
+            }
             case Refused::NoProvider:
                 if (reg.onServer())
                     QSKIP("A server's location is opened whatever the provider.");
@@ -438,6 +453,8 @@ private Q_SLOTS:
         } catch (const Error& error) {
             QCOMPARE(error.description(), message);
         }
+        if (refused == Refused::ClosedRequery)
+            QVERIFY(!recordset.isOpen());
     }
 };
 
