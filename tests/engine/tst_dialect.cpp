@@ -146,6 +146,14 @@ private Q_SLOTS:
                "t.DokSubKategorija"
             << "SELECT a FROM t ORDER BY tbl_Document_Categories.DokKategorija COLLATE NAMEFOLD DESC, "
                "\"CompanyName\" COLLATE NAMEFOLD, x, t.DokSubKategorija COLLATE NAMEFOLD";
+        QTest::newRow("name terms before each ending of a term")
+            << "SELECT a FROM t WHERE k IN (SELECT k FROM c ORDER BY DokKategorija) ORDER BY FullName ASC, "
+               "CompanyName NULLS LAST, DokSubKategorija LIMIT 2"
+            << "SELECT a FROM t WHERE k IN (SELECT k FROM c ORDER BY DokKategorija COLLATE NAMEFOLD) ORDER "
+               "BY "
+               "FullName COLLATE NAMEFOLD ASC, CompanyName COLLATE NAMEFOLD NULLS LAST, DokSubKategorija "
+               "COLLATE "
+               "NAMEFOLD LIMIT 2";
         QTest::newRow("names compared") << "DELETE t.* FROM t WHERE FullName >= 'A' AND 'B' > t.FullName AND "
                                            "DokKategorija BETWEEN 'a' AND 'b'"
                                         << "DELETE FROM t WHERE FullName COLLATE NAMEFOLD >= 'A' AND 'B' > "
