@@ -455,6 +455,29 @@ private Q_SLOTS:
         recordset.setFilter(criteria);
         QCOMPARE(rows(recordset, {QStringLiteral("RastasID")}).join(u','), expected);
     }
+
+    // A whole number read is an int while it fits one, and 64 bits past either end.
+    void wholeNumbersAtTheLimitsOfInt_data()
+    {
+        QTest::addColumn<qint64>("number");
+        QTest::addColumn<int>("type");
+        QTest::newRow("below the least") << Q_INT64_C(-2147483649) << int(QMetaType::LongLong);
+        QTest::newRow("the least") << Q_INT64_C(-2147483648) << int(QMetaType::Int);
+        QTest::newRow("the greatest") << Q_INT64_C(2147483647) << int(QMetaType::Int);
+        QTest::newRow("above the greatest") << Q_INT64_C(2147483648) << int(QMetaType::LongLong);
+    }
+
+    void wholeNumbersAtTheLimitsOfInt()
+    {
+        QFETCH(qint64, number);
+        QFETCH(int, type);
+        EngineRegister reg;
+        if (reg.onServer())
+            QSKIP("a server gives each number the type of its column");
+        const QVariant read = reg.scalar(QStringLiteral("SELECT ") + QString::number(number));
+        QCOMPARE(read.typeId(), type);
+        QCOMPARE(read.toLongLong(), number);
+    }
 };
 
 QTEST_GUILESS_MAIN(BoundariesTest)

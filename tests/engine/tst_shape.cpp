@@ -314,6 +314,60 @@ private Q_SLOTS:
         QCOMPARE(seen, QStringList({"Petras=3:1,2,5", "Šarūnas=1:4"}));
     }
 
+    // A group's parent row holds its key as read, whatever its kind.
+    void groupKeysOfEveryKind_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QString>("second");
+        QTest::addColumn<QVariant>("key");
+        QTest::newRow("whole number") << "INTEGER"
+                                      << "5"
+                                      << "6" << QVariant(5);
+        QTest::newRow("real") << "REAL"
+                              << "2.5"
+                              << "3.5" << QVariant(2.5);
+        QTest::newRow("text") << "TEXT"
+                              << "'ąžuolas'"
+                              << "'b'" << QVariant(QStringLiteral("ąžuolas"));
+        QTest::newRow("date") << "DATE"
+                              << "'2024-03-05'"
+                              << "'2024-03-06'" << QVariant(QDate(2024, 3, 5));
+        QTest::newRow("date and time")
+            << "DATETIME"
+            << "'2024-03-05 14:30:00'"
+            << "'2024-03-05 14:31:00'" << QVariant(QDateTime(QDate(2024, 3, 5), QTime(14, 30)));
+        QTest::newRow("bytes") << "BLOB"
+                               << "x'00ff41'"
+                               << "x'00'"
+                               << QVariant(QByteArray("\0\xff"
+                                                      "A",
+                                      3));
+    }
+
+    void groupKeysOfEveryKind()
+    {
+        QFETCH(QString, type);
+        QFETCH(QString, first);
+        QFETCH(QString, second);
+        QFETCH(QVariant, key);
+        EngineRegister reg;
+        if (reg.onServer())
+            QSKIP("the file's own column types");
+        reg.execute("CREATE TABLE kinds (id INTEGER PRIMARY KEY, k " + type + ", v INTEGER)");
+        reg.execute(
+            QStringLiteral("INSERT INTO kinds (k, v) VALUES (%1, 1), (%2, 2), (%1, 4)").arg(first, second));
+        Recordset groups;
+        groups.open("SHAPE {SELECT k, v FROM kinds ORDER BY id} AS c COMPUTE c, SUM(c.v) AS S BY 'k'",
+            reg.connection());
+        QCOMPARE(groups.recordCount(), 2);
+        const QVariant read = groups.collect("k");
+        QCOMPARE(read.typeId(), key.typeId());
+        QCOMPARE(read, key);
+        QCOMPARE(groups.collect("S").toInt(), 5);
+        QCOMPARE(groups.chapter("c")->recordCount(), 2);
+    }
+
     // Groups in order of first appearance, Null grouping with Null, from a RIGHT JOIN.
     void computeWithNulls()
     {
