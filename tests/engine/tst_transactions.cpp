@@ -99,6 +99,24 @@ private Q_SLOTS:
         QCOMPARE(rows(contacts, {"FullName"}), QStringList({"kept"}));
     }
 
+    // Only the connection's own temporary tables are written without a note of who writes: a
+    // table of the register whose name starts with "temp" is written with one.
+    void registerTableNamedLikeTempCarriesWhoWrites()
+    {
+        EngineRegister reg;
+        if (reg.onServer())
+            QSKIP("A server notes who writes in its session, not in a table.");
+        reg.execute("CREATE TABLE templates (a INTEGER)");
+        reg.execute("CREATE TABLE written_by (who TEXT)");
+        reg.execute("CREATE TRIGGER noted AFTER INSERT ON templates BEGIN INSERT INTO written_by (who) "
+                    "SELECT Who FROM tbl_Write_Context; END");
+        const QString user = WriteContext::user();
+        const auto restore = qScopeGuard([&] { WriteContext::setUser(user); });
+        WriteContext::setUser("somebody");
+        reg.execute("INSERT INTO templates (a) VALUES (1)");
+        QCOMPARE(reg.joined("SELECT who FROM written_by"), QString("somebody"));
+    }
+
     // A commit that finds its transaction ended already throws, keeps nothing of it, and
     // leaves no transaction open.
     void commitThatDidNotCommitIsAnError()
