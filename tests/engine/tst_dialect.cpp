@@ -154,6 +154,12 @@ private Q_SLOTS:
                "FullName COLLATE NAMEFOLD ASC, CompanyName COLLATE NAMEFOLD NULLS LAST, DokSubKategorija "
                "COLLATE "
                "NAMEFOLD LIMIT 2";
+        // A name that qualifies another, or has its own collation, is left as it is.
+        QTest::newRow("name as a qualifier or collated")
+            << "SELECT 1 FROM c AS FullName WHERE 'B' > FullName.FullName AND 'C' > FullName COLLATE NOCASE"
+            << "SELECT 1 FROM c AS FullName WHERE 'B' > FullName.FullName COLLATE NAMEFOLD AND 'C' > "
+               "FullName "
+               "COLLATE NOCASE";
         QTest::newRow("names compared") << "DELETE t.* FROM t WHERE FullName >= 'A' AND 'B' > t.FullName AND "
                                            "DokKategorija BETWEEN 'a' AND 'b'"
                                         << "DELETE FROM t WHERE FullName COLLATE NAMEFOLD >= 'A' AND 'B' > "
@@ -235,6 +241,12 @@ private Q_SLOTS:
                "\"T\" FROM \"tbl_Documents\" ORDER BY \"KategID\" NULLS FIRST, \"DokRegistracData\" DESC "
                "NULLS LAST, "
                "\"RastasID\" NULLS LAST, lower(\"DokAntraste\") ASC NULLS FIRST";
+        QTest::newRow("order ended by a parenthesis")
+            << "SELECT RastasID FROM tbl_Documents WHERE KategID IN (SELECT KategID FROM tbl_Documents ORDER "
+               "BY "
+               "KategID DESC)"
+            << "SELECT \"RastasID\" FROM \"tbl_Documents\" WHERE \"KategID\" IN (SELECT \"KategID\" FROM "
+               "\"tbl_Documents\" ORDER BY \"KategID\" DESC NULLS LAST)";
         QTest::newRow("order before OFFSET")
             << "SELECT RastasID FROM tbl_Documents ORDER BY KategID OFFSET 2"
             << "SELECT \"RastasID\" FROM \"tbl_Documents\" ORDER BY \"KategID\" NULLS FIRST OFFSET 2";

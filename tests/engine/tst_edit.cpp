@@ -212,6 +212,33 @@ private Q_SLOTS:
         QCOMPARE(isNull(recordset.collect("DokRegistracData")), isNull(stored));
     }
 
+    // A date another program wrote in another of its text forms is found as the moment it
+    // names when the row is written back over it.
+    void dateStoredInAnotherForm_data()
+    {
+        QTest::addColumn<QString>("storedText");
+        QTest::newRow("T before the time") << "2024-03-05T08:09:10";
+        QTest::newRow("milliseconds") << "2024-03-05 08:09:10.000";
+        QTest::newRow("a day as a moment") << "2024-03-05 00:00:00";
+    }
+
+    void dateStoredInAnotherForm()
+    {
+        QFETCH(QString, storedText);
+        EngineRegister reg;
+        if (reg.onServer())
+            QSKIP("a server stores a date in one form");
+        reg.fillSmall();
+        reg.execute("UPDATE tbl_Documents SET DokRegistracData = '" + storedText + "' WHERE RastasID=1");
+        Recordset recordset;
+        recordset.open("SELECT RastasID, DokRegistracData FROM tbl_Documents WHERE RastasID=1",
+            reg.connection(), CursorTypeEnum::Static, LockTypeEnum::Optimistic);
+        recordset.fields("DokRegistracData").setValue(QDate(2024, 4, 1));
+        QCOMPARE(errorOf([&] { recordset.update(); }), 0L);
+        QCOMPARE(reg.scalar("SELECT DokRegistracData FROM tbl_Documents WHERE RastasID=1").toString(),
+            QString("2024-04-01"));
+    }
+
     // A date typed in the application's short form, day first, reads as that day.
     void dateInTheLocaleForm()
     {
