@@ -115,6 +115,26 @@ private Q_SLOTS:
         QVERIFY(!connection.isOpen());
     }
 
+    void serverLocations_data()
+    {
+        QTest::addColumn<QString>("location");
+        QTest::addColumn<bool>("server");
+        QTest::newRow("postgresql") << "postgresql://host/register" << true;
+        QTest::newRow("postgres") << "postgres://host/register" << true;
+        QTest::newRow("any case, blanks around") << "  PostgreS://host/register " << true;
+        QTest::newRow("a file") << "/home/ona/Kartella.mdb" << false;
+        QTest::newRow("a file named like one") << "postgres.mdb" << false;
+        QTest::newRow("one slash short") << "postgres:/host/register" << false;
+        QTest::newRow("one slash short, long name") << "postgresql:/host/register" << false;
+    }
+
+    void serverLocations()
+    {
+        QFETCH(QString, location);
+        QFETCH(bool, server);
+        QCOMPARE(isServerLocation(location), server);
+    }
+
     void openFailures_data()
     {
         QTest::addColumn<QString>("connectionString");

@@ -57,6 +57,15 @@ private Q_SLOTS:
                                 << QStringList {"S:'O''Brien'=O'Brien", "_: ", "Q:\"a\"\"b\"=a\"b",
                                        "_: ", "Q:`c`=c", "_: ", "Q:[d e]=d e", "_: ", "S:'open=open"};
         QTest::newRow("a quote alone") << "x '" << 3 << QStringList {"W:x", "_: ", "S:'="};
+        // Only quotes and double quotes stand for themselves doubled: a bracket or a backtick ends
+        // its name at once.
+        QTest::newRow("closing marks doubled") << "[a]]`b``" << 8
+                                               << QStringList {
+                                                      "Q:[a]=a",
+                                                      "P:]",
+                                                      "Q:`b`=b",
+                                                      "Q:`=",
+                                                  };
         QTest::newRow("dates") << "#1/2/2024# # 'a#' #\n#" << 21
                                << QStringList {"D:#1/2/2024#", "_: ", "P:#", "_: ", "S:'a#'=a#", "_: ", "P:#",
                                       "_:\n", "P:#"};

@@ -134,6 +134,15 @@ private Q_SLOTS:
         QCOMPARE(recordset.collect("FullName").toString(), QString("Šarūnas"));
         recordset.moveFirst();
         QCOMPARE(recordset.collect("FullName").toString(), QString("Petras"));
+
+        // A row added right after a delete leaves the deleted one behind.
+        recordset.moveNext();
+        recordset.deleteRecord();
+        recordset.addNew();
+        recordset.fields("FullName").setValue(QStringLiteral("Ona"));
+        recordset.update();
+        recordset.moveFirst();
+        QCOMPARE(rows(recordset, {"FullName"}), QStringList({"Petras", "šilas", "Saulius", "Jonas", "Ona"}));
     }
 
     void batchDeleteAndCancelBatch()
@@ -149,7 +158,10 @@ private Q_SLOTS:
         recordset.addNew();
         recordset.fields("FullName").setValue(QStringLiteral("Naujas"));
         QCOMPARE(recordset.recordCount(), 5);
+        // Views follow the current row the cancel leaves.
+        QSignalSpy moved(&recordset, &Recordset::moveComplete);
         recordset.cancelBatch();
+        QCOMPARE(moved.count(), 1);
         QVERIFY(!recordset.hasPendingChanges());
         QCOMPARE(recordset.recordCount(), 5);
         recordset.moveFirst();

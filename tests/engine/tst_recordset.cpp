@@ -241,6 +241,12 @@ private Q_SLOTS:
         recordset.setFilter(QString());
         QCOMPARE(recordset.recordCount(), 8);
         QCOMPARE(recordset.absolutePosition(), 1);
+
+        // A filter group replaces the criteria.
+        recordset.setFilter(criteria);
+        recordset.setFilterGroup(FilterGroupEnum::None);
+        QCOMPARE(recordset.filter(), QString());
+        QCOMPARE(recordset.recordCount(), 8);
     }
 
     void badFilter()

@@ -508,9 +508,9 @@ void Recordset::setFilter(const QString& criteria)
 {
     d->filterGroup = FilterGroupEnum::None;
     if (!d->open) {
-        // Kept for the opening, which reads only the rows of a key filter.
+        // Kept for the opening, which reads only the rows of a key filter. A closed recordset
+        // holds no read filter to drop.
         d->filterText = criteria;
-        d->filter.reset();
         return;
     }
     d->commitEdits();
