@@ -265,6 +265,16 @@ private Q_SLOTS:
             QStringLiteral("Their title"));
         QCOMPARE(reg.joined(QStringLiteral("SELECT DokPastaba FROM tbl_Documents WHERE RastasID = 1")),
             QStringLiteral("my note"));
+
+        // An edit in progress is dropped the same way.
+        Recordset editing;
+        editing.open(QStringLiteral("SELECT RastasID, DokAntraste FROM tbl_Documents WHERE RastasID = 1"),
+            reg.connection(), CursorTypeEnum::Static, LockTypeEnum::Optimistic);
+        editing.fields(QStringLiteral("DokAntraste")).setValue(QStringLiteral("Typed"));
+        editing.resync(AffectEnum::Current, ResyncEnum::AllValues);
+        QCOMPARE(editing.editMode(), int(EditModeEnum::None));
+        QCOMPARE(
+            editing.fields(QStringLiteral("DokAntraste")).value().toString(), QStringLiteral("Their title"));
     }
 
     // A row another client deleted: changing it reports it gone and changes nothing else;

@@ -126,6 +126,8 @@ private Q_SLOTS:
                                    << "SELECT * FROM \"qry_Phones\"";
         QTest::newRow("semicolon and blanks") << "SELECT 1;  \r\n"
                                               << "SELECT 1";
+        QTest::newRow("semicolons alone") << ";"
+                                          << "";
         QTest::newRow("literal untouched")
             << "UPDATE t SET t.a = 'x #3/1/2024# `q` t.b = 1;' WHERE b = 'DELETE t.* FROM'"
             << "UPDATE t SET a = 'x #3/1/2024# `q` t.b = 1;' WHERE b = 'DELETE t.* FROM'";

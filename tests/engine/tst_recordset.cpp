@@ -56,7 +56,9 @@ enum class Refused {
     ResyncWhat,
     NoProvider,
     ClosedRequery,
-    ClosedField
+    ClosedField,
+    MovePastTheEnd,
+    MoveClosed
 };
 
 } // namespace
@@ -279,6 +281,16 @@ private Q_SLOTS:
         QCOMPARE(ids(recordset), QStringList({"2", "6", "8", "10"}));
         QCOMPARE(changed.count(), 1);
         QVERIFY(moved.count() >= 1);
+
+        // A row this recordset wrote shows what another wrote over it since.
+        Recordset mine;
+        mine.open("SELECT RastasID, DokAntraste FROM tbl_Documents WHERE RastasID=2", reg.connection(),
+            CursorTypeEnum::Static, LockTypeEnum::Optimistic);
+        mine.fields("DokAntraste").setValue("Mine");
+        mine.update();
+        reg.execute("UPDATE tbl_Documents SET DokAntraste = 'Theirs' WHERE RastasID=2");
+        mine.requery();
+        QCOMPARE(mine.collect("DokAntraste").toString(), QString("Theirs"));
     }
 
     // moveComplete tells every change of the current row, and only those.
@@ -352,6 +364,8 @@ private Q_SLOTS:
         const QString closed = "Operation is not allowed when the object is closed.";
         QTest::newRow("a requery once closed") << int(Refused::ClosedRequery) << closed;
         QTest::newRow("a field kept past the close") << int(Refused::ClosedField) << closed;
+        QTest::newRow("a move past the end") << int(Refused::MovePastTheEnd) << current;
+        QTest::newRow("a move once closed") << int(Refused::MoveClosed) << closed;
         QTest::newRow("an unknown provider")
             << int(Refused::NoProvider)
             << QString("Provider cannot be found: 'Other.Provider'. Set the Provider option to %1 or %2.")
@@ -443,6 +457,15 @@ private Q_SLOTS:
                 recordset.close();
                 recordset.requery();
                 break;
+            case Refused::MovePastTheEnd:
+                recordset.moveLast();
+                recordset.moveNext();
+                recordset.move(1);
+                break;
+            case Refused::MoveClosed:
+                recordset.close();
+                recordset.move(-1);
+                break;
             case Refused::ClosedField: {
                 const Field kept = recordset.fields("RastasID");
                 recordset.close();
@@ -459,8 +482,10 @@ private Q_SLOTS:
         } catch (const Error& error) {
             QCOMPARE(error.description(), message);
         }
-        if (refused == Refused::ClosedRequery)
+        if (refused == Refused::ClosedRequery) {
             QVERIFY(!recordset.isOpen());
+            QCOMPARE(recordset.fieldCount(), 0);
+        }
     }
 };
 

@@ -115,6 +115,36 @@ private Q_SLOTS:
         QCOMPARE(rows(*child, {"TicklerText"}), QStringList({"One", "Two"}));
     }
 
+    // A chapter's pending rows are the parent's too; a new first parent row holds its children
+    // back like any other new parent.
+    void pendingChildrenOfTheParent()
+    {
+        EngineRegister reg;
+        reg.fillSmall();
+        Recordset batch;
+        batch.open(NewDocumentShape, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
+        batch.chapter("ChildCMD")->addNew();
+        batch.chapter("ChildCMD")->fields("TicklerText").setValue("Third");
+        batch.chapter("ChildCMD")->update();
+        QVERIFY(batch.hasPendingChanges());
+        batch.updateBatch(AffectEnum::All);
+        QCOMPARE(reminders(reg), QString("1:Call,1:Write,1:Third"));
+
+        Recordset first;
+        first.open(QString(NewDocumentShape).replace("from tbl_Documents}", "from tbl_Documents WHERE 1=0}"),
+            reg.connection(), CursorTypeEnum::Static, LockTypeEnum::Optimistic);
+        QCOMPARE(first.recordCount(), 0);
+        first.addNew();
+        first.fields("DokAntraste").setValue("Pirmas");
+        Recordset* child = first.chapter("ChildCMD");
+        child->addNew();
+        child->fields("TicklerText").setValue("Early");
+        child->update();
+        QCOMPARE(reminders(reg), QString("1:Call,1:Write,1:Third"));
+        first.updateBatch(AffectEnum::All);
+        QCOMPARE(reminders(reg), QString("1:Call,1:Write,1:Third,4:Early"));
+    }
+
     // The contact editor: the new contact is stored first, then its phones go in at once.
     void phonesOfANewContact()
     {

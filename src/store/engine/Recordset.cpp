@@ -92,7 +92,8 @@ void RecordsetData::reset()
     fields.clear();
     dataFields = 0;
     result = QueryResult();
-    rows.clear();
+    // Assigned, not cleared: a closed recordset gives back the memory of its rows too.
+    rows = std::vector<engine::RowState>();
     updatable = false;
     notUpdatableReason.clear();
     schema = TableSchema();
