@@ -477,6 +477,17 @@ private Q_SLOTS:
         const QVariant read = reg.scalar(QStringLiteral("SELECT ") + QString::number(number));
         QCOMPARE(read.typeId(), type);
         QCOMPARE(read.toLongLong(), number);
+
+        // Typed into a whole-number field, the number is kept whole.
+        reg.execute(QStringLiteral("CREATE TABLE numbers (id INTEGER PRIMARY KEY, n INTEGER)"));
+        reg.execute(QStringLiteral("INSERT INTO numbers (n) VALUES (0)"));
+        Recordset recordset;
+        recordset.open(QStringLiteral("SELECT id, n FROM numbers"), reg.connection(), CursorTypeEnum::Static,
+            LockTypeEnum::Optimistic);
+        recordset.fields(QStringLiteral("n")).setValue(QString::number(number));
+        QCOMPARE(recordset.fields(QStringLiteral("n")).value().typeId(), type);
+        recordset.update();
+        QCOMPARE(reg.scalar(QStringLiteral("SELECT n FROM numbers")).toLongLong(), number);
     }
 };
 

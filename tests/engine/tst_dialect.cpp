@@ -233,6 +233,11 @@ private Q_SLOTS:
             << "SELECT 1 FROM tbl_Contacts WHERE FullName Like 'a\\%' AND Title NOT LIKE '%' || Dear || '_'"
             << "SELECT 1 FROM \"tbl_Contacts\" WHERE \"FullName\" ILIKE 'a\\%' ESCAPE '' AND "
                "\"Title\" NOT ILIKE '%' || \"Dear\" || '_' ESCAPE ''";
+        QTest::newRow("like a call and a parenthesis") << "SELECT 1 FROM tbl_Contacts WHERE FullName LIKE "
+                                                          "lower(Title) || '%' AND Dear LIKE ('a' || Title)"
+                                                       << "SELECT 1 FROM \"tbl_Contacts\" WHERE \"FullName\" "
+                                                          "ILIKE lower(\"Title\") || '%' ESCAPE '' AND "
+                                                          "\"Dear\" ILIKE ('a' || \"Title\") ESCAPE ''";
         QTest::newRow("like a qualified name")
             << "SELECT 1 FROM tbl_Contacts WHERE FullName LIKE tbl_Contacts.Title || '%'"
             << "SELECT 1 FROM \"tbl_Contacts\" WHERE \"FullName\" ILIKE \"tbl_Contacts\".\"Title\" || '%' "

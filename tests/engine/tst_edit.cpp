@@ -94,6 +94,10 @@ private Q_SLOTS:
             recordset.open(Contacts, reg.connection(), CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
             recordset.fields("FullName").setValue(QStringLiteral("Pakeistas"));
             recordset.moveNext();
+            recordset.fields("FullName").setValue(QStringLiteral("Nebaigtas"));
+            QCOMPARE(recordset.editMode(), int(EditModeEnum::InProgress));
+            recordset.close();
+            QCOMPARE(recordset.editMode(), int(EditModeEnum::None));
         }
         QCOMPARE(names(reg), QString("Petras,Ąžuolas,Šarūnas,šilas,Saulius"));
     }
