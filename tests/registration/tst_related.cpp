@@ -5,6 +5,7 @@
 #include "explorer/MainWindow.h"
 #include "options/OptionStore.h"
 #include "registration/RelatedDocumentDialog.h"
+#include "store/engine/Recordset.h"
 
 #include <QAction>
 #include <QApplication>
@@ -32,6 +33,12 @@ private Q_SLOTS:
         RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Creating);
         showActive(dialog);
         QCOMPARE(dialog.objectName(), "frmRelated");
+        QVERIFY(dialog.isModal());
+        QVERIFY(dialog.findChild<Recordset*>("Adodc1"));
+        QVERIFY(dialog.findChild<Recordset*>("datPrimaryRS"));
+        // The keys are kept in boxes nobody sees.
+        QVERIFY(box(dialog, 0)->isHidden());
+        QVERIFY(box(dialog, 2)->isHidden());
         QCOMPARE(dialog.findChild<QLineEdit*>("txtParent")->text(), "Sutartis");
         QTest::keyClicks(dialog.findChild<QPlainTextEdit*>("txtFields_1"), "Receipt");
         fx.prompter.answerFile(scan);
@@ -143,6 +150,26 @@ private Q_SLOTS:
         QCOMPARE(fx.related("SubDocDescript", fx.annex).toString(), "Annex 2");
         QCOMPARE(fx.related("RastasID", fx.annex).toInt(), fx.lease);
         QCOMPARE(fx.related("SubRastoKelias", fx.annex).toString(), fx.annexFile);
+    }
+
+    // A related document another user deleted while it was open here: OK tells so and keeps
+    // the dialog open.
+    void relatedDeletedWhileEdited()
+    {
+        Fixture fx;
+        fx.selectRelated();
+        RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Editing);
+        showActive(dialog);
+        QTest::keyClicks(dialog.findChild<QPlainTextEdit*>("txtFields_1"), " 2");
+        fx.reg.exec("DELETE FROM tbl_Sub_Documents WHERE SubRastasID=" + QString::number(fx.annex));
+        fx.prompter.answer(MsgBoxResult::Ok);
+        click(dialog, "cmdOK");
+        const auto prompts = fx.prompter.take();
+        QCOMPARE(prompts.size(), 1);
+        QCOMPARE(prompts.first().text,
+            "This related document was deleted by another user; your changes were not saved.");
+        QCOMPARE(prompts.first().title, "Description of Related Document");
+        QVERIFY(dialog.isVisible());
     }
 
     // Files dropped on the related list open New Related Document one after another, each
