@@ -48,6 +48,14 @@ private Q_SLOTS:
         CopyFileDialog dialog;
         QVERIFY(dialog.hasFile());
         showActive(dialog);
+        QCOMPARE(dialog.objectName(), "frmCopyFile");
+        QVERIFY(dialog.isModal());
+        // Grown, the window keeps its fields at the top and its buttons at the bottom right.
+        dialog.resize(dialog.width(), 600);
+        dialog.layout()->activate();
+        QVERIFY(dialog.findChild<QLineEdit*>("txtDestination")->geometry().bottom() < 300);
+        QVERIFY(dialog.findChild<QPushButton*>("cmdClose")->geometry().top() > 500);
+        QVERIFY(dialog.findChild<QPushButton*>("cmdCopy")->geometry().left() > dialog.width() / 2);
         QCOMPARE(dialog.findChild<QLineEdit*>("txtDocument")->text(), related ? "Annex" : "Sutartis");
         QCOMPARE(dialog.findChild<QLabel*>("txtPathNow")->text(), source);
         QCOMPARE(dialog.findChild<QLabel*>("txtFileSize")->text(), QString::number(content.size()));
