@@ -166,7 +166,17 @@ void RecordsetData::openShape(const QString& text)
             ChapterInfo& chapter = chapterAt(i, append.chapter, append.sql);
             RecordsetData& child = *chapter.recordset->d;
             child.restriction = childRestriction(*this, append);
-            child.runQuery();
+            try {
+                child.runQuery();
+            } catch (const Error&) {
+                // A server refuses a narrowed select by a child field the select doesn't have
+                // (a file reads the unknown quoted name as text): read the children whole, so
+                // that the relation below names what is wrong.
+                if (child.restriction.isEmpty())
+                    throw;
+                child.restriction.clear();
+                child.runQuery();
+            }
             for (const ShapeCommand::Relation& relation : append.relations) {
                 const int parentField = fieldIndex(relation.parentField);
                 const int childField = child.fieldIndex(relation.childField);
