@@ -47,10 +47,8 @@ void HistoryTab::showFileVersions(qint64 documentId, const QString& currentPath)
 {
     if (m_versions || documentId <= 0)
         return;
-    auto* caption = new QLabel(tr("Earlier &versions of the file:"), this);
+    // The list carries its own caption.
     m_versions = new VersionList(documentId, currentPath, this);
-    caption->setBuddy(m_versions->list());
-    m_layout->addWidget(caption);
     m_layout->addWidget(m_versions);
     // A version made current is a change of the document too.
     connect(m_versions, &VersionList::restored, this, &HistoryTab::refresh);

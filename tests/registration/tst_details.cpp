@@ -1,8 +1,9 @@
 #include "RegisterFixture.h"
-#include "harness/Lithuanian.h"
+#include "ShownTexts.h"
 #include "explorer/DocumentFills.h"
 #include "explorer/ListModel.h"
 #include "explorer/MainWindow.h"
+#include "harness/Lithuanian.h"
 #include "registration/DocumentDetailsDialog.h"
 #include "support/RecordsetModel.h"
 
@@ -37,6 +38,23 @@ private Q_SLOTS:
         DocumentDetailsDialog dialog;
         showActive(dialog);
         QCOMPARE(dialog.windowTitle(), "Sutartis Description");
+        QCOMPARE(dialog.objectName(), "frmNew");
+        // Every caption, tooltip and spoken name, as written.
+        QCOMPARE(shownTexts(dialog),
+            QStringList({"Sutartis Description", "SSTab1: General | Tickler | Notes | History |  | ",
+                "lstHistory:  | Changes", ": &Changes: |  | ", ": &Earlier versions of the file: |  | ",
+                "cmdOpenVersion: &Open |  | ", "cmdRestoreVersion: &Restore |  | ", "txtFields_12:  | Notes",
+                "grdTickler:  | Reminders", "fraDateIndex: Date, Index |  | ", ": Send/Receive Date: |  | ",
+                ": Registration Date: |  | ", ": Registration Index: |  | ", "fraCategory: Category |  | ",
+                "cmbCategory: Category of Document | Category",
+                "cmbSubCategory: SubCategory of Document | Subcategory", "fraDirection: Direction |  | ",
+                "Option_1: Inner |  | ", "Option_2: Outgoing |  | ", "Option_3: Incoming |  | ",
+                "Option_4: Other |  | ", ": Description: |  | ",
+                "txtFields_7: Short Description of Document | ", ": Sender/Receiver: |  | ",
+                ": Location: |  | ", "txtFields_14: Location of File | ",
+                "txtFileText: Whether the text of the file was read for the search | ",
+                ": Text of the file: |  | ", "cmdButton_0: OK |  | ", "cmdButton_1: Cancel |  | ",
+                "cmdButton_2: &Apply |  | "}));
         QCOMPARE(box(dialog, 7)->text(), "Sutartis");
         QCOMPARE(box(dialog, 14)->text(), fx.leaseFile);
         QCOMPARE(box(dialog, 3)->text(), "AGR-1");

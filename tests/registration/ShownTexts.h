@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QCalendarWidget>
+#include <QGroupBox>
+#include <QLabel>
+#include <QStringList>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QWidget>
+
+namespace kartella::test {
+
+// The words of a window, one line each, in the order of its children: its title, then each
+// control's name with its caption, tooltip and accessible name. A label counts when it
+// captions a field (its buddy); labels that show values change with the data. Qt's own parts
+// (a calendar's buttons, a tab bar's arrows) are left out.
+inline QStringList shownTexts(const QWidget& window)
+{
+    const auto qtsOwn = [&window](const QWidget* widget) {
+        if (widget->objectName().startsWith(QStringLiteral("qt_")))
+            return true;
+        for (const QWidget* up = widget->parentWidget(); up && up != &window; up = up->parentWidget()) {
+            if (qobject_cast<const QCalendarWidget*>(up) || qobject_cast<const QTabBar*>(up))
+                return true;
+        }
+        return false;
+    };
+    QStringList texts {window.windowTitle()};
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        if (qtsOwn(widget))
+            continue;
+        QStringList captions;
+        if (const auto* label = qobject_cast<const QLabel*>(widget)) {
+            if (label->buddy() == nullptr)
+                continue;
+            captions << label->text();
+        } else if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
+            captions << button->text();
+        } else if (const auto* group = qobject_cast<const QGroupBox*>(widget)) {
+            captions << group->title();
+        } else if (const auto* tabs = qobject_cast<const QTabWidget*>(widget)) {
+            for (int i = 0; i < tabs->count(); ++i)
+                captions << tabs->tabText(i);
+        }
+        captions << widget->toolTip() << widget->accessibleName();
+        if (captions.join(QString()).trimmed().isEmpty())
+            continue;
+        texts << widget->objectName() + QStringLiteral(": ") + captions.join(QStringLiteral(" | "));
+    }
+    return texts;
+}
+
+} // namespace kartella::test
