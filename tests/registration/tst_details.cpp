@@ -39,6 +39,9 @@ private Q_SLOTS:
         showActive(dialog);
         QCOMPARE(dialog.windowTitle(), "Sutartis Description");
         QCOMPARE(dialog.objectName(), "frmNew");
+        const auto* ok = dialog.findChild<QPushButton*>("cmdButton_0");
+        for (const char* button : {"cmdButton_1", "cmdButton_2"})
+            QCOMPARE(dialog.findChild<QPushButton*>(button)->geometry().top(), ok->geometry().top());
         // Every caption, tooltip and spoken name, as written.
         QCOMPARE(shownTexts(dialog),
             QStringList({"Sutartis Description", "SSTab1: General | Tickler | Notes | History |  | ",
