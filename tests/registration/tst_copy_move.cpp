@@ -1,4 +1,5 @@
 #include "RegisterFixture.h"
+#include "ShownTexts.h"
 #include "explorer/DocumentFills.h"
 #include "explorer/ListModel.h"
 #include "explorer/MainWindow.h"
@@ -49,13 +50,18 @@ private Q_SLOTS:
         QVERIFY(dialog.hasFile());
         showActive(dialog);
         QCOMPARE(dialog.objectName(), "frmCopyFile");
+        QCOMPARE(shownTexts(dialog),
+            QStringList({"Copy/Move File", "txtDestination:  | Destination folder",
+                "cmdDestFolder: Destination |  | ", "cmdCopy: Copy |  | ", "cmdMove: Move |  | ",
+                "cmdClose: Close |  | ", ": Document Description: |  | ", ": Current Location: |  | ",
+                ": Size: |  | ", ": Date: |  | "}));
         QVERIFY(dialog.isModal());
         // Grown, the window keeps its fields at the top and its buttons at the bottom right.
         dialog.resize(dialog.width(), 600);
         dialog.layout()->activate();
         QVERIFY(dialog.findChild<QLineEdit*>("txtDestination")->geometry().bottom() < 300);
         QVERIFY(dialog.findChild<QPushButton*>("cmdClose")->geometry().top() > 500);
-        QVERIFY(dialog.findChild<QPushButton*>("cmdCopy")->geometry().left() > dialog.width() / 2);
+        QVERIFY(dialog.findChild<QPushButton*>("cmdCopy")->geometry().left() > dialog.width() / 4);
         QCOMPARE(dialog.findChild<QLineEdit*>("txtDocument")->text(), related ? "Annex" : "Sutartis");
         QCOMPARE(dialog.findChild<QLabel*>("txtPathNow")->text(), source);
         QCOMPARE(dialog.findChild<QLabel*>("txtFileSize")->text(), QString::number(content.size()));

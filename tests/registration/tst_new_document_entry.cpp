@@ -1,7 +1,8 @@
 #include "NewDocumentFixture.h"
-#include "harness/Lithuanian.h"
+#include "ShownTexts.h"
 #include "explorer/ExplorerList.h"
 #include "explorer/MainWindow.h"
+#include "harness/Lithuanian.h"
 #include "options/OptionStore.h"
 
 #include <QApplication>
@@ -183,6 +184,24 @@ private Q_SLOTS:
 
     // Enter moves on from a box as Tab does, from the Notes box too, without a line end; Tab
     // in the Notes box moves on and types no tab.
+    // Every caption, tooltip and spoken name of the window, as written.
+    void wordsOfTheWindow()
+    {
+        Fixture fx;
+        Dialog d;
+        QCOMPARE(shownTexts(d.dialog),
+            QStringList({"New Document", "SSTab1: General | Tickler | Notes |  | ", "txtFields_6:  | Notes",
+                "grdTickler:  | Reminders", "fraDateIndex: Date, Index |  | ", ": Send/Receive Date: |  | ",
+                ": Registration Date: |  | ", ": Registration Index: |  | ", "fraCategory: Category |  | ",
+                "cmbCategory:  | Category", "cmbSubCategory:  | Subcategory", "fraDirection: Direction |  | ",
+                "Option_1: Inner |  | ", "Option_2: Outgoing |  | ", "Option_3: Incoming |  | ",
+                "Option_4: Other |  | ", ": Description: |  | ", ": Sender/Receiver: |  | ",
+                ": Location: |  | ", "cmdOK: OK |  | ", "cmdCancel: Cancel |  | ",
+                "fraCreateWith: Create With |  | ", "cmdWord: &Word |  | ", "cmdExcel: &Excel |  | ",
+                "cmdPower: &PowerPoint |  | ", "cmdAddExisting: &Add Existing |  | ",
+                "cmdScan: &Scan |  | "}));
+    }
+
     void enterActsAsTab()
     {
         Fixture fx;

@@ -1,4 +1,5 @@
 #include "RegisterFixture.h"
+#include "ShownTexts.h"
 #include "explorer/DocumentFills.h"
 #include "explorer/ExplorerList.h"
 #include "explorer/ListModel.h"
@@ -33,6 +34,14 @@ private Q_SLOTS:
         RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Creating);
         showActive(dialog);
         QCOMPARE(dialog.objectName(), "frmRelated");
+        // Every caption, tooltip and spoken name, as written.
+        QCOMPARE(shownTexts(dialog),
+            QStringList({"New Related Document", "cmbContact: Select a Contact | ",
+                "txtFields_5: Location of File | ", ": Parent Document: |  | ",
+                ": Related Document Description: |  | ", ": Send/Receive Date: |  | ",
+                ": Sender/Receiver: |  | ", ": Location: |  | ", "cmdOK: OK |  | ", "cmdCancel: Cancel |  | ",
+                "fraCreateWith: Create With |  | ", "cmdWord: &Word |  | ", "cmdExcel: &Excel |  | ",
+                "cmdPower: &PowerPoint |  | ", "cmdAddExisting: &Add Existing |  | "}));
         QVERIFY(dialog.isModal());
         QVERIFY(dialog.findChild<Recordset*>("Adodc1"));
         QVERIFY(dialog.findChild<Recordset*>("datPrimaryRS"));
@@ -130,6 +139,12 @@ private Q_SLOTS:
             RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Editing);
             showActive(dialog);
             QCOMPARE(dialog.objectName(), "frmRelDescr");
+            QCOMPARE(shownTexts(dialog),
+                QStringList({"Description of Related Document", "cmbContact: Select a Contact | ",
+                    "txtFields_4: Location of File | ", ": Parent Document: |  | ",
+                    ": Related Document Description: |  | ", ": Send/Receive Date: |  | ",
+                    ": Sender/Receiver: |  | ", ": Location: |  | ", "cmdOK: OK |  | ",
+                    "cmdCancel: Cancel |  | "}));
             QCOMPARE(dialog.findChild<QLineEdit*>("txtParent")->text(), "Annex");
             QCOMPARE(box(dialog, 4)->text(), fx.annexFile);
             QVERIFY(!dialog.findChild<QPushButton*>("cmdWord"));
