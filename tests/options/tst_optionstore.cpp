@@ -16,6 +16,7 @@
 #include <csignal>
 #include <memory>
 #include <sys/resource.h>
+#include <unistd.h>
 
 using namespace kartella;
 using kartella::test::ScriptedPrompter;
@@ -419,6 +420,33 @@ private Q_SLOTS:
         QCOMPARE(prompter.texts(),
             QStringList({"ERROR # 75 : 0\rPlease exit and try again.",
                 "Unable to set Registry Value SOFTWARE\\Kartella\\Options\\Filter"}));
+    }
+
+    // A folder that takes no new files around an options file that takes writes (one an
+    // administrator laid out): the value is written into the file itself.
+    void fileWritableInAReadOnlyFolder()
+    {
+        writeOptionsFile("[Options]\nFilter=0\n");
+        const QString folder = QFileInfo(optionsFilePath()).absolutePath();
+        const auto read = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
+        const auto enter = QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther;
+        const auto write = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+        QVERIFY(QFile::setPermissions(m_config->path(), read | enter | QFile::WriteOwner));
+        QVERIFY(QFile::setPermissions(folder, read | enter));
+        QVERIFY(QFile::setPermissions(optionsFilePath(), read | write));
+        const auto writable = qScopeGuard([&folder] {
+            QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        });
+        // The superuser passes by a folder's permissions: the write is made as nobody.
+        const uid_t user = geteuid();
+        if (user == 0 && seteuid(65534) != 0)
+            QSKIP("no other user to write as");
+        const auto back = qScopeGuard([user] { [[maybe_unused]] const int ignored = seteuid(user); });
+        ScriptedPrompter prompter;
+        prompter.answer(MsgBoxResult::Ok);
+        setRegValue("Filter", 1);
+        QVERIFY2(prompter.prompts().isEmpty(), qPrintable(prompter.texts().join("|")));
+        QCOMPARE(optionsText(), QString("[Options]\nFilter=1\n"));
     }
 
     void refusedWriteKeepsTheOldValue()
