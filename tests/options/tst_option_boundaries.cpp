@@ -12,6 +12,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -71,6 +72,9 @@ private Q_SLOTS:
         QTest::newRow("another section") << QByteArray("[Options]\n[Option]\nDbLocation=/a.mdb\n") << "";
         QTest::newRow("a longer name") << QByteArray("[Options]\nDbLocations=/a.mdb\n") << "";
         QTest::newRow("a shorter name") << QByteArray("[Options]\nDbLocatio=/a.mdb\n") << "";
+        QTest::newRow("a section without a name") << QByteArray("[Options]\n[]\nDbLocation=/a.mdb\n") << "";
+        QTest::newRow("a value ending in a bracket")
+            << QByteArray("[Options]\nNote=[x]\nDbLocation=/a.mdb\n") << "/a.mdb";
     }
 
     void sectionAndNameInAnotherCase()
@@ -87,6 +91,54 @@ private Q_SLOTS:
         QCOMPARE(text.count(QStringLiteral("/b.mdb")), 1);
         QCOMPARE(text.count(u'['), content.count('['));
         QCOMPARE(text.contains(QStringLiteral("/a.mdb")), read.isEmpty());
+    }
+
+    // A key path names a file under the hive's folder, its last part the section; a leading
+    // "SOFTWARE" is left out. The machine's hive is /etc, reached here by a path that climbs out
+    // of it into the test's own folder.
+    void keyPathsNameFileAndSection_data()
+    {
+        QTest::addColumn<bool>("machine");
+        QTest::addColumn<QString>("keyPath");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("section");
+        QTest::newRow("the options") << false << "SOFTWARE\\Kartella\\Options"
+                                     << "Kartella/Options.ini"
+                                     << "Options";
+        QTest::newRow("software in small letters") << false << "Software\\Acme\\Tools"
+                                                   << "Acme/Tools.ini"
+                                                   << "Tools";
+        QTest::newRow("without software") << false << "Acme\\Tools"
+                                          << "Acme/Tools.ini"
+                                          << "Tools";
+        QTest::newRow("software further in") << false << "Acme\\SOFTWARE\\Tools"
+                                             << "Acme/SOFTWARE/Tools.ini"
+                                             << "Tools";
+        QTest::newRow("doubled backslashes") << false << "\\SOFTWARE\\\\Acme\\Tools\\"
+                                             << "Acme/Tools.ini"
+                                             << "Tools";
+        QTest::newRow("software alone") << false << "SOFTWARE"
+                                        << "Options.ini"
+                                        << "Options";
+        QTest::newRow("the machine's hive") << true << "..<config>\\Machine"
+                                            << "Machine.ini"
+                                            << "Machine";
+    }
+    void keyPathsNameFileAndSection()
+    {
+        QFETCH(bool, machine);
+        QFETCH(QString, keyPath);
+        QFETCH(QString, file);
+        QFETCH(QString, section);
+        keyPath.replace(QStringLiteral("<config>"), QString(m_config->path()).replace(u'/', u'\\'));
+        const Hive hive = machine ? Hive::LocalMachine : Hive::CurrentUser;
+        const QString path = m_config->filePath(file);
+        QCOMPARE(readRegValue(hive, keyPath, QStringLiteral("Company"), QStringLiteral("none")),
+            QStringLiteral("none"));
+        QVERIFY(writeRegValue(hive, keyPath, QStringLiteral("Company"), QStringLiteral("Mėta")));
+        QCOMPARE(fileText(path), u'[' + section + QStringLiteral("]\nCompany=Mėta\n"));
+        QCOMPARE(readRegValue(hive, keyPath, QStringLiteral("company"), QStringLiteral("none")),
+            QStringLiteral("Mėta"));
     }
 
     // Loading another file, or a missing one, leaves nothing of the file read before.
@@ -200,6 +252,100 @@ private Q_SLOTS:
         setSharedTrashFolder(QStringLiteral("/srv/shared"));
         QCOMPARE(trashFolderFor(server), QStringLiteral("/srv/shared/trash"));
         QCOMPARE(versionsFolderFor(server), QStringLiteral("/srv/shared/versions"));
+    }
+
+    // The inbox folder is stored without blanks around it; the windows hear of it only when it
+    // changes. OCR languages unset or blank read as the default.
+    void inboxFolderAndOcrLanguages()
+    {
+        QVERIFY(seedOptionsIfMissing());
+        QSignalSpy changed(&captureOptions(), &CaptureOptionsNotifier::inboxFolderChanged);
+        setInboxFolder(QStringLiteral(" /srv/inbox "));
+        QCOMPARE(inboxFolder(), QStringLiteral("/srv/inbox"));
+        QCOMPARE(changed.size(), 1);
+        setInboxFolder(QStringLiteral("/srv/inbox"));
+        QCOMPARE(changed.size(), 1);
+        setInboxFolder(QStringLiteral("/srv/other"));
+        QCOMPARE(changed.size(), 2);
+        QCOMPARE(inboxFolder(), QStringLiteral("/srv/other"));
+        QCOMPARE(ocrLanguages(), DefaultOcrLanguages);
+        setOcrLanguages(QStringLiteral(" lit "));
+        QCOMPARE(ocrLanguages(), QStringLiteral("lit"));
+        setOcrLanguages(QStringLiteral(" "));
+        QCOMPARE(ocrLanguages(), DefaultOcrLanguages);
+    }
+
+    // The interface's language as the option holds it, written by hand in any case and with
+    // blanks around; anything else follows the desktop.
+    void languageAsStored_data()
+    {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<int>("language");
+        QTest::newRow("en") << "en" << int(InterfaceLanguage::English);
+        QTest::newRow("EN") << "EN" << int(InterfaceLanguage::English);
+        QTest::newRow("lt") << "lt" << int(InterfaceLanguage::Lithuanian);
+        QTest::newRow("blanks around Lt") << " Lt " << int(InterfaceLanguage::Lithuanian);
+        QTest::newRow("e") << "e" << int(InterfaceLanguage::Desktop);
+        QTest::newRow("l") << "l" << int(InterfaceLanguage::Desktop);
+        QTest::newRow("de") << "de" << int(InterfaceLanguage::Desktop);
+        QTest::newRow("empty") << "" << int(InterfaceLanguage::Desktop);
+    }
+    void languageAsStored()
+    {
+        QFETCH(QString, stored);
+        QFETCH(int, language);
+        QVERIFY(seedOptionsIfMissing());
+        setRegValue(QStringLiteral("Language"), stored);
+        QCOMPARE(int(interfaceLanguage()), language);
+    }
+
+    // Each choice of language is one line of the options file, and gives the languages to
+    // look for translations in.
+    void languageChoices_data()
+    {
+        QTest::addColumn<int>("language");
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<QStringList>("languages");
+        QTest::newRow("desktop") << int(InterfaceLanguage::Desktop)
+                                 << "Language=" << QStringList {"de-DE", "lt"};
+        QTest::newRow("English") << int(InterfaceLanguage::English) << "Language=en" << QStringList {};
+        QTest::newRow("Lithuanian") << int(InterfaceLanguage::Lithuanian) << "Language=lt"
+                                    << QStringList {"lt"};
+    }
+    void languageChoices()
+    {
+        QFETCH(int, language);
+        QFETCH(QString, line);
+        QFETCH(QStringList, languages);
+        QVERIFY(seedOptionsIfMissing());
+        setInterfaceLanguage(InterfaceLanguage(language));
+        QVERIFY2(fileText(optionsFilePath()).contains(u'\n' + line + u'\n'), qPrintable(line));
+        QCOMPARE(interfaceLanguages(InterfaceLanguage(language), {"de-DE", "lt"}), languages);
+    }
+
+    // The preview pane is on only for a 1 (blanks around allowed), and is stored as 1 or 0.
+    void previewPaneOption_data()
+    {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<bool>("shown");
+        QTest::newRow("1") << "1" << true;
+        QTest::newRow("blanks around 1") << " 1 " << true;
+        QTest::newRow("0") << "0" << false;
+        QTest::newRow("empty") << "" << false;
+        QTest::newRow("11") << "11" << false;
+        QTest::newRow("-1") << "-1" << false;
+    }
+    void previewPaneOption()
+    {
+        QFETCH(QString, stored);
+        QFETCH(bool, shown);
+        QVERIFY(seedOptionsIfMissing());
+        QVERIFY(!previewPaneShown());
+        setRegValue(QStringLiteral("PreviewPane"), stored);
+        QCOMPARE(previewPaneShown(), shown);
+        setPreviewPaneShown(!shown);
+        QCOMPARE(previewPaneShown(), !shown);
+        QVERIFY(fileText(optionsFilePath()).contains(shown ? "\nPreviewPane=0\n" : "\nPreviewPane=1\n"));
     }
 
     // Users and README name the options by these names in the options file, under [Options].

@@ -3,14 +3,20 @@
 #include "harness/TestRegister.h"
 #include "options/FirstRun.h"
 #include "options/OptionStore.h"
+#include "platform/Translations.h"
 #include "registration/FileNaming.h"
 
 #include <QDir>
 #include <QFile>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTranslator>
 
+#include <csignal>
 #include <memory>
+#include <sys/resource.h>
+#include <unistd.h>
 
 using namespace kartella;
 using kartella::test::ScriptedPrompter;
@@ -98,6 +104,12 @@ private Q_SLOTS:
                                      << "a=b";
         QTest::newRow("line breaks") << "one\r\ntwo"
                                      << "one\r\ntwo";
+        QTest::newRow("line feed alone") << "one\ntwo"
+                                         << "one\ntwo";
+        QTest::newRow("carriage return last") << "one\r"
+                                              << "one\r";
+        QTest::newRow("backslash and line break") << "c:\\new\nline"
+                                                  << "c:\\new\nline";
         QTest::newRow("lithuanian") << "Ąžuolas Šarūnas"
                                     << "Ąžuolas Šarūnas";
         QTest::newRow("in quotes") << "\"Acme\""
@@ -134,6 +146,8 @@ private Q_SLOTS:
         QTest::newRow("double backslash")
             << QByteArray("DbLocation=\\\\server\\share") << "\\\\server\\share";
         QTest::newRow("trailing backslash") << QByteArray("DbLocation=C:\\") << "C:\\";
+        QTest::newRow("ends in a quote") << QByteArray("DbLocation=Acme \"Ltd\"") << "Acme \"Ltd\"";
+        QTest::newRow("ends in a bracket") << QByteArray("DbLocation=/srv/docs[2]") << "/srv/docs[2]";
     }
 
     void handWrittenValuesReadAsTheyStand()
@@ -235,7 +249,9 @@ private Q_SLOTS:
             QVERIFY2(thrown.description().startsWith(
                          "The option " + name + " can't be read: it holds \"" + value + "\" ("),
                 qPrintable(thrown.description()));
-            QVERIFY2(thrown.description().contains(optionsFilePath()), qPrintable(thrown.description()));
+            QVERIFY2(
+                thrown.description().endsWith("\r\rCorrect it in " + optionsFilePath() + ", then try again."),
+                qPrintable(thrown.description()));
         }
         QCOMPARE(getRegValue(name), value);
     }
@@ -292,6 +308,102 @@ private Q_SLOTS:
         QVERIFY(text.contains("[Options]\nProvider=X\nFilter=1\n"));
     }
 
+    // A new value goes after the last value of its section, before the blank lines and comments
+    // that lead to the next one; a missing section is added at the end, after a blank line.
+    void whereANewValueGoes_data()
+    {
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<QString>("after");
+        QTest::newRow("empty file") << QByteArray("") << "[Options]\nFilter=1\n";
+        QTest::newRow("blank lines only") << QByteArray("\n\r\n\n") << "[Options]\nFilter=1\n";
+        QTest::newRow("blanks and comments after the section")
+            << QByteArray("[Options]\nProvider=X\n\n; next\n# also\n[Other]\nA=1\n")
+            << "[Options]\nProvider=X\nFilter=1\n\n; next\n# also\n[Other]\nA=1\n";
+        QTest::newRow("a section without values") << QByteArray("[Other]\nA=1\n[Options]\n; none yet\n")
+                                                  << "[Other]\nA=1\n[Options]\nFilter=1\n; none yet\n";
+        QTest::newRow("no such section")
+            << QByteArray("[Other]\nA=1\n") << "[Other]\nA=1\n\n[Options]\nFilter=1\n";
+    }
+
+    void whereANewValueGoes()
+    {
+        QFETCH(QByteArray, before);
+        QFETCH(QString, after);
+        writeOptionsFile(before);
+        ScriptedPrompter prompter;
+        QCOMPARE(getRegValue("Filter"), QString("Not Found"));
+        setRegValue("Filter", 1);
+        QCOMPARE(optionsText(), after);
+        QCOMPARE(getRegValue("Filter"), QString("1"));
+        QVERIFY(prompter.prompts().isEmpty());
+    }
+
+    // A full disk (here a limit on the size of the files this process writes) refuses the
+    // write and keeps the file as it was, whole.
+    void fullDiskKeepsTheFileWhole()
+    {
+        writeOptionsFile("[Options]\nFilter=0\n");
+        ScriptedPrompter prompter;
+        prompter.answer(MsgBoxResult::Ok);
+        rlimit saved {};
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &saved), 0);
+        const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+        const auto restore = qScopeGuard([&] {
+            setrlimit(RLIMIT_FSIZE, &saved);
+            std::signal(SIGXFSZ, handler);
+        });
+        rlimit small = saved;
+        small.rlim_cur = 64;
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
+        setRegValue("Note", QString(200, 'x'));
+        const bool iniWritten = writeIniValue("Address", QString(200, 'a'));
+        const int seeded
+            = writeRegValues(Hive::CurrentUser, optionsKeyPath(), {{"Company", QString(100, 'c')}}, true);
+        setrlimit(RLIMIT_FSIZE, &saved);
+        QCOMPARE(
+            prompter.texts(), QStringList {"Unable to set Registry Value SOFTWARE\\Kartella\\Options\\Note"});
+        QCOMPARE(optionsText(), QString("[Options]\nFilter=0\n"));
+        QVERIFY(!iniWritten);
+        QVERIFY(!QFile::exists(iniFilePath()));
+        QCOMPARE(seeded, -1);
+    }
+
+    // Every message of the options speaks the interface's language.
+    void messagesSpeakLithuanian()
+    {
+        const QList<QTranslator*> before = QCoreApplication::instance()->findChildren<QTranslator*>();
+        const auto english = qScopeGuard([&before] {
+            for (QTranslator* translator : QCoreApplication::instance()->findChildren<QTranslator*>()) {
+                if (!before.contains(translator)) {
+                    QCoreApplication::removeTranslator(translator);
+                    delete translator;
+                }
+            }
+        });
+        QVERIFY(installTranslations({"lt"}).startsWith("lt"));
+        ScriptedPrompter prompter;
+        prompter.answer(MsgBoxResult::Ok)
+            .answer(MsgBoxResult::Ok)
+            .answer(MsgBoxResult::Ok)
+            .answer(MsgBoxResult::Ok);
+        getRegValue("DbLocation");
+        QVERIFY(QDir().mkpath(optionsFilePath()));
+        getRegValue("Filter");
+        setRegValue("Filter", 1);
+        const QString runtimeError
+            = QString::fromUtf8("KLAIDA Nr. 75 : 0\rBaikite darbą ir bandykite dar kartą.");
+        QCOMPARE(prompter.texts(),
+            QStringList({QString::fromUtf8(
+                             "Nepavyko gauti nuostatos reikšmės SOFTWARE\\Kartella\\Options\\DbLocation"),
+                runtimeError, runtimeError,
+                QString::fromUtf8(
+                    "Nepavyko nustatyti nuostatos reikšmės SOFTWARE\\Kartella\\Options\\Filter")}));
+        QCOMPARE(wrongOptionMessage("FileNumber", "x", "y"),
+            QString::fromUtf8(
+                "Nuostatos FileNumber perskaityti nepavyko: jos reikšmė „x“ (y).\r\rPataisykite ją ")
+                + optionsFilePath() + QString::fromUtf8(" ir bandykite dar kartą."));
+    }
+
     void unreadableKeyIsARuntimeError()
     {
         // A folder where the options file should be: the key is there, but can't be read.
@@ -308,6 +420,33 @@ private Q_SLOTS:
         QCOMPARE(prompter.texts(),
             QStringList({"ERROR # 75 : 0\rPlease exit and try again.",
                 "Unable to set Registry Value SOFTWARE\\Kartella\\Options\\Filter"}));
+    }
+
+    // A folder that takes no new files around an options file that takes writes (one an
+    // administrator laid out): the value is written into the file itself.
+    void fileWritableInAReadOnlyFolder()
+    {
+        writeOptionsFile("[Options]\nFilter=0\n");
+        const QString folder = QFileInfo(optionsFilePath()).absolutePath();
+        const auto read = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
+        const auto enter = QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther;
+        const auto write = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+        QVERIFY(QFile::setPermissions(m_config->path(), read | enter | QFile::WriteOwner));
+        QVERIFY(QFile::setPermissions(folder, read | enter));
+        QVERIFY(QFile::setPermissions(optionsFilePath(), read | write));
+        const auto writable = qScopeGuard([&folder] {
+            QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        });
+        // The superuser passes by a folder's permissions: the write is made as nobody.
+        const uid_t user = geteuid();
+        if (user == 0 && seteuid(65534) != 0)
+            QSKIP("no other user to write as");
+        const auto back = qScopeGuard([user] { [[maybe_unused]] const int ignored = seteuid(user); });
+        ScriptedPrompter prompter;
+        prompter.answer(MsgBoxResult::Ok);
+        setRegValue("Filter", 1);
+        QVERIFY2(prompter.prompts().isEmpty(), qPrintable(prompter.texts().join("|")));
+        QCOMPARE(optionsText(), QString("[Options]\nFilter=1\n"));
     }
 
     void refusedWriteKeepsTheOldValue()
@@ -344,6 +483,16 @@ private Q_SLOTS:
         QVERIFY(writeIniValue("Address", QString(300, 'a')));
         QCOMPARE(getIniValue("Address"), QString(254, 'a'));
         QVERIFY(prompter.prompts().isEmpty());
+    }
+
+    // An ini file that can't be read is not written over: the write fails and reads find nothing.
+    void unreadableIniFileIsNotWritten()
+    {
+        QVERIFY(QDir().mkpath(iniFilePath()));
+        QVERIFY(!writeIniValue("Company", "UAB Kartella"));
+        QCOMPARE(findIniValue("Company"), std::nullopt);
+        QCOMPARE(getIniValue("Company"), QDir::homePath() + "/");
+        QVERIFY(QFileInfo(iniFilePath()).isDir());
     }
 
     void firstStartSeedsOnce()
