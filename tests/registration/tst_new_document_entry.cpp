@@ -4,6 +4,7 @@
 #include "explorer/MainWindow.h"
 #include "harness/Lithuanian.h"
 #include "options/OptionStore.h"
+#include "store/engine/Recordset.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -189,6 +190,8 @@ private Q_SLOTS:
     {
         Fixture fx;
         Dialog d;
+        for (const char* data : {"Adodc1", "Adodc2", "Adodc3", "Adodc4"})
+            QVERIFY2(d.dialog.findChild<Recordset*>(data), data);
         QCOMPARE(shownTexts(d.dialog),
             QStringList({"New Document", "SSTab1: General | Tickler | Notes |  | ", "txtFields_6:  | Notes",
                 "grdTickler:  | Reminders", "fraDateIndex: Date, Index |  | ", ": Send/Receive Date: |  | ",
