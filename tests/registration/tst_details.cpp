@@ -39,6 +39,7 @@ private Q_SLOTS:
         showActive(dialog);
         QCOMPARE(dialog.windowTitle(), "Sutartis Description");
         QCOMPARE(dialog.objectName(), "frmNew");
+        QVERIFY(dialog.findChild<QLineEdit*>("txtFileText")->isReadOnly());
         const auto* ok = dialog.findChild<QPushButton*>("cmdButton_0");
         for (const char* button : {"cmdButton_1", "cmdButton_2"})
             QCOMPARE(dialog.findChild<QPushButton*>(button)->geometry().top(), ok->geometry().top());
@@ -371,6 +372,9 @@ private Q_SLOTS:
                          "\"agr-8\"?"});
         QVERIFY(dialog.isVisible());
         QCOMPARE(box(dialog, 3)->text(), "agr-7");
+        // The index waits selected for another.
+        QCOMPARE(QApplication::focusWidget(), box(dialog, 3));
+        QCOMPARE(box(dialog, 3)->selectedText(), "agr-7");
         QCOMPARE(fx.document("DokRegistracIndeksas", fx.lease).toString(), "AGR-1");
 
         fx.prompter.answer(MsgBoxResult::Yes);
