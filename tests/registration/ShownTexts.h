@@ -1,18 +1,22 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QCalendarWidget>
 #include <QGroupBox>
 #include <QLabel>
 #include <QStringList>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTableView>
+#include <QTest>
 #include <QWidget>
 
 namespace kartella::test {
 
 // The words of a window, one line each, in the order of its children: its title, then each
-// control's name with its caption, tooltip and accessible name. A label counts when it
+// control's name with its caption, tooltip and accessible name; a grid's caption is the
+// headers of the columns it shows. A label counts when it
 // captions a field (its buddy); labels that show values change with the data. Qt's own parts
 // (a calendar's buttons, a tab bar's arrows) are left out.
 inline QStringList shownTexts(const QWidget& window)
@@ -42,6 +46,13 @@ inline QStringList shownTexts(const QWidget& window)
         } else if (const auto* tabs = qobject_cast<const QTabWidget*>(widget)) {
             for (int i = 0; i < tabs->count(); ++i)
                 captions << tabs->tabText(i);
+        } else if (const auto* grid = qobject_cast<const QTableView*>(widget); grid && grid->model()) {
+            QStringList headers;
+            for (int column = 0; column < grid->model()->columnCount(); ++column) {
+                if (!grid->isColumnHidden(column))
+                    headers << grid->model()->headerData(column, Qt::Horizontal).toString();
+            }
+            captions << headers.join(QStringLiteral(", "));
         }
         captions << widget->toolTip() << widget->accessibleName();
         if (captions.join(QString()).trimmed().isEmpty())
@@ -49,6 +60,21 @@ inline QStringList shownTexts(const QWidget& window)
         texts << widget->objectName() + QStringLiteral(": ") + captions.join(QStringLiteral(" | "));
     }
     return texts;
+}
+
+// The controls that Tab reaches, by name, from the one with the focus: `presses` of the key.
+// A control without a name of its own (the box inside a combo) goes by its parent's.
+inline QStringList tabChain(int presses)
+{
+    QStringList names;
+    for (int i = 0; i < presses; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        const QWidget* at = QApplication::focusWidget();
+        while (at && at->objectName().isEmpty() && at->parentWidget())
+            at = at->parentWidget();
+        names << (at ? at->objectName() : QString());
+    }
+    return names;
 }
 
 } // namespace kartella::test

@@ -46,11 +46,12 @@ private Q_SLOTS:
         // Every caption, tooltip and spoken name, as written.
         QCOMPARE(shownTexts(dialog),
             QStringList({"Sutartis Description", "SSTab1: General | Tickler | Notes | History |  | ",
-                "lstHistory:  | Changes", ": &Changes: |  | ", ": &Earlier versions of the file: |  | ",
-                "cmdOpenVersion: &Open |  | ", "cmdRestoreVersion: &Restore |  | ", "txtFields_12:  | Notes",
-                "grdTickler:  | Reminders", "fraDateIndex: Date, Index |  | ", ": Send/Receive Date: |  | ",
-                ": Registration Date: |  | ", ": Registration Index: |  | ", "fraCategory: Category |  | ",
-                "cmbCategory: Category of Document | Category",
+                "lstHistory: When, Who, Command, What, Change |  | Changes", ": &Changes: |  | ",
+                ": &Earlier versions of the file: |  | ", "cmdOpenVersion: &Open |  | ",
+                "cmdRestoreVersion: &Restore |  | ", "txtFields_12:  | Notes",
+                "grdTickler: Date, Text |  | Reminders", "fraDateIndex: Date, Index |  | ",
+                ": Send/Receive Date: |  | ", ": Registration Date: |  | ", ": Registration Index: |  | ",
+                "fraCategory: Category |  | ", "cmbCategory: Category of Document | Category",
                 "cmbSubCategory: SubCategory of Document | Subcategory", "fraDirection: Direction |  | ",
                 "Option_1: Inner |  | ", "Option_2: Outgoing |  | ", "Option_3: Incoming |  | ",
                 "Option_4: Other |  | ", ": Description: |  | ",
@@ -59,6 +60,13 @@ private Q_SLOTS:
                 "txtFileText: Whether the text of the file was read for the search | ",
                 ": Text of the file: |  | ", "cmdButton_0: OK |  | ", "cmdButton_1: Cancel |  | ",
                 "cmdButton_2: &Apply |  | "}));
+        // Tab goes down the first tab's fields, a date section by section, then the buttons
+        // (Apply waits disabled until something changes).
+        box(dialog, 7)->setFocus();
+        QCOMPARE(tabChain(16),
+            QStringList({"cmbSender", "txtFields_14", "DTPicker1", "DTPicker1", "DTPicker1", "DTPicker2",
+                "DTPicker2", "DTPicker2", "txtFields_3", "cmbCategory", "cmbSubCategory", "Option_1",
+                "cmdButton_0", "cmdButton_1", "txtFileText", "qt_tabwidget_tabbar"}));
         QCOMPARE(box(dialog, 7)->text(), "Sutartis");
         QCOMPARE(box(dialog, 14)->text(), fx.leaseFile);
         QCOMPARE(box(dialog, 3)->text(), "AGR-1");

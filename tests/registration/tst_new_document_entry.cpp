@@ -4,6 +4,7 @@
 #include "explorer/MainWindow.h"
 #include "harness/Lithuanian.h"
 #include "options/OptionStore.h"
+#include "registration/DateBox.h"
 #include "store/engine/Recordset.h"
 
 #include <QApplication>
@@ -194,21 +195,51 @@ private Q_SLOTS:
             QVERIFY2(d.dialog.findChild<Recordset*>(data), data);
         QCOMPARE(shownTexts(d.dialog),
             QStringList({"New Document", "SSTab1: General | Tickler | Notes |  | ", "txtFields_6:  | Notes",
-                "grdTickler:  | Reminders", "fraDateIndex: Date, Index |  | ", ": Send/Receive Date: |  | ",
-                ": Registration Date: |  | ", ": Registration Index: |  | ", "fraCategory: Category |  | ",
-                "cmbCategory:  | Category", "cmbSubCategory:  | Subcategory", "fraDirection: Direction |  | ",
-                "Option_1: Inner |  | ", "Option_2: Outgoing |  | ", "Option_3: Incoming |  | ",
-                "Option_4: Other |  | ", ": Description: |  | ", ": Sender/Receiver: |  | ",
-                ": Location: |  | ", "cmdOK: OK |  | ", "cmdCancel: Cancel |  | ",
+                "grdTickler: Date, Text |  | Reminders", "fraDateIndex: Date, Index |  | ",
+                ": Send/Receive Date: |  | ", ": Registration Date: |  | ", ": Registration Index: |  | ",
+                "fraCategory: Category |  | ", "cmbCategory:  | Category", "cmbSubCategory:  | Subcategory",
+                "fraDirection: Direction |  | ", "Option_1: Inner |  | ", "Option_2: Outgoing |  | ",
+                "Option_3: Incoming |  | ", "Option_4: Other |  | ", ": Description: |  | ",
+                ": Sender/Receiver: |  | ", ": Location: |  | ", "cmdOK: OK |  | ", "cmdCancel: Cancel |  | ",
                 "fraCreateWith: Create With |  | ", "cmdWord: &Word |  | ", "cmdExcel: &Excel |  | ",
                 "cmdPower: &PowerPoint |  | ", "cmdAddExisting: &Add Existing |  | ",
                 "cmdScan: &Scan |  | "}));
     }
 
+    // A value that isn't a day blanks a date box, whatever it showed before; a blank box
+    // gives no value at all.
+    void dateBoxBlanks_data()
+    {
+        QTest::addColumn<QVariant>("value");
+        QTest::newRow("nothing") << QVariant();
+        QTest::newRow("no day") << QVariant(QDate());
+        QTest::newRow("text") << QVariant(QStringLiteral("soon"));
+        QTest::newRow("31 February") << QVariant(QStringLiteral("2026-02-31"));
+    }
+
+    void dateBoxBlanks()
+    {
+        QFETCH(QVariant, value);
+        DateBox box;
+        box.setValue(QDate(2026, 3, 4));
+        QCOMPARE(box.value(), QVariant(QDate(2026, 3, 4)));
+        box.setValue(value);
+        QVERIFY(box.isBlank());
+        QCOMPARE(box.value(), QVariant());
+        QVERIFY(box.text().trimmed().isEmpty());
+    }
+
+    // Tab goes down the first tab's fields, the buttons that make the file, then OK and
+    // Cancel; Enter in a box moves on as Tab does, and leaves the notes too.
     void enterActsAsTab()
     {
         Fixture fx;
         Dialog d;
+        d.box(4)->setFocus();
+        QCOMPARE(tabChain(16),
+            QStringList({"cmbSender", "txtFields_5", "txtFields_1", "txtFields_2", "txtFields_3",
+                "cmbCategory", "cmbSubCategory", "Option_1", "cmdWord", "cmdExcel", "cmdPower",
+                "cmdAddExisting", "cmdScan", "cmdOK", "cmdCancel", "qt_tabwidget_tabbar"}));
         d.box(4)->setFocus();
         QTest::keyClick(d.box(4), Qt::Key_Return);
         QCOMPARE(QApplication::focusWidget(), d.combo("cmbSender"));

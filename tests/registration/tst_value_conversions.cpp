@@ -7,11 +7,15 @@
 
 using namespace kartella;
 
-Q_DECLARE_METATYPE(std::function<QString(const QVariant&)>)
-
 namespace {
 
 using Conversion = std::function<QString(const QVariant&)>;
+
+} // namespace
+
+Q_DECLARE_METATYPE(Conversion)
+
+namespace {
 
 // What the conversion gives, as text, or the error's number and words.
 QString outcome(const Conversion& convert, const QVariant& value)
