@@ -53,6 +53,8 @@ protected:
     void done(int result) override;
 
 private:
+    // The title of the messages the dialog gives.
+    static QString errorTitle();
     void buildWidgets();
     QWidget* buildGeneralTab();
     void bindControls();
@@ -73,6 +75,9 @@ private:
     // Asks what to do with rows (the document's, or its reminders) that another user changed
     // since they were read; true when the user stores theirs over it.
     bool resolveChangedDocument(Recordset& rows);
+    // A key field's value by the name the window shows for it (a contact, a category, a
+    // direction); empty text for other fields and unknown keys.
+    QString shownName(const QString& field, const QVariant& value) const;
     bool askOnEscape();
     void onReminderGridEnter();
 

@@ -288,8 +288,11 @@ void RelatedDocumentDialog::save()
                 {QStringLiteral("SubRastGavimoData"), tr("Send/Receive Date")},
                 {QStringLiteral("ContactID"), tr("Sender/Receiver")},
                 {QStringLiteral("SubRastoKelias"), tr("Location")}};
+        const ShownNames contactNames = [this](const QString& field, const QVariant& value) {
+            return field == QLatin1String("ContactID") ? m_contact->textOf(value) : QString();
+        };
         if (!storeResolvingChanges(
-                *m_related, AffectEnum::All, tr("related document"), captions, windowTitle()))
+                *m_related, AffectEnum::All, tr("related document"), captions, windowTitle(), contactNames))
             return;
     } catch (const Error& error) {
         if (rowWasDeleted(error))

@@ -73,6 +73,12 @@ QString BoundList::text() const
     return m_box->currentIndex() >= 0 ? m_box->currentText() : QString();
 }
 
+QString BoundList::textOf(const QVariant& key) const
+{
+    const int index = isNull(key) ? -1 : m_box->findData(keyText(key));
+    return index >= 0 ? m_box->itemText(index) : QString();
+}
+
 void BoundList::onActivated(int index)
 {
     if (m_filling || index < 0)

@@ -44,6 +44,8 @@ public:
     void setValue(const QVariant& key);
     // The shown text of the chosen item; empty when none.
     QString text() const;
+    // The shown text of the item of key; empty when the list doesn't hold it.
+    QString textOf(const QVariant& key) const;
 
 Q_SIGNALS:
     // The value changed, by the user's choice or by setValue.

@@ -13,10 +13,13 @@ namespace kartella {
 
 namespace {
 
-QString shownValue(const QVariant& value)
+QString shownValue(const QString& field, const QVariant& value, const ShownNames& shownNames)
 {
     if (!value.isValid() || value.isNull() || value.toString().isEmpty())
         return QCoreApplication::translate("kartella::ChangedRowPrompt", "(empty)");
+    const QString name = shownNames ? shownNames(field, value) : QString();
+    if (!name.isEmpty())
+        return QCoreApplication::translate("kartella::ChangedRowPrompt", "\"%1\"").arg(name);
     if (value.typeId() == QMetaType::QDate)
         return value.toDate().toString(u"yyyy.MM.dd");
     if (value.typeId() == QMetaType::QDateTime)
@@ -67,7 +70,8 @@ bool rowWasChanged(const Error& error)
 }
 
 ChangedRowChoice resolveChangedRow(Recordset& recordset, const QString& what,
-    const QList<QPair<QString, QString>>& captions, const QString& title, int affect)
+    const QList<QPair<QString, QString>>& captions, const QString& title, int affect,
+    const ShownNames& shownNames)
 {
     QStringList lines;
     try {
@@ -77,8 +81,9 @@ ChangedRowChoice resolveChangedRow(Recordset& recordset, const QString& what,
             if (field.isChapter() || !field.isChanged())
                 continue;
             lines << QCoreApplication::translate("kartella::ChangedRowPrompt", "%1: stored %2, yours %3")
-                         .arg(captionOf(field.name(), captions), shownValue(field.underlyingValue()),
-                             shownValue(field.value()));
+                         .arg(captionOf(field.name(), captions),
+                             shownValue(field.name(), field.underlyingValue(), shownNames),
+                             shownValue(field.name(), field.value(), shownNames));
         }
     } catch (const Error& error) {
         // The row could not be read again: the choice is still the user's, without the list.
@@ -108,7 +113,7 @@ ChangedRowChoice resolveChangedRow(Recordset& recordset, const QString& what,
 }
 
 bool storeResolvingChanges(Recordset& recordset, int affect, const QString& what,
-    const QList<QPair<QString, QString>>& captions, const QString& title)
+    const QList<QPair<QString, QString>>& captions, const QString& title, const ShownNames& shownNames)
 {
     for (;;) {
         try {
@@ -118,7 +123,8 @@ bool storeResolvingChanges(Recordset& recordset, int affect, const QString& what
             if (!rowWasChanged(error))
                 throw;
         }
-        if (resolveChangedRow(recordset, what, captions, title, affect) != ChangedRowChoice::KeepMine)
+        if (resolveChangedRow(recordset, what, captions, title, affect, shownNames)
+            != ChangedRowChoice::KeepMine)
             return false;
     }
 }

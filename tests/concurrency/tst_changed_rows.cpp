@@ -13,6 +13,7 @@
 #include "store/engine/Connection.h"
 #include "support/SelectionState.h"
 
+#include <QComboBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -255,9 +256,9 @@ private Q_SLOTS:
         QVERIFY(prompter.allAnswered());
     }
 
-    // The related document's description, open on a row another program changes: OK tells
-    // so with both descriptions; Keep Mine stores the typed one beside the other program's
-    // location, Reload shows the stored one in the dialog.
+    // The related document's description and contact, open on a row another program changes:
+    // OK tells so with both descriptions and both contacts by name; Keep Mine stores the typed
+    // ones beside the other program's location, Reload shows the stored ones in the dialog.
     void relatedDocumentChanged_data() { addPlacesAndAnswers(); }
     void relatedDocumentChanged()
     {
@@ -267,14 +268,19 @@ private Q_SLOTS:
         const qint32 lease = reg->insert("tbl_Documents", {{"DokAntraste", "Lease"}});
         const qint32 annex
             = reg->insert("tbl_Sub_Documents", {{"RastasID", lease}, {"SubDocDescript", "Annex"}});
+        reg->insert("tbl_Contacts", {{"FullName", "Ona Petraitiene"}});
+        const qint32 jonas = reg->insert("tbl_Contacts", {{"FullName", "Jonas Jonaitis"}});
         selection().selectedDocumentId = lease;
         selection().selectedSubDocumentId = annex;
         selection().selectedItemText = "Annex";
         RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Editing);
         showActive(&dialog);
-        reg->exec("UPDATE tbl_Sub_Documents SET SubDocDescript='Annex A', SubRastoKelias='annex.odt' "
-                  "WHERE SubRastasID="
-            + idText(annex));
+        reg->exec("UPDATE tbl_Sub_Documents SET SubDocDescript='Annex A', SubRastoKelias='annex.odt', "
+                  "ContactID="
+            + idText(jonas) + " WHERE SubRastasID=" + idText(annex));
+        auto* contact = child<QComboBox>(&dialog, "cmbContact");
+        contact->setFocus();
+        QTest::keyClick(contact, 'O');
         auto* description = child<QPlainTextEdit>(&dialog, "txtFields_1");
         description->setFocus();
         QTest::keyClick(description, Qt::Key_End);
@@ -287,13 +293,19 @@ private Q_SLOTS:
         QCOMPARE(texts.size(), 1);
         QVERIFY2(
             texts.first().startsWith("This related document was changed by another user since you opened "
-                                     "it.\n\nRelated Document Description: stored \"Annex A\", yours "
-                                     "\"Annex 2\"\n\n"),
+                                     "it.\n\n")
+                && texts.first().contains(
+                    "\nRelated Document Description: stored \"Annex A\", yours \"Annex 2\"\n")
+                && texts.first().contains(
+                    "\nSender/Receiver: stored \"Jonas Jonaitis\", yours \"Ona Petraitiene\"\n"),
             qPrintable(texts.first()));
         const bool reloaded = answer == MsgBoxResult::Yes;
         const QString where = " FROM tbl_Sub_Documents WHERE SubRastasID=" + idText(annex);
         QCOMPARE(reg->scalar("SELECT SubDocDescript" + where), reloaded ? "Annex A" : "Annex 2");
         QCOMPARE(reg->scalar("SELECT SubRastoKelias" + where), "annex.odt");
+        QCOMPARE(
+            reg->scalar("SELECT FullName FROM tbl_Contacts WHERE ContactID=(SELECT ContactID" + where + ")"),
+            reloaded ? "Jonas Jonaitis" : "Ona Petraitiene");
         QCOMPARE(dialog.isVisible(), reloaded);
         if (reloaded) {
             QCOMPARE(description->toPlainText(), "Annex A");

@@ -62,6 +62,36 @@ inline QStringList shownTexts(const QWidget& window)
     return texts;
 }
 
+// Pairs of shown controls that cover each other, by name: a control left out of its layout
+// sits in a corner over another. A control inside another (a box in its frame) is no overlap.
+inline QStringList overlaps(const QWidget& window)
+{
+    QList<const QWidget*> shown;
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        if (widget->isVisible() && !widget->objectName().startsWith(QStringLiteral("qt_"))
+            && !widget->isWindow())
+            shown << widget;
+    }
+    const auto area = [&window](const QWidget* widget) {
+        return QRect(widget->mapTo(&window, QPoint(0, 0)), widget->size());
+    };
+    QStringList found;
+    for (qsizetype i = 0; i < shown.size(); ++i) {
+        for (qsizetype j = i + 1; j < shown.size(); ++j) {
+            const QWidget* a = shown[i];
+            const QWidget* b = shown[j];
+            if (a->isAncestorOf(b) || b->isAncestorOf(a) || !area(a).intersects(area(b)))
+                continue;
+            // Qt's own parts of a control (a combo's box, a date's arrows) lie in it.
+            if (a->parentWidget() != b->parentWidget()
+                && (a->objectName().isEmpty() || b->objectName().isEmpty()))
+                continue;
+            found << a->objectName() + QStringLiteral(" over ") + b->objectName();
+        }
+    }
+    return found;
+}
+
 // The controls that Tab reaches, by name, from the one with the focus: `presses` of the key.
 // A control without a name of its own (the box inside a combo) goes by its parent's.
 inline QStringList tabChain(int presses)

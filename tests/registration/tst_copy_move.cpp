@@ -55,11 +55,17 @@ private Q_SLOTS:
                 "cmdDestFolder: Destination |  | ", "cmdCopy: Copy |  | ", "cmdMove: Move |  | ",
                 "cmdClose: Close |  | ", ": Document Description: |  | ", ": Current Location: |  | ",
                 ": Size: |  | ", ": Date: |  | "}));
+        QCOMPARE(overlaps(dialog), QStringList());
         QVERIFY(dialog.isModal());
-        // Grown, the window keeps its fields at the top and its buttons at the bottom right.
-        dialog.resize(dialog.width(), 600);
+        // Grown, the window keeps its fields at the top and its buttons at the bottom right;
+        // the fields take the new width, the captions keep theirs.
+        auto* destination = dialog.findChild<QLineEdit*>("txtDestination");
+        const int fieldsStart = destination->geometry().left();
+        dialog.resize(dialog.width() + 300, 600);
         dialog.layout()->activate();
-        QVERIFY(dialog.findChild<QLineEdit*>("txtDestination")->geometry().bottom() < 300);
+        QCOMPARE(destination->geometry().left(), fieldsStart);
+        QVERIFY(destination->geometry().right() > dialog.width() - 30);
+        QVERIFY(destination->geometry().bottom() < 300);
         QVERIFY(dialog.findChild<QPushButton*>("cmdClose")->geometry().top() > 500);
         QVERIFY(dialog.findChild<QPushButton*>("cmdCopy")->geometry().left() > dialog.width() / 4);
         QCOMPARE(dialog.findChild<QLineEdit*>("txtDocument")->text(), related ? "Annex" : "Sutartis");

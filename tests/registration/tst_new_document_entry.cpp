@@ -204,6 +204,7 @@ private Q_SLOTS:
                 "fraCreateWith: Create With |  | ", "cmdWord: &Word |  | ", "cmdExcel: &Excel |  | ",
                 "cmdPower: &PowerPoint |  | ", "cmdAddExisting: &Add Existing |  | ",
                 "cmdScan: &Scan |  | "}));
+        QCOMPARE(overlaps(d.dialog), QStringList());
     }
 
     // A value that isn't a day blanks a date box, whatever it showed before; a blank box
@@ -268,6 +269,8 @@ private Q_SLOTS:
         Dialog d;
         d.dialog.findChild<QTabWidget*>("SSTab1")->setCurrentIndex(1);
         QTableView* grid = d.grid();
+        // The text takes the room: its column is much wider than the date's.
+        QVERIFY(grid->columnWidth(3) > 3 * grid->columnWidth(1));
         grid->setFocus();
         grid->setCurrentIndex(grid->model()->index(0, 1));
         QTest::keyClick(grid, '2');

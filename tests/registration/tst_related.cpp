@@ -42,6 +42,7 @@ private Q_SLOTS:
                 ": Sender/Receiver: |  | ", ": Location: |  | ", "cmdOK: OK |  | ", "cmdCancel: Cancel |  | ",
                 "fraCreateWith: Create With |  | ", "cmdWord: &Word |  | ", "cmdExcel: &Excel |  | ",
                 "cmdPower: &PowerPoint |  | ", "cmdAddExisting: &Add Existing |  | "}));
+        QCOMPARE(overlaps(dialog), QStringList());
         QVERIFY(dialog.isModal());
         QVERIFY(dialog.findChild<Recordset*>("Adodc1"));
         QVERIFY(dialog.findChild<Recordset*>("datPrimaryRS"));
@@ -145,6 +146,7 @@ private Q_SLOTS:
                     ": Related Document Description: |  | ", ": Send/Receive Date: |  | ",
                     ": Sender/Receiver: |  | ", ": Location: |  | ", "cmdOK: OK |  | ",
                     "cmdCancel: Cancel |  | "}));
+            QCOMPARE(overlaps(dialog), QStringList());
             QCOMPARE(dialog.findChild<QLineEdit*>("txtParent")->text(), "Annex");
             QCOMPARE(box(dialog, 4)->text(), fx.annexFile);
             QVERIFY(!dialog.findChild<QPushButton*>("cmdWord"));
