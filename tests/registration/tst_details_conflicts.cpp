@@ -19,7 +19,7 @@ private Q_SLOTS:
     // Another user stored the document while the dialog was open: OK tells so, with the
     // stored and the typed description, and the user reloads it (and types again), stores
     // theirs over it, or goes back to what was typed. Nothing typed is lost on the way, and
-    // the other user's note, a field not typed here, stays.
+    // the other user's note and direction, fields not typed here, stay.
     void changedByAnotherUser_data()
     {
         QTest::addColumn<int>("answer");
@@ -42,7 +42,8 @@ private Q_SLOTS:
         DocumentDetailsDialog dialog;
         showActive(dialog);
         retype(box(dialog, 7), "Mine");
-        fx.reg.exec("UPDATE tbl_Documents SET DokAntraste='Theirs', DokPastaba='Their note' WHERE RastasID="
+        fx.reg.exec("UPDATE tbl_Documents SET DokAntraste='Theirs', DokPastaba='Their note', KryptisID=3 "
+                    "WHERE RastasID="
             + QString::number(fx.lease));
 
         fx.prompter.answer(answer);
@@ -64,6 +65,9 @@ private Q_SLOTS:
         QVERIFY(dialog.isVisible());
         QCOMPARE(box(dialog, 7)->text(), shownAfter);
         QCOMPARE(dialog.findChild<QPlainTextEdit*>("txtFields_12")->toPlainText(), "Their note");
+        // The direction shows as stored once reloaded; going back to what was typed keeps it.
+        QVERIFY(dialog.findChild<QRadioButton*>(answer == MsgBoxResult::Yes ? "Option_3" : "Option_4")
+                    ->isChecked());
 
         // A later OK stores what the dialog holds then, over what the user was shown.
         retype(box(dialog, 7), shownAfter + " again");
@@ -177,6 +181,33 @@ private Q_SLOTS:
                 "Subcategory: stored \"" + QString::number(paid) + "\", yours \"Inbound\""}));
         QVERIFY(dialog.isVisible());
         Q_UNUSED(inbound);
+    }
+
+    // An index typed here is checked at every store: after a conflict the user went back
+    // from, an index another user took meanwhile is still refused.
+    void typedIndexCheckedAfterConflict()
+    {
+        Fixture fx;
+        DocumentDetailsDialog dialog;
+        showActive(dialog);
+        retype(box(dialog, 3), "AGR-7");
+        retype(box(dialog, 7), "Mine");
+        fx.reg.exec(
+            "UPDATE tbl_Documents SET DokAntraste='Theirs' WHERE RastasID=" + QString::number(fx.lease));
+        fx.prompter.answer(MsgBoxResult::Cancel);
+        click(dialog, "cmdButton_0");
+        QCOMPARE(fx.prompter.take().size(), 1);
+        fx.reg.exec("UPDATE tbl_Documents SET DokRegistracIndeksas='AGR-7' WHERE RastasID="
+            + QString::number(fx.other));
+        fx.prompter.answer(MsgBoxResult::No);
+        click(dialog, "cmdButton_0");
+        const auto prompts = fx.prompter.take();
+        QCOMPARE(prompts.size(), 1);
+        QVERIFY2(
+            prompts.first().text.startsWith("The register already has a document with the index \"AGR-7\"."),
+            qPrintable(prompts.first().text));
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(fx.document("DokRegistracIndeksas", fx.lease).toString(), "AGR-1");
     }
 };
 
