@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QSignalSpy>
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QTabWidget>
@@ -40,6 +41,9 @@ private Q_SLOTS:
         showActive(dialog);
         QCOMPARE(dialog.windowTitle(), "Sutartis Description");
         QCOMPARE(dialog.objectName(), "frmNew");
+        // The location and the text status are shown, not typed: the file's place changes
+        // by moving the file.
+        QVERIFY(box(dialog, 14)->isReadOnly());
         QVERIFY(dialog.findChild<QLineEdit*>("txtFileText")->isReadOnly());
         const auto* ok = dialog.findChild<QPushButton*>("cmdButton_0");
         for (const char* button : {"cmdButton_1", "cmdButton_2"})
@@ -183,12 +187,15 @@ private Q_SLOTS:
         showActive(dialog);
         retype(box(dialog, 3), "AGR-2");
         fx.prompter.answer(answer);
+        const QSignalSpy rejected(&dialog, &QDialog::rejected);
         dialog.close();
         const auto prompts = fx.prompter.take();
         QCOMPARE(prompts.size(), 1);
         QCOMPARE(prompts.first().text, ApplyQuestion);
         QCOMPARE(prompts.first().style, MsgBoxStyle::YesNo | MsgBoxStyle::Exclamation);
         QVERIFY(!dialog.isVisible());
+        // Closed as Cancel closes it, so that whoever waits on the dialog learns it ended.
+        QCOMPARE(rejected.count(), 1);
         QCOMPARE(fx.document("DokRegistracIndeksas", fx.lease).toString(),
             answer == MsgBoxResult::Yes ? "AGR-2" : "AGR-1");
     }
