@@ -8,6 +8,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <functional>
+
 using namespace kartella;
 using namespace kartella::test;
 
@@ -323,6 +325,37 @@ private Q_SLOTS:
     }
 
     // What each refused operation says, whole: the user reads it in the message box.
+
+    // A closed recordset refuses every move, in the same words, whatever position it had.
+    void closedRecordsetRefusesMoves()
+    {
+        EngineRegister reg;
+        fillEight(reg);
+        Recordset recordset;
+        recordset.open("SELECT RastasID FROM tbl_Documents ORDER BY RastasID", reg.connection(),
+            CursorTypeEnum::Static, LockTypeEnum::Optimistic);
+        recordset.moveNext();
+        const QVariant mark = recordset.bookmark();
+        recordset.close();
+        const std::pair<const char*, std::function<void()>> moves[] = {
+            {"moveFirst", [&recordset] { recordset.moveFirst(); }},
+            {"moveLast", [&recordset] { recordset.moveLast(); }},
+            {"moveNext", [&recordset] { recordset.moveNext(); }},
+            {"movePrevious", [&recordset] { recordset.movePrevious(); }},
+            {"move(1)", [&recordset] { recordset.move(1); }},
+            {"move(-1)", [&recordset] { recordset.move(-1); }},
+            {"setAbsolutePosition(1)", [&recordset] { recordset.setAbsolutePosition(1); }},
+            {"setBookmark", [&recordset, &mark] { recordset.setBookmark(mark); }},
+        };
+        for (const auto& [name, move] : moves) {
+            try {
+                move();
+                QFAIL(qPrintable(QString(name) + " was not refused"));
+            } catch (const Error& error) {
+                QCOMPARE(error.description(), "Operation is not allowed when the object is closed.");
+            }
+        }
+    }
 
     void refusedOperationsSayWhy_data()
     {
