@@ -59,6 +59,12 @@ private Q_SLOTS:
         QCOMPARE(recordset.recordCount(), 7);
         QCOMPARE(names(reg), QString("Petras,Ąžuolas,Šarūnas,šilas,Saulius"));
         QVERIFY(isNull(recordset.fields("ContactID").value()));
+        // The pending group shows the rows waiting to be written: two new, one changed.
+        recordset.setFilterGroup(FilterGroupEnum::PendingRecords);
+        QCOMPARE(recordset.recordCount(), 3);
+        recordset.setFilterGroup(FilterGroupEnum::None);
+        QCOMPARE(recordset.recordCount(), 7);
+        recordset.moveLast();
 
         // Current: only "Kitas", which gets its key back.
         recordset.updateBatch(AffectEnum::Current);
