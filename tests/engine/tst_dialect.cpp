@@ -145,6 +145,12 @@ private Q_SLOTS:
             << "SELECT a.x, count(*) FROM (b INNER JOIN c ON b.k=c.k) LEFT JOIN \"a\" ON a.i=c.i";
         QTest::newRow("right join with star") << "SELECT * FROM a RIGHT JOIN b ON a.i=b.i"
                                               << "SELECT * FROM a RIGHT JOIN b ON a.i=b.i";
+        QTest::newRow("right join before a set operation")
+            << "SELECT a.x, b.y FROM a RIGHT JOIN b ON a.i=b.i EXCEPT SELECT p, q FROM r"
+            << "SELECT a.x, b.y FROM b LEFT JOIN a ON a.i=b.i EXCEPT SELECT p, q FROM r";
+        QTest::newRow("right join, a condition, a set operation")
+            << "SELECT a.x, b.y FROM a RIGHT JOIN b ON a.i=b.i WHERE a.x=1 INTERSECT SELECT p, q FROM r"
+            << "SELECT a.x, b.y FROM b LEFT JOIN a ON a.i=b.i WHERE a.x=1 INTERSECT SELECT p, q FROM r";
         QTest::newRow("right join among joins")
             << "SELECT a.x FROM a RIGHT JOIN b ON a.i=b.i LEFT JOIN c ON c.i=b.i"
             << "SELECT a.x FROM a RIGHT JOIN b ON a.i=b.i LEFT JOIN c ON c.i=b.i";

@@ -305,7 +305,8 @@ private:
                 return;
             else if (depth == 0
                 && (isWord(i, u"WHERE") || isWord(i, u"GROUP") || isWord(i, u"ORDER") || isWord(i, u"HAVING")
-                    || isWord(i, u"LIMIT") || isWord(i, u"UNION")))
+                    || isWord(i, u"LIMIT") || isWord(i, u"UNION") || isWord(i, u"EXCEPT")
+                    || isWord(i, u"INTERSECT")))
                 break;
             else if (depth == 0 && (isWord(i, u"JOIN") || isPunct(i, u',')))
                 return;
