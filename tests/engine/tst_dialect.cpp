@@ -128,6 +128,10 @@ private Q_SLOTS:
                                               << "SELECT 1";
         QTest::newRow("semicolons alone") << ";"
                                           << "";
+        QTest::newRow("nothing") << ""
+                                 << "";
+        QTest::newRow("blanks") << " \r\n"
+                                << "";
         QTest::newRow("literal untouched")
             << "UPDATE t SET t.a = 'x #3/1/2024# `q` t.b = 1;' WHERE b = 'DELETE t.* FROM'"
             << "UPDATE t SET a = 'x #3/1/2024# `q` t.b = 1;' WHERE b = 'DELETE t.* FROM'";
@@ -151,6 +155,12 @@ private Q_SLOTS:
         QTest::newRow("right join, a condition, a set operation")
             << "SELECT a.x, b.y FROM a RIGHT JOIN b ON a.i=b.i WHERE a.x=1 INTERSECT SELECT p, q FROM r"
             << "SELECT a.x, b.y FROM b LEFT JOIN a ON a.i=b.i WHERE a.x=1 INTERSECT SELECT p, q FROM r";
+        QTest::newRow("right join, grouped by two")
+            << "SELECT a.x, b.y FROM a RIGHT JOIN b ON a.i=b.i GROUP BY a.x, b.y"
+            << "SELECT a.x, b.y FROM b LEFT JOIN a ON a.i=b.i GROUP BY a.x, b.y";
+        QTest::newRow("right join, ordered by two")
+            << "SELECT a.x, b.y FROM a RIGHT JOIN b ON a.i=b.i ORDER BY 1, 2"
+            << "SELECT a.x, b.y FROM b LEFT JOIN a ON a.i=b.i ORDER BY 1, 2";
         QTest::newRow("right join among joins")
             << "SELECT a.x FROM a RIGHT JOIN b ON a.i=b.i LEFT JOIN c ON c.i=b.i"
             << "SELECT a.x FROM a RIGHT JOIN b ON a.i=b.i LEFT JOIN c ON c.i=b.i";

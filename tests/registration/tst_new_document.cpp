@@ -306,6 +306,43 @@ private Q_SLOTS:
         QVERIFY(!test::fileHoldsText(path, "Template marker"));
     }
 
+    // A subcategory with templates of its own gives Word and Excel their own ones; a
+    // presentation is saved empty all the same.
+    void subCategoryTemplates_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<int>("kind");
+        QTest::newRow("Word") << "cmdWord" << 0;
+        QTest::newRow("Excel") << "cmdExcel" << 1;
+        QTest::newRow("PowerPoint") << "cmdPower" << 2;
+    }
+
+    void subCategoryTemplates()
+    {
+        if (m_officeMissing)
+            QSKIP("LibreOffice isn't installed: this test makes real Office templates");
+        QFETCH(QString, button);
+        QFETCH(int, kind);
+        Fixture fx(m_templatePaths);
+        ScriptedOfficeSuite scripted;
+        QStringList own;
+        for (const QString& path : std::as_const(m_templatePaths)) {
+            own << QFileInfo(path).dir().filePath("Sub" + QFileInfo(path).fileName());
+            QFile::copy(path, own.last());
+        }
+        fx.reg.exec(QString("UPDATE tbl_Sub_Categories SET SubDokTemplates='%1', SubDokTemplatesExel='%2', "
+                            "SubDokTemplatesPowPoint='%3' WHERE SubKategID=%4")
+                        .arg(own[0], own[1], own[2])
+                        .arg(fx.lease));
+        selection().currentSubCategoryId = fx.lease;
+        Dialog d;
+        d.type(4, "Yard");
+        d.click(qPrintable(button));
+        QCOMPARE(scripted.made.size(), 1);
+        QCOMPARE(scripted.made.first().templatePath, kind == 2 ? QString() : own[kind]);
+        QVERIFY(fx.prompter.prompts().isEmpty());
+    }
+
     // While the file is made the dialog's buttons are off, so that a click in the window
     // (which keeps painting) starts no second file and doesn't close the dialog; after it
     // they are on again.
