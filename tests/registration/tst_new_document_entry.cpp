@@ -205,6 +205,8 @@ private Q_SLOTS:
                 "cmdPower: &PowerPoint |  | ", "cmdAddExisting: &Add Existing |  | ",
                 "cmdScan: &Scan |  | "}));
         QCOMPARE(overlaps(d.dialog), QStringList());
+        // The location is shown, not typed: the buttons that make or attach the file fill it.
+        QVERIFY(d.box(5)->isReadOnly());
     }
 
     // A value that isn't a day blanks a date box, whatever it showed before; a blank box
