@@ -45,8 +45,13 @@ private Q_SLOTS:
         QCOMPARE(overlaps(dialog), QStringList());
         QVERIFY(dialog.isModal());
         QVERIFY(dialog.findChild<Recordset*>("Adodc1"));
-        QVERIFY(dialog.findChild<Recordset*>("datPrimaryRS"));
-        // The keys are kept in boxes nobody sees.
+        // The new row is all the dialog reads of the related documents.
+        QCOMPARE(dialog.findChild<Recordset*>("datPrimaryRS")->recordCount(), 1);
+        QVERIFY(dialog.findChild<QTabWidget*>("SSTab1"));
+        // The parent and the location are shown, not typed; the keys are kept in boxes nobody
+        // sees.
+        QVERIFY(dialog.findChild<QLineEdit*>("txtParent")->isReadOnly());
+        QVERIFY(box(dialog, 5)->isReadOnly());
         QVERIFY(box(dialog, 0)->isHidden());
         QVERIFY(box(dialog, 2)->isHidden());
         QCOMPARE(dialog.findChild<QLineEdit*>("txtParent")->text(), "Sutartis");
@@ -149,6 +154,8 @@ private Q_SLOTS:
             QCOMPARE(overlaps(dialog), QStringList());
             QCOMPARE(dialog.findChild<QLineEdit*>("txtParent")->text(), "Annex");
             QCOMPARE(box(dialog, 4)->text(), fx.annexFile);
+            QVERIFY(dialog.findChild<QLineEdit*>("txtParent")->isReadOnly());
+            QVERIFY(box(dialog, 4)->isReadOnly());
             QVERIFY(!dialog.findChild<QPushButton*>("cmdWord"));
             QTest::keyClick(dialog.findChild<QPlainTextEdit*>("txtFields_1"), Qt::Key_End);
             QTest::keyClicks(dialog.findChild<QPlainTextEdit*>("txtFields_1"), " 2");
@@ -368,6 +375,15 @@ private Q_SLOTS:
         QCOMPARE(fx.prompter.take().first().text, "This related document no longer exists.");
         QCOMPARE(window.relatedModel()->rowOfKey(key), -1);
         QVERIFY(window.documentModel()->rowOfKey(DocumentFills::itemKey(fx.lease)) >= 0);
+
+        // Made for the gone row all the same, the dialog offers nothing to store.
+        fx.selectRelated();
+        fx.prompter.answer(MsgBoxResult::Ok);
+        RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Editing);
+        QCOMPARE(fx.prompter.take().size(), 1);
+        QVERIFY(!dialog.findChild<QPushButton*>("cmdOK")->isEnabled());
+        QVERIFY(!dialog.findChild<QTabWidget*>("SSTab1")->isEnabled());
+        QCOMPARE(dialog.exec(), int(QDialog::Rejected));
     }
 };
 
