@@ -14,6 +14,7 @@
 #include "support/SelectionState.h"
 
 #include <QComboBox>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -256,8 +257,8 @@ private Q_SLOTS:
         QVERIFY(prompter.allAnswered());
     }
 
-    // The related document's description and contact, open on a row another program changes:
-    // OK tells so with both descriptions and both contacts by name; Keep Mine stores the typed
+    // The related document's description, date and contact, open on a row another program
+    // changes: OK tells so with both of each, the contacts by name; Keep Mine stores the typed
     // ones beside the other program's location, Reload shows the stored ones in the dialog.
     void relatedDocumentChanged_data() { addPlacesAndAnswers(); }
     void relatedDocumentChanged()
@@ -276,11 +277,15 @@ private Q_SLOTS:
         RelatedDocumentDialog dialog(RelatedDocumentDialog::Mode::Editing);
         showActive(&dialog);
         reg->exec("UPDATE tbl_Sub_Documents SET SubDocDescript='Annex A', SubRastoKelias='annex.odt', "
-                  "ContactID="
+                  "SubRastGavimoData='2024-11-30', ContactID="
             + idText(jonas) + " WHERE SubRastasID=" + idText(annex));
         auto* contact = child<QComboBox>(&dialog, "cmbContact");
         contact->setFocus();
         QTest::keyClick(contact, 'O');
+        auto* date = child<QLineEdit>(&dialog, "txtFields_3");
+        date->setFocus();
+        date->selectAll();
+        QTest::keyClicks(date, "2024.12.01");
         auto* description = child<QPlainTextEdit>(&dialog, "txtFields_1");
         description->setFocus();
         QTest::keyClick(description, Qt::Key_End);
@@ -297,7 +302,8 @@ private Q_SLOTS:
                 && texts.first().contains(
                     "\nRelated Document Description: stored \"Annex A\", yours \"Annex 2\"\n")
                 && texts.first().contains(
-                    "\nSender/Receiver: stored \"Jonas Jonaitis\", yours \"Ona Petraitiene\"\n"),
+                    "\nSender/Receiver: stored \"Jonas Jonaitis\", yours \"Ona Petraitiene\"\n")
+                && texts.first().contains("\nSend/Receive Date: stored 2024.11.30, yours 2024.12.01\n"),
             qPrintable(texts.first()));
         const bool reloaded = answer == MsgBoxResult::Yes;
         const QString where = " FROM tbl_Sub_Documents WHERE SubRastasID=" + idText(annex);
