@@ -56,8 +56,8 @@ private Q_SLOTS:
         QVERIFY2(!m_templatePaths.contains(QString()), "LibreOffice made no template");
     }
 
-    // OK with no button pressed, a file attached and OK, and Cancel: the file, the row and
-    // the day's number.
+    // OK with no button pressed, a file attached (and a sender chosen) and OK, and Cancel: the
+    // file, the row and the day's number.
     void openingTable_data()
     {
         QTest::addColumn<bool>("attach");
@@ -83,6 +83,7 @@ private Q_SLOTS:
             QCOMPARE(fx.prompter.fileRequests.first().filterLabel, "All files (*.*)");
             QCOMPARE(fx.prompter.fileRequests.first().pattern, "*.*");
             QCOMPARE(d.box(5)->text(), existing);
+            d.choose("cmbSender", 'O');
         }
         d.click(ok ? "cmdOK" : "cmdCancel");
         QVERIFY(!d.dialog.isVisible());
@@ -93,6 +94,8 @@ private Q_SLOTS:
         if (!ok)
             return;
         QCOMPARE(fx.stored("RastoKel").toString(), attach ? existing : QString());
+        QCOMPARE(fx.stored("ContactID"),
+            attach ? fx.reg.scalar("SELECT ContactID FROM tbl_Contacts") : QVariant());
         QCOMPARE(fx.stored("DokRegistracIndeksas").toString(), "AGR-" + today("yyyyMMdd") + "/1");
         QCOMPARE(fx.stored("DokGavSiuntData").toDate(), QDate::currentDate());
         QCOMPARE(fx.stored("DokRegistracData").toDate(), QDate::currentDate());
