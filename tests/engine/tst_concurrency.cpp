@@ -314,6 +314,41 @@ private Q_SLOTS:
         QCOMPARE(reg.scalar(QStringLiteral("SELECT COUNT(*) FROM tbl_Contacts")).toInt(), 4);
     }
 
+    // Another program's short write holds the register for a moment: a write meanwhile waits
+    // for it and is then stored, rather than refused.
+    void writeWaitsForAShortWrite()
+    {
+        EngineRegister reg;
+        reg.fillSmall();
+        QSemaphore holding;
+        QString error;
+        std::unique_ptr<QThread> other(QThread::create([&] {
+            try {
+                Connection writer(reg.connectionString());
+                writer.open();
+                writer.beginTrans();
+                writer.execute("INSERT INTO tbl_Contacts (FullName) VALUES ('first')");
+                holding.release();
+                QThread::msleep(300);
+                writer.commitTrans();
+            } catch (const Error& failure) {
+                error = failure.description();
+                holding.release();
+            }
+        }));
+        other->start();
+        holding.acquire();
+        Connection mine(reg.connectionString());
+        mine.open();
+        mine.execute("INSERT INTO tbl_Contacts (FullName) VALUES ('second')");
+        other->wait();
+        QVERIFY2(error.isEmpty(), qPrintable(error));
+        QCOMPARE(
+            reg.joined("SELECT FullName FROM tbl_Contacts WHERE FullName IN ('first', 'second') ORDER BY "
+                       "ContactID"),
+            "first,second");
+    }
+
     // A search keeps its found rows in a temporary table while another program holds the
     // register file for writing: those rows are no rows of the register, and wait for no one.
     void temporaryRowsWaitForNoWriter()

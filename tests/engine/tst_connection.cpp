@@ -248,6 +248,29 @@ private Q_SLOTS:
             -1L);
     }
 
+    // A register another program holds for a moment only opens once the holder lets go.
+    void openingWaitsForABriefHold()
+    {
+        EngineRegister reg;
+        if (reg.onServer())
+            QSKIP("register files only");
+        QSemaphore held;
+        std::unique_ptr<QThread> brief(QThread::create([&reg, &held] {
+            Connection other(QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=") + reg.path());
+            other.open();
+            other.execute(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE"));
+            other.execute(QStringLiteral("INSERT INTO tbl_Contacts (FullName) VALUES ('brief')"));
+            held.release();
+            QThread::msleep(300);
+        }));
+        brief->start();
+        held.acquire();
+        const qint64 opened
+            = openError(QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=") + reg.path()).first;
+        brief->wait();
+        QCOMPARE(opened, -1L);
+    }
+
     void commandFailure()
     {
         EngineRegister reg;
