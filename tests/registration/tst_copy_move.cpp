@@ -24,6 +24,33 @@ class CopyMoveTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // The name a copy or a move gives the file: what follows the last separator of either
+    // kind, so that a path stored on Windows names the same file here.
+    void fileNames_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("bare name") << "lease.doc"
+                                   << "lease.doc";
+        QTest::newRow("in a folder") << "/home/ona/lease.doc"
+                                     << "lease.doc";
+        QTest::newRow("at the root") << "/lease.doc"
+                                     << "lease.doc";
+        QTest::newRow("Windows path") << "C:\\Docs\\lease.doc"
+                                      << "lease.doc";
+        QTest::newRow("Windows root") << "\\lease.doc"
+                                      << "lease.doc";
+        QTest::newRow("both separators") << "C:\\Docs/old\\lease.doc"
+                                         << "lease.doc";
+    }
+
+    void fileNames()
+    {
+        QFETCH(QString, path);
+        QFETCH(QString, name);
+        QCOMPARE(fileNameOf(path), name);
+    }
+
     // Copy leaves row and source; Move rewrites the row of the right table (through a
     // folder with an apostrophe), the selection and the shown path; the other table and
     // rows stay as they were.
