@@ -276,6 +276,21 @@ private Q_SLOTS:
         QCOMPARE(editing.editMode(), int(EditModeEnum::None));
         QCOMPARE(
             editing.fields(QStringLiteral("DokAntraste")).value().toString(), QStringLiteral("Their title"));
+
+        // Read again under the stored values only, an edit in progress keeps what was typed,
+        // and writing it then goes over the other client's value.
+        editing.fields(QStringLiteral("DokAntraste")).setValue(QStringLiteral("Typed again"));
+        other.execute(
+            QStringLiteral("UPDATE tbl_Documents SET DokAntraste = 'Third title' WHERE RastasID = 1"));
+        editing.resync(AffectEnum::Current, ResyncEnum::UnderlyingValues);
+        QCOMPARE(
+            editing.fields(QStringLiteral("DokAntraste")).value().toString(), QStringLiteral("Typed again"));
+        QCOMPARE(editing.fields(QStringLiteral("DokAntraste")).underlyingValue().toString(),
+            QStringLiteral("Third title"));
+        QVERIFY(editing.fields(QStringLiteral("DokAntraste")).isChanged());
+        editing.update();
+        QCOMPARE(reg.joined(QStringLiteral("SELECT DokAntraste FROM tbl_Documents WHERE RastasID = 1")),
+            QStringLiteral("Typed again"));
     }
 
     // A row another client deleted: changing it reports it gone and changes nothing else;

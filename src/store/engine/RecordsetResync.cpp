@@ -45,11 +45,20 @@ void RecordsetData::resyncRow(int row, bool keepChanges)
             now[std::size_t(c)] = stored.rows.value(0, column);
     }
 
-    if (edit && edit->row == row) {
-        if (keepChanges && !edit->adding)
-            commitEdit(false);
-        else if (!edit->adding)
+    if (edit && edit->row == row && !edit->adding) {
+        if (!keepChanges) {
             edit.reset();
+        } else if (isBatch()) {
+            commitEdit(false);
+        } else {
+            // A recordset that writes at update() keeps its edit open, so that update() still
+            // writes what was typed; the fields not typed take the stored values.
+            Values& typed = edit->values;
+            for (std::size_t c = 0; c < typed.size() && c < now.size(); ++c) {
+                if (sameFieldValue(typed[c], before[c]))
+                    typed[c] = now[c];
+            }
+        }
     }
     if (keepChanges && state.pending) {
         Values& pending = *state.pending;
