@@ -244,6 +244,8 @@ private Q_SLOTS:
         QCOMPARE(reg.scalar("SELECT count(*) FROM tbl_Documents").toInt(), 3);
     }
 
+    // Chapters side by side; a chapter without a name after its parenthesis takes its
+    // command's alias, and without that too it is called Chapter1.
     void severalChapters()
     {
         EngineRegister reg;
@@ -255,14 +257,14 @@ private Q_SLOTS:
         contacts.open(
             "SHAPE {SELECT ContactID, FullName, CompanyName FROM tbl_Contacts ORDER BY FullName, "
             "CompanyName}  AS Contacts APPEND ({SELECT PhoneID, ContactID, PhoneName, PhoneNumber FROM "
-            "tbl_Phones ORDER BY PhoneName}  AS Phones RELATE 'ContactID' TO 'ContactID') AS Phones,"
-            "({SELECT HomeID, ContactID, Description, HomeWWW FROM tbl_HomePages ORDER BY Description}  AS "
-            "HomePages RELATE 'ContactID' TO 'ContactID') AS HomePages",
+            "tbl_Phones ORDER BY PhoneName}  AS Phones RELATE 'ContactID' TO 'ContactID'),"
+            "({SELECT HomeID, ContactID, Description, HomeWWW FROM tbl_HomePages ORDER BY Description} "
+            "RELATE 'ContactID' TO 'ContactID')",
             reg.connection());
         QStringList seen;
         while (!contacts.eof()) {
             Recordset* phones = contacts.fields("Phones").value().value<Recordset*>();
-            Recordset* pages = contacts.chapter("HomePages");
+            Recordset* pages = contacts.chapter("Chapter1");
             seen << contacts.collect("FullName").toString() + u':' + rows(*phones, {"PhoneName"}).join(u',')
                     + u':' + rows(*pages, {"HomeWWW"}).join(u',');
             contacts.moveNext();
@@ -428,13 +430,15 @@ private Q_SLOTS:
 
     // Each aggregate over the rows of its group: COUNT of the chapter counts rows, COUNT of a
     // field its values; SUM, AVG, MIN and MAX pass over Null and give Null for no value at all.
-    // Texts equal but for their case tie, and the first of them stands.
+    // Texts equal but for their case tie, and the first of them stands; the first value of a
+    // group is neither its least nor its greatest.
     void computeAggregates()
     {
         EngineRegister reg;
-        reg.execute("INSERT INTO tbl_Contacts (ContactID, FullName, City) VALUES (1, 'Petras', 'Vilnius'), "
-                    "(2, 'Ana', 'Vilnius'), (3, 'PETRAS', 'Vilnius'), (4, 'ana', 'Vilnius'), "
-                    "(5, 'Zita', 'Kaunas'), (6, Null, 'Kaunas'), (7, Null, 'Klaipėda')");
+        reg.execute(
+            "INSERT INTO tbl_Contacts (ContactID, FullName, City) VALUES (1, 'Jonas', 'Vilnius'), "
+            "(2, 'Ana', 'Vilnius'), (3, 'Petras', 'Vilnius'), (4, 'ana', 'Vilnius'), "
+            "(5, 'Zita', 'Kaunas'), (6, Null, 'Kaunas'), (7, Null, 'Klaipėda'), (8, 'PETRAS', 'Vilnius')");
         Recordset groups;
         groups.open("SHAPE {SELECT ContactID, FullName, City FROM tbl_Contacts ORDER BY ContactID} AS c "
                     "COMPUTE c, COUNT(c) AS People, COUNT(c.FullName) AS Names, SUM(c.ContactID) AS Total, "
@@ -442,7 +446,7 @@ private Q_SLOTS:
             reg.connection());
         QCOMPARE(rows(groups, {"City", "People", "Names", "Total", "Mean", "First", "Last"}),
             QStringList(
-                {"Vilnius|4|4|10|2.5|Ana|Petras", "Kaunas|2|1|11|5.5|Zita|Zita", "Klaipėda|1|0|7|7|-|-"}));
+                {"Vilnius|5|5|18|3.6|Ana|Petras", "Kaunas|2|1|11|5.5|Zita|Zita", "Klaipėda|1|0|7|7|-|-"}));
     }
 
     // What a command that can't be read or run says, whole; the command follows it.
@@ -487,6 +491,9 @@ private Q_SLOTS:
 
         QTest::newRow("unknown parent field")
             << phones + "RELATE Nothing TO ContactID) AS P" << run + "the parent has no field Nothing.";
+        QTest::newRow("related by an earlier chapter") << phones
+                + "RELATE ContactID TO ContactID) AS P, ({select * from tbl_Phones} RELATE P TO ContactID) "
+                  "AS Q" << run + "the parent has no field P.";
         QTest::newRow("unknown child field")
             << phones + "RELATE ContactID TO 'Nothing') AS P" << run + "the child has no field Nothing.";
         QTest::newRow("unknown group field")
