@@ -10,6 +10,7 @@ int runConnectionTest(int argc, char** argv);
 int runRecordsetTest(int argc, char** argv);
 int runEditTest(int argc, char** argv);
 int runShapeTest(int argc, char** argv);
+int runShapeComputeTest(int argc, char** argv);
 int runStatementsTest(int argc, char** argv);
 int runConcurrencyTest(int argc, char** argv);
 int runTransactionTest(int argc, char** argv);
@@ -24,7 +25,7 @@ int main(int argc, char** argv)
     }
     int failures = 0;
     for (const auto run : {runDialectTest, runConnectionTest, runRecordsetTest, runEditTest, runShapeTest,
-             runStatementsTest, runConcurrencyTest, runTransactionTest})
+             runShapeComputeTest, runStatementsTest, runConcurrencyTest, runTransactionTest})
         failures += run(argc, argv);
     return failures;
 }
