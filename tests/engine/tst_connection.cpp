@@ -284,8 +284,8 @@ private Q_SLOTS:
                     && (error.description().contains("no such table")
                         || error.description().contains("does not exist")),
                 qPrintable(error.description()));
-            QVERIFY(
-                error.description().contains("DELETE tbl_Nothing.* FROM tbl_Nothing WHERE tbl_Nothing.ID=1"));
+            QVERIFY(error.description().contains(
+                "\nStatement: DELETE tbl_Nothing.* FROM tbl_Nothing WHERE tbl_Nothing.ID=1"));
         }
         Connection closed;
         QVERIFY_THROWS_EXCEPTION(Error, closed.execute("SELECT 1"));

@@ -109,6 +109,9 @@ private Q_SLOTS:
             QString::number(fx.lease) + ":Call at noon," + QString::number(fx.other) + ":Other's");
         QCOMPARE(fx.document("DokAntraste", fx.other).toString(), "Other");
         QCOMPARE(fx.document("KryptisID", fx.other).toInt(), 2);
+        // The history names the command that wrote.
+        QCOMPARE(
+            fx.reg.scalar("SELECT Command FROM tbl_History ORDER BY HistoryID DESC").toString(), "Details");
         QVERIFY(fx.prompter.prompts().isEmpty());
     }
 
@@ -259,16 +262,30 @@ private Q_SLOTS:
         Q_UNUSED(inbound);
     }
 
-    // A write the register refuses is reported as an error with its number; the row stays
-    // as stored, the dialog open with its changes.
+    // A write the register refuses, of the document or of a reminder, is reported as an
+    // error with its number; the rows stay as stored, the dialog open with its changes.
+    void refusedApplyLeavesTheRow_data()
+    {
+        QTest::addColumn<QString>("table");
+        QTest::newRow("document") << "tbl_Documents";
+        QTest::newRow("reminder") << "tbl_Tickler";
+    }
+
     void refusedApplyLeavesTheRow()
     {
+        QFETCH(QString, table);
         Fixture fx;
-        fx.reg.exec("CREATE TRIGGER refuse BEFORE UPDATE ON tbl_Documents BEGIN SELECT RAISE(ABORT, "
-                    "'refused here'); END");
+        const QString reminders = fx.reminders();
+        fx.reg.exec("CREATE TRIGGER refuse BEFORE UPDATE ON " + table
+            + " BEGIN SELECT RAISE(ABORT, 'refused here'); END");
         DocumentDetailsDialog dialog;
         showActive(dialog);
-        retype(box(dialog, 7), "Changed");
+        if (table == "tbl_Tickler") {
+            auto* grid = dialog.findChild<QTableView*>("grdTickler");
+            QVERIFY(grid->model()->setData(grid->model()->index(0, 3), "Changed"));
+        } else {
+            retype(box(dialog, 7), "Changed");
+        }
         fx.prompter.answer(MsgBoxResult::Ok);
         click(dialog, "cmdButton_0");
         const auto prompts = fx.prompter.take();
@@ -279,6 +296,7 @@ private Q_SLOTS:
         QVERIFY(dialog.isVisible());
         QVERIFY(dialog.detailsChanged());
         QCOMPARE(fx.document("DokAntraste", fx.lease).toString(), "Sutartis");
+        QCOMPARE(fx.reminders(), reminders);
     }
 
     // An index changed to one another document has is refused, with the next free number

@@ -1,4 +1,5 @@
 #include "RegisterFixture.h"
+#include "harness/Lithuanian.h"
 #include "registration/DocumentDetailsDialog.h"
 
 #include <QComboBox>
@@ -69,13 +70,18 @@ private Q_SLOTS:
         QVERIFY(dialog.findChild<QRadioButton*>(answer == MsgBoxResult::Yes ? "Option_3" : "Option_4")
                     ->isChecked());
 
-        // A later OK stores what the dialog holds then, over what the user was shown.
+        // A later OK stores what the dialog holds then, over what the user was shown, a
+        // direction chosen after the reload too.
         retype(box(dialog, 7), shownAfter + " again");
+        auto* inner = dialog.findChild<QRadioButton*>("Option_1");
+        inner->setFocus();
+        QTest::keyClick(inner, Qt::Key_Space);
         click(dialog, "cmdButton_0");
         QVERIFY(fx.prompter.take().isEmpty());
         QVERIFY(!dialog.isVisible());
         QCOMPARE(fx.document("DokAntraste", fx.lease).toString(), shownAfter + " again");
         QCOMPARE(fx.document("DokPastaba", fx.lease).toString(), "Their note");
+        QCOMPARE(fx.document("KryptisID", fx.lease).toInt(), 1);
         QCOMPARE(fx.document("DokAntraste", fx.other).toString(), "Other");
     }
 
@@ -97,15 +103,20 @@ private Q_SLOTS:
         DocumentDetailsDialog dialog;
         showActive(dialog);
         fx.reg.exec(
-            "UPDATE tbl_Tickler SET TicklerText='Call at once' WHERE RastasID=" + QString::number(fx.lease));
+            "UPDATE tbl_Tickler SET TicklerText='Call at once', TicklerDate='2024-05-01' WHERE RastasID="
+            + QString::number(fx.lease));
         auto* grid = dialog.findChild<QTableView*>("grdTickler");
         QVERIFY(grid->model()->setData(grid->model()->index(0, 3), "Call at noon"));
+        QVERIFY(grid->model()->setData(grid->model()->index(0, 1), QDate(2024, 6, 1)));
         fx.prompter.answer(answer);
         click(dialog, "cmdButton_0");
         const auto prompts = fx.prompter.take();
         QCOMPARE(prompts.size(), 1);
         QVERIFY2(
-            prompts.first().text.startsWith("This document was changed by another user since you opened it."),
+            prompts.first().text.startsWith("This document was changed by another user since you opened it.")
+                && prompts.first().text.contains(
+                    "\nReminder text: stored \"Call at once\", yours \"Call at noon\"\n")
+                && prompts.first().text.contains("\nReminder date: stored 2024.05.01, yours 2024.06.01\n"),
             qPrintable(prompts.first().text));
         QCOMPARE(fx.reminders(),
             QString::number(fx.lease) + ":" + storedAfter + "," + QString::number(fx.other) + ":Other's");
@@ -208,6 +219,44 @@ private Q_SLOTS:
             qPrintable(prompts.first().text));
         QVERIFY(dialog.isVisible());
         QCOMPARE(fx.document("DokRegistracIndeksas", fx.lease).toString(), "AGR-1");
+    }
+
+    // Another user deleted the document while the dialog was open: OK tells so, and nothing
+    // comes back.
+    void deletedByAnotherUser()
+    {
+        Fixture fx;
+        DocumentDetailsDialog dialog;
+        showActive(dialog);
+        retype(box(dialog, 7), "Mine");
+        fx.reg.exec("DELETE FROM tbl_Tickler WHERE RastasID=" + QString::number(fx.lease));
+        fx.reg.exec("DELETE FROM tbl_Sub_Documents WHERE RastasID=" + QString::number(fx.lease));
+        fx.reg.exec("DELETE FROM tbl_Documents WHERE RastasID=" + QString::number(fx.lease));
+        fx.prompter.answer(MsgBoxResult::Ok);
+        click(dialog, "cmdButton_0");
+        const auto prompts = fx.prompter.take();
+        QCOMPARE(prompts.size(), 1);
+        QCOMPARE(
+            prompts.first().text, "This document was deleted by another user; your changes were not saved.");
+        QCOMPARE(prompts.first().title, "Document Description");
+        QVERIFY(fx.document("DokAntraste", fx.lease).isNull());
+    }
+
+    // In Lithuanian the question names the fields by their Lithuanian captions.
+    void changedFieldNamedInLithuanian()
+    {
+        Fixture fx;
+        const Lithuanian lithuanian;
+        DocumentDetailsDialog dialog;
+        showActive(dialog);
+        retype(box(dialog, 7), "Mine");
+        fx.reg.exec(
+            "UPDATE tbl_Documents SET DokAntraste='Theirs' WHERE RastasID=" + QString::number(fx.lease));
+        fx.prompter.answer(MsgBoxResult::Cancel);
+        click(dialog, "cmdButton_0");
+        const auto prompts = fx.prompter.take();
+        QCOMPARE(prompts.size(), 1);
+        QVERIFY2(prompts.first().text.contains("\nAprašymas: "), qPrintable(prompts.first().text));
     }
 };
 
