@@ -384,9 +384,12 @@ void DocumentDetailsDialog::fillSubCategories(const QString& category)
         m_subCategories->close();
         m_subCategories->open(SubCategorySource + category, m_listConnection);
     } catch (const Error& error) {
-        // A row without a category has no subcategories to offer.
-        if (!category.isEmpty())
+        // A row without a category has no subcategories to offer. The list is filled for the
+        // row and again for its category: a failure is told once.
+        if (!category.isEmpty() && error.description() != m_subCategoryError) {
+            m_subCategoryError = error.description();
             reportStoreError(error.number(), error.description(), errorTitle());
+        }
     }
 }
 

@@ -81,6 +81,8 @@ private:
     bool askOnEscape();
     void onReminderGridEnter();
 
+    // The last failure to fill the subcategories that was told.
+    QString m_subCategoryError;
     Recordset* m_document = nullptr;
     Recordset* m_contacts = nullptr;
     Recordset* m_categories = nullptr;

@@ -5,6 +5,7 @@
 #include "explorer/MainWindow.h"
 #include "harness/Lithuanian.h"
 #include "registration/DocumentDetailsDialog.h"
+#include "store/engine/Recordset.h"
 #include "support/RecordsetModel.h"
 
 #include <QAction>
@@ -41,6 +42,10 @@ private Q_SLOTS:
         showActive(dialog);
         QCOMPARE(dialog.windowTitle(), "Sutartis Description");
         QCOMPARE(dialog.objectName(), "frmNew");
+        QVERIFY(dialog.isModal());
+        for (const char* data : {"Adodc1", "Adodc2", "Adodc3", "Adodc4", "TicklerRecordset"})
+            QVERIFY2(dialog.findChild<Recordset*>(data), data);
+        QCOMPARE(dialog.findChild<QLabel*>("imdgLIcon")->accessibleName(), "File icon");
         // The location and the text status are shown, not typed: the file's place changes
         // by moving the file.
         QVERIFY(box(dialog, 14)->isReadOnly());
@@ -82,6 +87,7 @@ private Q_SLOTS:
         QCOMPARE(box(dialog, 14)->text(), fx.leaseFile);
         QCOMPARE(box(dialog, 3)->text(), "AGR-1");
         QCOMPARE(dialog.findChild<QDateEdit*>("DTPicker1")->date(), QDate(2024, 1, 31));
+        QCOMPARE(dialog.findChild<QDateEdit*>("DTPicker2")->text(), "2024.02.01");
         QCOMPARE(dialog.findChild<QDateEdit*>("DTPicker2")->date(), QDate(2024, 2, 1));
         QCOMPARE(dialog.findChild<QComboBox*>("cmbCategory")->currentText(), "Contracts");
         QVERIFY(dialog.findChild<QRadioButton*>("Option_4")->isChecked());
@@ -504,6 +510,38 @@ private Q_SLOTS:
         QCOMPARE(prompts.size(), 1);
         QCOMPARE(prompts.first().text, "This document no longer exists.");
         QCOMPARE(window.documentModel()->rowOfKey(key), -1);
+
+        // Made for the gone document all the same, the dialog offers nothing to store.
+        fx.prompter.answer(MsgBoxResult::Ok);
+        DocumentDetailsDialog dialog;
+        QCOMPARE(fx.prompter.take().size(), 1);
+        for (const char* name : {"cmdButton_0", "cmdButton_2"})
+            QVERIFY2(!dialog.findChild<QPushButton*>(name)->isEnabled(), name);
+        QVERIFY(!dialog.findChild<QTabWidget*>("SSTab1")->isEnabled());
+        QCOMPARE(dialog.exec(), int(QDialog::Rejected));
+    }
+
+    // A register that can't give the dialog its rows, or a row its subcategories, is told as
+    // an error of the register; the dialog still opens.
+    void loadErrorsAreTold_data()
+    {
+        QTest::addColumn<QString>("table");
+        QTest::newRow("contacts") << "tbl_Contacts";
+        QTest::newRow("subcategories") << "tbl_Sub_Categories";
+    }
+
+    void loadErrorsAreTold()
+    {
+        QFETCH(QString, table);
+        Fixture fx;
+        fx.reg.exec("ALTER TABLE " + table + " RENAME TO tbl_Gone");
+        fx.prompter.answer(MsgBoxResult::Ok);
+        DocumentDetailsDialog dialog;
+        const auto prompts = fx.prompter.take();
+        QCOMPARE(prompts.size(), 1);
+        QVERIFY2(prompts.first().text.startsWith("Error: ") && prompts.first().text.contains(table),
+            qPrintable(prompts.first().text));
+        QCOMPARE(prompts.first().title, "Document Description");
     }
 };
 

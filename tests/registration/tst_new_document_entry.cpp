@@ -8,6 +8,7 @@
 #include "store/engine/Recordset.h"
 
 #include <QApplication>
+#include <QGroupBox>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QTabWidget>
@@ -207,6 +208,12 @@ private Q_SLOTS:
         QCOMPARE(overlaps(d.dialog), QStringList());
         // The location is shown, not typed: the buttons that make or attach the file fill it.
         QVERIFY(d.box(5)->isReadOnly());
+        QVERIFY(d.dialog.isModal());
+        // Grown taller, the window keeps its fields as they were, at the top.
+        const QRect direction = d.dialog.findChild<QGroupBox*>("fraDirection")->geometry();
+        d.dialog.resize(d.dialog.width(), d.dialog.height() + 300);
+        d.dialog.layout()->activate();
+        QCOMPARE(d.dialog.findChild<QGroupBox*>("fraDirection")->geometry(), direction);
     }
 
     // A value that isn't a day blanks a date box, whatever it showed before; a blank box

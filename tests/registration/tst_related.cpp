@@ -59,6 +59,8 @@ private Q_SLOTS:
         fx.prompter.answerFile(scan);
         click(dialog, "cmdAddExisting");
         QCOMPARE(fx.prompter.fileRequests.first().title, "Select the Document");
+        QCOMPARE(fx.prompter.fileRequests.first().filterLabel, "All files (*.*)");
+        QCOMPARE(fx.prompter.fileRequests.first().pattern, "*.*");
         QCOMPARE(box(dialog, 5)->text(), scan);
         click(dialog, "cmdOK");
         QVERIFY(!dialog.isVisible());
