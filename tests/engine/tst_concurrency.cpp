@@ -293,6 +293,39 @@ private Q_SLOTS:
             QStringLiteral("Typed again"));
     }
 
+    // A batch row read again while a field is being typed: the typed field stays, the fields
+    // not typed take what another client stored, and the batch writes both so, whether the
+    // current row or all rows were read again.
+    void editKeptOverAResyncOfABatch_data()
+    {
+        QTest::addColumn<int>("affect");
+        QTest::newRow("current") << int(AffectEnum::Current);
+        QTest::newRow("all") << int(AffectEnum::All);
+    }
+
+    void editKeptOverAResyncOfABatch()
+    {
+        QFETCH(int, affect);
+        EngineRegister reg;
+        reg.fillSmall();
+        Recordset mine;
+        mine.open(
+            QStringLiteral("SELECT RastasID, DokAntraste, DokPastaba FROM tbl_Documents WHERE RastasID = 1"),
+            reg.connection(), CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
+        mine.fields(QStringLiteral("DokAntraste")).setValue(QStringLiteral("Typed"));
+        Connection other(reg.connectionString());
+        other.open();
+        other.execute(
+            QStringLiteral("UPDATE tbl_Documents SET DokPastaba = 'their note' WHERE RastasID = 1"));
+        mine.resync(affect, ResyncEnum::UnderlyingValues);
+        QCOMPARE(mine.fields(QStringLiteral("DokAntraste")).value().toString(), QStringLiteral("Typed"));
+        QCOMPARE(mine.fields(QStringLiteral("DokPastaba")).value().toString(), QStringLiteral("their note"));
+        mine.updateBatch(AffectEnum::All);
+        QCOMPARE(reg.joined(QStringLiteral("SELECT DokAntraste || '|' || DokPastaba FROM tbl_Documents WHERE "
+                                           "RastasID = 1")),
+            QStringLiteral("Typed|their note"));
+    }
+
     // A row another client deleted: changing it reports it gone and changes nothing else;
     // deleting it again is no error; reading it finds nothing.
     void rowDeletedByAnother()
