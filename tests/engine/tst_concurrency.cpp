@@ -293,25 +293,29 @@ private Q_SLOTS:
             QStringLiteral("Typed again"));
     }
 
-    // A batch row read again while a field is being typed: the typed field stays, the fields
-    // not typed take what another client stored, and the batch writes both so, whether the
-    // current row or all rows were read again.
-    void editKeptOverAResyncOfABatch_data()
+    // A row read again while a field is being typed: the typed field stays, the fields not
+    // typed take what another client stored, and the write stores both so, whether the current
+    // row or all rows were read again, by a batch or by a recordset that writes at update().
+    void editKeptOverAResync_data()
     {
         QTest::addColumn<int>("affect");
-        QTest::newRow("current") << int(AffectEnum::Current);
-        QTest::newRow("all") << int(AffectEnum::All);
+        QTest::addColumn<int>("lockType");
+        QTest::newRow("batch, current") << int(AffectEnum::Current) << int(LockTypeEnum::BatchOptimistic);
+        QTest::newRow("batch, all") << int(AffectEnum::All) << int(LockTypeEnum::BatchOptimistic);
+        QTest::newRow("update, current") << int(AffectEnum::Current) << int(LockTypeEnum::Optimistic);
+        QTest::newRow("update, all") << int(AffectEnum::All) << int(LockTypeEnum::Optimistic);
     }
 
-    void editKeptOverAResyncOfABatch()
+    void editKeptOverAResync()
     {
         QFETCH(int, affect);
+        QFETCH(int, lockType);
         EngineRegister reg;
         reg.fillSmall();
         Recordset mine;
-        mine.open(
-            QStringLiteral("SELECT RastasID, DokAntraste, DokPastaba FROM tbl_Documents WHERE RastasID = 1"),
-            reg.connection(), CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
+        mine.open(QStringLiteral("SELECT RastasID, DokAntraste, DokPastaba FROM tbl_Documents WHERE RastasID "
+                                 "IN (1, 2) ORDER BY RastasID"),
+            reg.connection(), CursorTypeEnum::Static, lockType);
         mine.fields(QStringLiteral("DokAntraste")).setValue(QStringLiteral("Typed"));
         Connection other(reg.connectionString());
         other.open();
@@ -320,10 +324,22 @@ private Q_SLOTS:
         mine.resync(affect, ResyncEnum::UnderlyingValues);
         QCOMPARE(mine.fields(QStringLiteral("DokAntraste")).value().toString(), QStringLiteral("Typed"));
         QCOMPARE(mine.fields(QStringLiteral("DokPastaba")).value().toString(), QStringLiteral("their note"));
-        mine.updateBatch(AffectEnum::All);
+        if (lockType == LockTypeEnum::BatchOptimistic) {
+            mine.updateBatch(AffectEnum::All);
+        } else {
+            QCOMPARE(mine.editMode(), int(EditModeEnum::InProgress));
+            mine.update();
+        }
         QCOMPARE(reg.joined(QStringLiteral("SELECT DokAntraste || '|' || DokPastaba FROM tbl_Documents WHERE "
                                            "RastasID = 1")),
             QStringLiteral("Typed|their note"));
+
+        // Read again with the changes dropped, the typed value goes and nothing is left to write.
+        mine.fields(QStringLiteral("DokAntraste")).setValue(QStringLiteral("Dropped"));
+        mine.resync(affect, ResyncEnum::AllValues);
+        QCOMPARE(mine.editMode(), int(EditModeEnum::None));
+        QVERIFY(!mine.hasPendingChanges());
+        QCOMPARE(mine.fields(QStringLiteral("DokAntraste")).value().toString(), QStringLiteral("Typed"));
     }
 
     // A row another client deleted: changing it reports it gone and changes nothing else;

@@ -153,6 +153,14 @@ private Q_SLOTS:
         recordset.update();
         recordset.moveFirst();
         QCOMPARE(rows(recordset, {"FullName"}), QStringList({"Petras", "šilas", "Saulius", "Jonas", "Ona"}));
+
+        // A row added and cancelled gives back the row that was current, wherever it was.
+        recordset.moveFirst();
+        recordset.moveNext();
+        recordset.addNew();
+        recordset.cancelUpdate();
+        QCOMPARE(recordset.collect("FullName").toString(), QString("šilas"));
+        QCOMPARE(recordset.absolutePosition(), 2);
     }
 
     void batchDeleteAndCancelBatch()

@@ -293,6 +293,8 @@ private Q_SLOTS:
         reg.execute("UPDATE tbl_Documents SET DokAntraste = 'Theirs' WHERE RastasID=2");
         mine.requery();
         QCOMPARE(mine.collect("DokAntraste").toString(), QString("Theirs"));
+        QCOMPARE(mine.fieldCount(), 2);
+        QCOMPARE(recordset.fieldCount(), 1);
     }
 
     // moveComplete tells every change of the current row, and only those.
@@ -326,8 +328,9 @@ private Q_SLOTS:
 
     // What each refused operation says, whole: the user reads it in the message box.
 
-    // A closed recordset refuses every move, in the same words, whatever position it had.
-    void closedRecordsetRefusesMoves()
+    // A closed recordset refuses every move, read and change, in the same words, whatever
+    // position it had.
+    void closedRecordsetRefuses()
     {
         EngineRegister reg;
         fillEight(reg);
@@ -346,6 +349,15 @@ private Q_SLOTS:
             {"move(-1)", [&recordset] { recordset.move(-1); }},
             {"setAbsolutePosition(1)", [&recordset] { recordset.setAbsolutePosition(1); }},
             {"setBookmark", [&recordset, &mark] { recordset.setBookmark(mark); }},
+            {"bookmark", [&recordset] { recordset.bookmark(); }},
+            {"fields", [&recordset] { recordset.fields("RastasID"); }},
+            {"addNew", [&recordset] { recordset.addNew(); }},
+            {"update", [&recordset] { recordset.update(); }},
+            {"cancelUpdate", [&recordset] { recordset.cancelUpdate(); }},
+            {"updateBatch", [&recordset] { recordset.updateBatch(AffectEnum::All); }},
+            {"cancelBatch", [&recordset] { recordset.cancelBatch(); }},
+            {"deleteRecord", [&recordset] { recordset.deleteRecord(AffectEnum::Current); }},
+            {"resync", [&recordset] { recordset.resync(AffectEnum::All, ResyncEnum::AllValues); }},
         };
         for (const auto& [name, move] : moves) {
             try {

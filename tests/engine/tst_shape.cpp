@@ -185,6 +185,8 @@ private Q_SLOTS:
         reg.execute("INSERT INTO tbl_Tickler (RastasID, TicklerText) VALUES (1, 'Read'), (3, 'Sign')");
         parent.requery();
         QCOMPARE(parent.chapter("ChildCMD"), child);
+        QCOMPARE(parent.fieldCount(), 12);
+        QCOMPARE(child->fieldCount(), 4);
         // Read anew, the chapter is as when first opened: without the filter set on it.
         QVERIFY(child->filter().isEmpty());
         QCOMPARE(rows(*child, {"TicklerText"}), QStringList({"Call", "Write", "Read"}));
@@ -224,6 +226,37 @@ private Q_SLOTS:
         QCOMPARE(reminders(reg), QString("1:Call,1:Write,4:B note"));
         parent.moveFirst();
         QCOMPARE(rows(*child, {"TicklerText"}), QStringList({"Call", "Write"}));
+    }
+
+    // Reminders read with their document and changed later are written with it: by
+    // updateBatch(Current) only while their document is the current row, by updateBatch(All)
+    // whatever row is current.
+    void changedChildrenWrittenWithTheirParent()
+    {
+        EngineRegister reg;
+        reg.fillSmall();
+        Recordset parent;
+        parent.open(
+            QString(NewDocumentShape).replace("from tbl_Documents}", "from tbl_Documents ORDER BY RastasID}"),
+            reg.connection(), CursorTypeEnum::Static, LockTypeEnum::BatchOptimistic);
+        Recordset* child = parent.chapter("ChildCMD");
+        QCOMPARE(parent.collect("RastasID").toInt(), 1);
+        child->fields("TicklerText").setValue("Call back");
+        child->update();
+        parent.moveLast();
+        parent.updateBatch(AffectEnum::Current);
+        QCOMPARE(reminders(reg), QString("1:Call,1:Write"));
+        parent.moveFirst();
+        parent.updateBatch(AffectEnum::Current);
+        QCOMPARE(reminders(reg), QString("1:Call back,1:Write"));
+
+        child->moveLast();
+        child->fields("TicklerText").setValue("Write again");
+        child->update();
+        parent.moveLast();
+        parent.updateBatch(AffectEnum::All);
+        QCOMPARE(reminders(reg), QString("1:Call back,1:Write again"));
+        QVERIFY(!parent.hasPendingChanges());
     }
 
     void cancelledParentDropsItsChildren()
@@ -274,16 +307,38 @@ private Q_SLOTS:
                 {"Ąžuolas::", "Petras:Business,Home:", "Šarūnas:Mobile:x.lt", "Saulius::", "šilas::"}));
     }
 
-    // Null relates to nothing: a parent without a key has no children, not those without one.
-    void nullKeyRelatesToNothing()
+    // Rows relate by value: numbers whatever their type, text whatever its case. Null relates
+    // to nothing: a parent without a key has no children, not those without one.
+    void relationByValue_data()
     {
+        QTest::addColumn<QString>("child");
+        QTest::addColumn<QString>("relation");
+        QTest::addColumn<QStringList>("expected");
+        QTest::newRow("Null") << "SELECT RastasID, ContactID FROM tbl_Documents ORDER BY RastasID"
+                              << "ContactID TO ContactID" << QStringList({"1:1,2", "2:1,2", "3:", "4:"});
+        QTest::newRow("a whole number and a real")
+            << "SELECT RastasID, RastasID * 1.0 AS Real FROM tbl_Documents ORDER BY RastasID"
+            << "RastasID TO Real" << QStringList({"1:1", "2:2", "3:3", "4:4"});
+        QTest::newRow("a real with a fraction")
+            << "SELECT RastasID, RastasID + 0.5 AS Real FROM tbl_Documents ORDER BY RastasID"
+            << "RastasID TO Real" << QStringList({"1:", "2:", "3:", "4:"});
+        QTest::newRow("text in another case")
+            << "SELECT RastasID, upper(DokAntraste) AS Title FROM tbl_Documents ORDER BY RastasID"
+            << "DokAntraste TO Title" << QStringList({"1:1", "2:2", "3:3", "4:"});
+    }
+
+    void relationByValue()
+    {
+        QFETCH(QString, child);
+        QFETCH(QString, relation);
+        QFETCH(QStringList, expected);
         EngineRegister reg;
         reg.fillSmall();
         reg.execute("INSERT INTO tbl_Documents (RastasID, ContactID) VALUES (4, Null)");
         Recordset parent;
-        parent.open("SHAPE {SELECT RastasID, ContactID FROM tbl_Documents ORDER BY RastasID} AS Documents "
-                    "APPEND ({SELECT RastasID, ContactID FROM tbl_Documents ORDER BY RastasID} AS Same "
-                    "RELATE ContactID TO ContactID) AS Same",
+        parent.open("SHAPE {SELECT RastasID, ContactID, DokAntraste FROM tbl_Documents ORDER BY RastasID} AS "
+                    "Documents APPEND ({"
+                + child + "} AS Same RELATE " + relation + ") AS Same",
             reg.connection());
         QStringList seen;
         while (!parent.eof()) {
@@ -291,7 +346,7 @@ private Q_SLOTS:
                     + rows(*parent.chapter("Same"), {"RastasID"}).join(u',');
             parent.moveNext();
         }
-        QCOMPARE(seen, QStringList({"1:1,2", "2:1,2", "3:", "4:"}));
+        QCOMPARE(seen, expected);
     }
 
     // The children of few parents are read by their keys alone, also when the child's field

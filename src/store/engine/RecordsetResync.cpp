@@ -110,10 +110,13 @@ void Recordset::resync(int affect, int resyncValues)
             Q_EMIT chapter.recordset->recordsetChangeComplete();
         }
     } else {
-        if (d->edit)
+        // A batch takes an edit in progress among its changes; a recordset that writes at
+        // update() keeps it open over the row read again.
+        if (d->edit && d->isBatch())
             d->commitEdit(false);
         for (int row = 0; d->updatable && row < int(d->rows.size()); ++row) {
-            if (d->rows[std::size_t(row)].status == RowStatus::Modified)
+            const bool edited = d->edit && d->edit->row == row;
+            if (edited || d->rows[std::size_t(row)].status == RowStatus::Modified)
                 d->resyncRow(row, keepChanges);
         }
         for (ChapterInfo& chapter : d->chapters) {
