@@ -312,6 +312,39 @@ private Q_SLOTS:
             QStringList {QString::number(fx.lettersId) + "//" + fx.letters + "/LET00002.pdf"});
     }
 
+    // A registration index another user stored meanwhile: the copy made for the row is taken
+    // back, the next free index is offered, and Yes copies the file again for the row stored.
+    void aTakenIndexPlacesTheFileAgain()
+    {
+        Fixture fx;
+        const QString original = fx.outside + "/scan.pdf";
+        writeFile(original, "new");
+        fx.reg.insert("tbl_Documents", {{"DokRegistracIndeksas", "X/5"}});
+        MainWindow window;
+        window.load();
+        window.show();
+        QSignalSpy done(window.fileDrops(), &FileDrops::filesRegistered);
+        DialogScript script({[](NewDocumentDialog& dialog) {
+            auto* index = dialog.findChild<QLineEdit*>(QStringLiteral("txtFields_3"));
+            index->setFocus();
+            QTest::keyClick(index, Qt::Key_A, Qt::ControlModifier);
+            QTest::keyClicks(index, "X/5");
+            PressOk(dialog);
+        }});
+        fx.prompter.answer(MsgBoxResult::Yes);
+        dropFiles(window.tree()->viewport(), nodeCenter(window.tree(), "Letters"), {original});
+        QVERIFY(done.wait(10000));
+        QCOMPARE(fx.prompter.texts().size(), 1);
+        QVERIFY2(fx.prompter.texts().first().startsWith(
+                     "The register already has a document with the index \"X/5\". Store this one as"),
+            qPrintable(fx.prompter.texts().first()));
+        QCOMPARE(QDir(fx.letters).entryList(QDir::Files), QStringList {"LET00002.pdf"});
+        const QString placed = fx.letters + "/LET00002.pdf";
+        QCOMPARE(fx.documents(), (QStringList {"//", QString::number(fx.lettersId) + "//" + placed}));
+        QCOMPARE(readFile(placed), QByteArray("new"));
+        QCOMPARE(readFile(original), QByteArray("new"));
+    }
+
     // A file chosen with Add Existing after the drop is the document's, where it is; the
     // dropped file is copied nowhere.
     void addExistingReplacesTheDroppedFile()

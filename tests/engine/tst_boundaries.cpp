@@ -49,6 +49,7 @@ private Q_SLOTS:
         QTest::newRow("0:00") << "0:00" << QTime(0, 0);
         QTest::newRow("23:59:59") << "23:59:59" << QTime(23, 59, 59);
         QTest::newRow("seconds and a fraction") << "11:59:59.5 PM" << QTime(23, 59, 59, 500);
+        QTest::newRow("a fraction of four digits at the end") << "11:59:59.1234" << QTime(11, 59, 59, 123);
         QTest::newRow("0:30 AM") << "0:30 AM" << QTime();
         QTest::newRow("13:00 PM") << "13:00 PM" << QTime();
         QTest::newRow("24:00") << "24:00" << QTime();
@@ -157,6 +158,8 @@ private Q_SLOTS:
         QTest::newRow("no such day") << QByteArray("2024-02-30") << QDate() << QTime();
         QTest::newRow("a day short") << QByteArray("2024-03-5") << QDate() << QTime();
         QTest::newRow("a letter") << QByteArray("2024-0a-05") << QDate() << QTime();
+        QTest::newRow("a letter after a digit") << QByteArray("2024-03-1x") << QDate() << QTime();
+        QTest::newRow("a letter in the minutes") << QByteArray("2024-03-05 12:3x:00") << QDate() << QTime();
         QTest::newRow("the character after 9") << QByteArray("202:-03-05") << QDate() << QTime();
         QTest::newRow("slashes") << QByteArray("2024/03/05") << QDate() << QTime();
     }

@@ -258,6 +258,8 @@ private Q_SLOTS:
             << "SELECT 1 FROM tbl_Contacts WHERE FullName LIKE tbl_Contacts.Title || '%'"
             << "SELECT 1 FROM \"tbl_Contacts\" WHERE \"FullName\" ILIKE \"tbl_Contacts\".\"Title\" || '%' "
                "ESCAPE ''";
+        QTest::newRow("like a signed value") << "SELECT 1 WHERE Title LIKE -1"
+                                             << "SELECT 1 WHERE \"Title\" ILIKE -1 ESCAPE ''";
         QTest::newRow("like with its escape") << "SELECT 1 WHERE FullName LIKE '50!%' ESCAPE '!'"
                                               << "SELECT 1 WHERE \"FullName\" ILIKE '50!%' ESCAPE '!'";
         QTest::newRow("name order")

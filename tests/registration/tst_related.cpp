@@ -176,6 +176,17 @@ private Q_SLOTS:
         QCOMPARE(fx.related("SubDocDescript", fx.annex).toString(), "Annex 2");
         QCOMPARE(fx.related("RastasID", fx.annex).toInt(), fx.lease);
         QCOMPARE(fx.related("SubRastoKelias", fx.annex).toString(), fx.annexFile);
+
+        // Esc after a change, answered Yes, writes it as OK does.
+        RelatedDocumentDialog again(RelatedDocumentDialog::Mode::Editing);
+        showActive(again);
+        QTest::keyClick(again.findChild<QPlainTextEdit*>("txtFields_1"), Qt::Key_End);
+        QTest::keyClicks(again.findChild<QPlainTextEdit*>("txtFields_1"), " 3");
+        fx.prompter.answer(MsgBoxResult::Yes);
+        QTest::keyClick(again.findChild<QPlainTextEdit*>("txtFields_1"), Qt::Key_Escape);
+        QCOMPARE(fx.prompter.take().first().text, ApplyQuestion);
+        QVERIFY(!again.isVisible());
+        QCOMPARE(fx.related("SubDocDescript", fx.annex).toString(), "Annex 2 3");
     }
 
     // A related document another user deleted while it was open here: OK tells so and keeps
