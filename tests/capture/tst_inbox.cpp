@@ -12,6 +12,7 @@
 #include "harness/ScriptedShell.h"
 #include "harness/TestRegister.h"
 #include "options/CaptureOptions.h"
+#include "options/OptionStore.h"
 #include "platform/Prompter.h"
 #include "preview/PreviewPane.h"
 #include "registration/NewDocumentDialog.h"
@@ -27,6 +28,7 @@
 #include <QMimeData>
 #include <QPointer>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -343,6 +345,47 @@ private Q_SLOTS:
         QCOMPARE(fx.documents(), (QStringList {"//", QString::number(fx.lettersId) + "//" + placed}));
         QCOMPARE(readFile(placed), QByteArray("new"));
         QCOMPARE(readFile(original), QByteArray("new"));
+    }
+
+    // Files named after the registration index: with the index box emptied, OK tells that no
+    // name can be made and keeps the dialog, with nothing copied or stored; with an index,
+    // the file takes its name.
+    void noNameForTheFileKeepsTheDialog()
+    {
+        Fixture fx;
+        const QString previous = getRegValue("FileName");
+        const auto restore = qScopeGuard([&previous] { setRegValue("FileName", previous); });
+        setRegValue("FileName", QString("2"));
+        const QString original = fx.outside + "/scan.pdf";
+        writeFile(original, "new");
+        MainWindow window;
+        window.load();
+        window.show();
+        QSignalSpy done(window.fileDrops(), &FileDrops::filesRegistered);
+        bool stayed = false;
+        QStringList storedMeanwhile;
+        DialogScript script({[&](NewDocumentDialog& dialog) {
+            auto* index = dialog.findChild<QLineEdit*>(QStringLiteral("txtFields_3"));
+            index->setFocus();
+            QTest::keyClick(index, Qt::Key_A, Qt::ControlModifier);
+            QTest::keyClick(index, Qt::Key_Delete);
+            PressOk(dialog);
+            stayed = dialog.isVisible();
+            storedMeanwhile = fx.documents();
+            QTest::keyClicks(index, "IDX-1");
+            PressOk(dialog);
+        }});
+        fx.prompter.answer(MsgBoxResult::Ok);
+        dropFiles(window.tree()->viewport(), nodeCenter(window.tree(), "Letters"), {original});
+        QVERIFY(done.wait(10000));
+        QVERIFY(stayed);
+        QCOMPARE(storedMeanwhile, QStringList());
+        QCOMPARE(fx.prompter.texts(),
+            QStringList {"Can't create a file, because the Registration Index is empty. Enter valid "
+                         "Registration Index, please."});
+        QCOMPARE(
+            fx.documents(), QStringList {QString::number(fx.lettersId) + "//" + fx.letters + "/IDX-1.pdf"});
+        QCOMPARE(readFile(fx.letters + "/IDX-1.pdf"), QByteArray("new"));
     }
 
     // A file chosen with Add Existing after the drop is the document's, where it is; the

@@ -99,6 +99,34 @@ private Q_SLOTS:
         QCOMPARE(rows(contacts, {"FullName"}), QStringList({"kept"}));
     }
 
+    // A register without the table of who writes is written without the note; once a table is
+    // made for it, the next write notes who writes there, and in which command (empty outside
+    // any).
+    void contextTableMadeWhileOpen()
+    {
+        EngineRegister reg;
+        if (reg.onServer())
+            QSKIP("A server notes who writes in its session, not in a table.");
+        reg.execute("CREATE TABLE plain (a INTEGER)");
+        reg.execute("CREATE TABLE written_by (who TEXT, command TEXT)");
+        reg.execute("DROP TABLE tbl_Write_Context");
+        reg.execute("INSERT INTO plain (a) VALUES (1)");
+        reg.execute("CREATE TABLE tbl_Write_Context (ContextID INTEGER PRIMARY KEY, Who TEXT, Command TEXT)");
+        const QString user = WriteContext::user();
+        const auto restore = qScopeGuard([&] { WriteContext::setUser(user); });
+        WriteContext::setUser("somebody");
+        reg.execute("INSERT INTO plain (a) VALUES (2)");
+        reg.execute("CREATE TRIGGER noted AFTER INSERT ON plain BEGIN INSERT INTO written_by (who, command) "
+                    "SELECT Who, Command FROM tbl_Write_Context; END");
+        {
+            CommandScope scope("Import");
+            reg.execute("INSERT INTO plain (a) VALUES (3)");
+        }
+        reg.execute("INSERT INTO plain (a) VALUES (4)");
+        QCOMPARE(
+            reg.joined("SELECT who || ':' || command FROM written_by"), QString("somebody:Import,somebody:"));
+    }
+
     // Only the connection's own temporary tables are written without a note of who writes: a
     // table of the register whose name starts with "temp" is written with one.
     void registerTableNamedLikeTempCarriesWhoWrites()
