@@ -110,6 +110,9 @@ private Q_SLOTS:
         table.open("tbl_Tickler", reg.connection());
         QCOMPARE(table.recordCount(), 2);
         QVERIFY(table.isUpdatable());
+        Recordset bracketed;
+        bracketed.open("[tbl_Tickler]", reg.connection());
+        QCOMPARE(bracketed.recordCount(), 2);
     }
 
     // A recordset that opened its own connection from a connection string lets it go when it
