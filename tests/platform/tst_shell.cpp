@@ -1,6 +1,6 @@
+#include "harness/Lithuanian.h"
 #include "harness/ScriptedPrompter.h"
 #include "harness/ScriptedShell.h"
-#include "harness/Lithuanian.h"
 #include "platform/DesktopShell.h"
 #include "platform/FilePropertiesDialog.h"
 #include "registration/ShellFiles.h"
@@ -15,6 +15,7 @@
 #include <QMimeDatabase>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -415,6 +416,24 @@ private Q_SLOTS:
         QCOMPARE(calls[3].path, moved);
         QCOMPARE(calls[5].result, false);
         QVERIFY(shell.calls().isEmpty());
+    }
+
+    // A file moved to the trash is gone from its folder, and the move says it went; a file
+    // that isn't there is refused, with the reason.
+    void fileToTheTrash()
+    {
+        QTemporaryDir home(QDir::homePath() + QStringLiteral("/trash-XXXXXX"));
+        const QByteArray previous = qgetenv("XDG_DATA_HOME");
+        qputenv("XDG_DATA_HOME", home.filePath("data").toLocal8Bit());
+        const auto restore = qScopeGuard([&previous] { qputenv("XDG_DATA_HOME", previous); });
+        const QString path = home.filePath("a.doc");
+        writeFile(path, "a");
+        QString error;
+        QVERIFY2(moveFileToTrash(path, &error), qPrintable(error));
+        QVERIFY(!QFile::exists(path));
+        QVERIFY(error.isEmpty());
+        QVERIFY(!moveFileToTrash(path, &error));
+        QVERIFY(!error.isEmpty());
     }
 
     // Without the shell a failed copy or move is tried again into target taken as a folder.
