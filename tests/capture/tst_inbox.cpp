@@ -347,6 +347,44 @@ private Q_SLOTS:
         QCOMPARE(readFile(original), QByteArray("new"));
     }
 
+    // The offered index declined, another file chosen and the taken index tried again: the
+    // dropped file's copy was taken back already and is not looked for again; Yes to the second
+    // offer stores the chosen file where it is.
+    void aDeclinedIndexThenAnotherFile()
+    {
+        Fixture fx;
+        const QString dropped = fx.outside + "/dropped.pdf";
+        const QString chosen = fx.outside + "/chosen.pdf";
+        writeFile(dropped, "dropped");
+        writeFile(chosen, "chosen");
+        fx.reg.insert("tbl_Documents", {{"DokRegistracIndeksas", "X/5"}});
+        MainWindow window;
+        window.load();
+        window.show();
+        QSignalSpy done(window.fileDrops(), &FileDrops::filesRegistered);
+        DialogScript script({[](NewDocumentDialog& dialog) {
+            auto* index = dialog.findChild<QLineEdit*>(QStringLiteral("txtFields_3"));
+            index->setFocus();
+            QTest::keyClick(index, Qt::Key_A, Qt::ControlModifier);
+            QTest::keyClicks(index, "X/5");
+            PressOk(dialog);
+            pressButton(dialog, "cmdAddExisting");
+            index->setText("X/5");
+            PressOk(dialog);
+        }});
+        fx.prompter.answer(MsgBoxResult::No).answerFile(chosen).answer(MsgBoxResult::Yes);
+        dropFiles(window.tree()->viewport(), nodeCenter(window.tree(), "Letters"), {dropped});
+        QVERIFY(done.wait(10000));
+        const QStringList texts = fx.prompter.texts();
+        QCOMPARE(texts.size(), 2);
+        for (const QString& text : texts)
+            QVERIFY2(text.startsWith("The register already has a document with the index \"X/5\"."),
+                qPrintable(text));
+        QCOMPARE(fx.documents(), (QStringList {"//", QString::number(fx.lettersId) + "//" + chosen}));
+        QVERIFY(QDir(fx.letters).isEmpty());
+        QCOMPARE(QDir(fx.outside).entryList(QDir::Files), (QStringList {"chosen.pdf", "dropped.pdf"}));
+    }
+
     // Files named after the registration index: with the index box emptied, OK tells that no
     // name can be made and keeps the dialog, with nothing copied or stored; with an index,
     // the file takes its name.
