@@ -1,5 +1,6 @@
 // Files brought into the register: dropped on the main window, and waiting in the inbox folder.
 
+#include "InboxFixture.h"
 #include "capture/InboxFolder.h"
 #include "dialogs/SettingsDialog.h"
 #include "explorer/ExplorerList.h"
@@ -12,7 +13,6 @@
 #include "harness/ScriptedShell.h"
 #include "harness/TestRegister.h"
 #include "options/CaptureOptions.h"
-#include "options/OptionStore.h"
 #include "platform/Prompter.h"
 #include "preview/PreviewPane.h"
 #include "registration/NewDocumentDialog.h"
@@ -28,7 +28,6 @@
 #include <QMimeData>
 #include <QPointer>
 #include <QPushButton>
-#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -44,171 +43,6 @@ using namespace kartella;
 using namespace kartella::test;
 
 namespace {
-
-void writeFile(
-    const QString& path, const QByteArray& content, QIODevice::OpenMode mode = QIODevice::WriteOnly)
-{
-    QFile file(path);
-    QVERIFY2(file.open(mode), qPrintable(path));
-    file.write(content);
-}
-
-QByteArray readFile(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-// What the user does in one New Document dialog.
-using DialogStep = std::function<void(NewDocumentDialog&)>;
-
-void pressButton(NewDocumentDialog& dialog, const char* name)
-{
-    QTest::mouseClick(dialog.findChild<QPushButton*>(QLatin1String(name)), Qt::LeftButton);
-}
-
-void chooseCategory(NewDocumentDialog& dialog, const QString& name)
-{
-    // Typed, as the user picks an entry of the box from the keyboard.
-    auto* box = dialog.findChild<QComboBox*>(QStringLiteral("cmbCategory"));
-    box->setFocus();
-    QTest::keyClicks(box, name);
-    QCOMPARE(box->currentText(), name);
-}
-
-const DialogStep PressOk = [](NewDocumentDialog& dialog) { pressButton(dialog, "cmdOK"); };
-const DialogStep PressCancel = [](NewDocumentDialog& dialog) { pressButton(dialog, "cmdCancel"); };
-const DialogStep PressEsc = [](NewDocumentDialog& dialog) {
-    QTest::keyClick(dialog.findChild<QLineEdit*>(QStringLiteral("txtFields_4")), Qt::Key_Escape);
-};
-
-// Answers the New Document dialogs as they open, one step each, and notes what each showed.
-class DialogScript : public QObject
-{
-public:
-    explicit DialogScript(QList<DialogStep> steps)
-        : m_steps(std::move(steps))
-    {
-        connect(&m_timer, &QTimer::timeout, this, &DialogScript::answer);
-        m_timer.start(10);
-    }
-
-    struct Shown
-    {
-        QString location;
-        QString category;
-        QString description;
-    };
-    QList<Shown> shown;
-
-private:
-    void answer()
-    {
-        auto* dialog = qobject_cast<NewDocumentDialog*>(QApplication::activeModalWidget());
-        if (!dialog || !dialog->isVisible() || dialog == m_answered)
-            return;
-        m_answered = dialog;
-        shown.append({dialog->findChild<QLineEdit*>(QStringLiteral("txtFields_5"))->text(),
-            dialog->findChild<QComboBox*>(QStringLiteral("cmbCategory"))->currentText(),
-            dialog->findChild<QLineEdit*>(QStringLiteral("txtFields_4"))->text()});
-        // A dialog nobody expected is noted and closed, for the test to fail rather than hang.
-        if (shown.size() > m_steps.size())
-            static_cast<QDialog*>(dialog)->done(QDialog::Rejected);
-        else
-            m_steps[shown.size() - 1](*dialog);
-    }
-
-    QList<DialogStep> m_steps;
-    QTimer m_timer;
-    QPointer<NewDocumentDialog> m_answered;
-};
-
-// A register with two categories, each with a folder and a mnemonic, and a subcategory with
-// a folder of its own; files to drop, an inbox folder, and a trash of the test's own.
-struct Fixture
-{
-    TestRegister reg;
-    ScriptedPrompter prompter;
-    ScriptedShell shell;
-    // Under the tests' home, so that the desktop's trash of that home takes the inbox's files.
-    QTemporaryDir work {QDir::homePath() + QStringLiteral("/inbox-XXXXXX")};
-    QString contracts = folder("contracts");
-    QString letters = folder("letters");
-    QString leases = folder("leases");
-    QString outside = folder("outside");
-    QString inbox = folder("inbox");
-    QString dataHome = folder("data");
-    qint32 contractsId = 0;
-    qint32 lettersId = 0;
-    qint32 leasesId = 0;
-    QByteArray previousDataHome = qgetenv("XDG_DATA_HOME");
-
-    Fixture()
-    {
-        qputenv("XDG_DATA_HOME", dataHome.toLocal8Bit());
-        contractsId = reg.insert("tbl_Document_Categories",
-            {{"DokKategorija", "Contracts"}, {"Mnemonic", "AGR"}, {"DokKategDaug", contracts}});
-        lettersId = reg.insert("tbl_Document_Categories",
-            {{"DokKategorija", "Letters"}, {"Mnemonic", "LET"}, {"DokKategDaug", letters}});
-        leasesId = reg.insert("tbl_Sub_Categories",
-            {{"KategID", contractsId}, {"DokSubKategorija", "Leases"}, {"SubPathToFiles", leases}});
-        selection() = SelectionState();
-    }
-    ~Fixture()
-    {
-        qputenv("XDG_DATA_HOME", previousDataHome);
-        selection() = SelectionState();
-    }
-
-    QString folder(const char* name) const
-    {
-        const QString path = work.filePath(QLatin1String(name));
-        QDir().mkpath(path);
-        return path;
-    }
-    // The stored documents as "category/subcategory/file", in the order they were stored.
-    QStringList documents() const
-    {
-        QStringList rows;
-        const int count = reg.scalar("SELECT COUNT(*) FROM tbl_Documents").toInt();
-        for (int i = 0; i < count; ++i) {
-            const QString at = " FROM tbl_Documents ORDER BY RastasID LIMIT 1 OFFSET " + QString::number(i);
-            rows << reg.scalar("SELECT KategID" + at).toString() + u'/'
-                    + reg.scalar("SELECT SubKategID" + at).toString() + u'/'
-                    + reg.scalar("SELECT RastoKel" + at).toString();
-        }
-        return rows;
-    }
-};
-
-// Drags paths from outside the program onto target at pos and lets go, as a file manager does.
-void dropFiles(QWidget* target, const QPoint& pos, const QStringList& paths)
-{
-    QMimeData data;
-    QList<QUrl> urls;
-    for (const QString& path : paths)
-        urls << QUrl::fromLocalFile(path);
-    data.setUrls(urls);
-    QDragEnterEvent enter(pos, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(target, &enter);
-    QVERIFY(enter.isAccepted());
-    QDragMoveEvent move(pos, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(target, &move);
-    QVERIFY(move.isAccepted());
-    QDropEvent drop(QPointF(pos), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(target, &drop);
-    QVERIFY(drop.isAccepted());
-    QCOMPARE(drop.dropAction(), Qt::CopyAction);
-}
-
-QPoint nodeCenter(NavigationTree* tree, const QString& text)
-{
-    const QList<QTreeWidgetItem*> nodes = tree->findItems(text, Qt::MatchExactly | Qt::MatchRecursive);
-    if (nodes.size() != 1)
-        return {};
-    tree->scrollToItem(nodes.first());
-    return tree->visualItemRect(nodes.first()).center();
-}
 
 void clickRow(MainWindow& window, int row)
 {
@@ -280,150 +114,6 @@ private Q_SLOTS:
         // The tree's own category is as the user left it.
         QCOMPARE(selection().currentCategoryId, 0);
         QVERIFY(fx.prompter.prompts().isEmpty());
-    }
-
-    // A name the register's naming gives that is taken already is told, and the dialog stays
-    // with nothing copied; OK again takes the next number.
-    void aTakenNameKeepsTheDialog()
-    {
-        Fixture fx;
-        const QString original = fx.outside + "/scan.pdf";
-        writeFile(original, "new");
-        writeFile(fx.letters + "/LET00001.pdf", "old");
-        MainWindow window;
-        window.load();
-        window.show();
-        QSignalSpy done(window.fileDrops(), &FileDrops::filesRegistered);
-        bool stayed = false;
-        DialogScript script({[&stayed](NewDocumentDialog& dialog) {
-            PressOk(dialog);
-            stayed = dialog.isVisible();
-            PressOk(dialog);
-        }});
-        fx.prompter.answer(MsgBoxResult::Ok);
-        dropFiles(window.tree()->viewport(), nodeCenter(window.tree(), "Letters"), {original});
-        QVERIFY(done.wait(10000));
-        QVERIFY(stayed);
-        QCOMPARE(fx.prompter.texts(),
-            QStringList {"The File with name " + fx.letters
-                + "/LET00001.pdf exist. Depending on the File Name style, check Doc. Description, "
-                  "Registration Index or other parameters."});
-        QCOMPARE(readFile(fx.letters + "/LET00001.pdf"), QByteArray("old"));
-        QCOMPARE(readFile(fx.letters + "/LET00002.pdf"), QByteArray("new"));
-        QCOMPARE(fx.documents(),
-            QStringList {QString::number(fx.lettersId) + "//" + fx.letters + "/LET00002.pdf"});
-    }
-
-    // A registration index another user stored meanwhile: the copy made for the row is taken
-    // back, the next free index is offered, and Yes copies the file again for the row stored.
-    void aTakenIndexPlacesTheFileAgain()
-    {
-        Fixture fx;
-        const QString original = fx.outside + "/scan.pdf";
-        writeFile(original, "new");
-        fx.reg.insert("tbl_Documents", {{"DokRegistracIndeksas", "X/5"}});
-        MainWindow window;
-        window.load();
-        window.show();
-        QSignalSpy done(window.fileDrops(), &FileDrops::filesRegistered);
-        DialogScript script({[](NewDocumentDialog& dialog) {
-            auto* index = dialog.findChild<QLineEdit*>(QStringLiteral("txtFields_3"));
-            index->setFocus();
-            QTest::keyClick(index, Qt::Key_A, Qt::ControlModifier);
-            QTest::keyClicks(index, "X/5");
-            PressOk(dialog);
-        }});
-        fx.prompter.answer(MsgBoxResult::Yes);
-        dropFiles(window.tree()->viewport(), nodeCenter(window.tree(), "Letters"), {original});
-        QVERIFY(done.wait(10000));
-        QCOMPARE(fx.prompter.texts().size(), 1);
-        QVERIFY2(fx.prompter.texts().first().startsWith(
-                     "The register already has a document with the index \"X/5\". Store this one as"),
-            qPrintable(fx.prompter.texts().first()));
-        QCOMPARE(QDir(fx.letters).entryList(QDir::Files), QStringList {"LET00002.pdf"});
-        const QString placed = fx.letters + "/LET00002.pdf";
-        QCOMPARE(fx.documents(), (QStringList {"//", QString::number(fx.lettersId) + "//" + placed}));
-        QCOMPARE(readFile(placed), QByteArray("new"));
-        QCOMPARE(readFile(original), QByteArray("new"));
-    }
-
-    // The offered index declined, another file chosen and the taken index tried again: the
-    // dropped file's copy was taken back already and is not looked for again; Yes to the second
-    // offer stores the chosen file where it is.
-    void aDeclinedIndexThenAnotherFile()
-    {
-        Fixture fx;
-        const QString dropped = fx.outside + "/dropped.pdf";
-        const QString chosen = fx.outside + "/chosen.pdf";
-        writeFile(dropped, "dropped");
-        writeFile(chosen, "chosen");
-        fx.reg.insert("tbl_Documents", {{"DokRegistracIndeksas", "X/5"}});
-        MainWindow window;
-        window.load();
-        window.show();
-        QSignalSpy done(window.fileDrops(), &FileDrops::filesRegistered);
-        DialogScript script({[](NewDocumentDialog& dialog) {
-            auto* index = dialog.findChild<QLineEdit*>(QStringLiteral("txtFields_3"));
-            index->setFocus();
-            QTest::keyClick(index, Qt::Key_A, Qt::ControlModifier);
-            QTest::keyClicks(index, "X/5");
-            PressOk(dialog);
-            pressButton(dialog, "cmdAddExisting");
-            index->setText("X/5");
-            PressOk(dialog);
-        }});
-        fx.prompter.answer(MsgBoxResult::No).answerFile(chosen).answer(MsgBoxResult::Yes);
-        dropFiles(window.tree()->viewport(), nodeCenter(window.tree(), "Letters"), {dropped});
-        QVERIFY(done.wait(10000));
-        const QStringList texts = fx.prompter.texts();
-        QCOMPARE(texts.size(), 2);
-        for (const QString& text : texts)
-            QVERIFY2(text.startsWith("The register already has a document with the index \"X/5\"."),
-                qPrintable(text));
-        QCOMPARE(fx.documents(), (QStringList {"//", QString::number(fx.lettersId) + "//" + chosen}));
-        QVERIFY(QDir(fx.letters).isEmpty());
-        QCOMPARE(QDir(fx.outside).entryList(QDir::Files), (QStringList {"chosen.pdf", "dropped.pdf"}));
-    }
-
-    // Files named after the registration index: with the index box emptied, OK tells that no
-    // name can be made and keeps the dialog, with nothing copied or stored; with an index,
-    // the file takes its name.
-    void noNameForTheFileKeepsTheDialog()
-    {
-        Fixture fx;
-        const QString previous = getRegValue("FileName");
-        const auto restore = qScopeGuard([&previous] { setRegValue("FileName", previous); });
-        setRegValue("FileName", QString("2"));
-        const QString original = fx.outside + "/scan.pdf";
-        writeFile(original, "new");
-        MainWindow window;
-        window.load();
-        window.show();
-        QSignalSpy done(window.fileDrops(), &FileDrops::filesRegistered);
-        bool stayed = false;
-        QStringList storedMeanwhile;
-        DialogScript script({[&](NewDocumentDialog& dialog) {
-            auto* index = dialog.findChild<QLineEdit*>(QStringLiteral("txtFields_3"));
-            index->setFocus();
-            QTest::keyClick(index, Qt::Key_A, Qt::ControlModifier);
-            QTest::keyClick(index, Qt::Key_Delete);
-            PressOk(dialog);
-            stayed = dialog.isVisible();
-            storedMeanwhile = fx.documents();
-            QTest::keyClicks(index, "IDX-1");
-            PressOk(dialog);
-        }});
-        fx.prompter.answer(MsgBoxResult::Ok);
-        dropFiles(window.tree()->viewport(), nodeCenter(window.tree(), "Letters"), {original});
-        QVERIFY(done.wait(10000));
-        QVERIFY(stayed);
-        QCOMPARE(storedMeanwhile, QStringList());
-        QCOMPARE(fx.prompter.texts(),
-            QStringList {"Can't create a file, because the Registration Index is empty. Enter valid "
-                         "Registration Index, please."});
-        QCOMPARE(
-            fx.documents(), QStringList {QString::number(fx.lettersId) + "//" + fx.letters + "/IDX-1.pdf"});
-        QCOMPARE(readFile(fx.letters + "/IDX-1.pdf"), QByteArray("new"));
     }
 
     // A file chosen with Add Existing after the drop is the document's, where it is; the
