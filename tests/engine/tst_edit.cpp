@@ -382,6 +382,8 @@ private Q_SLOTS:
             << "d" << QVariant("abc") << "Type mismatch: 'abc' is not a date (field d).";
         QTest::newRow("a number for a date")
             << "d" << QVariant(12) << "Type mismatch: '12' is not a date (field d).";
+        QTest::newRow("bytes for a date") << "d" << QVariant(QByteArray("2024-03-05"))
+                                          << "Type mismatch: '2024-03-05' is not a date (field d).";
         QTest::newRow("no date") << "d" << QVariant(QDate(2024, 2, 30))
                                  << "Type mismatch: '' is not a date (field d).";
         QTest::newRow("no moment") << "d" << QVariant(QDateTime(QDate(2024, 2, 30), QTime(1, 0)))
