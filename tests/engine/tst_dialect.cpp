@@ -281,6 +281,14 @@ private Q_SLOTS:
                "KategID DESC)"
             << "SELECT \"RastasID\" FROM \"tbl_Documents\" WHERE \"KategID\" IN (SELECT \"KategID\" FROM "
                "\"tbl_Documents\" ORDER BY \"KategID\" DESC NULLS LAST)";
+        QTest::newRow("order by a call last")
+            << "SELECT RastasID FROM tbl_Documents ORDER BY lower(DokAntraste)"
+            << "SELECT \"RastasID\" FROM \"tbl_Documents\" ORDER BY lower(\"DokAntraste\") NULLS FIRST";
+        QTest::newRow("ordered rows of a subquery")
+            << "SELECT n FROM (SELECT KategID AS n FROM tbl_Documents ORDER BY KategID) AS t"
+            << "SELECT \"n\" FROM (SELECT \"KategID\" AS \"n\" FROM \"tbl_Documents\" ORDER BY \"KategID\" "
+               "NULLS "
+               "FIRST) AS \"t\"";
         QTest::newRow("order before OFFSET")
             << "SELECT RastasID FROM tbl_Documents ORDER BY KategID OFFSET 2"
             << "SELECT \"RastasID\" FROM \"tbl_Documents\" ORDER BY \"KategID\" NULLS FIRST OFFSET 2";
