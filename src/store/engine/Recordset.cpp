@@ -48,7 +48,7 @@ int RecordsetData::fieldIndex(const QString& name) const
 
 int RecordsetData::requireField(const QString& name) const
 {
-    {}
+    requireOpen();
     const int index = fieldIndex(name);
     if (index < 0)
         throwError(ErrorNumber::ItemNotFound,
