@@ -195,6 +195,15 @@ private Q_SLOTS:
         recordset.moveFirst();
         recordset.setBookmark(bookmark);
         QCOMPARE(recordset.collect("RastasID").toInt(), 5);
+        // The first row's and the last row's bookmarks, at the ends of the rows read.
+        recordset.moveFirst();
+        const QVariant first = recordset.bookmark();
+        recordset.moveLast();
+        const QVariant last = recordset.bookmark();
+        recordset.setBookmark(first);
+        QCOMPARE(recordset.collect("RastasID").toInt(), 1);
+        recordset.setBookmark(last);
+        QCOMPARE(recordset.collect("RastasID").toInt(), 8);
         // Hidden by a filter, the row can't be reached; after a requery the bookmark is stale.
         recordset.setFilter("RastasID<3");
         QVERIFY_THROWS_EXCEPTION(Error, recordset.setBookmark(bookmark));
