@@ -204,6 +204,9 @@ private Q_SLOTS:
         QCOMPARE(recordset.collect("RastasID").toInt(), 1);
         recordset.setBookmark(last);
         QCOMPARE(recordset.collect("RastasID").toInt(), 8);
+        // One past the last row, as a bookmark made up from the last one, is refused.
+        const QVariant pastTheEnd = QVariant((last.toLongLong() & ~qint64(0xFFFFFFFF)) | 8);
+        QVERIFY_THROWS_EXCEPTION(Error, recordset.setBookmark(pastTheEnd));
         // Hidden by a filter, the row can't be reached; after a requery the bookmark is stale.
         recordset.setFilter("RastasID<3");
         QVERIFY_THROWS_EXCEPTION(Error, recordset.setBookmark(bookmark));
