@@ -217,6 +217,28 @@ private Q_SLOTS:
         QVERIFY_THROWS_EXCEPTION(Error, recordset.setBookmark(bookmark));
     }
 
+    // A filter or a filter group set while a field is being typed writes the edit first, as a
+    // move does.
+    void filterWritesTheEditFirst()
+    {
+        EngineRegister reg;
+        fillEight(reg);
+        Recordset recordset;
+        recordset.open("SELECT RastasID, DokAntraste FROM tbl_Documents ORDER BY RastasID", reg.connection(),
+            CursorTypeEnum::Static, LockTypeEnum::Optimistic);
+        recordset.fields("DokAntraste").setValue("by filter");
+        recordset.setFilter("RastasID > 4");
+        QCOMPARE(recordset.editMode(), int(EditModeEnum::None));
+        QCOMPARE(reg.scalar("SELECT DokAntraste FROM tbl_Documents WHERE RastasID = 1").toString(),
+            QString("by filter"));
+        QCOMPARE(recordset.collect("RastasID").toInt(), 5);
+        recordset.fields("DokAntraste").setValue("by group");
+        recordset.setFilterGroup(FilterGroupEnum::None);
+        QCOMPARE(recordset.editMode(), int(EditModeEnum::None));
+        QCOMPARE(reg.scalar("SELECT DokAntraste FROM tbl_Documents WHERE RastasID = 5").toString(),
+            QString("by group"));
+    }
+
     void filter_data()
     {
         QTest::addColumn<QString>("criteria");

@@ -293,6 +293,22 @@ private Q_SLOTS:
     }
 
     // The report of all documents by category: a RIGHT JOIN of a join, grouped.
+    // A table and a field whose names hold a double quote are read and written under them.
+    void namesWithADoubleQuote()
+    {
+        EngineRegister reg;
+        reg.execute(R"(CREATE TABLE "say ""hi""" (id INTEGER PRIMARY KEY, "the ""word""" TEXT))");
+        Recordset rows;
+        rows.open(R"(SELECT * FROM "say ""hi""")", reg.connection(), CursorTypeEnum::Static,
+            LockTypeEnum::Optimistic);
+        rows.addNew();
+        rows.fields(R"(the "word")").setValue("hello");
+        rows.update();
+        rows.fields(R"(the "word")").setValue("again");
+        rows.update();
+        QCOMPARE(reg.joined(R"(SELECT "the ""word""" FROM "say ""hi""")"), QString("again"));
+    }
+
     void allDocumentsByCategory()
     {
         EngineRegister reg;
