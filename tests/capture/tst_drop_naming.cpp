@@ -13,6 +13,22 @@
 using namespace kartella;
 using namespace kartella::test;
 
+namespace {
+
+// Types text over the registration index, as the user does; empty text clears it.
+void typeIndex(NewDocumentDialog& dialog, const QString& text)
+{
+    auto* index = dialog.findChild<QLineEdit*>(QStringLiteral("txtFields_3"));
+    index->setFocus();
+    QTest::keyClick(index, Qt::Key_A, Qt::ControlModifier);
+    if (text.isEmpty())
+        QTest::keyClick(index, Qt::Key_Delete);
+    else
+        QTest::keyClicks(index, text);
+}
+
+} // namespace
+
 class DropNamingTest : public QObject
 {
     Q_OBJECT
@@ -63,10 +79,7 @@ private Q_SLOTS:
         window.show();
         QSignalSpy done(window.fileDrops(), &FileDrops::filesRegistered);
         DialogScript script({[](NewDocumentDialog& dialog) {
-            auto* index = dialog.findChild<QLineEdit*>(QStringLiteral("txtFields_3"));
-            index->setFocus();
-            QTest::keyClick(index, Qt::Key_A, Qt::ControlModifier);
-            QTest::keyClicks(index, "X/5");
+            typeIndex(dialog, "X/5");
             PressOk(dialog);
         }});
         fx.prompter.answer(MsgBoxResult::Yes);
@@ -99,13 +112,10 @@ private Q_SLOTS:
         window.show();
         QSignalSpy done(window.fileDrops(), &FileDrops::filesRegistered);
         DialogScript script({[](NewDocumentDialog& dialog) {
-            auto* index = dialog.findChild<QLineEdit*>(QStringLiteral("txtFields_3"));
-            index->setFocus();
-            QTest::keyClick(index, Qt::Key_A, Qt::ControlModifier);
-            QTest::keyClicks(index, "X/5");
+            typeIndex(dialog, "X/5");
             PressOk(dialog);
             pressButton(dialog, "cmdAddExisting");
-            index->setText("X/5");
+            typeIndex(dialog, "X/5");
             PressOk(dialog);
         }});
         fx.prompter.answer(MsgBoxResult::No).answerFile(chosen).answer(MsgBoxResult::Yes);
@@ -139,14 +149,11 @@ private Q_SLOTS:
         bool stayed = false;
         QStringList storedMeanwhile;
         DialogScript script({[&](NewDocumentDialog& dialog) {
-            auto* index = dialog.findChild<QLineEdit*>(QStringLiteral("txtFields_3"));
-            index->setFocus();
-            QTest::keyClick(index, Qt::Key_A, Qt::ControlModifier);
-            QTest::keyClick(index, Qt::Key_Delete);
+            typeIndex(dialog, QString());
             PressOk(dialog);
             stayed = dialog.isVisible();
             storedMeanwhile = fx.documents();
-            QTest::keyClicks(index, "IDX-1");
+            typeIndex(dialog, "IDX-1");
             PressOk(dialog);
         }});
         fx.prompter.answer(MsgBoxResult::Ok);

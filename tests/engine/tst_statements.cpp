@@ -302,6 +302,7 @@ private Q_SLOTS:
         rows.open(R"(SELECT * FROM "say ""hi""")", reg.connection(), CursorTypeEnum::Static,
             LockTypeEnum::Optimistic);
         rows.addNew();
+        rows.fields("id").setValue(1);
         rows.fields(R"(the "word")").setValue("hello");
         rows.update();
         rows.fields(R"(the "word")").setValue("again");
